@@ -1,0 +1,94 @@
+# How every target of this project is built: one place for language level, warnings, strict Qt defines,
+# sanitizers, and for what makes a directory of sources a library that others can install and find.
+
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_VERIFY_INTERFACE_HEADER_SETS ON)
+
+include(CMakePackageConfigHelpers)
+include(GenerateExportHeader)
+
+# ozm_configure_target(<target>): the compile and link rules that hold everywhere.
+function(ozm_configure_target target)
+    target_compile_features(${target} PUBLIC cxx_std_20)
+    set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_CAST_FROM_ASCII
+        QT_NO_CAST_TO_ASCII
+        QT_NO_CAST_FROM_BYTEARRAY
+        QT_NO_URL_CAST_FROM_STRING
+        QT_NO_KEYWORDS
+        QT_NO_FOREACH
+        QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+        QT_STRICT_ITERATORS
+        QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+    if(MSVC)
+        # /d1trimfile makes __FILE__ relative, so that recorded places do not name the build machine.
+        target_compile_options(${target} PRIVATE /W4 /permissive- /utf-8
+            "/d1trimfile:${PROJECT_SOURCE_DIR}\\" $<$<BOOL:${OZM_WARNINGS_AS_ERRORS}>:/WX>)
+    else()
+        target_compile_options(${target} PRIVATE
+            -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
+            -Wconversion -Wno-sign-conversion -Wold-style-cast -Wimplicit-fallthrough -Wformat=2
+            "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/="
+            $<$<BOOL:${OZM_WARNINGS_AS_ERRORS}>:-Werror>)
+        if(OZM_SANITIZE)
+            target_compile_options(${target} PRIVATE
+                -fsanitize=${OZM_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+            target_link_options(${target} PRIVATE -fsanitize=${OZM_SANITIZE})
+        endif()
+    endif()
+endfunction()
+
+# ozm_add_library(<name> HEADERS_BASE <dir> HEADERS <h>... SOURCES <cpp>...
+#                 [PUBLIC <target>...] [PRIVATE <target>...] [PACKAGES "<find_dependency arguments>"...])
+#
+# A shared library ozm::<name> with a generated <name>/<name>_export.h, an installed package of that name,
+# and a header set whose every header is checked to compile by itself (target all_verify_interface_header_sets).
+function(ozm_add_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "HEADERS_BASE" "HEADERS;SOURCES;PUBLIC;PRIVATE;PACKAGES")
+
+    add_library(${name} SHARED ${arg_SOURCES})
+    add_library(ozm::${name} ALIAS ${name})
+    ozm_configure_target(${name})
+    target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
+    set_target_properties(${name} PROPERTIES
+        AUTOMOC ON
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR}
+        INSTALL_RPATH "$<$<NOT:$<PLATFORM_ID:Windows,Darwin>>:$ORIGIN>$<$<PLATFORM_ID:Darwin>:@loader_path>")
+
+    set(generated "${CMAKE_CURRENT_BINARY_DIR}/generated")
+    generate_export_header(${name} EXPORT_FILE_NAME "${generated}/${name}/${name}_export.h")
+    target_sources(${name} PUBLIC FILE_SET HEADERS
+        BASE_DIRS "${arg_HEADERS_BASE}" "${generated}"
+        FILES ${arg_HEADERS} "${generated}/${name}/${name}_export.h")
+
+    ozm_install_library(${name} "${arg_PACKAGES}")
+endfunction()
+
+function(ozm_install_library name packages)
+    install(TARGETS ${name} EXPORT ${name}Targets
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+
+    set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${name})
+    install(EXPORT ${name}Targets NAMESPACE ozm:: DESTINATION ${package_dir})
+
+    set(OZM_FIND_DEPENDENCIES "")
+    foreach(package IN LISTS packages)
+        string(APPEND OZM_FIND_DEPENDENCIES "find_dependency(${package})\n")
+    endforeach()
+    set(OZM_PACKAGE ${name})
+    configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/PackageConfig.cmake.in"
+        "${CMAKE_CURRENT_BINARY_DIR}/${name}Config.cmake" INSTALL_DESTINATION ${package_dir})
+    write_basic_package_version_file("${CMAKE_CURRENT_BINARY_DIR}/${name}ConfigVersion.cmake"
+        COMPATIBILITY SameMinorVersion)
+    install(FILES "${CMAKE_CURRENT_BINARY_DIR}/${name}Config.cmake"
+        "${CMAKE_CURRENT_BINARY_DIR}/${name}ConfigVersion.cmake" DESTINATION ${package_dir})
+endfunction()

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <ozm_widgets/db/common/OperationLogItem.h>
+#include <ozm_widgets/db/common/OperationLogItemData.h>
+#include <ozm_widgets/ozm_widgets_export.h>
+
+#include <QSharedPointer>
+
+namespace ozm {
+
+class UndoCommand;
+
+/**
+ * Where an UndoStack hands its audit records. The application implements it, keeps it alive while a stack
+ * uses it, and owns it.
+ *
+ * An implementation reads the command's logData(), childLogData(), text() and lastError(), stores the
+ * record, and returns an entry made with OperationLogItemPrivate::createItem, stamped with id, time and
+ * user. A null pointer or a null entry says that the record could not be stored; the stack then warns, and
+ * the step itself stands. An application that must not edit without a record stores it before the step
+ * runs.
+ *
+ * Called on the stack's thread. Do not push, undo or redo on the calling stack from in here.
+ * Virtual operations are called by position by code built against earlier versions: their order is fixed.
+ */
+class OZM_WIDGETS_EXPORT AuditTrailLoggingInterface
+{
+public:
+    /// An ended macro is complete; @p macro is its entry, or the one child that stands for it.
+    virtual bool commitMacro(const QSharedPointer<OperationLogItem> &macro) = 0;
+
+    /// A command ran outside a macro, or was undone. @p parent is null, or a macro's entry that is null.
+    virtual QSharedPointer<OperationLogItem> logCommand(const QSharedPointer<OperationLogItem> &parent,
+                                                        const UndoCommand &command,
+                                                        OperationLogItemUndoContext context) = 0;
+
+    /**
+     * Something happened that is no command: a sign-in, an export, a setting that cannot be undone. The
+     * application calls this itself; the stack does not.
+     *
+     * By default the record is stored as a macro without commands, begun and committed at once; null when
+     * either fails.
+     */
+    virtual QSharedPointer<OperationLogItem> logEvent(const QSharedPointer<OperationLogItem> &parent,
+                                                      const OperationLogItemData &data);
+
+    /// A command ran for the first time, or again, while the macro of the entry @p macro is open.
+    virtual QSharedPointer<OperationLogItem> logCommandInMacro(const QSharedPointer<OperationLogItem> &macro,
+                                                               const UndoCommand &command,
+                                                               OperationLogItemUndoContext context) = 0;
+
+    /// A macro begins; @p parent, which may be null, is the entry of the macro around it.
+    virtual QSharedPointer<OperationLogItem> logBeginMacro(const QSharedPointer<OperationLogItem> &parent,
+                                                           const OperationLogItemData &data) = 0;
+
+    // Last, for the sake of the fixed order above.
+    virtual ~AuditTrailLoggingInterface();
+};
+
+} // namespace ozm

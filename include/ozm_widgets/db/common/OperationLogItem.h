@@ -1,0 +1,140 @@
+#pragma once
+
+#include <ozm_widgets/db/common/OperationLogItemData.h>
+#include <ozm_widgets/ozm_widgets_export.h>
+
+#include <QDateTime>
+#include <QEnableSharedFromThis>
+#include <QJsonObject>
+#include <QList>
+#include <QSharedPointer>
+#include <QString>
+#include <QWeakPointer>
+
+#include <memory>
+
+namespace ozm {
+
+class OperationLogItemPrivate;
+
+/**
+ * One entry of the audit trail: a record with its id, time and user, in a tree in which a macro's entry is
+ * the parent of the entries of the commands that ran inside it.
+ *
+ * Loggers make entries with OperationLogItemPrivate::createItem and hand them on by QSharedPointer; a parent
+ * owns its children, a child only knows its parent.
+ *
+ *     auto macro = OperationLogItemPrivate::createItem({}, 7, now, u"jdoe"_s, macroData);
+ *     auto child = OperationLogItemPrivate::createItem(macro, 8, now, u"jdoe"_s, editData);
+ *     QJsonDocument(macro->toJsonObject()).toJson(); // the child is under "children"
+ *
+ * An entry with time stamp 0 is a null entry: a logger's sign of failure. An entry cannot become its own
+ * ancestor: such a link is refused with a warning and changes nothing. Destruction takes no stack, however
+ * deep the tree. GUI thread, as the undo stack.
+ */
+class OZM_WIDGETS_EXPORT OperationLogItem : public QEnableSharedFromThis<OperationLogItem>
+{
+public:
+    virtual ~OperationLogItem();
+    Q_DISABLE_COPY_MOVE(OperationLogItem)
+
+    [[nodiscard]] bool isNull() const;
+    [[nodiscard]] qint64 id() const;
+    /// Serial number of the entry within this process; never stored.
+    [[nodiscard]] qint64 internalId() const;
+    /// Milliseconds since 1970-01-01 UTC.
+    [[nodiscard]] qint64 timestamp() const;
+    /// The time stamp in local time.
+    [[nodiscard]] QDateTime dateTime() const;
+    [[nodiscard]] QString userName() const;
+    /// Never null; lives as long as the entry.
+    [[nodiscard]] const OperationLogItemData *data() const;
+    [[nodiscard]] QString dataToString() const;
+
+    [[nodiscard]] QSharedPointer<OperationLogItem> parent();
+    [[nodiscard]] QSharedPointer<const OperationLogItem> parent() const;
+    [[nodiscard]] QList<QSharedPointer<OperationLogItem>> children();
+    [[nodiscard]] QList<QSharedPointer<const OperationLogItem>> children() const;
+    /// Null when @p index is out of range.
+    [[nodiscard]] QSharedPointer<OperationLogItem> child(int index);
+    [[nodiscard]] QSharedPointer<const OperationLogItem> child(int index) const;
+    [[nodiscard]] int childCount() const;
+    [[nodiscard]] bool hasChildren() const;
+    /// -1 when @p child is none of the children.
+    [[nodiscard]] int indexOf(const QSharedPointer<OperationLogItem> &child) const;
+
+    /// Changes the id once the logger has stored the entry; time and user are never changed.
+    void setId(qint64 id);
+
+    /// Appends @p child, taking it away from the parent it had. Null is ignored.
+    void addChild(const QSharedPointer<OperationLogItem> &child);
+
+    /// Replaces the children: those left out become top-level, those put in leave their former parents.
+    /// Null, repeated and ancestral entries are passed over.
+    void setChildren(const QList<QSharedPointer<OperationLogItem>> &children);
+
+    /**
+     * The entry with its children; empty for a null entry or an invalid record, which is also left out of
+     * its parent's "children".
+     *
+     * Readers of JSON give up on deep nesting, so entries more than 256 levels down are left out, with a
+     * warning; toStringLists() has them all.
+     */
+    [[nodiscard]] QJsonObject toJsonObject() const;
+
+    /// Id, parent's id (empty at the top), time in the locale's short form, user, and the record's text.
+    [[nodiscard]] QList<QString> toStringList() const;
+    /// The rows of this entry and of all below it, depth first.
+    [[nodiscard]] QList<QList<QString>> toStringLists() const;
+
+protected:
+    OperationLogItem();
+    OperationLogItem(const QString &userName, const OperationLogItemData &data);
+    OperationLogItem(const QSharedPointer<OperationLogItem> &parent, qint64 id, qint64 timestamp,
+                     const QString &userName, const OperationLogItemData &data);
+
+private:
+    friend class OperationLogItemPrivate;
+
+    [[nodiscard]] QJsonObject toJsonObject(int depth) const;
+
+    const std::unique_ptr<OperationLogItemPrivate> d;
+};
+
+/**
+ * The inside of an OperationLogItem, and the place where loggers make entries.
+ */
+class OZM_WIDGETS_EXPORT OperationLogItemPrivate
+{
+public:
+    OperationLogItemPrivate();
+    OperationLogItemPrivate(const QSharedPointer<OperationLogItem> &parent, qint64 id, qint64 timestamp,
+                            const QString &userName, const OperationLogItemData &data);
+    OperationLogItemPrivate(const OperationLogItemPrivate &other);
+    OperationLogItemPrivate(OperationLogItemPrivate &&other) noexcept;
+    OperationLogItemPrivate &operator=(const OperationLogItemPrivate &) = delete;
+    OperationLogItemPrivate &operator=(OperationLogItemPrivate &&) = delete;
+    ~OperationLogItemPrivate();
+
+    /// A new entry, the last child of @p parent unless that is null.
+    [[nodiscard]] static QSharedPointer<OperationLogItem>
+    createItem(const QSharedPointer<OperationLogItem> &parent, qint64 id, qint64 timestamp,
+               const QString &userName, const OperationLogItemData &data);
+
+    /// Moves @p child, which must not be null, to the end of @p parent's children; a null @p parent makes it
+    /// top-level.
+    static void setParent(QSharedPointer<OperationLogItem> child, QSharedPointer<OperationLogItem> parent);
+
+private:
+    friend class OperationLogItem;
+
+    QWeakPointer<OperationLogItem> m_parent;
+    qint64 m_id = 0;
+    qint64 m_internalId = 0;
+    qint64 m_timestamp = 0;
+    QString m_userName;
+    OperationLogItemData m_data;
+    QList<QSharedPointer<OperationLogItem>> m_children;
+};
+
+} // namespace ozm

@@ -1,0 +1,106 @@
+#pragma once
+
+#include <ozm_common_stable/Error.h>
+#include <ozm_widgets/db/common/OperationLogItem.h>
+#include <ozm_widgets/db/common/OperationLogItemData.h>
+#include <ozm_widgets/ozm_widgets_export.h>
+
+#include <QList>
+#include <QUndoCommand>
+#include <QWeakPointer>
+
+#include <memory>
+
+namespace ozm {
+
+class UndoStack;
+
+/**
+ * An edit that can be undone and that writes an audit record each time it runs.
+ *
+ * Subclasses put their work into doRedo() and doUndo() and say what is recorded with setLogData(); a
+ * command without valid log data runs unrecorded.
+ *
+ *     class SetCharge : public ozm::UndoCommand
+ *     {
+ *     public:
+ *         SetCharge(RowNode *row, int charge) : UndoCommand(nullptr), m_row(row), m_charge(charge)
+ *         {
+ *             using namespace ozm;
+ *             setText(tr("Set charge"));
+ *             setLogData({OperationLogItemType::Set, {OperationLogItemSubject::Type::Label, *row},
+ *                         {kCharge}, charge, row->getDataAt(kCharge)});
+ *         }
+ *     ...
+ *     protected:
+ *         ozm::Error doRedo() override { return set(m_charge); }
+ *         ozm::Error doUndo() override { return set(m_oldCharge); }
+ *     };
+ *
+ * Children (commands made with a parent command) run when the parent's doRedo() and doUndo() call
+ * QUndoCommand::redo() and QUndoCommand::undo(); they use the parent's stack, and run unrecorded when
+ * there is none.
+ *
+ * mergeWith() is free for applications. The stack asks it for failed commands as well, so let neither side
+ * of a merge be a failed one: begin it with `if (!canMergeWith(other)) return false;`. Both halves of a
+ * merged edit are in the trail.
+ *
+ * GUI thread. The stack deletes the commands it holds; the command does not own the stack.
+ */
+class OZM_WIDGETS_EXPORT UndoCommand : public QUndoCommand
+{
+public:
+    explicit UndoCommand(UndoCommand *parent = nullptr);
+    ~UndoCommand() override;
+
+    /// Runs doUndo() and records it. Not for overriding.
+    void undo() override;
+    /// Runs doRedo() and records it. Not for overriding.
+    void redo() override;
+
+    /// The outcome of the last step.
+    [[nodiscard]] Error lastError() const;
+    /// The entry that the last step left in the trail; null when it left none.
+    [[nodiscard]] QWeakPointer<OperationLogItem> recentLogItem() const;
+    [[nodiscard]] bool isAuditTrailEnabled() const;
+    /// Never null.
+    [[nodiscard]] const OperationLogItemData *logData() const;
+    /// Further records that a logger may store below the command's own.
+    [[nodiscard]] QList<OperationLogItemData> childLogData() const;
+
+protected:
+    virtual Error doUndo() = 0;
+    virtual Error doRedo() = 0;
+    /// Before the first step of a run of commands (a macro, or a parent's children). An error skips the
+    /// step that was to come, and its record.
+    virtual Error beforeBeginFirst();
+    /// After the last step of such a run; @p committed is false when the macro was aborted.
+    virtual Error afterEndLast(bool committed);
+
+    /// Whether @p other may be merged into this: both are UndoCommands of the same id() other than -1, and
+    /// the last step of neither failed.
+    [[nodiscard]] bool canMergeWith(const QUndoCommand *other) const;
+
+    [[nodiscard]] OperationLogItemData *logData();
+    void setLogData(const OperationLogItemData &data);
+    void setChildLogData(const QList<OperationLogItemData> &data);
+    void setAuditTrailEnabled(bool enabled);
+
+private:
+    friend class UndoStack;
+    friend class UndoStackPrivate;
+
+    void setStack(UndoStack *stack);
+    [[nodiscard]] UndoStack *stack() const;
+
+    void runRedo(UndoStack *stack);
+    void runUndo(UndoStack *stack);
+    [[nodiscard]] Error beginRedo(UndoStack *stack);
+    [[nodiscard]] Error beginUndo(UndoStack *stack);
+    [[nodiscard]] bool endsUndoRun(UndoStack *stack) const;
+
+    class Private;
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace ozm

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <ozm_common_stable/Error.h>
+#include <ozm_widgets/db/common/OperationLogItem.h>
+#include <ozm_widgets/db/common/OperationLogItemData.h>
+#include <ozm_widgets/ozm_widgets_export.h>
+
+#include <QSharedPointer>
+#include <QString>
+#include <QUndoStack>
+#include <QWeakPointer>
+
+#include <memory>
+
+namespace ozm {
+
+class AuditTrailLoggingInterface;
+class UndoCommand;
+class UndoStackPrivate;
+
+/**
+ * An undo stack that hands a record of every step to an audit-trail logger.
+ *
+ *     ozm::UndoStack stack;
+ *     stack.setLogging(&logger);
+ *     stack.beginMacro(renameData, tr("Rename samples"));
+ *     for (RowNode *row : rows) {
+ *         const ozm::Error error = stack.push(new RenameCommand(row, newName(row)));
+ *         ...
+ *     }
+ *     stack.endMacro();
+ *
+ * Runs, errors: push() returns the command's error, and a command that failed is gone from the history.
+ * Inside an open macro the toolkit cannot take it out again, so there it stays. Redo and undo through
+ * QUndoStack's own slots leave theirs in the command's lastError().
+ *
+ * While a step of the history is being undone or redone, the history must not change: push() and
+ * beginMacro() are then refused, with a warning, and so is clear(). From within a push all of them work.
+ *
+ * Macros: an ended macro of trivial content is recorded as OperationLogItemData::collapseTrivialMacro()
+ * says. An aborted one keeps its commands in the history and in the trail, but is not committed. Clearing
+ * in the middle of macros forgets those macros as aborting them would.
+ *
+ * setLogging() takes effect at once and touches nothing else: change the logger between macros, for the
+ * entry of an open macro stays with the stack until a macro is ended with a logger attached.
+ *
+ * GUI thread. The logger is not owned and must outlive its use here.
+ */
+class OZM_WIDGETS_EXPORT UndoStack : public QUndoStack
+{
+    Q_OBJECT
+
+public:
+    explicit UndoStack(QObject *parent = nullptr);
+    ~UndoStack() override;
+
+    /// Runs @p command and takes ownership, whatever the outcome; the pointer may be dead afterwards.
+    /// Null does nothing. A push while an undo or redo runs is refused: code NotAllowed, and the command
+    /// is deleted unrun.
+    [[nodiscard]] Error push(UndoCommand *command);
+
+    /// Begins a macro recorded as @p data under @p parent, or under the innermost open macro when that is
+    /// null. The history shows @p text, or the data's text when that is empty. Returns the macro's entry:
+    /// null without a logger, and when it was refused or could not be recorded.
+    QSharedPointer<OperationLogItem> beginMacro(QSharedPointer<OperationLogItem> parent,
+                                                const OperationLogItemData &data, const QString &text);
+    QSharedPointer<OperationLogItem> beginMacro(const OperationLogItemData &data, const QString &text);
+
+    /// False when a logger is attached and no macro is open, or the logger could not commit it.
+    bool endMacro();
+    /// False when a logger is attached and no macro is open.
+    bool abortMacro();
+
+    /// Forgets all commands and open macros; the trail keeps what was recorded.
+    void clear();
+
+    void setLogging(AuditTrailLoggingInterface *logging);
+
+    /// The entry that the most recent push left in the trail.
+    [[nodiscard]] QWeakPointer<OperationLogItem> recentLogItem() const;
+
+protected:
+    /// Records a step of @p command; null when nothing was recorded.
+    QSharedPointer<OperationLogItem> createOrLog(const UndoCommand &command,
+                                                 OperationLogItemUndoContext context);
+
+private:
+    friend class UndoCommand;
+    friend class UndoStackPrivate;
+
+    const std::unique_ptr<UndoStackPrivate> d;
+};
+
+} // namespace ozm

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <ozm_common_core_mini/ozm_common_core_mini_export.h>
+
+#include <QMap>
+#include <QString>
+#include <QVariant>
+
+/**
+ * What the columns of RowNode data are called on screen, and how their values are shown there.
+ *
+ *     header->setText(ColumnFriendlyName::friendlyName(kCalcMr)); // "Calculated mass (Da)"
+ *
+ * The table is built on first use and never changes; any thread may ask.
+ */
+class OZM_COMMON_CORE_MINI_EXPORT ColumnFriendlyName
+{
+public:
+    struct OZM_COMMON_CORE_MINI_EXPORT FriendlyNameStruct
+    {
+        QString friendlyName;
+        QString toolTip;
+        int decimals = -1; ///< Digits shown after the point; -1 shows a number as it is.
+
+        /// The value as a reader sees it: numbers with the column's digits, lists joined with "; ".
+        [[nodiscard]] QString valueToString(const QVariant &value) const;
+    };
+
+    [[nodiscard]] static const QMap<QString, FriendlyNameStruct> &getColumnFriendlyNames();
+
+    /// The display name of @p column; the column's own name when the table does not know it.
+    [[nodiscard]] static QString friendlyName(const QString &column);
+
+    /// What @p column holds, in a few words; the column's own name when the table does not know it.
+    [[nodiscard]] static QString toolTip(const QString &column);
+};

@@ -1,0 +1,17 @@
+#include <ozm_widgets/db/common/AuditTrailLoggingInterface.h>
+
+namespace ozm {
+
+AuditTrailLoggingInterface::~AuditTrailLoggingInterface() = default;
+
+QSharedPointer<OperationLogItem>
+AuditTrailLoggingInterface::logEvent(const QSharedPointer<OperationLogItem> &parent,
+                                     const OperationLogItemData &data)
+{
+    const QSharedPointer<OperationLogItem> item = logBeginMacro(parent, data);
+    if (!item || item->isNull() || !commitMacro(item))
+        return {};
+    return item;
+}
+
+} // namespace ozm

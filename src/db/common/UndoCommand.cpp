@@ -1,0 +1,193 @@
+#include "UndoCommand_p.h"
+
+#include "Logging.h"
+#include "UndoStack_p.h"
+
+#include <QScopedValueRollback>
+
+namespace ozm {
+
+UndoCommand::UndoCommand(UndoCommand *parent)
+    : QUndoCommand(parent)
+    , d(std::make_unique<Private>(parent))
+{}
+
+UndoCommand::~UndoCommand()
+{
+    // Only of its own stack: a parent's inside is gone when its children die.
+    if (d->stack)
+        d->stack->d->forget(this);
+}
+
+Error UndoCommand::lastError() const
+{
+    return d->error;
+}
+
+QWeakPointer<OperationLogItem> UndoCommand::recentLogItem() const
+{
+    return d->recentLogItem;
+}
+
+bool UndoCommand::isAuditTrailEnabled() const
+{
+    return d->auditTrailEnabled;
+}
+
+const OperationLogItemData *UndoCommand::logData() const
+{
+    return &d->logData;
+}
+
+OperationLogItemData *UndoCommand::logData()
+{
+    return &d->logData;
+}
+
+QList<OperationLogItemData> UndoCommand::childLogData() const
+{
+    return d->childLogData;
+}
+
+void UndoCommand::setLogData(const OperationLogItemData &data)
+{
+    d->logData = data;
+}
+
+void UndoCommand::setChildLogData(const QList<OperationLogItemData> &data)
+{
+    d->childLogData = data;
+}
+
+void UndoCommand::setAuditTrailEnabled(bool enabled)
+{
+    d->auditTrailEnabled = enabled;
+}
+
+Error UndoCommand::beforeBeginFirst()
+{
+    return {};
+}
+
+Error UndoCommand::afterEndLast(bool)
+{
+    return {};
+}
+
+bool UndoCommand::canMergeWith(const QUndoCommand *other) const
+{
+    const auto *command = dynamic_cast<const UndoCommand *>(other);
+    return command && id() != -1 && id() == command->id() && !d->error.hasError() &&
+           !command->d->error.hasError();
+}
+
+void UndoCommand::setStack(UndoStack *stack)
+{
+    d->stack = stack;
+}
+
+UndoStack *UndoCommand::stack() const
+{
+    const UndoCommand *command = this;
+    while (!command->d->stack && command->d->parentCommand)
+        command = command->d->parentCommand;
+    return command->d->stack;
+}
+
+void UndoCommand::redo()
+{
+    UndoStack *stack = this->stack();
+    if (!stack) {
+        runRedo(nullptr);
+        return;
+    }
+    // Children run within the step of their parent.
+    const bool isHistoryStep = !d->parentCommand && !stack->d->beginsPush(this);
+    const QScopedValueRollback steps(stack->d->historySteps,
+                                     stack->d->historySteps + (isHistoryStep ? 1 : 0));
+    runRedo(stack);
+    stack->d->stepEnded(*this);
+}
+
+void UndoCommand::undo()
+{
+    UndoStack *stack = this->stack();
+    if (!stack) {
+        runUndo(nullptr);
+        return;
+    }
+    const QScopedValueRollback steps(stack->d->historySteps, stack->d->historySteps + 1);
+    runUndo(stack);
+    stack->d->stepEnded(*this);
+}
+
+void UndoCommand::runRedo(UndoStack *stack)
+{
+    d->error = beginRedo(stack);
+    if (d->error.hasError())
+        return;
+    d->error = doRedo();
+    const auto context = d->firstRedo ? OperationLogItemUndoContext::New : OperationLogItemUndoContext::Redo;
+    d->firstRedo = false;
+    d->recentLogItem = stack ? stack->createOrLog(*this, context) : nullptr;
+}
+
+void UndoCommand::runUndo(UndoStack *stack)
+{
+    d->error = beginUndo(stack);
+    if (d->error.hasError())
+        return;
+    if (stack && !stack->canUndo()) {
+        OZM_WIDGETS_WARNING() << "Can't undo" << text();
+        return;
+    }
+    d->error = doUndo();
+    d->recentLogItem = stack ? stack->createOrLog(*this, OperationLogItemUndoContext::Undo) : nullptr;
+    if (endsUndoRun(stack))
+        d->error = afterEndLast(true);
+}
+
+Error UndoCommand::beginRedo(UndoStack *stack)
+{
+    d->error = {};
+    if (d->parentCommand)
+        return d->parentCommand->child(0) == this ? beforeBeginFirst() : Error();
+    if (!stack || stack->d->doneCounts.isEmpty())
+        return {};
+    Error error;
+    if (stack->d->doneCounts.constLast() == 0)
+        error = beforeBeginFirst();
+    if (!error.hasError() && !stack->d->doneCounts.isEmpty()) {
+        ++stack->d->doneCounts.last();
+        stack->d->undoneCounts.last() = 0;
+    }
+    return error;
+}
+
+Error UndoCommand::beginUndo(UndoStack *stack)
+{
+    d->error = {};
+    if (d->parentCommand)
+        return d->parentCommand->child(d->parentCommand->childCount() - 1) == this ? beforeBeginFirst()
+                                                                                   : Error();
+    if (!stack || stack->d->undoneCounts.isEmpty())
+        return {};
+    Error error;
+    if (stack->d->undoneCounts.constLast() == 0)
+        error = beforeBeginFirst();
+    // Counted even when the step is refused, unlike in redo: the base class moves its index all the same.
+    if (!stack->d->undoneCounts.isEmpty()) {
+        ++stack->d->undoneCounts.last();
+        --stack->d->doneCounts.last();
+    }
+    return error;
+}
+
+bool UndoCommand::endsUndoRun(UndoStack *stack) const
+{
+    if (d->parentCommand)
+        return d->parentCommand->child(0) == this;
+    return stack && !stack->d->doneCounts.isEmpty() && stack->d->doneCounts.constLast() == 0;
+}
+
+} // namespace ozm
