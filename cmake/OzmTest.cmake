@@ -7,8 +7,7 @@ function(ozm_add_test name)
     add_executable(${name} ${arg_SOURCES})
     ozm_configure_target(${name})
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
-    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
-    target_link_libraries(${name} PRIVATE ozm::ozm_widgets Qt6::Test ${arg_LIBRARIES})
+    target_link_libraries(${name} PRIVATE test_support ${arg_LIBRARIES})
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         LABELS "${arg_LABELS}"
