@@ -38,11 +38,14 @@ QJsonValue refused(const QVariant &value, const char *why)
     return u"(value of type %1 not recorded)"_s.arg(type);
 }
 
+bool isExact(qint64 number)
+{
+    return number >= -kExactIntegers && number <= kExactIntegers;
+}
+
 QJsonValue integer(qint64 number)
 {
-    if (number >= -kExactIntegers && number <= kExactIntegers)
-        return number;
-    return QString::number(number);
+    return isExact(number) ? QJsonValue(number) : QJsonValue(QString::number(number));
 }
 
 QJsonValue unsignedInteger(quint64 number)
@@ -229,13 +232,27 @@ QString joined(const QJsonObject &object)
     return u'{' + texts.join(", "_L1) + u'}';
 }
 
+QString doubleToText(double number)
+{
+    return QString::number(number, 'g', QLocale::FloatingPointShortest);
+}
+
+QVariant readNumber(const QJsonValue &value)
+{
+    const QVariant number = value.toVariant();
+    const qint64 integer = number.toLongLong();
+    if (number.typeId() != QMetaType::LongLong || isExact(integer))
+        return number;
+    // Integers of this size are written as text, so this was most likely a double without a fraction.
+    const auto real = static_cast<double>(integer);
+    return doubleToText(real) == QString::number(integer) ? QVariant(real) : number;
+}
+
 QString numberToText(const QJsonValue &value)
 {
-    // Integers first: a double beyond 2^53 would be rounded.
-    const QVariant number = value.toVariant();
-    return number.typeId() == QMetaType::LongLong
-               ? QString::number(number.toLongLong())
-               : QString::number(number.toDouble(), 'g', QLocale::FloatingPointShortest);
+    const QVariant number = readNumber(value);
+    return number.typeId() == QMetaType::LongLong ? QString::number(number.toLongLong())
+                                                  : doubleToText(number.toDouble());
 }
 
 } // namespace
@@ -278,6 +295,8 @@ QVariant fromJson(const QJsonValue &value)
             items.append(fromJson(item));
         return items;
     }
+    if (value.isDouble())
+        return readNumber(value);
     return value.isNull() || value.isUndefined() ? QVariant() : value.toVariant();
 }
 
