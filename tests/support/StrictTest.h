@@ -12,7 +12,7 @@ class StrictTest : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
+protected Q_SLOTS:
     void init();
 };
 

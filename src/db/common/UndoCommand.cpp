@@ -101,12 +101,16 @@ void UndoCommand::redo()
         runRedo(nullptr);
         return;
     }
+    UndoStackPrivate::Push *push = stack->d->pushThatRuns(this);
     // Children run within the step of their parent.
-    const bool isHistoryStep = !d->parentCommand && !stack->d->beginsPush(this);
+    const bool isHistoryStep = !push && !d->parentCommand;
     const QScopedValueRollback steps(stack->d->historySteps,
                                      stack->d->historySteps + (isHistoryStep ? 1 : 0));
     runRedo(stack);
-    stack->d->stepEnded(*this);
+    if (push) {
+        push->error = d->error;
+        push->item = d->recentLogItem;
+    }
 }
 
 void UndoCommand::undo()
@@ -118,7 +122,6 @@ void UndoCommand::undo()
     }
     const QScopedValueRollback steps(stack->d->historySteps, stack->d->historySteps + 1);
     runUndo(stack);
-    stack->d->stepEnded(*this);
 }
 
 void UndoCommand::runRedo(UndoStack *stack)

@@ -22,19 +22,12 @@ bool isStored(const Item &item)
 
 } // namespace
 
-bool UndoStackPrivate::beginsPush(const UndoCommand *command)
+UndoStackPrivate::Push *UndoStackPrivate::pushThatRuns(const UndoCommand *command)
 {
-    return push && push->command == command && !std::exchange(push->started, true);
-}
-
-void UndoStackPrivate::stepEnded(const UndoCommand &command)
-{
-    for (Push *running = push; running; running = running->outer) {
-        if (running->command == &command) {
-            running->error = command.lastError();
-            running->item = command.recentLogItem();
-        }
-    }
+    if (!push || push->command != command || push->started)
+        return nullptr;
+    push->started = true;
+    return push;
 }
 
 void UndoStackPrivate::forget(const UndoCommand *command)

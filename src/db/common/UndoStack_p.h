@@ -14,7 +14,7 @@ public:
         UndoCommand *command; ///< Null once the command is deleted.
         Push *outer;
         bool started = false; ///< The first run, which is the push's own, has begun.
-        Error error = {};
+        Error error = {};     ///< What that run came to, and left in the trail.
         QWeakPointer<OperationLogItem> item = {};
     };
 
@@ -22,9 +22,8 @@ public:
         : qptr(owner)
     {}
 
-    /// Whether the run of @p command that now begins is the one that its push asked for.
-    [[nodiscard]] bool beginsPush(const UndoCommand *command);
-    void stepEnded(const UndoCommand &command);
+    /// The push that asked for the run of @p command which now begins; null for a step of the history.
+    [[nodiscard]] Push *pushThatRuns(const UndoCommand *command);
     /// To be called by a command's destructor.
     void forget(const UndoCommand *command);
 
