@@ -1,0 +1,344 @@
+#include "UndoModel.h"
+
+using namespace Qt::StringLiterals;
+
+namespace ozm::test {
+
+bool UndoModel::push(const std::shared_ptr<Edit> &edit)
+{
+    qsizetype item = 0;
+    const bool fails = !run(*edit, true, &item);
+    const auto entry = std::make_shared<Entry>(Entry{edit});
+    if (!place(entry))
+        kill(*entry);
+    recentItem = item;
+    if (fails)
+        removeFailed(entry);
+    else if (edit->alive && !m_done.isEmpty())
+        m_last = edit;
+    return fails;
+}
+
+/// Puts a new edit into the history unless it is merged or obsolete.
+bool UndoModel::place(const EntryPtr &entry)
+{
+    const bool inMacro = !m_openMacros.isEmpty();
+    if (!inMacro)
+        dropRedoTail();
+    QList<EntryPtr> &siblings = inMacro ? m_openMacros.last()->children : m_entries;
+    const Edit &edit = *entry->edit;
+    if (const auto before = siblings.isEmpty() ? nullptr : siblings.last()->edit) {
+        const bool sameKind = before->mergeId != -1 && before->mergeId == edit.mergeId;
+        if (sameKind && (before->greedy || (!before->failed && !edit.failed))) {
+            kill(*entry);
+            if (before->obsolete) {
+                kill(*siblings.takeLast());
+                m_index = inMacro ? m_index : m_index - 1;
+            }
+            return true;
+        }
+    }
+    if (edit.obsolete)
+        return false;
+    siblings.append(entry);
+    m_index = inMacro ? m_index : m_index + 1;
+    return true;
+}
+
+void UndoModel::removeFailed(const EntryPtr &entry)
+{
+    if (!entry->edit->alive)
+        return;
+    entry->edit->obsolete = true;
+    if (m_openMacros.isEmpty() && m_index > 0 && m_entries.at(m_index - 1) == entry) {
+        m_entries.removeAt(--m_index);
+        kill(*entry);
+    }
+}
+
+/// Returns whether the edit succeeded.
+bool UndoModel::run(Edit &edit, bool inPush, qsizetype *item)
+{
+    edit.failed = false;
+    if (!m_done.isEmpty()) {
+        if (m_done.last() == 0) {
+            journal.append(u"before "_s + edit.name);
+            edit.failed = edit.failsBefore;
+        }
+        if (edit.failed)
+            return false;
+        ++m_done.last();
+        m_undone.last() = 0;
+    }
+    if (edit.firstRun && edit.inner) {
+        if (inPush)
+            push(edit.inner);
+        else
+            journal << u"! Push refused while an undo or redo runs"_s << u"dies "_s + edit.inner->name;
+    }
+    edit.obsolete = edit.obsoleteAfterRedo;
+    journal.append(u"redo "_s + edit.name);
+    edit.failed = edit.failsRedo;
+    const QString context = edit.firstRun ? u"New"_s : u"Redo"_s;
+    edit.firstRun = false;
+    const bool canRedo = m_openMacros.isEmpty() && m_index < m_entries.size();
+    const qsizetype recorded = inPush || canRedo ? record(edit, context) : 0;
+    if (item)
+        *item = recorded;
+    return !edit.failed;
+}
+
+void UndoModel::undoEdit(Edit &edit)
+{
+    edit.failed = false;
+    if (!m_undone.isEmpty()) {
+        if (m_undone.last() == 0) {
+            journal.append(u"before "_s + edit.name);
+            edit.failed = edit.failsBefore;
+        }
+        ++m_undone.last();
+        --m_done.last();
+        if (edit.failed)
+            return;
+    }
+    journal.append(u"undo "_s + edit.name);
+    edit.failed = edit.failsUndo;
+    record(edit, u"Undo"_s);
+    if (!m_done.isEmpty() && m_done.last() == 0) {
+        journal.append(u"after "_s + edit.name);
+        edit.failed = false;
+    }
+}
+
+qsizetype UndoModel::record(const Edit &edit, const QString &context)
+{
+    if (!edit.logged)
+        return 0;
+    qsizetype item = 0;
+    if (loggerAttached && edit.auditTrail) {
+        const qsizetype macro = context != u"Undo"_s && !m_openItems.isEmpty() ? m_openItems.last() : 0;
+        item = newItem(macro ? context : context + u" alone"_s, edit.name, macro, true);
+        if (!item)
+            journal.append(u"! Error in logging"_s);
+    }
+    if (edit.failed)
+        journal.append(u"! Error in"_s);
+    return item;
+}
+
+qsizetype UndoModel::newItem(const QString &what, const QString &name, qsizetype parent, bool collapse)
+{
+    journal.append(u"log %1 %2 in %3"_s.arg(what, name, parent ? QString::number(parent) : u"-"_s));
+    if (loggerFails)
+        return 0;
+    m_items.append(Item{0, collapse});
+    setParent(m_items.size() - 1, parent);
+    return m_items.size() - 1;
+}
+
+void UndoModel::setParent(qsizetype item, qsizetype parent)
+{
+    if (const qsizetype old = m_items.at(item).parent)
+        m_items[old].children.removeAll(item);
+    m_items[item].parent = parent;
+    if (parent)
+        m_items[parent].children.append(item);
+}
+
+bool UndoModel::commit(qsizetype item)
+{
+    if (m_items.at(item).collapse && m_items.at(item).children.size() < 2) {
+        const QList<qsizetype> children = m_items.at(item).children;
+        setParent(item, 0);
+        if (children.isEmpty())
+            return true;
+        item = children.first();
+        setParent(item, 0);
+    }
+    QStringList children;
+    for (const qsizetype child : m_items.at(item).children)
+        children.append(QString::number(child));
+    journal.append(u"commit %1 [%2]"_s.arg(QString::number(item), children.join(u' ')));
+    return !loggerFails;
+}
+
+void UndoModel::undoEntry(Entry &entry)
+{
+    if (entry.edit)
+        undoEdit(*entry.edit);
+    for (auto child = entry.children.rbegin(); child != entry.children.rend(); ++child)
+        undoEntry(**child);
+}
+
+void UndoModel::redoEntry(Entry &entry)
+{
+    if (entry.edit)
+        run(*entry.edit, false, nullptr);
+    for (const EntryPtr &child : entry.children)
+        redoEntry(*child);
+}
+
+void UndoModel::undo()
+{
+    if (m_index == 0)
+        return;
+    if (!m_openMacros.isEmpty()) {
+        journal.append(u"! in the middle of a macro"_s);
+        return;
+    }
+    const EntryPtr entry = m_entries.at(m_index - 1);
+    if (!entry->edit || !entry->edit->obsolete)
+        undoEntry(*entry);
+    --m_index;
+    if (entry->edit && entry->edit->obsolete) {
+        m_entries.removeAt(m_index);
+        kill(*entry);
+    }
+}
+
+void UndoModel::redo()
+{
+    if (m_index == m_entries.size())
+        return;
+    if (!m_openMacros.isEmpty()) {
+        journal.append(u"! in the middle of a macro"_s);
+        return;
+    }
+    const EntryPtr entry = m_entries.at(m_index);
+    if (!entry->edit || !entry->edit->obsolete)
+        redoEntry(*entry);
+    if (entry->edit && entry->edit->obsolete) {
+        m_entries.removeAt(m_index);
+        kill(*entry);
+    } else {
+        ++m_index;
+    }
+}
+
+void UndoModel::beginMacro(const QString &name, bool collapse)
+{
+    m_done.append(0);
+    m_undone.append(0);
+    if (loggerAttached) {
+        m_openItems.append(
+            newItem(u"begin"_s, name, m_openItems.isEmpty() ? 0 : m_openItems.last(), collapse));
+        if (!m_openItems.last())
+            journal.append(u"! Error in logging begin of macro command"_s);
+    }
+    if (m_openMacros.isEmpty())
+        dropRedoTail();
+    const auto macro = std::make_shared<Entry>(Entry{{}, name});
+    (m_openMacros.isEmpty() ? m_entries : m_openMacros.last()->children).append(macro);
+    m_openMacros.append(macro);
+}
+
+bool UndoModel::endMacro()
+{
+    bool ok = true;
+    if (loggerAttached) {
+        const qsizetype item = m_openItems.isEmpty() ? 0 : m_openItems.takeLast();
+        ok = item && commit(item);
+        if (!item)
+            journal.append(u"! No macro command to end"_s);
+    }
+    closeMacro();
+    finishMacro(u"after "_s);
+    return ok;
+}
+
+bool UndoModel::abortMacro()
+{
+    bool ok = true;
+    if (loggerAttached) {
+        ok = !m_openItems.isEmpty() && m_openItems.takeLast();
+        if (!ok)
+            journal.append(u"! No macro command to abort"_s);
+    }
+    closeMacro();
+    finishMacro(u"aborted "_s);
+    dropCounters();
+    return ok;
+}
+
+void UndoModel::closeMacro()
+{
+    if (m_openMacros.isEmpty()) {
+        journal.append(u"! no matching beginMacro()"_s);
+        return;
+    }
+    m_openMacros.removeLast();
+    if (m_openMacros.isEmpty())
+        ++m_index;
+}
+
+void UndoModel::finishMacro(const QString &call)
+{
+    if (m_last) {
+        journal.append(call + m_last->name);
+        m_last->failed = false;
+    }
+    m_last.reset();
+}
+
+void UndoModel::clear()
+{
+    for (const EntryPtr &entry : std::as_const(m_entries))
+        kill(*entry);
+    m_entries.clear();
+    m_index = 0;
+    if (m_openMacros.isEmpty())
+        return;
+    for (; !m_openMacros.isEmpty(); m_openMacros.removeLast())
+        dropCounters();
+    m_openItems.clear();
+}
+
+void UndoModel::kill(Entry &entry)
+{
+    if (entry.edit) {
+        journal.append(u"dies "_s + entry.edit->name);
+        entry.edit->alive = false;
+        if (m_last == entry.edit)
+            m_last.reset();
+    }
+    for (const EntryPtr &child : std::as_const(entry.children))
+        kill(*child);
+}
+
+void UndoModel::dropRedoTail()
+{
+    while (m_entries.size() > m_index)
+        kill(*m_entries.takeLast());
+}
+
+void UndoModel::dropCounters()
+{
+    if (m_done.isEmpty())
+        return;
+    m_done.removeLast();
+    m_undone.removeLast();
+}
+
+QString UndoModel::entryText(const Entry &entry)
+{
+    if (entry.edit)
+        return entry.edit->name;
+    QStringList texts;
+    for (const EntryPtr &child : entry.children)
+        texts.append(entryText(*child));
+    return u'(' + texts.join(u' ') + u')';
+}
+
+QString UndoModel::history() const
+{
+    QStringList texts;
+    for (qsizetype i = 0; i <= m_entries.size(); ++i) {
+        if (i == m_index)
+            texts.append(u"|"_s);
+        if (i < m_entries.size())
+            texts.append(entryText(*m_entries.at(i)));
+    }
+    return texts.join(u' ');
+}
+
+} // namespace ozm::test
