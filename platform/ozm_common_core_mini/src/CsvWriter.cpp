@@ -1,5 +1,6 @@
 #include <ozm_common_core_mini/CsvWriter.h>
 
+#include <QFileInfo>
 #include <QSaveFile>
 
 #include <algorithm>
@@ -59,6 +60,11 @@ namespace ozm {
 bool CsvWriter::writeFile(const QString &path, const QList<QList<QString>> &rows, const QString &text,
                           const QChar &separator)
 {
+    // A device or a pipe would be replaced by a file of its name.
+    const QFileInfo target(path);
+    if (target.exists() && !target.isFile())
+        return false;
+
     const QChar qualifier = text.isEmpty() ? QChar(u'"') : text.front();
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))

@@ -20,6 +20,7 @@ class OZM_COMMON_CORE_MINI_EXPORT CsvWriter
 public:
     /**
      * Replaces the file at @p path by @p rows, once all of them are written; false leaves it as it was.
+     * Folders, devices and pipes are refused.
      *
      * @p text is the text qualifier, one character; empty means the double quote.
      */
