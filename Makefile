@@ -1,0 +1,49 @@
+# The commands of the README. Each installs what it needs, builds what it needs, and then does it.
+
+PRESET ?= dev
+JOBS ?= $(shell nproc 2>/dev/null || echo 2)
+
+.PHONY: help run test check bench install format clean
+
+help:
+	@echo "make run      the workbench, or its batch mode where there is no display"
+	@echo "make test     build everything and run the tests"
+	@echo "make check    format, clang-tidy, headers, consumer, sanitizers"
+	@echo "make bench    the benchmarks, as ratios"
+	@echo "make install  into PREFIX (default /usr/local)"
+
+run:
+	@.ci/setup build
+	@cmake --preset release >/dev/null
+	cmake --build --preset release -j $(JOBS)
+	@.ci/workbench build/release
+
+test:
+	@.ci/setup build
+	@cmake --preset $(PRESET) >/dev/null
+	cmake --build --preset $(PRESET) -j $(JOBS)
+	ctest --preset $(PRESET)
+
+check:
+	@.ci/setup build check
+	@mkdir -p build
+	@JOBS=$(JOBS) .ci/check
+
+bench:
+	@.ci/setup build bench
+	@cmake --preset bench >/dev/null
+	cmake --build --preset bench -j $(JOBS)
+	@benchmarks/run build/bench
+
+install:
+	@.ci/setup build
+	@cmake --preset release >/dev/null
+	cmake --build --preset release -j $(JOBS)
+	cmake --install build/release --prefix $(or $(PREFIX),/usr/local)
+
+format:
+	@.ci/setup check
+	git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format -i
+
+clean:
+	rm -rf build
