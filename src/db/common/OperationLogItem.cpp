@@ -84,8 +84,9 @@ OperationLogItemPrivate::createItem(const QSharedPointer<OperationLogItem> &pare
                                     qint64 timestamp, const QString &userName,
                                     const OperationLogItemData &data)
 {
-    const Item item(new OperationLogItem({}, id, timestamp, userName, data));
-    setParent(item, parent);
+    Item item(new OperationLogItem({}, id, timestamp, userName, data));
+    if (parent)
+        setParent(item, parent);
     return item;
 }
 

@@ -46,7 +46,23 @@ bool isEmptyVariant(const QVariant &value)
 
 } // namespace
 
+class OperationLogItemData::Content : public QSharedData
+{
+public:
+    OperationLogItemType type = OperationLogItemType::None;
+    OperationLogItemSubject subject;
+    QList<QString> attributes;
+    QVariant value;
+    QVariant oldValue;
+    QString legacyDescription;
+};
+
 OperationLogItemData::OperationLogItemData() = default;
+OperationLogItemData::OperationLogItemData(const OperationLogItemData &other) = default;
+OperationLogItemData::OperationLogItemData(OperationLogItemData &&other) noexcept = default;
+OperationLogItemData &OperationLogItemData::operator=(const OperationLogItemData &other) = default;
+OperationLogItemData &OperationLogItemData::operator=(OperationLogItemData &&other) noexcept = default;
+OperationLogItemData::~OperationLogItemData() = default;
 
 OperationLogItemData::OperationLogItemData(OperationLogItemType type, const OperationLogItemSubject &subject,
                                            const QList<QString> &attributes, const QVariant &value)
@@ -56,11 +72,7 @@ OperationLogItemData::OperationLogItemData(OperationLogItemType type, const Oper
 OperationLogItemData::OperationLogItemData(OperationLogItemType type, const OperationLogItemSubject &subject,
                                            const QList<QString> &attributes, const QVariant &value,
                                            const QVariant &oldValue)
-    : m_type(type)
-    , m_subject(subject)
-    , m_attributes(attributes)
-    , m_value(value)
-    , m_oldValue(oldValue)
+    : d(new Content{{}, type, subject, attributes, value, oldValue, {}})
 {
     logvalue::registerVariantItems();
 }
@@ -73,47 +85,55 @@ OperationLogItemData::OperationLogItemData(const QByteArray &json, bool *ok)
     if (!document.isObject())
         return;
     const QJsonObject object = document.object();
-    m_type = stringToType(object.value("type"_L1).toString());
-    m_subject = OperationLogItemSubject(object.value("subject"_L1).toObject());
+    d = new Content;
+    d->type = stringToType(object.value("type"_L1).toString());
+    d->subject = OperationLogItemSubject(object.value("subject"_L1).toObject());
     if (object.contains("undoContext"_L1))
         m_undoContext = stringToUndoContext(object.value("undoContext"_L1).toString());
-    m_attributes = readAttributes(object);
-    m_value = logvalue::fromJson(object.value("value"_L1));
-    m_oldValue = logvalue::fromJson(object.value("oldValue"_L1));
-    m_legacyDescription = object.value("legacyDescription"_L1).toString();
+    d->attributes = readAttributes(object);
+    d->value = logvalue::fromJson(object.value("value"_L1));
+    d->oldValue = logvalue::fromJson(object.value("oldValue"_L1));
+    d->legacyDescription = object.value("legacyDescription"_L1).toString();
+}
+
+const OperationLogItemData::Content &OperationLogItemData::content() const
+{
+    static const Content empty;
+    return d ? *d : empty;
 }
 
 bool OperationLogItemData::isValid() const
 {
-    if (!m_legacyDescription.isEmpty())
+    const Content &record = content();
+    if (!record.legacyDescription.isEmpty())
         return true;
-    return m_type != OperationLogItemType::None && m_subject.isValid() && !m_attributes.isEmpty() &&
-           m_undoContext != OperationLogItemUndoContext::Invalid;
+    return record.type != OperationLogItemType::None && record.subject.isValid() &&
+           !record.attributes.isEmpty() && m_undoContext != OperationLogItemUndoContext::Invalid;
 }
 
 OperationLogItemType OperationLogItemData::type() const
 {
-    return m_type;
+    return content().type;
 }
 
 OperationLogItemSubject OperationLogItemData::subject() const
 {
-    return m_subject;
+    return content().subject;
 }
 
 QList<QString> OperationLogItemData::attributes() const
 {
-    return m_attributes;
+    return content().attributes;
 }
 
 QVariant OperationLogItemData::value() const
 {
-    return m_value;
+    return content().value;
 }
 
 QVariant OperationLogItemData::oldValue() const
 {
-    return m_oldValue;
+    return content().oldValue;
 }
 
 OperationLogItemUndoContext OperationLogItemData::undoContext() const
@@ -123,7 +143,7 @@ OperationLogItemUndoContext OperationLogItemData::undoContext() const
 
 QString OperationLogItemData::legacyDescription() const
 {
-    return m_legacyDescription;
+    return content().legacyDescription;
 }
 
 bool OperationLogItemData::collapseTrivialMacro() const
@@ -143,7 +163,9 @@ void OperationLogItemData::setUndoContext(OperationLogItemUndoContext context)
 
 void OperationLogItemData::setLegacyDescription(const QString &description)
 {
-    m_legacyDescription = description;
+    if (!d)
+        d = new Content;
+    d->legacyDescription = description;
 }
 
 void OperationLogItemData::setCollapseTrivialMacro(bool collapse)
@@ -160,15 +182,15 @@ QJsonObject OperationLogItemData::toJsonObject() const
 {
     if (!isValid())
         return {};
-    if (!m_legacyDescription.isEmpty())
-        return {{u"legacyDescription"_s, m_legacyDescription}};
+    if (!content().legacyDescription.isEmpty())
+        return {{u"legacyDescription"_s, content().legacyDescription}};
     return {
         {u"version"_s, kVersion},
-        {u"type"_s, typeToString(m_type)},
-        {u"subject"_s, m_subject.toJsonObject()},
-        {u"attributes"_s, QJsonArray::fromStringList(m_attributes)},
-        {u"value"_s, logvalue::toJson(m_value)},
-        {u"oldValue"_s, logvalue::toJson(m_oldValue)},
+        {u"type"_s, typeToString(content().type)},
+        {u"subject"_s, content().subject.toJsonObject()},
+        {u"attributes"_s, QJsonArray::fromStringList(content().attributes)},
+        {u"value"_s, logvalue::toJson(content().value)},
+        {u"oldValue"_s, logvalue::toJson(content().oldValue)},
         {u"undoContext"_s, undoContextToString(m_undoContext)},
     };
 }
@@ -180,8 +202,8 @@ QByteArray OperationLogItemData::toJson() const
 
 QString OperationLogItemData::toString() const
 {
-    if (!m_legacyDescription.isEmpty())
-        return m_legacyDescription;
+    if (!content().legacyDescription.isEmpty())
+        return content().legacyDescription;
     if (!isValid())
         return {};
 
@@ -189,10 +211,10 @@ QString OperationLogItemData::toString() const
                           m_undoContext == OperationLogItemUndoContext::Redo;
     QStringList parts{
         isRepeat ? undoContextToString(m_undoContext).toUpper() : QString(),
-        typeToString(m_type),
-        m_subject.typeToString(),
-        unlessEmpty("ID=%1"_L1, m_subject.keyToString()),
-        unlessEmpty("[%1]"_L1, m_subject.explicitSecondaryKeyToString()),
+        typeToString(content().type),
+        content().subject.typeToString(),
+        unlessEmpty("ID=%1"_L1, content().subject.keyToString()),
+        unlessEmpty("[%1]"_L1, content().subject.explicitSecondaryKeyToString()),
         unlessEmpty("'%1'"_L1, attributeNamesString()),
         printsOldValue() ? u"from %1"_s.arg(oldValueToString()) : QString(),
     };
@@ -202,15 +224,16 @@ QString OperationLogItemData::toString() const
 
 bool OperationLogItemData::printsOldValue() const
 {
-    if (!isEmptyVariant(m_oldValue))
+    if (!isEmptyVariant(content().oldValue))
         return true;
-    return m_oldValue.isValid() && m_type == OperationLogItemType::Set && !isEmptyVariant(m_value);
+    return content().oldValue.isValid() && content().type == OperationLogItemType::Set &&
+           !isEmptyVariant(content().value);
 }
 
 /// The end of the line, with the new value.
 QString OperationLogItemData::changeToString() const
 {
-    if (!printsOldValue() && isEmptyVariant(m_value))
+    if (!printsOldValue() && isEmptyVariant(content().value))
         return {};
     QString text = valueToString();
     if (text.isEmpty() && printsOldValue())
@@ -218,23 +241,24 @@ QString OperationLogItemData::changeToString() const
     if (text.isEmpty())
         return {};
     // Readers of the trail know the two forms apart: a colon for what came or went, "to" for what changed.
-    const bool comesOrGoes = m_type == OperationLogItemType::Add || m_type == OperationLogItemType::Delete;
+    const bool comesOrGoes =
+        content().type == OperationLogItemType::Add || content().type == OperationLogItemType::Delete;
     return (comesOrGoes ? u": %1"_s : u" to %1"_s).arg(text);
 }
 
 QString OperationLogItemData::valueToString() const
 {
-    return variantText(m_value);
+    return variantText(content().value);
 }
 
 QString OperationLogItemData::oldValueToString() const
 {
-    return variantText(m_oldValue);
+    return variantText(content().oldValue);
 }
 
 QString OperationLogItemData::attributeNamesString() const
 {
-    return m_attributes.join(", "_L1);
+    return content().attributes.join(", "_L1);
 }
 
 QString OperationLogItemData::typeToString(OperationLogItemType type)

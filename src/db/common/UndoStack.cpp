@@ -155,7 +155,7 @@ Error UndoStack::push(UndoCommand *command)
         const QScopedValueRollback inPush(d->inPush, true);
         QUndoStack::push(command);
     }
-    d->recentLogItem = push.item;
+    d->recentLogItem = std::move(push.item);
     if (push.error.hasError())
         d->removeFailed(push.command);
     else if (push.command && !d->doneCounts.isEmpty())

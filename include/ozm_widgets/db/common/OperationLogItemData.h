@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QJsonObject>
 #include <QList>
+#include <QSharedDataPointer>
 #include <QString>
 #include <QVariant>
 
@@ -60,6 +61,8 @@ enum class OperationLogItemUndoContext : qint32
  *     that can neither be converted nor printed, and lists nested deeper than 64 levels.
  *
  * An invalid value is null in JSON, and a null in JSON reads as an invalid value.
+ *
+ * Copies share their content, so that a record is cheap to hand on.
  */
 class OZM_WIDGETS_EXPORT OperationLogItemData
 {
@@ -73,6 +76,12 @@ public:
     /// Reads what toJson() wrote. @p ok, which may be null, is false when @p json holds no JSON object; the
     /// record is then the default one. Members that are missing keep their defaults.
     explicit OperationLogItemData(const QByteArray &json, bool *ok = nullptr);
+
+    OperationLogItemData(const OperationLogItemData &other);
+    OperationLogItemData(OperationLogItemData &&other) noexcept;
+    OperationLogItemData &operator=(const OperationLogItemData &other);
+    OperationLogItemData &operator=(OperationLogItemData &&other) noexcept;
+    ~OperationLogItemData();
 
     [[nodiscard]] bool isValid() const;
     [[nodiscard]] OperationLogItemType type() const;
@@ -114,16 +123,15 @@ public:
     [[nodiscard]] static OperationLogItemUndoContext stringToUndoContext(const QString &text);
 
 private:
+    class Content;
+
+    [[nodiscard]] const Content &content() const;
     [[nodiscard]] QString changeToString() const;
     [[nodiscard]] bool printsOldValue() const;
 
-    OperationLogItemType m_type = OperationLogItemType::None;
-    OperationLogItemSubject m_subject;
-    QList<QString> m_attributes;
-    QVariant m_value;
-    QVariant m_oldValue;
+    // Shared by copies. The context is not in it: a command and the entries of all its runs differ in that.
+    QSharedDataPointer<Content> d;
     OperationLogItemUndoContext m_undoContext = OperationLogItemUndoContext::None;
-    QString m_legacyDescription;
     bool m_collapseTrivialMacro = true;
     bool m_applicationFlag = true;
 };

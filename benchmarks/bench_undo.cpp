@@ -1,0 +1,188 @@
+// Audited push, undo and redo beside the same commands on a bare QUndoStack. What is compared runs in
+// turns in one process, so that the ratio says something on a shared machine too.
+
+#include <ozm_widgets/db/common/AuditTrailLoggingInterface.h>
+#include <ozm_widgets/db/common/UndoCommand.h>
+#include <ozm_widgets/db/common/UndoStack.h>
+
+#include <benchmark/benchmark.h>
+
+#include <QDateTime>
+#include <QUndoStack>
+
+using namespace Qt::StringLiterals;
+using namespace ozm;
+
+namespace {
+
+const OperationLogItemSubject &subject()
+{
+    static const OperationLogItemSubject label(OperationLogItemSubject::Type::Label, {{u"Name"_s, u"T12"_s}},
+                                               {});
+    return label;
+}
+
+/// The bare toolkit's form of the edit: it keeps what it needs to go back, as any such command does.
+class BareSet : public QUndoCommand
+{
+public:
+    BareSet(QVariant *cell, const QVariant &value)
+        : m_cell(cell)
+        , m_value(value)
+        , m_oldValue(*cell)
+    {
+        setText(u"Set charge"_s);
+    }
+    void redo() override { *m_cell = m_value; }
+    void undo() override { *m_cell = m_oldValue; }
+
+private:
+    QVariant *m_cell;
+    QVariant m_value;
+    QVariant m_oldValue;
+};
+
+class AuditedSet : public UndoCommand
+{
+public:
+    AuditedSet(QVariant *cell, const QVariant &value)
+        : m_cell(cell)
+        , m_value(value)
+        , m_oldValue(*cell)
+    {
+        setText(u"Set charge"_s);
+        static const QList<QString> attributes{u"Charge"_s};
+        setLogData({OperationLogItemType::Set, subject(), attributes, value, m_oldValue});
+    }
+
+protected:
+    Error doRedo() override
+    {
+        *m_cell = m_value;
+        return {};
+    }
+    Error doUndo() override
+    {
+        *m_cell = m_oldValue;
+        return {};
+    }
+
+private:
+    QVariant *m_cell;
+    QVariant m_value;
+    QVariant m_oldValue;
+};
+
+class MemoryLogger : public AuditTrailLoggingInterface
+{
+public:
+    using Item = QSharedPointer<OperationLogItem>;
+
+    bool commitMacro(const Item &) override { return true; }
+    Item logCommand(const Item &parent, const UndoCommand &command,
+                    OperationLogItemUndoContext context) override
+    {
+        OperationLogItemData data = *command.logData();
+        data.setUndoContext(context);
+        m_items.append(
+            OperationLogItemPrivate::createItem(parent, m_items.size() + 1, m_time++, u"jdoe"_s, data));
+        return m_items.constLast();
+    }
+    Item logCommandInMacro(const Item &macro, const UndoCommand &command,
+                           OperationLogItemUndoContext context) override
+    {
+        return logCommand(macro, command, context);
+    }
+    Item logBeginMacro(const Item &, const OperationLogItemData &) override { return {}; }
+
+private:
+    QList<Item> m_items;
+    qint64 m_time = QDateTime::currentMSecsSinceEpoch();
+};
+
+void pushBare(QUndoStack &stack, QVariant *cell, int value)
+{
+    stack.push(new BareSet(cell, value));
+}
+
+void pushAudited(UndoStack &stack, QVariant *cell, int value)
+{
+    (void)stack.push(new AuditedSet(cell, value));
+}
+
+template <typename Stack, typename Push>
+void pushAll(benchmark::State &state, Push push, bool logs)
+{
+    for (auto _ : state) {
+        state.PauseTiming();
+        MemoryLogger logger;
+        auto stack = std::make_unique<Stack>();
+        if constexpr (std::is_same_v<Stack, UndoStack>)
+            stack->setLogging(logs ? &logger : nullptr);
+        QVariant cell = 0;
+        state.ResumeTiming();
+        for (int i = 0; i < state.range(0); ++i)
+            push(*stack, &cell, i);
+        state.PauseTiming();
+        stack.reset();
+        state.ResumeTiming();
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+template <typename Stack, typename Push>
+void undoRedoAll(benchmark::State &state, Push push, bool logs)
+{
+    Stack stack;
+    QVariant cell = 0;
+    for (int i = 0; i < state.range(0); ++i)
+        push(stack, &cell, i);
+    for (auto _ : state) {
+        state.PauseTiming();
+        MemoryLogger logger;
+        if constexpr (std::is_same_v<Stack, UndoStack>)
+            stack.setLogging(logs ? &logger : nullptr);
+        state.ResumeTiming();
+        while (stack.canUndo())
+            stack.undo();
+        while (stack.canRedo())
+            stack.redo();
+    }
+    state.SetItemsProcessed(2 * state.iterations() * state.range(0));
+}
+
+void push_bare(benchmark::State &state)
+{
+    pushAll<QUndoStack>(state, pushBare, false);
+}
+void push_without_logger(benchmark::State &state)
+{
+    pushAll<UndoStack>(state, pushAudited, false);
+}
+void push_memory_logger(benchmark::State &state)
+{
+    pushAll<UndoStack>(state, pushAudited, true);
+}
+void undo_redo_bare(benchmark::State &state)
+{
+    undoRedoAll<QUndoStack>(state, pushBare, false);
+}
+void undo_redo_without_logger(benchmark::State &state)
+{
+    undoRedoAll<UndoStack>(state, pushAudited, false);
+}
+void undo_redo_memory_logger(benchmark::State &state)
+{
+    undoRedoAll<UndoStack>(state, pushAudited, true);
+}
+
+} // namespace
+
+BENCHMARK(push_bare)->RangeMultiplier(10)->Range(1000, 100000);
+BENCHMARK(push_without_logger)->RangeMultiplier(10)->Range(1000, 100000);
+BENCHMARK(push_memory_logger)->RangeMultiplier(10)->Range(1000, 100000);
+BENCHMARK(undo_redo_bare)->RangeMultiplier(10)->Range(1000, 100000);
+BENCHMARK(undo_redo_without_logger)->RangeMultiplier(10)->Range(1000, 100000);
+BENCHMARK(undo_redo_memory_logger)->RangeMultiplier(10)->Range(1000, 100000);
+
+BENCHMARK_MAIN();
