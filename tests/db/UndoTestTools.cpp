@@ -56,6 +56,8 @@ Error ScriptedCommand::doRedo()
 
 Error ScriptedCommand::beforeBeginFirst()
 {
+    if (m_script.inBefore)
+        m_script.inBefore();
     return note(u"before "_s, m_script.failsBefore);
 }
 

@@ -25,6 +25,7 @@ struct Script
     bool obsoleteAfterRedo = false;
     std::function<void()> inRedo = {};
     std::function<void()> inUndo = {};
+    std::function<void()> inBefore = {};
 };
 
 [[nodiscard]] OperationLogItemData recordOf(const QString &name);

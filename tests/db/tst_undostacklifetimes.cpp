@@ -320,15 +320,42 @@ private Q_SLOTS:
         QCOMPARE(m_stack->text(0), u"b"_s);
     }
 
+    void macroAbortedByItsOwnCommand_data()
+    {
+        QTest::addColumn<bool>("beforehand");
+        QTest::newRow("in beforeBeginFirst") << true;
+        QTest::newRow("in doRedo") << false;
+    }
     void macroAbortedByItsOwnCommand()
     {
+        QFETCH(bool, beforehand);
         beginMacro();
         Script script{.name = u"a"_s};
-        script.inRedo = [this] { QVERIFY(m_stack->abortMacro()); };
+        (beforehand ? script.inBefore : script.inRedo) = [this] { QVERIFY(m_stack->abortMacro()); };
         QVERIFY(!push(script).hasError());
         QCOMPARE(m_stack->count(), 2);
         m_stack->setIndex(0);
         QVERIFY(m_journal.contains(u"undo a"_s));
+    }
+
+    void lastCountersDroppedByAnUndo()
+    {
+        Script script{.name = u"a"_s};
+        beginMacro();
+        bool armed = false;
+        script.inBefore = [this, &armed] {
+            if (!armed)
+                return;
+            expectWarning(u"No macro command to abort"_s);
+            expectWarning(u"no matching beginMacro()"_s);
+            QVERIFY(!m_stack->abortMacro());
+        };
+        QVERIFY(!push(script).hasError());
+        QVERIFY(m_stack->endMacro());
+        armed = true;
+        m_stack->undo();
+        QVERIFY(m_journal.contains(u"undo a"_s));
+        QCOMPARE(m_journal.count(u"after a"_s), 1);
     }
 
     void childWithoutAStack()

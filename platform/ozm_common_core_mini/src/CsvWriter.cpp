@@ -9,7 +9,7 @@ namespace {
 
 // What is gathered before it goes to the disk: large enough to make the writes few, small enough to stay
 // in the processor's cache.
-constexpr qsizetype kChunk = 256 * 1024;
+constexpr qsizetype kChunk = qsizetype{256} * 1024;
 
 bool needsQualifier(const QString &cell, QChar qualifier, QChar separator)
 {
@@ -71,7 +71,7 @@ bool CsvWriter::writeFile(const QString &path, const QList<QList<QString>> &rows
         return false;
 
     // Without the mark, common spreadsheets take the file for the system's own 8-bit text.
-    QString pending(QChar(QChar::ByteOrderMark));
+    QString pending = QChar(QChar::ByteOrderMark);
     for (const QList<QString> &row : rows) {
         appendRow(pending, row, qualifier, separator);
         if (pending.size() >= kChunk && !flush(file, pending))

@@ -8,7 +8,7 @@ QSharedPointer<OperationLogItem>
 AuditTrailLoggingInterface::logEvent(const QSharedPointer<OperationLogItem> &parent,
                                      const OperationLogItemData &data)
 {
-    const QSharedPointer<OperationLogItem> item = logBeginMacro(parent, data);
+    QSharedPointer<OperationLogItem> item = logBeginMacro(parent, data);
     if (!item || item->isNull() || !commitMacro(item))
         return {};
     return item;

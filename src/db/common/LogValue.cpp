@@ -217,7 +217,7 @@ QJsonValue convert(const QVariant &value, int depth)
 QString joined(const QJsonArray &array)
 {
     QStringList texts;
-    for (const QJsonValue &item : array)
+    for (const auto &item : array)
         texts.append(item.isArray() ? u'[' + joined(item.toArray()) + u']' : toText(item));
     return texts.join(", "_L1);
 }
@@ -239,7 +239,7 @@ QString doubleToText(double number)
 
 QVariant readNumber(const QJsonValue &value)
 {
-    const QVariant number = value.toVariant();
+    QVariant number = value.toVariant();
     const qint64 integer = number.toLongLong();
     if (number.typeId() != QMetaType::LongLong || isExact(integer))
         return number;
@@ -291,7 +291,8 @@ QVariant fromJson(const QJsonValue &value)
         return fromJson(value.toObject());
     if (value.isArray()) {
         QVariantList items;
-        for (const QJsonValue &item : value.toArray())
+        const QJsonArray array = value.toArray();
+        for (const auto &item : array)
             items.append(fromJson(item));
         return items;
     }

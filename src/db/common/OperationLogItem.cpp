@@ -90,8 +90,9 @@ OperationLogItemPrivate::createItem(const QSharedPointer<OperationLogItem> &pare
     return item;
 }
 
-void OperationLogItemPrivate::setParent(QSharedPointer<OperationLogItem> child,
-                                        QSharedPointer<OperationLogItem> parent)
+// By value: a reference into the list of children would die when the child leaves it.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
+void OperationLogItemPrivate::setParent(Item child, Item parent)
 {
     if (parent && isSameOrAbove(child.data(), parent.data())) {
         OZM_WIDGETS_WARNING() << "Audit trail item" << child->id() << "cannot be placed below itself";

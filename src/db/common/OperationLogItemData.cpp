@@ -18,7 +18,8 @@ constexpr int kVersion = 1;
 QList<QString> readAttributes(const QJsonObject &json)
 {
     QList<QString> attributes;
-    for (const QJsonValue &attribute : json.value("attributes"_L1).toArray()) {
+    const QJsonArray listed = json.value("attributes"_L1).toArray();
+    for (const auto &attribute : listed) {
         if (attribute.isString())
             attributes.append(attribute.toString());
     }

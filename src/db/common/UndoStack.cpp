@@ -125,7 +125,7 @@ UndoStack::UndoStack(QObject *parent)
     : QUndoStack(parent)
     , d(std::make_unique<UndoStackPrivate>(this))
 {
-    // clear() is not virtual; this also sees it called on the base class.
+    // clear() is not virtual: this is how it is noticed when called on the base class.
     connect(this, &QUndoStack::indexChanged, this, [this] { d->forgetClearedMacros(); });
 }
 
@@ -146,7 +146,6 @@ Error UndoStack::push(UndoCommand *command)
                      tr("A new edit cannot be made while another is being undone or redone."))
             .ecatch(OZM_HERE);
     }
-    d->forgetClearedMacros();
     command->setStack(this);
 
     UndoStackPrivate::Push push{command, d->push};
@@ -170,7 +169,6 @@ QSharedPointer<OperationLogItem> UndoStack::beginMacro(QSharedPointer<OperationL
         OZM_WIDGETS_WARNING() << "Macro refused while an undo or redo runs:" << text;
         return {};
     }
-    d->forgetClearedMacros();
     d->doneCounts.append(0);
     d->undoneCounts.append(0);
     ++d->openMacros;
@@ -195,7 +193,6 @@ QSharedPointer<OperationLogItem> UndoStack::beginMacro(const OperationLogItemDat
 
 bool UndoStack::endMacro()
 {
-    d->forgetClearedMacros();
     bool ok = true;
     if (d->logging) {
         const Item macro = d->takeOpenMacroItem();
@@ -212,7 +209,6 @@ bool UndoStack::endMacro()
 
 bool UndoStack::abortMacro()
 {
-    d->forgetClearedMacros();
     bool ok = true;
     if (d->logging && !d->takeOpenMacroItem()) {
         OZM_WIDGETS_WARNING() << "No macro command to abort";
@@ -232,6 +228,7 @@ void UndoStack::clear()
         return;
     }
     QUndoStack::clear();
+    // Also where signals are blocked.
     d->forgetClearedMacros();
 }
 
