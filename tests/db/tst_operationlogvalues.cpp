@@ -306,6 +306,39 @@ private Q_SLOTS:
         QCOMPARE(QMetaType::fromName("VariantItems"), QMetaType::fromType<VariantItems>());
     }
 
+    // Guards against crashes and hangs; and whatever is accepted must be a record that can be stored again.
+    void damagedBytesAreSurvived()
+    {
+        QRandomGenerator random(4711);
+        ValueSource source(4711);
+        int accepted = 0;
+        for (int i = 0; i < 20000; ++i) {
+            QByteArray json = record(source.value()).toJson();
+            for (int damage = 1 + random.bounded(4); damage > 0; --damage) {
+                const auto place = random.bounded(static_cast<int>(json.size()));
+                switch (random.bounded(3)) {
+                case 0:
+                    json[place] = static_cast<char>(random.bounded(256));
+                    break;
+                case 1:
+                    json.remove(place, random.bounded(20));
+                    break;
+                default:
+                    json.insert(place,
+                                json.mid(random.bounded(static_cast<int>(json.size())), random.bounded(20)));
+                }
+            }
+            bool ok = false;
+            const OperationLogItemData read(json, &ok);
+            QVERIFY(ok || !read.isValid());
+            if (!read.isValid())
+                continue;
+            ++accepted;
+            QCOMPARE(readBack(read).toString(), read.toString());
+        }
+        QVERIFY2(accepted > 100, "some damage is harmless: the test is to see that as well");
+    }
+
     void generatedValuesComeBack()
     {
         ValueSource source(20261121);

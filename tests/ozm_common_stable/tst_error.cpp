@@ -3,6 +3,8 @@
 #include <ozm_common_stable/Error.h>
 #include <ozm_common_stable/Result.h>
 
+#include <QProcess>
+
 using namespace Qt::StringLiterals;
 using ozm::Error;
 using ozm::ErrorCode;
@@ -22,6 +24,17 @@ struct Counted
     Counted &operator=(Counted &&) noexcept = default;
     int copies = 0;
 };
+
+const QString kWrongSide = u"--wrong-side"_s;
+
+int readWrongSide(const QString &side)
+{
+    if (side == u"value"_s)
+        return Result<int>(Error(ErrorCode::Failed)).value();
+    if (side == u"error"_s)
+        return static_cast<int>(Result<int>(0).error().errorCode());
+    return Result<int>(Error()).hasError() ? 0 : 1;
+}
 
 Error failAndCatch()
 {
@@ -99,6 +112,31 @@ private Q_SLOTS:
         QCOMPARE(bad.valueOr(1), 1);
     }
 
+    // Runs this program again, since the failure to be seen ends it.
+    void resultReadOnTheWrongSideStops_data()
+    {
+        QTest::addColumn<QString>("side");
+        QTest::addColumn<QByteArray>("message");
+        QTest::newRow("value") << u"value"_s << QByteArray("value() of a result that holds an error");
+        QTest::newRow("error") << u"error"_s << QByteArray("error() of a result that holds a value");
+#ifndef QT_NO_DEBUG
+        QTest::newRow("no error") << u"none"_s << QByteArray("made from an Error that holds no error");
+#endif
+    }
+    void resultReadOnTheWrongSideStops()
+    {
+        QFETCH(QString, side);
+        QFETCH(QByteArray, message);
+        QProcess program;
+        program.setProcessChannelMode(QProcess::MergedChannels);
+        program.start(QCoreApplication::applicationFilePath(), {kWrongSide, side});
+        QVERIFY(program.waitForFinished());
+        QVERIFY(program.exitStatus() == QProcess::CrashExit || program.exitCode() != 0);
+#ifndef QT_NO_DEBUG
+        QVERIFY2(program.readAll().contains(message), "says what was wrong");
+#endif
+    }
+
     void resultMovesItsValue()
     {
         Result<Counted> result = Counted();
@@ -109,5 +147,12 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestError)
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    if (QCoreApplication::arguments().value(1) == kWrongSide)
+        return readWrongSide(QCoreApplication::arguments().value(2));
+    TestError test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "tst_error.moc"
