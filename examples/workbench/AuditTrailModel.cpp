@@ -2,7 +2,10 @@
 
 #include "AuditTrail.h"
 
+#include <QApplication>
 #include <QFont>
+#include <QIcon>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -43,8 +46,14 @@ QFont fontOf(const AuditEntry &entry)
 {
     QFont font;
     font.setItalic(!entry.known || entry.isUnfinished());
-    font.setBold(entry.record.outcome.hasError());
     return font;
+}
+
+QVariant iconOf(const AuditEntry &entry, int column)
+{
+    if (column != AuditTrailModel::ErrorText || !entry.record.outcome.hasError())
+        return {};
+    return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
 }
 
 } // namespace
@@ -98,6 +107,8 @@ QVariant AuditTrailModel::data(const QModelIndex &index, int role) const
         return cellText(*entryOf(index), index.column());
     case Qt::FontRole:
         return fontOf(*entryOf(index));
+    case Qt::DecorationRole:
+        return iconOf(*entryOf(index), index.column());
     default:
         return {};
     }

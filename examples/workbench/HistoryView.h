@@ -1,10 +1,31 @@
 #pragma once
 
-#include <QListWidget>
+#include <QAbstractListModel>
+#include <QTreeView>
+
+class QUndoStack;
 
 namespace workbench {
 
 class SampleEditor;
+
+/// The states of a history, from the one before all steps on. Read-only; the history must outlive it.
+class HistoryModel : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    explicit HistoryModel(const QUndoStack &history, QObject *parent = nullptr);
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+
+private:
+    void follow();
+
+    const QUndoStack &m_history;
+    int m_rows = 1;
+};
 
 /**
  * The history of edits, the current state marked; a double click, or Enter, goes to another state.
@@ -12,7 +33,7 @@ class SampleEditor;
  * It goes there through the editor. The toolkit's own view of an undo stack moves the stack by itself, past
  * the records that have to be written first.
  */
-class HistoryView : public QListWidget
+class HistoryView : public QTreeView
 {
     Q_OBJECT
 
@@ -20,7 +41,7 @@ public:
     explicit HistoryView(SampleEditor &editor, QWidget *parent = nullptr);
 
 private:
-    void rebuild();
+    void showCurrent();
 
     SampleEditor &m_editor;
 };

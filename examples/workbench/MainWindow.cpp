@@ -19,6 +19,7 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QStyle>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QToolBar>
 #include <QTreeView>
@@ -35,10 +36,22 @@ namespace {
 
 // Wide enough for what the columns hold in practice; the comment takes what is left.
 constexpr std::array kTableWidths{150, 250, 70, 110};
-constexpr std::array kTrailWidths{155, 90, 620};
+constexpr std::array kTrailWidths{195, 90, 480};
 constexpr int kHistoryWidth = 230;
 constexpr int kTrailHeight = 270;
 constexpr int kStatusMs = 15000;
+
+/// Gives the rows of a tree the room that those of a table have.
+class RoomyDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 4);
+    }
+};
 
 QString csvFilter()
 {
@@ -104,7 +117,7 @@ void MainWindow::createActions()
                           tr("Rename the chosen samples in one step"), QKeySequence(u"Ctrl+R"_s));
     m_undo = makeAction("undoAction", tr("Undo"), QStyle::SP_ArrowBack, {}, QKeySequence::Undo);
     m_redo = makeAction("redoAction", tr("Redo"), QStyle::SP_ArrowForward, {}, QKeySequence::Redo);
-    QAction *exporting = makeAction("exportAction", tr("Export trail"), QStyle::SP_DriveFDIcon,
+    QAction *exporting = makeAction("exportAction", tr("Export trail"), QStyle::SP_FileIcon,
                                     tr("Export the audit trail as JSON"), QKeySequence(u"Ctrl+E"_s));
 
     bar->addActions({open, m_save});
@@ -151,7 +164,9 @@ void MainWindow::createHistory()
 {
     auto *dock = new QDockWidget(tr("History"), this);
     dock->setObjectName(u"historyDock"_s);
-    dock->setWidget(new HistoryView(m_editor, dock));
+    auto *view = new HistoryView(m_editor, dock);
+    view->setItemDelegate(new RoomyDelegate(view));
+    dock->setWidget(view);
     addDockWidget(Qt::RightDockWidgetArea, dock);
     resizeDocks({dock}, {kHistoryWidth}, Qt::Horizontal);
 }
@@ -164,6 +179,7 @@ void MainWindow::createTrail()
     m_trailView->setModel(m_trail);
     m_trailView->setAlternatingRowColors(true);
     m_trailView->setUniformRowHeights(true);
+    m_trailView->setItemDelegate(new RoomyDelegate(m_trailView));
     for (int column = 0; column < static_cast<int>(kTrailWidths.size()); ++column)
         m_trailView->setColumnWidth(column, kTrailWidths.at(static_cast<std::size_t>(column)));
     m_trailView->expandAll();

@@ -6,7 +6,6 @@
 #include <QSqlError>
 #include <QSqlQuery>
 
-#include <array>
 #include <atomic>
 
 using namespace Qt::StringLiterals;
@@ -82,14 +81,12 @@ QString nextName()
     return u"workbench-audit-%1"_s.arg(++serial);
 }
 
-/// A null text or byte array would be stored as NULL.
+/// A null text or byte array would be stored as NULL; a QVariant of it does not count as null.
 QVariant stored(const QVariant &value)
 {
-    if (!value.isNull())
-        return value;
-    if (value.typeId() == QMetaType::QString)
+    if (value.typeId() == QMetaType::QString && value.toString().isNull())
         return u""_s;
-    if (value.typeId() == QMetaType::QByteArray)
+    if (value.typeId() == QMetaType::QByteArray && value.toByteArray().isNull())
         return QByteArray("");
     return value;
 }
