@@ -21,11 +21,15 @@ using Parsed = ozm::Result<QVariant>;
 // More than any protein carries in a source; a larger number is a mass in the wrong column.
 constexpr int kHighestCharge = 200;
 
-Error refusal(const char *text, const QString &found = {})
+Error refusal(const QString &text)
 {
-    const QString translated = QCoreApplication::translate("SampleRules", text);
-    return Error(ErrorCode::BadParameter, found.isNull() ? translated : translated.arg(found))
-        .ecatch(OZM_HERE);
+    return Error(ErrorCode::BadParameter, text).ecatch(OZM_HERE);
+}
+
+/// With what was typed in the place of "%1".
+Error refusal(const char *text, const QString &typed)
+{
+    return refusal(QCoreApplication::translate("SampleRules", text).arg(typed));
 }
 
 bool isAsciiLetter(QChar c)
@@ -41,7 +45,7 @@ bool isAsciiDigit(QChar c)
 Parsed parseName(const QString &text)
 {
     if (text.isEmpty())
-        return refusal(QT_TRANSLATE_NOOP("SampleRules", "The name must not be empty."));
+        return refusal(QCoreApplication::translate("SampleRules", "The name must not be empty."));
     return QVariant(text);
 }
 
