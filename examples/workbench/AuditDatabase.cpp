@@ -4,6 +4,7 @@
 #include "SqlConnection.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QSqlQuery>
 
 #include <array>
@@ -76,7 +77,8 @@ AuditDatabase::~AuditDatabase() = default;
 
 ozm::Result<std::unique_ptr<AuditDatabase>> AuditDatabase::open(const QString &path)
 {
-    auto connection = SqlConnection::open(path, SqlConnection::Mode::ReadWrite);
+    // Absolute: the file is looked up again later, when the working folder may be another.
+    auto connection = SqlConnection::open(QFileInfo(path).absoluteFilePath(), SqlConnection::Mode::ReadWrite);
     if (!connection)
         return connection.error();
     if (const Error error = openAuditSchema(*connection.value()); error.hasError())

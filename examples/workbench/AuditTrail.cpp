@@ -42,6 +42,12 @@ AuditEntry entryOf(const AuditRecord &record)
     return entry;
 }
 
+void renumber(const std::vector<AuditEntry *> &siblings, int from)
+{
+    for (int row = from; row < static_cast<int>(siblings.size()); ++row)
+        siblings.at(static_cast<std::size_t>(row))->row = row;
+}
+
 } // namespace
 
 AuditTrail::AuditTrail(AuditDatabase &database, QObject *parent)
@@ -72,6 +78,7 @@ Error AuditTrail::refresh()
             const int first = static_cast<int>(m_top.size());
             Q_EMIT aboutToAppend(first, first + static_cast<int>(fresh.size()) - 1);
             m_top.insert(m_top.end(), fresh.cbegin(), fresh.cend());
+            renumber(m_top, first);
             Q_EMIT appended();
         }
     }
@@ -124,7 +131,9 @@ void AuditTrail::show(AuditEntry &entry, std::vector<AuditEntry *> &top)
     entry.shown = true;
     if (entry.parent)
         show(*entry.parent, top);
-    (entry.parent ? entry.parent->children : top).push_back(&entry);
+    auto &siblings = entry.parent ? entry.parent->children : top;
+    entry.row = static_cast<int>(siblings.size());
+    siblings.push_back(&entry);
 }
 
 void AuditTrail::hide(AuditEntry &entry, std::vector<AuditEntry *> &top)
@@ -132,7 +141,9 @@ void AuditTrail::hide(AuditEntry &entry, std::vector<AuditEntry *> &top)
     if (!entry.shown)
         return;
     entry.shown = false;
-    std::erase(entry.parent ? entry.parent->children : top, &entry);
+    auto &siblings = entry.parent ? entry.parent->children : top;
+    std::erase(siblings, &entry);
+    renumber(siblings, entry.row);
     if (entry.parent && entry.parent->children.empty() && entry.parent->isUnfinished())
         hide(*entry.parent, top);
 }

@@ -21,6 +21,7 @@ struct AuditEntry
     bool committed = false;
     AuditEntry *parent = nullptr;
     bool shown = false; ///< Whether it has its place in the tree.
+    int row = 0;        ///< That place, among its siblings.
     std::vector<AuditEntry *> children;
 
     [[nodiscard]] bool isUnfinished() const { return record.kind == AuditKind::Macro && !committed; }

@@ -7,8 +7,6 @@
 #include <QIcon>
 #include <QStyle>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace workbench {
@@ -79,11 +77,7 @@ QModelIndex AuditTrailModel::index(int row, int column, const QModelIndex &paren
 QModelIndex AuditTrailModel::parent(const QModelIndex &child) const
 {
     const AuditEntry *parent = child.isValid() ? entryOf(child)->parent : nullptr;
-    if (!parent)
-        return {};
-    const auto &siblings = parent->parent ? parent->parent->children : m_trail.entries();
-    const auto place = std::ranges::find(siblings, parent);
-    return createIndex(static_cast<int>(place - siblings.begin()), 0, parent);
+    return parent ? createIndex(parent->row, 0, parent) : QModelIndex();
 }
 
 int AuditTrailModel::rowCount(const QModelIndex &parent) const

@@ -26,6 +26,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using ozm::Error;
@@ -36,7 +37,7 @@ namespace {
 
 // Wide enough for what the columns hold in practice; the comment takes what is left.
 constexpr std::array kTableWidths{150, 250, 70, 110};
-constexpr std::array kTrailWidths{195, 90, 480};
+constexpr std::array kTrailWidths{180, 75, 510};
 constexpr int kHistoryWidth = 230;
 constexpr int kTrailHeight = 270;
 constexpr int kStatusMs = 15000;
@@ -288,7 +289,9 @@ void MainWindow::showTrouble(const Error &error)
         shown->setText(text);
         return;
     }
-    auto *message = new QMessageBox(QMessageBox::Warning, tr("Not done"), text, QMessageBox::Ok, this);
+    auto *message =
+        new QMessageBox(QMessageBox::Warning, error.hasError() ? tr("Not done") : tr("Please note"), text,
+                        QMessageBox::Ok, this);
     message->setObjectName(u"troubleMessage"_s);
     message->setAttribute(Qt::WA_DeleteOnClose);
     message->open();
@@ -338,8 +341,11 @@ void MainWindow::closeEvent(QCloseEvent *event)
 
 QList<qint64> MainWindow::selectedIds() const
 {
+    // From the top down, however they were chosen: numbered names follow this order.
+    QModelIndexList rows = m_table->selectionModel()->selectedRows();
+    std::ranges::sort(rows, {}, &QModelIndex::row);
     QList<qint64> ids;
-    for (const QModelIndex &row : m_table->selectionModel()->selectedRows())
+    for (const QModelIndex &row : std::as_const(rows))
         ids.append(m_samples->idAt(row.row()));
     return ids;
 }
