@@ -49,13 +49,15 @@ public:
                      overwrite(database.path(), 0, QByteArray(100, 'x'));
         else if (name == "deleted"_L1)
             m_made = QFile::remove(database.path());
+        else if (name == "replaced"_L1)
+            m_made = replace();
     }
     ~AuditFault() { lift(); }
     Q_DISABLE_COPY_MOVE(AuditFault)
 
     [[nodiscard]] static QStringList names()
     {
-        return {u"locked"_s, u"read-only"_s, u"full"_s, u"damaged"_s, u"deleted"_s};
+        return {u"locked"_s, u"read-only"_s, u"full"_s, u"damaged"_s, u"deleted"_s, u"replaced"_s};
     }
     /// What the message of a refused step must say.
     [[nodiscard]] static QString messageOf(const QString &name)
@@ -64,12 +66,13 @@ public:
                                               {u"read-only"_s, u"is read-only"_s},
                                               {u"full"_s, u"is full. Nothing was changed. Make room"_s},
                                               {u"damaged"_s, u"is damaged"_s},
-                                              {u"deleted"_s, u"cannot be opened"_s}};
+                                              {u"deleted"_s, u"cannot be opened"_s},
+                                              {u"replaced"_s, u"was replaced while it was in use"_s}};
         return messages.value(name);
     }
     [[nodiscard]] static bool canBeLifted(const QString &name)
     {
-        return name != "damaged"_L1 && name != "deleted"_L1;
+        return name == "locked"_L1 || name == "read-only"_L1 || name == "full"_L1;
     }
 
     [[nodiscard]] bool isMade() const { return m_made; }
@@ -96,6 +99,15 @@ private:
         std::shared_ptr<workbench::SqlConnection> connection = std::move(other).value();
         m_made = !connection->run(u"BEGIN EXCLUSIVE"_s).hasError();
         m_lift = [connection] { connection->run(u"ROLLBACK"_s); };
+    }
+
+    /// Puts an empty trail in the file's place, as somebody who restores the wrong copy does.
+    bool replace()
+    {
+        const QString copy = m_database.path() + ".copy"_L1;
+        return workbench::AuditDatabase::open(copy) &&
+               runOn(m_database, u"PRAGMA wal_checkpoint(TRUNCATE)"_s) && QFile::remove(m_database.path()) &&
+               QFile::rename(copy, m_database.path());
     }
 
     workbench::AuditDatabase &m_database;

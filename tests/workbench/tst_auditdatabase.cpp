@@ -47,6 +47,7 @@ private Q_SLOTS:
     void initTestCase() { startAfresh(); }
     void cleanup() { startAfresh(); }
     void recordsSurviveReopening();
+    void writesReachTheDisk();
     void recordsCannotBeChanged_data();
     void recordsCannotBeChanged();
     void programsShareAFile();
@@ -114,6 +115,16 @@ void TestAuditDatabase::recordsSurviveReopening()
     QCOMPARE(records.at(2).kind, AuditKind::Commit);
     QCOMPARE(records.at(2).item, 1);
     QCOMPARE(m_database->recordsAfter(2).valueOr({}).size(), 1);
+}
+
+void TestAuditDatabase::writesReachTheDisk()
+{
+    // No test can pull the plug; these two settings are what SQLite asks for to survive it.
+    QSqlQuery query(QSqlDatabase::database(m_database->connectionName(), false));
+    QVERIFY(query.exec(u"PRAGMA journal_mode"_s) && query.next());
+    QCOMPARE(query.value(0).toString(), u"wal"_s);
+    QVERIFY(query.exec(u"PRAGMA synchronous"_s) && query.next());
+    QCOMPARE(query.value(0).toInt(), 2);
 }
 
 void TestAuditDatabase::recordsCannotBeChanged_data()
