@@ -81,7 +81,7 @@ ozm::Result<std::unique_ptr<AuditDatabase>> AuditDatabase::open(const QString &p
     auto connection = SqlConnection::open(QFileInfo(path).absoluteFilePath(), SqlConnection::Mode::ReadWrite);
     if (!connection)
         return connection.error();
-    if (const Error error = openAuditSchema(*connection.value()); error.hasError())
+    if (Error error = openAuditSchema(*connection.value()); error.hasError())
         return error;
     // Not make_unique: the constructor is private.
     return std::unique_ptr<AuditDatabase>(new AuditDatabase(std::move(connection).value()));
@@ -100,8 +100,8 @@ QString AuditDatabase::connectionName() const
 ozm::Result<QList<AuditRecord>> AuditDatabase::recordsAfter(qint64 sequence)
 {
     QList<AuditRecord> records;
-    const Error error = m_connection->forEach(
-        kSelect, {sequence}, [&records](const QSqlQuery &row) { records.append(recordOf(row)); });
+    Error error = m_connection->forEach(kSelect, {sequence},
+                                        [&records](const QSqlQuery &row) { records.append(recordOf(row)); });
     if (error.hasError())
         return error;
     return records;
@@ -130,7 +130,7 @@ Error AuditDatabase::insertAll(QList<AuditRecord> &records)
     if (!last)
         return last.error();
     const qint64 lastSequence = last.value().toLongLong();
-    if (const Error error = checkStillThere(lastSequence); error.hasError())
+    if (Error error = checkStillThere(lastSequence); error.hasError())
         return error;
 
     for (qsizetype i = 0; i < records.size(); ++i) {
@@ -140,7 +140,7 @@ Error AuditDatabase::insertAll(QList<AuditRecord> &records)
             record.item = record.sequence;
         if (record.parent < 0)
             record.parent = records.at(-1 - record.parent).item;
-        if (const Error error = insert(record); error.hasError())
+        if (Error error = insert(record); error.hasError())
             return error;
     }
     return {};
@@ -162,7 +162,7 @@ Error AuditDatabase::checkStillThere(qint64 lastSequence) const
     auto fresh = SqlConnection::open(path(), SqlConnection::Mode::ReadOnly);
     if (!fresh)
         return fresh.error();
-    if (const Error error = checkAuditMark(*fresh.value()); error.hasError())
+    if (Error error = checkAuditMark(*fresh.value()); error.hasError())
         return error;
     const auto last = fresh.value()->value(kLastSequence);
     if (!last)

@@ -212,7 +212,7 @@ std::optional<AuditRecord> AuditLogger::takePrepared(const AuditStep &step)
 
 std::optional<AuditRecord> AuditLogger::recordFor(const AuditStep &step, qint64 parent)
 {
-    const std::optional<AuditRecord> prepared = takePrepared(step);
+    std::optional<AuditRecord> prepared = takePrepared(step);
     const Error outcome = step.command->lastError();
     if (prepared && prepared->outcome == outcome)
         return prepared;
@@ -233,7 +233,7 @@ std::optional<AuditRecord> AuditLogger::storeOne(const QList<AuditRecord> &recor
 QString currentUser()
 {
     for (const char *variable : {"USER", "USERNAME", "LOGNAME"}) {
-        const QString user = qEnvironmentVariable(variable);
+        QString user = qEnvironmentVariable(variable);
         if (!user.isEmpty())
             return user;
     }

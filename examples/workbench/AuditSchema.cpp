@@ -67,7 +67,7 @@ ozm::Result<bool> isEmpty(SqlConnection &connection)
 Error runAll(SqlConnection &connection, const QStringList &statements)
 {
     for (const QString &statement : statements) {
-        if (const Error error = connection.run(statement); error.hasError())
+        if (Error error = connection.run(statement); error.hasError())
             return error;
     }
     return {};
@@ -150,11 +150,11 @@ Error openAuditSchema(SqlConnection &connection)
     if (!empty)
         return empty.error();
     if (empty.value()) {
-        if (const Error error = createSchema(connection); error.hasError())
+        if (Error error = createSchema(connection); error.hasError())
             return error;
     }
     for (const auto check : {checkAuditMark, checkPages, checkGuards}) {
-        if (const Error error = check(connection); error.hasError())
+        if (Error error = check(connection); error.hasError())
             return error;
     }
     // After the table is made, so that the marks are in the file itself and not in a log beside it. Where

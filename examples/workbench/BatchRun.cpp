@@ -75,7 +75,7 @@ public:
     {
         for (const auto step : {&Run::load, &Run::edit, &Run::add, &Run::rename, &Run::tryInvalid,
                                 &Run::undoAndRedo, &Run::repeat, &Run::save, &Run::grab}) {
-            if (const Error error = (this->*step)(); error.hasError())
+            if (Error error = (this->*step)(); error.hasError())
                 return error;
         }
         return {};
@@ -90,7 +90,7 @@ private:
 
     Error load()
     {
-        const Error error = m_editor.load(m_options.input);
+        Error error = m_editor.load(m_options.input);
         if (error.hasError() || m_editor.table().rowCount() > 0)
             return error;
         return Error(ErrorCode::BadParameter,
@@ -101,7 +101,7 @@ private:
     {
         // The two charges become one step of the history, and stay two records of the trail.
         for (const auto &charge : {u"3"_s, u"4"_s}) {
-            if (const Error error = m_editor.setCell(idAt(0), kCharge, charge); error.hasError())
+            if (Error error = m_editor.setCell(idAt(0), kCharge, charge); error.hasError())
                 return error;
         }
         return m_editor.setCell(idAt(0), kComment, tr("Charge checked against the isotope pattern"));
@@ -129,7 +129,7 @@ private:
 
     Error tryInvalid()
     {
-        const Error refusal = m_editor.setCell(idAt(0), kCharge, u"0"_s);
+        Error refusal = m_editor.setCell(idAt(0), kCharge, u"0"_s);
         if (!refusal.hasError())
             return Error(ErrorCode::Failed, tr("An invalid charge was taken.")).ecatch(OZM_HERE);
         // A warning says that the refusal itself is not recorded.
@@ -139,7 +139,7 @@ private:
 
     Error undoAndRedo()
     {
-        const Error error = m_editor.undo();
+        Error error = m_editor.undo();
         return error.hasError() ? error : m_editor.redo();
     }
 
@@ -147,7 +147,7 @@ private:
     {
         for (int step = 1; step <= m_options.steps; ++step) {
             const qint64 id = idAt(step % m_editor.table().rowCount());
-            const Error error = m_editor.setCell(id, kComment, tr("Step %1").arg(step));
+            Error error = m_editor.setCell(id, kComment, tr("Step %1").arg(step));
             if (error.hasError())
                 return error;
         }
@@ -156,7 +156,7 @@ private:
 
     Error save()
     {
-        const Error error = m_editor.save(m_out.filePath(u"samples.csv"_s));
+        Error error = m_editor.save(m_out.filePath(u"samples.csv"_s));
         return error.hasError() ? error : m_editor.exportTrail(m_out.filePath(u"audit.json"_s));
     }
 
@@ -192,17 +192,17 @@ Error runBatch(const BatchOptions &given)
     BatchOptions options = given;
     if (options.database.isEmpty())
         options.database = QDir(options.outDirectory).filePath(u"audit.sqlite"_s);
-    if (const Error error = prepareDirectory(options.outDirectory); error.hasError())
+    if (Error error = prepareDirectory(options.outDirectory); error.hasError())
         return error;
     const auto database = AuditDatabase::open(options.database);
     if (!database)
         return database.error();
 
     SampleEditor editor(*database.value(), options.user);
-    if (const Error error = editor.start(); error.hasError())
+    if (Error error = editor.start(); error.hasError())
         return error;
     QObject::connect(&editor.trail(), &AuditTrail::recorded, &editor, &tellRecord);
-    if (const Error error = Run(editor, options).all(); error.hasError())
+    if (Error error = Run(editor, options).all(); error.hasError())
         return error;
     tellResults(options);
     return {};

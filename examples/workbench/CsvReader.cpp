@@ -38,7 +38,7 @@ public:
         row.line = m_line;
         do {
             QString cell;
-            if (const Error error = readCell(cell); error.hasError())
+            if (Error error = readCell(cell); error.hasError())
                 return error;
             row.cells.append(cell);
         } while (take(kSeparator));
@@ -148,7 +148,7 @@ ozm::Result<QList<CsvRow>> readCsv(const QByteArray &bytes)
     Scanner scanner(text);
     while (!scanner.atEnd()) {
         CsvRow row;
-        if (const Error error = scanner.readRow(row); error.hasError())
+        if (Error error = scanner.readRow(row); error.hasError())
             return error;
         if (row.cells.size() > 1 || !row.cells.constFirst().isEmpty())
             rows.append(row);

@@ -51,7 +51,7 @@ Error checkExists(const SampleTable &table, qint64 id)
 
 Error SampleCommand::doRedo()
 {
-    const Error error = check(m_table);
+    Error error = check(m_table);
     if (!error.hasError())
         apply(m_table);
     return error;
@@ -100,7 +100,7 @@ Error SetCellCommand::check(const SampleTable &table) const
 {
     if (m_value.hasError())
         return m_value.error();
-    if (const Error error = checkExists(table, m_id); error.hasError())
+    if (Error error = checkExists(table, m_id); error.hasError())
         return error;
     return m_column == kName ? table.checkName(m_value.value().toString(), m_id) : Error();
 }

@@ -10,7 +10,6 @@
 
 using namespace Qt::StringLiterals;
 using ozm::Error;
-using ozm::ErrorCode;
 using ozm::OperationLogItemData;
 using ozm::OperationLogItemSubject;
 using ozm::OperationLogItemType;
@@ -121,10 +120,9 @@ Error SampleEditor::renameSamples(const QList<qint64> &ids, const QString &patte
 
 Error SampleEditor::push(std::unique_ptr<SampleCommand> command)
 {
-    if (const Error error = command->check(m_table); error.hasError())
+    if (Error error = command->check(m_table); error.hasError())
         return refuse(*command, error);
-    if (const Error error = m_logger.prepare({{command.get(), OperationLogItemUndoContext::New}});
-        error.hasError())
+    if (Error error = m_logger.prepare({{command.get(), OperationLogItemUndoContext::New}}); error.hasError())
         return finish(error);
     return finish(m_stack.push(command.release()));
 }
@@ -134,19 +132,19 @@ Error SampleEditor::runMacro(const OperationLogItemData &data, const QString &te
     if (commands.empty())
         return {};
     const SampleCommand *refused = nullptr;
-    if (const Error error = tryOut(m_table, commands, &refused); error.hasError())
+    if (Error error = tryOut(m_table, commands, &refused); error.hasError())
         return refuse(*refused, error);
 
     QList<AuditStep> steps;
     for (const auto &command : commands)
         steps.append({command.get(), OperationLogItemUndoContext::New});
-    if (const Error error = m_logger.prepareMacro(data, steps); error.hasError())
+    if (Error error = m_logger.prepareMacro(data, steps); error.hasError())
         return finish(error);
 
     m_stack.beginMacro(data, text);
     Error result;
     for (auto &command : commands) {
-        const Error error = m_stack.push(command.release());
+        Error error = m_stack.push(command.release());
         if (error.hasError() && !result.hasError())
             result = error;
     }
@@ -159,7 +157,7 @@ Error SampleEditor::tryOut(const SampleTable &table, const Commands &commands, c
 {
     const std::unique_ptr<SampleTable> scratch = table.copy();
     for (const auto &command : commands) {
-        if (const Error error = command->check(*scratch); error.hasError()) {
+        if (Error error = command->check(*scratch); error.hasError()) {
             *refused = command.get();
             return error;
         }
@@ -183,7 +181,7 @@ Error SampleEditor::step(OperationLogItemUndoContext context)
     const bool backwards = context == OperationLogItemUndoContext::Undo;
     QList<AuditStep> steps;
     collectSteps(*m_stack.command(backwards ? m_stack.index() - 1 : m_stack.index()), context, steps);
-    if (const Error error = m_logger.prepare(steps); error.hasError())
+    if (Error error = m_logger.prepare(steps); error.hasError())
         return finish(error);
     if (backwards)
         m_stack.undo();
@@ -223,7 +221,7 @@ Error SampleEditor::load(const QString &path)
 Error SampleEditor::save(const QString &path)
 {
     return audited(fileEvent(path, u"Saved samples"_s, m_table.rowCount()), [this, path] {
-        const Error error = samplefile::write(m_table, path);
+        Error error = samplefile::write(m_table, path);
         if (!error.hasError())
             m_stack.setClean();
         return error;
@@ -234,14 +232,14 @@ Error SampleEditor::exportTrail(const QString &path)
 {
     return audited(fileEvent(path, u"Exported audit trail"_s, u"JSON"_s), [this, path] {
         // With the record of this export in it.
-        const Error error = m_trail.refresh();
+        Error error = m_trail.refresh();
         return error.hasError() ? error : writeAuditTrailJson(m_trail, path);
     });
 }
 
 Error SampleEditor::audited(const OperationLogItemData &data, const std::function<Error()> &act)
 {
-    if (const Error error = m_logger.recordEvent(data); error.hasError())
+    if (Error error = m_logger.recordEvent(data); error.hasError())
         return finish(error);
     Error error = act();
     if (error.hasError()) {

@@ -149,7 +149,7 @@ Error SqlConnection::forEach(const QString &sql, const QVariantList &values,
 ozm::Result<QVariant> SqlConnection::value(const QString &sql)
 {
     QVariant first;
-    const Error error = forEach(sql, {}, [&first](const QSqlQuery &row) {
+    Error error = forEach(sql, {}, [&first](const QSqlQuery &row) {
         if (!first.isValid())
             first = row.value(0);
     });

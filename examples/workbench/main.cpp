@@ -74,8 +74,8 @@ int batch(const QCommandLineParser &parser, const Options &options, const QStrin
         return complain(QApplication::translate("main", "--batch needs --out, the folder for its results."),
                         WrongUsage);
     }
-    const Error error = workbench::runBatch({parser.value(options.batch), parser.value(options.out),
-                                             parser.value(options.database), user, steps});
+    Error error = workbench::runBatch({parser.value(options.batch), parser.value(options.out),
+                                       parser.value(options.database), user, steps});
     if (!error.hasError())
         return Done;
     return complain((QStringList{error.errorMessage()} + error.warnings()).join(u' '), Failed);
@@ -97,7 +97,7 @@ int interact(const QString &databasePath, const QString &user, const QString &fi
         return complain(database.error().errorMessage(), Failed);
     }
     workbench::SampleEditor editor(*database.value(), user);
-    if (const Error error = editor.start(); error.hasError())
+    if (Error error = editor.start(); error.hasError())
         return complain(error.errorMessage(), Failed);
     workbench::MainWindow window(editor, databasePath);
     window.show();
