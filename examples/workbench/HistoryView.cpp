@@ -41,7 +41,12 @@ QVariant HistoryModel::data(const QModelIndex &index, int role) const
 
 void HistoryModel::follow()
 {
-    const int rows = m_history.count() + 1;
+    resize(m_history.count() + 1);
+    Q_EMIT dataChanged(index(0), index(m_rows - 1));
+}
+
+void HistoryModel::resize(int rows)
+{
     if (rows > m_rows) {
         beginInsertRows({}, m_rows, rows - 1);
         m_rows = rows;
@@ -51,7 +56,6 @@ void HistoryModel::follow()
         m_rows = rows;
         endRemoveRows();
     }
-    Q_EMIT dataChanged(index(0), index(m_rows - 1));
 }
 
 HistoryView::HistoryView(SampleEditor &editor, QWidget *parent)

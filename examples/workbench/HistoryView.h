@@ -22,6 +22,7 @@ public:
 
 private:
     void follow();
+    void resize(int rows);
 
     const QUndoStack &m_history;
     int m_rows = 1;

@@ -88,17 +88,21 @@ QString defaultDatabase()
     return folder.filePath(u"audit.sqlite"_s);
 }
 
+/// For a user who may have started the program without a terminal.
+int complainOnScreen(const Error &error)
+{
+    QMessageBox::critical(nullptr, QApplication::applicationDisplayName(), error.errorMessage());
+    return complain(error.errorMessage(), Failed);
+}
+
 int interact(const QString &databasePath, const QString &user, const QString &file)
 {
     const auto database = workbench::AuditDatabase::open(databasePath);
-    if (!database) {
-        QMessageBox::critical(nullptr, QApplication::applicationDisplayName(),
-                              database.error().errorMessage());
-        return complain(database.error().errorMessage(), Failed);
-    }
+    if (!database)
+        return complainOnScreen(database.error());
     workbench::SampleEditor editor(*database.value(), user);
     if (Error error = editor.start(); error.hasError())
-        return complain(error.errorMessage(), Failed);
+        return complainOnScreen(error);
     workbench::MainWindow window(editor, databasePath);
     window.show();
     if (!file.isEmpty())
