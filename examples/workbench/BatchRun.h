@@ -1,0 +1,27 @@
+#pragma once
+
+#include <ozm_common_stable/Error.h>
+
+#include <QString>
+
+namespace workbench {
+
+struct BatchOptions
+{
+    QString input;        ///< The CSV file to work on.
+    QString outDirectory; ///< Made when it is not there.
+    QString database;     ///< The audit trail; empty means "audit.sqlite" in the directory.
+    QString user;
+    int steps = 0; ///< Further edits, so that a run lasts long enough to be interrupted.
+};
+
+/**
+ * Takes the samples of a file through every kind of edit without anybody at the screen, and leaves the audit
+ * trail, its export, the samples and a picture of the window in a directory.
+ *
+ * Each step that is on the disk is told on standard output, a line a record with its number. An earlier
+ * audit trail is continued; the other files are replaced. Needs a QApplication.
+ */
+[[nodiscard]] ozm::Error runBatch(const BatchOptions &options);
+
+} // namespace workbench

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <ozm_common_stable/Error.h>
+
+#include <QMainWindow>
+
+class QAction;
+class QLabel;
+class QStackedWidget;
+class QTableView;
+class QTreeView;
+
+namespace workbench {
+
+class AuditTrailModel;
+class SampleEditor;
+class SampleTableModel;
+
+/**
+ * The workbench's window: the samples, what was done to them (the history), and what is recorded of it (the
+ * audit trail).
+ *
+ * Shows the editor's troubles in the status bar, and as a message that does not stop the program. The editor
+ * must outlive the window.
+ */
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// @p trailPath is where the audit trail is kept, to be shown.
+    MainWindow(SampleEditor &editor, const QString &trailPath, QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    void open(const QString &path);
+    /// Whether troubles come up as messages; without, they are in the status bar only.
+    void setMessagesShown(bool shown) { m_showMessages = shown; }
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    QAction *makeAction(const char *name, const QString &text, int icon, const QString &tip,
+                        const QKeySequence &shortcut);
+    void createActions();
+    void createTable();
+    void createHistory();
+    void createTrail();
+    void createStatusBar(const QString &trailPath);
+    void follow();
+
+    void askOpen();
+    bool askSave();
+    void askExport();
+    void askRename();
+    void deleteSelected();
+    void showTrouble(const ozm::Error &error);
+    void refresh();
+    void setFile(const QString &path);
+    [[nodiscard]] bool mayDiscard();
+    [[nodiscard]] QList<qint64> selectedIds() const;
+
+    SampleEditor &m_editor;
+    SampleTableModel *m_samples = nullptr;
+    AuditTrailModel *m_trail = nullptr;
+    QStackedWidget *m_pages = nullptr;
+    QTableView *m_table = nullptr;
+    QTreeView *m_trailView = nullptr;
+    QLabel *m_count = nullptr;
+    QAction *m_undo = nullptr;
+    QAction *m_redo = nullptr;
+    QAction *m_save = nullptr;
+    QAction *m_delete = nullptr;
+    QAction *m_rename = nullptr;
+    QString m_file;
+    bool m_showMessages = true;
+};
+
+} // namespace workbench

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <ozm_common_stable/Result.h>
+
+#include <QString>
+#include <QVariant>
+
+/**
+ * What a cell of the sample table may hold, and how it is written.
+ *
+ * Charge: a whole number from 1 to 200, or nothing. Mass: a positive number. Name: not empty. Sequence:
+ * letters, or nothing. Comment: any text. Numbers are written with a point, whatever the locale, so that a
+ * file means the same everywhere. That names are unique is the table's own rule.
+ */
+namespace workbench::rules {
+
+/// The value that @p text stands for in @p column; an error (BadParameter) with a text for the user when it
+/// stands for none.
+[[nodiscard]] ozm::Result<QVariant> parse(const QString &column, const QString &text);
+
+/// The text that parse() reads as @p value.
+[[nodiscard]] QString toText(const QVariant &value);
+
+} // namespace workbench::rules

@@ -1,0 +1,217 @@
+#include "AuditTrail.h"
+#include "SampleFile.h"
+#include "SampleFixture.h"
+#include "support/StrictTest.h"
+
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+using namespace Qt::StringLiterals;
+using namespace ozm::test;
+using namespace workbench;
+
+namespace {
+
+// Sanitizers and a busy machine included.
+constexpr int kRunMs = 120000;
+
+struct Outcome
+{
+    int exitCode = -1;
+    QStringList lines;
+    QString complaint;
+};
+
+Outcome run(const QStringList &arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral(WORKBENCH_PROGRAM), arguments);
+    if (!process.waitForFinished(kRunMs))
+        return {};
+    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+            QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+/// The numbers that "recorded 12: ..." lines tell of.
+QList<qint64> recordedIn(const QStringList &lines)
+{
+    QList<qint64> numbers;
+    for (const QString &line : lines) {
+        if (line.startsWith("recorded "_L1))
+            numbers.append(line.section(u' ', 1, 1).chopped(1).toLongLong());
+    }
+    return numbers;
+}
+
+QSet<qint64> storedIn(const QString &path)
+{
+    QSet<qint64> numbers;
+    auto database = AuditDatabase::open(path);
+    if (!database)
+        return {};
+    const auto records = database.value()->recordsAfter(0).valueOr({});
+    for (const AuditRecord &record : records)
+        numbers.insert(record.sequence);
+    return numbers;
+}
+
+} // namespace
+
+class TestBatchRun : public ozm::test::StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void leavesItsResults();
+    void continuesTheTrail();
+    void failsWithAMessage_data();
+    void failsWithAMessage();
+    void needsNoRunToExplainItself_data();
+    void needsNoRunToExplainItself();
+    void killedRunKeepsWhatItAcknowledged();
+};
+
+void TestBatchRun::leavesItsResults()
+{
+    const QTemporaryDir folder;
+    const QDir out(folder.filePath(u"out µ"_s));
+    const Outcome outcome = run(
+        {u"--batch"_s, QStringLiteral(WORKBENCH_SAMPLES), u"--out"_s, out.path(), u"--user"_s, u"jdoe"_s});
+    QVERIFY2(outcome.exitCode == 0, qUtf8Printable(outcome.complaint));
+    const QStringList results{out.filePath(u"audit.sqlite"_s), out.filePath(u"audit.json"_s),
+                              out.filePath(u"samples.csv"_s), out.filePath(u"window.png"_s)};
+    QCOMPARE(outcome.lines.mid(outcome.lines.size() - 4), results);
+
+    const QString told = outcome.lines.join(u'\n');
+    for (const auto &part :
+         {u"Loaded samples"_s, u"'Charge' from 2 to 3"_s, u"Add Label"_s, u"to * (checked)"_s,
+          u"refused: The charge must be"_s, u"UNDO Set"_s, u"REDO Set"_s})
+        QVERIFY2(told.contains(part), qUtf8Printable(part));
+
+    const QJsonArray trail = QJsonDocument::fromJson(readFile(results.at(1))).array();
+    int refused = 0;
+    int withChildren = 0;
+    for (const QJsonValue &entry : trail) {
+        QCOMPARE(entry["user"_L1].toString(), u"jdoe"_s);
+        QVERIFY(entry["finished"_L1].toBool(true));
+        refused += entry["error"_L1].isObject() ? 1 : 0;
+        withChildren += entry["children"_L1].toArray().size() == 3 ? 1 : 0;
+    }
+    QCOMPARE(refused, 1);
+    QCOMPARE(withChildren, 1);
+
+    const auto samples = samplefile::read(results.at(2));
+    QVERIFY(samples);
+    QCOMPARE(samples.value().at(0).getDataAt(kName).toString(), u"HC-T01 (checked)"_s);
+    QCOMPARE(samples.value().at(0).getDataAt(kCharge).toInt(), 4);
+    QCOMPARE(QImage(results.at(3)).size(), QSize(1200, 760));
+}
+
+void TestBatchRun::continuesTheTrail()
+{
+    const QTemporaryDir folder;
+    const QString database = folder.filePath(u"kept.sqlite"_s);
+    const QStringList arguments{u"--batch"_s,    QStringLiteral(WORKBENCH_SAMPLES),
+                                u"--out"_s,      folder.path(),
+                                u"--database"_s, database};
+    const Outcome first = run(arguments);
+    QCOMPARE(first.exitCode, 0);
+    const QByteArray samples = readFile(folder.filePath(u"samples.csv"_s));
+    const QSet<qint64> stored = storedIn(database);
+    const Outcome second = run(arguments);
+    QCOMPARE(second.exitCode, 0);
+    QVERIFY(recordedIn(second.lines).constFirst() > recordedIn(first.lines).constLast());
+    QVERIFY(storedIn(database).contains(stored));
+    QCOMPARE(storedIn(database).size(), 2 * stored.size());
+    QCOMPARE(readFile(folder.filePath(u"samples.csv"_s)), samples);
+    QCOMPARE(QJsonDocument::fromJson(readFile(folder.filePath(u"audit.json"_s))).array().size(), 2 * 15);
+}
+
+void TestBatchRun::failsWithAMessage_data()
+{
+    QTest::addColumn<QStringList>("arguments"); // "DIR" stands for a folder with the files below
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("message");
+    const QString samples = QStringLiteral(WORKBENCH_SAMPLES);
+    QTest::newRow("no folder") << QStringList{u"--batch"_s, samples} << 2 << u"--batch needs --out"_s;
+    QTest::newRow("steps") << QStringList{u"--batch"_s, samples, u"--out"_s, u"DIR"_s, u"--steps"_s, u"x"_s}
+                           << 2 << u"--steps needs a number"_s;
+    QTest::newRow("no input") << QStringList{u"--batch"_s, u"DIR/none.csv"_s, u"--out"_s, u"DIR"_s} << 1
+                              << u"none.csv\" cannot be read"_s;
+    QTest::newRow("malformed") << QStringList{u"--batch"_s, u"DIR/bad.csv"_s, u"--out"_s, u"DIR"_s} << 1
+                               << u"Line 3: The charge must be"_s;
+    QTest::newRow("no samples") << QStringList{u"--batch"_s, u"DIR/empty.csv"_s, u"--out"_s, u"DIR"_s} << 1
+                                << u"holds no samples"_s;
+    QTest::newRow("folder under a file")
+        << QStringList{u"--batch"_s, samples, u"--out"_s, u"DIR/bad.csv/out"_s} << 1
+        << u"cannot be written to"_s;
+    QTest::newRow("no database") << QStringList{u"--batch"_s, samples,         u"--out"_s,
+                                                u"DIR"_s,     u"--database"_s, u"DIR/bad.csv"_s}
+                                 << 1 << u"is damaged or is no audit trail"_s;
+    QTest::newRow("unknown option") << QStringList{u"--batsch"_s} << 1 << u"Unknown option"_s;
+}
+void TestBatchRun::failsWithAMessage()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, message);
+    const QTemporaryDir folder;
+    QVERIFY(writeFile(folder.filePath(u"bad.csv"_s), "Name,Mass,Charge\nA,1,2\nB,1,999\n"));
+    QVERIFY(writeFile(folder.filePath(u"empty.csv"_s), "Name,Mass\n"));
+    arguments.replaceInStrings(u"DIR"_s, folder.path());
+    const Outcome outcome = run(arguments);
+    QTEST(outcome.exitCode, "exitCode");
+    QVERIFY2(outcome.complaint.contains(message), qUtf8Printable(outcome.complaint));
+}
+
+void TestBatchRun::needsNoRunToExplainItself_data()
+{
+    QTest::addColumn<QString>("argument");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("version") << u"--version"_s << u"workbench "_s;
+    QTest::newRow("help") << u"--help"_s << u"--batch <csv>"_s;
+}
+void TestBatchRun::needsNoRunToExplainItself()
+{
+    QFETCH(QString, argument);
+    QFETCH(QString, text);
+    const Outcome outcome = run({argument});
+    QCOMPARE(outcome.exitCode, 0);
+    QVERIFY(outcome.lines.join(u'\n').contains(text));
+    QVERIFY(!outcome.lines.join(u'\n').contains("--steps"_L1));
+}
+
+void TestBatchRun::killedRunKeepsWhatItAcknowledged()
+{
+    const QTemporaryDir folder;
+    QStringList lines;
+    // At different moments, and each run on what the one before left.
+    for (const int enough : {40, 101, 160}) {
+        QProcess process;
+        process.start(QStringLiteral(WORKBENCH_PROGRAM),
+                      {u"--batch"_s, QStringLiteral(WORKBENCH_SAMPLES), u"--out"_s, folder.path(),
+                       u"--steps"_s, u"2000"_s});
+        QByteArray told;
+        while (told.count('\n') < enough && process.waitForReadyRead(kRunMs))
+            told += process.readAllStandardOutput();
+        process.kill();
+        QVERIFY(process.waitForFinished(kRunMs));
+        QVERIFY2(process.exitStatus() == QProcess::CrashExit, "the run ended before it could be killed");
+        told += process.readAllStandardOutput();
+        // A line that is cut off was not acknowledged.
+        told.truncate(told.lastIndexOf('\n'));
+        lines += QString::fromUtf8(told).split(u'\n');
+
+        const QSet<qint64> stored = storedIn(folder.filePath(u"audit.sqlite"_s));
+        const QList<qint64> acknowledged = recordedIn(lines);
+        QVERIFY(acknowledged.size() >= enough);
+        for (const qint64 number : acknowledged)
+            QVERIFY2(stored.contains(number), qUtf8Printable(u"record %1 is lost"_s.arg(number)));
+    }
+}
+
+QTEST_GUILESS_MAIN(TestBatchRun)
+#include "tst_batchrun.moc"
