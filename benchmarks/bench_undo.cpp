@@ -1,8 +1,9 @@
 // Audited push, undo and redo beside the same commands on a bare QUndoStack. What is compared runs in
 // turns in one process, so that the ratio says something on a shared machine too.
 
+#include "AuditedEdit.h"
+
 #include <ozm_widgets/db/common/AuditTrailLoggingInterface.h>
-#include <ozm_widgets/db/common/UndoCommand.h>
 #include <ozm_widgets/db/common/UndoStack.h>
 
 #include <benchmark/benchmark.h>
@@ -14,64 +15,6 @@ using namespace Qt::StringLiterals;
 using namespace ozm;
 
 namespace {
-
-const OperationLogItemSubject &subject()
-{
-    static const OperationLogItemSubject label(OperationLogItemSubject::Type::Label, {{u"Name"_s, u"T12"_s}},
-                                               {});
-    return label;
-}
-
-/// The bare toolkit's form of the edit: it keeps what it needs to go back, as any such command does.
-class BareSet : public QUndoCommand
-{
-public:
-    BareSet(QVariant *cell, const QVariant &value)
-        : m_cell(cell)
-        , m_value(value)
-        , m_oldValue(*cell)
-    {
-        setText(u"Set charge"_s);
-    }
-    void redo() override { *m_cell = m_value; }
-    void undo() override { *m_cell = m_oldValue; }
-
-private:
-    QVariant *m_cell;
-    QVariant m_value;
-    QVariant m_oldValue;
-};
-
-class AuditedSet : public UndoCommand
-{
-public:
-    AuditedSet(QVariant *cell, const QVariant &value)
-        : m_cell(cell)
-        , m_value(value)
-        , m_oldValue(*cell)
-    {
-        setText(u"Set charge"_s);
-        static const QList<QString> attributes{u"Charge"_s};
-        setLogData({OperationLogItemType::Set, subject(), attributes, value, m_oldValue});
-    }
-
-protected:
-    Error doRedo() override
-    {
-        *m_cell = m_value;
-        return {};
-    }
-    Error doUndo() override
-    {
-        *m_cell = m_oldValue;
-        return {};
-    }
-
-private:
-    QVariant *m_cell;
-    QVariant m_value;
-    QVariant m_oldValue;
-};
 
 class MemoryLogger : public AuditTrailLoggingInterface
 {
@@ -102,12 +45,12 @@ private:
 
 void pushBare(QUndoStack &stack, QVariant *cell, int value)
 {
-    stack.push(new BareSet(cell, value));
+    stack.push(new bench::BareSet(cell, value));
 }
 
 void pushAudited(UndoStack &stack, QVariant *cell, int value)
 {
-    (void)stack.push(new AuditedSet(cell, value));
+    (void)stack.push(new bench::AuditedSet(cell, value));
 }
 
 template <typename Stack, typename Push>

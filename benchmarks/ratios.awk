@@ -6,7 +6,7 @@ FNR == NR {
 }
 /"run_name":/   { gsub(/[",]/, ""); run = $2 }
 /"aggregate_name":/ { gsub(/[",]/, ""); aggregate = $2 }
-/"cpu_time":/   { gsub(/,/, ""); if (aggregate == "median") median[run] = $2 }
+/"real_time":/   { gsub(/,/, ""); if (aggregate == "median") median[run] = $2 }
 
 END {
     printf "%-42s %-42s %8s %6s\n", "what", "beside", "ratio", "aim"
