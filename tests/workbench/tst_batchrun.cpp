@@ -95,7 +95,7 @@ void TestBatchRun::leavesItsResults()
     const QJsonArray trail = QJsonDocument::fromJson(readFile(results.at(1))).array();
     int refused = 0;
     int withChildren = 0;
-    for (const QJsonValue &entry : trail) {
+    for (const QJsonValue entry : trail) {
         QCOMPARE(entry["user"_L1].toString(), u"jdoe"_s);
         QVERIFY(entry["finished"_L1].toBool(true));
         refused += entry["error"_L1].isObject() ? 1 : 0;
