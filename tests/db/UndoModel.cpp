@@ -166,8 +166,8 @@ void UndoModel::undoEntry(Entry &entry)
 {
     if (entry.edit)
         undoEdit(*entry.edit);
-    for (auto child = entry.children.rbegin(); child != entry.children.rend(); ++child)
-        undoEntry(**child);
+    for (qsizetype i = entry.children.size(); i-- > 0;)
+        undoEntry(*entry.children.at(i));
 }
 
 void UndoModel::redoEntry(Entry &entry)

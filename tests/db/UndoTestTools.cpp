@@ -105,7 +105,7 @@ RecordingLogger::logBeginMacro(const QSharedPointer<OperationLogItem> &parent,
 
 QSharedPointer<OperationLogItem> RecordingLogger::keep(const QString &what,
                                                        const QSharedPointer<OperationLogItem> &parent,
-                                                       OperationLogItemData data)
+                                                       const OperationLogItemData &data)
 {
     m_journal->append(u"log %1 %2 in %3"_s.arg(what, data.attributeNamesString(), idOf(parent)));
     if (fails)

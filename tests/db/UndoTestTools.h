@@ -78,7 +78,7 @@ public:
 
 private:
     QSharedPointer<OperationLogItem> keep(const QString &what, const QSharedPointer<OperationLogItem> &parent,
-                                          OperationLogItemData data);
+                                          const OperationLogItemData &data);
 
     QStringList *const m_journal;
 };

@@ -39,7 +39,7 @@ QList<qint64> idsOf(const QList<Item> &items)
 
 Item chain(int length, Item *bottom = nullptr)
 {
-    const Item top = item(0);
+    Item top = item(0);
     Item last = top;
     for (int i = 1; i < length; ++i)
         last = item(i, last);
