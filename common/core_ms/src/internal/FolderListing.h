@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+namespace ozm::msreader::internal {
+
+/// What detectors need to know of a folder's direct entries; small however many files there are.
+struct FolderListing
+{
+    struct Entry
+    {
+        QString name;
+        bool isFolder; ///< False for a link and the like, which has to be asked.
+    };
+
+    bool isFolder = false;   ///< Whether there is a folder of this name, readable or not.
+    bool isComplete = false; ///< Whether every entry was seen.
+    QList<Entry> folders;    ///< Those that are, or may lead to, folders.
+    QStringList others;      ///< The other entries, unless there are very many.
+    bool keptAllOthers = true;
+
+    /// False only when a file system of whatever kind cannot find an entry of this name here.
+    [[nodiscard]] bool mayHold(QStringView name) const;
+};
+
+/// Sees an entry that is, or may lead to, a folder as soon as it is read; true ends the reading.
+using FolderVisitor = std::function<bool(const FolderListing::Entry &)>;
+
+[[nodiscard]] FolderListing listFolder(const QString &folder, const FolderVisitor &visit = {});
+
+/// Whether @p entry of @p folder leads to a folder.
+[[nodiscard]] bool leadsToFolder(const QString &folder, const FolderListing::Entry &entry);
+
+} // namespace ozm::msreader::internal
