@@ -8,13 +8,13 @@ using namespace Qt::StringLiterals;
 
 namespace ozm::msreader {
 
-QString toString(VendorDataFormat format)
+QString MsDataFormat::toString(VendorDataFormat format)
 {
     const internal::FormatRow *row = internal::formatRow(format);
     return row ? QString(row->name) : QString::number(static_cast<qint32>(format));
 }
 
-Result<VendorDataFormat> fromString(const QString &text)
+Result<VendorDataFormat> MsDataFormat::fromString(const QString &text)
 {
     const auto row = std::ranges::find_if(internal::kFormats, [&text](const internal::FormatRow &candidate) {
         return text.compare(candidate.name, Qt::CaseInsensitive) == 0;

@@ -51,10 +51,15 @@ public:
 
 using VendorDataFormat = OZM_QEnumsMsDataFormat::VendorDataFormat;
 
-/// The enumerator's name; the decimal number of a value that has none.
-[[nodiscard]] QString toString(VendorDataFormat format);
+/// Formats as text, in settings, logs and projects.
+class MsDataFormat
+{
+public:
+    /// The enumerator's name; the decimal number of a value that has none.
+    [[nodiscard]] static QString toString(VendorDataFormat format);
 
-/// The format of that name, in any letter case; an error with code 2 when there is none.
-[[nodiscard]] Result<VendorDataFormat> fromString(const QString &text);
+    /// The format of that name, in any letter case; an error with code 2 when there is none.
+    [[nodiscard]] static Result<VendorDataFormat> fromString(const QString &text);
+};
 
 } // namespace ozm::msreader

@@ -14,7 +14,7 @@ const FormatDetectorBase *detectorOrWarning(VendorDataFormat format)
 {
     const FormatDetectorBase *detector = internal::detectorOf(format);
     if (!detector)
-        qCWarning(lcGeneric).noquote() << "Unknown file format:" << toString(format);
+        qCWarning(lcGeneric).noquote() << "Unknown file format:" << MsDataFormat::toString(format);
     return detector;
 }
 

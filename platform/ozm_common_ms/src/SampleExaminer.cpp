@@ -55,7 +55,7 @@ MsDataFileInfo examine(const QString &path, Kind kind, MsDataFileInfo::CheckLeve
         info.size = QFileInfo(path).size();
     const VendorDataFormat format = formatOf(path, kind, level);
     if (format != VendorDataFormat::Unknown) {
-        info.formatName = toString(format);
+        info.formatName = MsDataFormat::toString(format);
         info.description = MsFileInfo::formatDescription(format);
     }
     return info;

@@ -16,7 +16,7 @@ QString namesOf(const QSet<VendorDataFormat> &formats)
 {
     QStringList names;
     for (const VendorDataFormat format : formats)
-        names.append(toString(format));
+        names.append(MsDataFormat::toString(format));
     names.sort();
     return names.isEmpty() ? u"no format"_s : names.join(", "_L1);
 }

@@ -55,13 +55,22 @@ QString reasonInside(const QString &path, Kind kind)
     return part != kMissingParts.end() ? QString(part->text) : u"It changed while it was looked at."_s;
 }
 
+QString descriptionsOf(const QSet<VendorDataFormat> &formats)
+{
+    QStringList descriptions;
+    for (const VendorDataFormat format : formats)
+        descriptions.append(formatRow(format)->description);
+    descriptions.sort();
+    descriptions.removeDuplicates();
+    return descriptions.join(", "_L1);
+}
+
 QString reasonOfKind(const QSet<VendorDataFormat> &named, Kind kind)
 {
-    const FormatRow *row = formatRow(*std::ranges::min_element(named));
-    const QString description = row->description;
-    if (kind == Kind::Folder)
-        return u"Data with this name (%1) is a file, but this is a folder."_s.arg(description);
-    return u"Data with this name (%1) is a folder, but this is a file."_s.arg(description);
+    const QString text = kind == Kind::Folder
+                             ? u"Data with this name (%1) is a file, but this is a folder."_s
+                             : u"Data with this name (%1) is a folder, but this is a file."_s;
+    return text.arg(descriptionsOf(named));
 }
 
 } // namespace
