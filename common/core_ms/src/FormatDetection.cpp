@@ -55,8 +55,9 @@ bool isNamedD(const QString &path)
 /// From the cheapest question to the walk of a whole tree; where each stands does not change the answer.
 bool isVendorFolder(const QString &path)
 {
-    return internal::holdsAcqDataDirectly(path) || internal::holdsBrukerDataFile(path) ||
-           internal::holdsBrukerSpectra(path) || internal::holdsAcqDataBelow(path);
+    return internal::holdsAcqDataDirectly(path) || internal::holdsCommonBrukerFile(path) ||
+           internal::classifyBrukerFolder(path) != VendorDataFormat::Unknown ||
+           internal::holdsAcqDataBelow(path);
 }
 
 VendorDataFormat nearestFolderFormat(const QString &path)

@@ -154,7 +154,8 @@ bool DataCrawler::readFolder(const Item &folder)
     FolderReader reader(folder.path);
     while (!isCanceled() && reader.next()) {
         const Item entry = entryOf(folder, reader);
-        if (entry.isLink || entry.kind == Kind::Folder || canBeData(entry.path, entry.kind))
+        const bool isFileOfData = entry.kind == Kind::File && canBeData(entry.path, entry.kind);
+        if (entry.isLink || entry.kind == Kind::Folder || isFileOfData)
             entries.append(entry);
     }
     queueEntries(std::move(entries));
@@ -164,12 +165,20 @@ bool DataCrawler::readFolder(const Item &folder)
 DataCrawler::Item DataCrawler::entryOf(const Item &folder, const internal::FolderReader &reader)
 {
     const QString name = reader.name();
-    Item entry{childOf(folder.path, name), childOf(folder.realPath, name), Kind::File};
-    if (reader.kind() == EntryKind::Folder) {
+    Item entry{childOf(folder.path, name), childOf(folder.realPath, name), Kind::None};
+    switch (reader.kind()) {
+    case EntryKind::Folder:
         entry.kind = Kind::Folder;
-    } else if (reader.kind() == EntryKind::Unsettled) {
+        break;
+    case EntryKind::File:
+        entry.kind = Kind::File;
+        break;
+    case EntryKind::Other:
+        break;
+    case EntryKind::Unsettled:
         entry.isLink = QFileInfo(entry.path).isSymLink();
         entry.kind = entry.isLink ? Kind::None : kindOf(entry.path);
+        break;
     }
     return entry;
 }

@@ -101,7 +101,8 @@ private:
         m_read.add(candidate.path, holds);
         for (const FolderListing::Entry &entry : listing.folders) {
             m_waiting.push_back({candidate.path + u'/' + entry.name,
-                                 entry.name.endsWith(".d"_L1, Qt::CaseInsensitive), entry.isFolder});
+                                 entry.name.endsWith(".d"_L1, Qt::CaseInsensitive),
+                                 entry.kind == EntryKind::Folder});
         }
         return holds;
     }

@@ -81,7 +81,7 @@ QString companionName(const QString &root)
     return QFileInfo(root).fileName().replace(".d"_L1, ".u2"_L1);
 }
 
-/// The data files that lie directly in a folder. Those that its listing rules out are not asked for.
+/// The data files that lie directly in a folder. What its listing tells is not asked.
 class DataFiles
 {
 public:
@@ -90,14 +90,13 @@ public:
         , m_listing(listing)
     {}
 
-    [[nodiscard]] bool hasCompanion() const
-    {
-        return PathUtils::isExistingFile(m_root + u'/' + companionName(m_root));
-    }
+    [[nodiscard]] bool hasCompanion() const { return has(companionName(m_root)); }
 
     [[nodiscard]] bool has(const QString &name) const
     {
-        return m_listing.mayHold(name) && PathUtils::isExistingFile(m_root + u'/' + name);
+        const FolderListing::Answer answer = m_listing.holdsFile(name);
+        return answer == FolderListing::Answer::Ask ? PathUtils::isExistingFile(m_root + u'/' + name)
+                                                    : answer == FolderListing::Answer::Yes;
     }
 
     [[nodiscard]] bool hasPair(const QString &suffix) const
@@ -144,20 +143,12 @@ VendorDataFormat classifyBrukerFolder(const QString &root)
     return formatOfFiles(DataFiles(root, spectra.listing));
 }
 
-bool holdsBrukerDataFile(const QString &root)
+bool holdsCommonBrukerFile(const QString &root)
 {
-    FolderListing unread;
-    unread.isFolder = true;
-    const DataFiles files(root, unread);
-    // The formats of today's instruments first.
-    const bool holds = files.hasPair(u"tdf"_s) || files.hasPair(u"tsf"_s) || files.has(u"Analysis.baf"_s) ||
-                       files.has(u"Analysis.yep"_s) || files.hasCompanion();
+    const auto has = [&root](QLatin1StringView name) { return PathUtils::isExistingFile(root + name); };
+    const bool holds = (has("/analysis.tdf"_L1) && has("/analysis.tdf_bin"_L1)) || has("/Analysis.baf"_L1) ||
+                       (has("/analysis.tsf"_L1) && has("/analysis.tsf_bin"_L1));
     return decides(holds, "Bruker: a data file"_L1);
-}
-
-bool holdsBrukerSpectra(const QString &root)
-{
-    return searchSpectra(root).found;
 }
 
 } // namespace ozm::msreader::internal

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "internal/FolderReader.h"
+
 #include <QList>
 #include <QString>
-#include <QStringList>
 
 #include <functional>
 
@@ -14,17 +15,24 @@ struct FolderListing
     struct Entry
     {
         QString name;
-        bool isFolder; ///< False for a link and the like, which has to be asked.
+        EntryKind kind;
+    };
+
+    enum class Answer
+    {
+        No,
+        Yes,
+        Ask ///< Only the disk can tell.
     };
 
     bool isFolder = false;   ///< Whether there is a folder of this name, readable or not.
     bool isComplete = false; ///< Whether every entry was seen.
     QList<Entry> folders;    ///< Those that are, or may lead to, folders.
-    QStringList others;      ///< The other entries, unless there are very many.
+    QList<Entry> others;     ///< The other entries, unless there are very many.
     bool keptAllOthers = true;
 
-    /// False only when a file system of whatever kind cannot find an entry of this name here.
-    [[nodiscard]] bool mayHold(QStringView name) const;
+    /// Whether there is a file of this name. No only when a file system of whatever kind could not find one.
+    [[nodiscard]] Answer holdsFile(const QString &name) const;
 };
 
 /// Sees an entry that is, or may lead to, a folder as soon as it is read; true ends the reading.

@@ -65,11 +65,13 @@ public:
         switch (m_entry->d_type) {
         case DT_DIR:
             return EntryKind::Folder;
+        case DT_REG:
+            return EntryKind::File;
         case DT_LNK:
         case DT_UNKNOWN:
             return EntryKind::Unsettled;
         default:
-            return EntryKind::NoFolder;
+            return EntryKind::Other;
         }
     }
 
@@ -130,7 +132,9 @@ public:
         const QFileInfo entry = m_entries.fileInfo();
         if (entry.isSymLink() || entry.isJunction())
             return EntryKind::Unsettled;
-        return entry.isDir() ? EntryKind::Folder : EntryKind::NoFolder;
+        if (entry.isDir())
+            return EntryKind::Folder;
+        return entry.isFile() ? EntryKind::File : EntryKind::Other;
     }
 
     bool isFolder() const { return QFileInfo(m_folder.path()).isDir(); }

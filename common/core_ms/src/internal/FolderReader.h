@@ -10,7 +10,8 @@ namespace ozm::msreader::internal {
 enum class EntryKind
 {
     Folder,
-    NoFolder,
+    File,
+    Other,    ///< A device, a pipe or a socket.
     Unsettled ///< A link, or a file system whose listings do not tell.
 };
 
