@@ -23,8 +23,8 @@ mzml() {
 <?xml version="1.0" encoding="UTF-8"?>
 <mzML xmlns="http://psi.hupo.org/ms/mzml" version="1.1.0" id="blank">
   <cvList count="2">
-    <cv id="MS" fullName="Mass spectrometry ontology" version="4.1.30" URI="https://raw.githubusercontent.com/HUPO-PSI/psi-ms-CV/master/psi-ms.obo"/>
-    <cv id="UO" fullName="Unit Ontology" version="09:04:2014" URI="https://raw.githubusercontent.com/bio-ontology-research-group/unit-ontology/master/unit.obo"/>
+    <cv id="MS" fullName="Mass spectrometry ontology" version="4.1.30" URI="psi-ms.obo"/>
+    <cv id="UO" fullName="Unit Ontology" version="09:04:2014" URI="unit.obo"/>
   </cvList>
   <fileDescription>
     <fileContent>
