@@ -172,7 +172,7 @@ void TestBatchRun::needsNoRunToExplainItself_data()
     QTest::addColumn<QString>("argument");
     QTest::addColumn<QString>("text");
     QTest::newRow("version") << u"--version"_s << u"workbench "_s;
-    QTest::newRow("help") << u"--help"_s << u"--batch <csv>"_s;
+    QTest::newRow("help") << u"--help"_s << u"--batch <input>"_s;
 }
 void TestBatchRun::needsNoRunToExplainItself()
 {
