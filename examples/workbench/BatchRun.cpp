@@ -157,7 +157,7 @@ private:
         if (m_isFolder)
             return {};
         QString name = tr("Batch control");
-        for (int number = 2; m_editor.table().checkName(name, 0).hasError(); ++number)
+        for (int number = 2; m_editor.table().hasName(name); ++number)
             name = tr("Batch control %1").arg(number);
         return m_editor.addSample({{kName, name},
                                    {kSequence, u"PEPTIDEK"_s},

@@ -3,6 +3,7 @@
 #include "DataProgress.h"
 #include "SampleEditor.h"
 
+#include <QDir>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QUrl>
@@ -100,7 +101,9 @@ void DataImport::add(const DataFindings &findings)
         return;
     }
     if (findings.error.hasError()) {
-        Q_EMIT reported(tr("Nothing was added."), {findings.error.errorMessage()});
+        Q_EMIT reported(
+            tr("Nothing was added."),
+            {tr("\"%1\": %2").arg(QDir::toNativeSeparators(findings.source), findings.error.errorMessage())});
         return;
     }
     const int before = m_editor.table().rowCount();

@@ -46,7 +46,7 @@ public:
         QString name = wanted;
         // Going on from the last number keeps a thousand files of one name quick.
         int &number = m_numbers[wanted];
-        while (m_taken.contains(name) || m_table.checkName(name, 0).hasError()) {
+        while (m_taken.contains(name) || m_table.hasName(name)) {
             number = qMax(number, 1) + 1;
             name = u"%1 (%2)"_s.arg(wanted).arg(number);
         }

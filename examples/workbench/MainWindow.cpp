@@ -40,7 +40,7 @@ namespace workbench {
 namespace {
 
 // Wide enough for what the columns hold in practice; the comment takes what is left.
-constexpr std::array kTableWidths{150, 250, 70, 110, 150, 110, 180, 70, 80, 230};
+constexpr std::array kTableWidths{150, 250, 70, 110, 100, 135, 180, 60, 75, 210};
 constexpr std::array kTrailWidths{180, 75, 510};
 constexpr int kHistoryWidth = 230;
 constexpr int kTrailHeight = 270;

@@ -49,6 +49,7 @@ public:
     /// -1 when there is none.
     [[nodiscard]] int indexOf(qint64 id) const;
 
+    [[nodiscard]] bool hasName(const QString &name) const { return m_names.contains(name); }
     /// Refuses @p name for the sample @p id when another one has it.
     [[nodiscard]] ozm::Error checkName(const QString &name, qint64 id) const;
 
