@@ -110,10 +110,12 @@ void DataImport::add(const DataFindings &findings)
     // The editor itself reports what keeps it from adding them.
     if (m_editor.addData(findings.samples, findings.source).hasError())
         return;
-    const int added = m_editor.table().rowCount() - before;
-    const auto known = findings.samples.size() - added;
+    const int count = m_editor.table().rowCount() - before;
+    if (count > 0)
+        Q_EMIT added();
+    const auto known = findings.samples.size() - count;
     QString summary =
-        added == 1 ? tr("1 sample with data was added") : tr("%1 samples with data were added").arg(added);
+        count == 1 ? tr("1 sample with data was added") : tr("%1 samples with data were added").arg(count);
     if (known > 0)
         summary += tr(", %1 are in the table already").arg(known);
     Q_EMIT reported(summary + tr("."), refusals);

@@ -45,6 +45,8 @@ public:
 
 Q_SIGNALS:
     void runningChanged(bool running);
+    /// There are new samples at the end of the table.
+    void added();
     /// A line on what became of a search, and what was left out of it.
     void reported(const QString &summary, const QStringList &refusals);
 

@@ -2,13 +2,11 @@
 
 #include "AddSampleDialog.h"
 #include "AuditTrailModel.h"
-#include "DataColumns.h"
 #include "DataImport.h"
 #include "HistoryView.h"
 #include "SampleEditor.h"
 #include "SampleTableModel.h"
-
-#include <ozm_common_core_mini/ColumnNames.h>
+#include "SampleTableView.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -16,7 +14,6 @@
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
@@ -24,7 +21,6 @@
 #include <QStatusBar>
 #include <QStyle>
 #include <QStyledItemDelegate>
-#include <QTableView>
 #include <QToolBar>
 #include <QTreeView>
 
@@ -39,8 +35,6 @@ namespace workbench {
 
 namespace {
 
-// Wide enough for what the columns hold in practice; the comment takes what is left.
-constexpr std::array kTableWidths{150, 250, 70, 110, 100, 135, 180, 60, 75, 210};
 constexpr std::array kTrailWidths{180, 75, 510};
 constexpr int kHistoryWidth = 230;
 constexpr int kTrailHeight = 270;
@@ -57,25 +51,6 @@ public:
         return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 4);
     }
 };
-
-/// Leaves the ends of a path to be read: the disk and the name say more than what is between.
-class PathDelegate : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-protected:
-    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
-    {
-        QStyledItemDelegate::initStyleOption(option, index);
-        option->textElideMode = Qt::ElideMiddle;
-    }
-};
-
-int sectionOf(const QString &column)
-{
-    return static_cast<int>(SampleTable::columns().indexOf(column));
-}
 
 QString csvFilter()
 {
@@ -178,21 +153,7 @@ QAction *MainWindow::createFindAction()
 
 void MainWindow::createTable()
 {
-    m_table = new QTableView(this);
-    m_table->setObjectName(u"sampleTable"_s);
-    m_table->setAccessibleName(tr("Samples"));
-    m_table->setModel(m_samples);
-    m_table->setAlternatingRowColors(true);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setWordWrap(false);
-    m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
-    m_table->horizontalHeader()->setStretchLastSection(true);
-    m_table->horizontalHeader()->setHighlightSections(false);
-    for (int column = 0; column < static_cast<int>(kTableWidths.size()); ++column)
-        m_table->setColumnWidth(column, kTableWidths.at(static_cast<std::size_t>(column)));
-    m_table->setItemDelegateForColumn(sectionOf(kPath), new PathDelegate(m_table));
-    m_table->horizontalHeader()->moveSection(sectionOf(kComment), sectionOf(kPath));
-
+    m_table = new SampleTableView(m_samples, m_editor.table(), this);
     m_pages = new QStackedWidget(this);
     m_pages->setObjectName(u"pages"_s);
     m_pages->addWidget(emptyPage(m_pages));
@@ -250,6 +211,7 @@ void MainWindow::follow()
 {
     connect(&m_editor, &SampleEditor::trouble, this, &MainWindow::showTrouble);
     connect(m_import, &DataImport::reported, this, &MainWindow::showImport);
+    connect(m_import, &DataImport::added, m_table, &QTableView::scrollToBottom);
     connect(&m_editor.history(), &QUndoStack::indexChanged, this, &MainWindow::refresh);
     connect(&m_editor.history(), &QUndoStack::cleanChanged, this, &MainWindow::refresh);
     connect(&m_editor.table(), &SampleTable::wasReset, this, &MainWindow::refresh);
@@ -368,18 +330,7 @@ void MainWindow::refresh()
     m_pages->setCurrentIndex(samples > 0 ? 1 : 0);
     m_count->setText(samples == 1 ? tr("1 sample") : tr("%1 samples").arg(samples));
     setWindowModified(!history.isClean());
-    showColumns();
-}
-
-void MainWindow::showColumns()
-{
-    // Columns that would be empty throughout only take room.
-    const int withData = m_editor.table().dataCount();
-    const bool onlyData = withData > 0 && withData == m_editor.table().rowCount();
-    for (const QString &column : SampleTable::dataColumns())
-        m_table->setColumnHidden(sectionOf(column), withData == 0);
-    for (const QString &column : {kSequence, kCharge, kMass})
-        m_table->setColumnHidden(sectionOf(column), onlyData);
+    m_table->updateColumns();
 }
 
 void MainWindow::setFile(const QString &path)

@@ -7,7 +7,6 @@
 class QAction;
 class QLabel;
 class QStackedWidget;
-class QTableView;
 class QTreeView;
 
 namespace workbench {
@@ -16,6 +15,7 @@ class AuditTrailModel;
 class DataImport;
 class SampleEditor;
 class SampleTableModel;
+class SampleTableView;
 
 /**
  * The workbench's window: the samples, what was done to them (the history), and what is recorded of it (the
@@ -61,7 +61,6 @@ private:
     void showTrouble(const ozm::Error &error);
     void showImport(const QString &summary, const QStringList &refusals);
     void showMessage(const QString &title, const QString &text);
-    void showColumns();
     void refresh();
     void setFile(const QString &path);
     [[nodiscard]] bool mayDiscard();
@@ -72,7 +71,7 @@ private:
     AuditTrailModel *m_trail = nullptr;
     DataImport *m_import = nullptr;
     QStackedWidget *m_pages = nullptr;
-    QTableView *m_table = nullptr;
+    SampleTableView *m_table = nullptr;
     QTreeView *m_trailView = nullptr;
     QLabel *m_count = nullptr;
     QAction *m_undo = nullptr;
