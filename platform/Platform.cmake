@@ -3,7 +3,8 @@
 
 set(OZM_PLATFORM_LIBRARIES
     ozm_common_stable
-    ozm_common_core_mini)
+    ozm_common_core_mini
+    ozm_common_ms)
 
 if(OZM_PLATFORM STREQUAL "bundled")
     foreach(library IN LISTS OZM_PLATFORM_LIBRARIES)

@@ -29,7 +29,7 @@ AddSampleDialog::AddSampleDialog(SampleEditor &editor, QWidget *parent)
     setObjectName(u"addSampleDialog"_s);
     setWindowTitle(tr("Add sample"));
     auto *form = new QFormLayout(this);
-    for (const QString &column : SampleTable::columns()) {
+    for (const QString &column : SampleTable::annotationColumns()) {
         auto *field = new QLineEdit(this);
         field->setObjectName(u"add"_s + column);
         field->setMinimumWidth(kFieldWidth);

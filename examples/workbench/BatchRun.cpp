@@ -1,13 +1,16 @@
 #include "BatchRun.h"
 
 #include "AuditDatabase.h"
+#include "DataSamples.h"
 #include "MainWindow.h"
 #include "SampleEditor.h"
 
 #include <ozm_common_core_mini/ColumnNames.h>
+#include <ozm_common_ms/MsDataFileUtils.h>
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QPixmap>
 #include <QTemporaryFile>
 
@@ -16,6 +19,7 @@
 using namespace Qt::StringLiterals;
 using ozm::Error;
 using ozm::ErrorCode;
+using ozm::msreader::MsDataFileInfo;
 
 namespace workbench {
 
@@ -45,6 +49,31 @@ void tellRecord(const AuditEntry &entry)
     tell(line);
 }
 
+void tellData(const MsDataFileInfo &info, const QDir &folder)
+{
+    const QString size = info.size < 0 ? tr("size unknown") : tr("%1 bytes").arg(info.size);
+    tell(tr("found %1: %2 (%3), %4, %5")
+             .arg(folder.relativeFilePath(info.path), info.formatName, info.description, kindText(info.kind),
+                  size));
+}
+
+/// All data in @p folder, in the order in which it is listed.
+ozm::Result<QList<MsDataFileInfo>> findData(const QString &folder)
+{
+    QList<MsDataFileInfo> samples;
+    ozm::msreader::MsDataSearchOptions options;
+    options.measureFolders = true;
+    ozm::msreader::MsDataSearchCallbacks callbacks;
+    callbacks.found = [&samples](const MsDataFileInfo &sample) { samples.append(sample); };
+    callbacks.passedOver = [](const QString &path, const QString &reason) {
+        tell(tr("passed over %1: %2").arg(QDir::toNativeSeparators(path), reason));
+    };
+    Error error = ozm::msreader::MsDataFileUtils::search(folder, options, callbacks);
+    if (error.hasError())
+        return error;
+    return sortedBelow(folder, samples);
+}
+
 Error prepareDirectory(const QString &path)
 {
     const QDir directory(path);
@@ -65,6 +94,7 @@ public:
         : m_editor(editor)
         , m_options(options)
         , m_out(options.outDirectory)
+        , m_isFolder(QFileInfo(options.input).isDir())
         , m_window(editor, options.database)
     {
         m_window.setMessagesShown(false);
@@ -90,15 +120,30 @@ private:
 
     Error load()
     {
-        Error error = m_editor.load(m_options.input);
+        Error error = m_isFolder ? loadFolder() : m_editor.load(m_options.input);
         if (error.hasError() || m_editor.table().rowCount() > 0)
             return error;
         return Error(ErrorCode::BadParameter,
                      tr("\"%1\" holds no samples.").arg(QDir::toNativeSeparators(m_options.input)));
     }
 
+    Error loadFolder()
+    {
+        const QString folder = QDir::cleanPath(QFileInfo(m_options.input).absoluteFilePath());
+        const auto found = findData(folder);
+        if (!found)
+            return found.error();
+        for (const MsDataFileInfo &info : found.value())
+            tellData(info, QDir(folder));
+        Error error = writeFormats(found.value(), folder, m_out.filePath(u"formats.csv"_s));
+        return error.hasError() ? error : m_editor.addData(found.value(), folder);
+    }
+
     Error edit()
     {
+        // Data has no charge.
+        if (m_isFolder)
+            return m_editor.setCell(idAt(0), kComment, tr("Checked by the batch run"));
         // The two charges become one step of the history, and stay two records of the trail.
         for (const auto &charge : {u"3"_s, u"4"_s}) {
             if (Error error = m_editor.setCell(idAt(0), kCharge, charge); error.hasError())
@@ -109,8 +154,10 @@ private:
 
     Error add()
     {
+        if (m_isFolder)
+            return {};
         QString name = tr("Batch control");
-        for (int number = 2; m_editor.table().checkName(name, 0).hasError(); ++number)
+        for (int number = 2; m_editor.table().hasName(name); ++number)
             name = tr("Batch control %1").arg(number);
         return m_editor.addSample({{kName, name},
                                    {kSequence, u"PEPTIDEK"_s},
@@ -174,6 +221,7 @@ private:
     SampleEditor &m_editor;
     const BatchOptions &m_options;
     const QDir m_out;
+    const bool m_isFolder;
     MainWindow m_window;
 };
 
@@ -183,6 +231,8 @@ void tellResults(const BatchOptions &options)
     tell(QFileInfo(options.database).absoluteFilePath());
     for (const auto &name : {u"audit.json"_s, u"samples.csv"_s, u"window.png"_s})
         tell(QFileInfo(out.filePath(name)).absoluteFilePath());
+    if (QFileInfo(options.input).isDir())
+        tell(QFileInfo(out.filePath(u"formats.csv"_s)).absoluteFilePath());
 }
 
 } // namespace

@@ -8,7 +8,7 @@ namespace workbench {
 
 struct BatchOptions
 {
-    QString input;        ///< The CSV file to work on.
+    QString input;        ///< The CSV file to work on, or a folder to search for data.
     QString outDirectory; ///< Made when it is not there.
     QString database;     ///< The audit trail; empty means "audit.sqlite" in the directory.
     QString user;
@@ -17,7 +17,8 @@ struct BatchOptions
 
 /**
  * Takes the samples of a file through every kind of edit without anybody at the screen, and leaves the audit
- * trail, its export, the samples and a picture of the window in a directory.
+ * trail, its export, the samples and a picture of the window in a directory. The samples of a folder are the
+ * mass-spectrometry data in it; "formats.csv" then lists them with their formats.
  *
  * Each step that is on the disk is told on standard output, a line a record with its number. An earlier
  * audit trail is continued; the other files are replaced. Needs a QApplication.

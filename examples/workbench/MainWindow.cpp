@@ -2,9 +2,11 @@
 
 #include "AddSampleDialog.h"
 #include "AuditTrailModel.h"
+#include "DataImport.h"
 #include "HistoryView.h"
 #include "SampleEditor.h"
 #include "SampleTableModel.h"
+#include "SampleTableView.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -12,7 +14,6 @@
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
@@ -20,7 +21,6 @@
 #include <QStatusBar>
 #include <QStyle>
 #include <QStyledItemDelegate>
-#include <QTableView>
 #include <QToolBar>
 #include <QTreeView>
 
@@ -35,8 +35,6 @@ namespace workbench {
 
 namespace {
 
-// Wide enough for what the columns hold in practice; the comment takes what is left.
-constexpr std::array kTableWidths{150, 250, 70, 110};
 constexpr std::array kTrailWidths{180, 75, 510};
 constexpr int kHistoryWidth = 230;
 constexpr int kTrailHeight = 270;
@@ -61,7 +59,9 @@ QString csvFilter()
 
 QLabel *emptyPage(QWidget *parent)
 {
-    auto *page = new QLabel(MainWindow::tr("No samples yet.\n\nOpen a CSV file, or add a sample."), parent);
+    auto *page = new QLabel(
+        MainWindow::tr("No samples yet.\n\nOpen a CSV file, find MS data, drop data here, or add a sample."),
+        parent);
     page->setObjectName(u"emptyPage"_s);
     page->setAlignment(Qt::AlignCenter);
     return page;
@@ -74,6 +74,8 @@ MainWindow::MainWindow(SampleEditor &editor, const QString &trailPath, QWidget *
     , m_editor(editor)
     , m_samples(new SampleTableModel(editor, this))
     , m_trail(new AuditTrailModel(editor.trail(), this))
+    , m_import(new DataImport(
+          editor, [this] { return QFileDialog::getExistingDirectory(this, tr("Find MS data")); }, this))
 {
     setObjectName(u"mainWindow"_s);
     resize(1200, 760);
@@ -123,7 +125,7 @@ void MainWindow::createActions()
 
     bar->addActions({open, m_save});
     bar->addSeparator();
-    bar->addActions({add, m_delete, m_rename});
+    bar->addActions({createFindAction(), add, m_delete, m_rename});
     bar->addSeparator();
     bar->addActions({m_undo, m_redo});
     bar->addSeparator();
@@ -139,26 +141,25 @@ void MainWindow::createActions()
     connect(exporting, &QAction::triggered, this, &MainWindow::askExport);
 }
 
+QAction *MainWindow::createFindAction()
+{
+    QAction *find = makeAction("findDataAction", tr("Find MS data…"), QStyle::SP_FileDialogContentsView,
+                               tr("Find the mass-spectrometry data in a folder, and add it as samples"),
+                               QKeySequence::Find);
+    connect(find, &QAction::triggered, m_import, &DataImport::ask);
+    connect(m_import, &DataImport::runningChanged, find, &QAction::setDisabled);
+    return find;
+}
+
 void MainWindow::createTable()
 {
-    m_table = new QTableView(this);
-    m_table->setObjectName(u"sampleTable"_s);
-    m_table->setAccessibleName(tr("Samples"));
-    m_table->setModel(m_samples);
-    m_table->setAlternatingRowColors(true);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setWordWrap(false);
-    m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
-    m_table->horizontalHeader()->setStretchLastSection(true);
-    m_table->horizontalHeader()->setHighlightSections(false);
-    for (int column = 0; column < static_cast<int>(kTableWidths.size()); ++column)
-        m_table->setColumnWidth(column, kTableWidths.at(static_cast<std::size_t>(column)));
-
+    m_table = new SampleTableView(m_samples, m_editor.table(), this);
     m_pages = new QStackedWidget(this);
     m_pages->setObjectName(u"pages"_s);
     m_pages->addWidget(emptyPage(m_pages));
     m_pages->addWidget(m_table);
     setCentralWidget(m_pages);
+    m_import->acceptDropsOn(m_pages);
 }
 
 void MainWindow::createHistory()
@@ -200,6 +201,8 @@ void MainWindow::createStatusBar(const QString &trailPath)
     trail->setObjectName(u"trailFile"_s);
     trail->setToolTip(QDir::toNativeSeparators(trailPath));
     statusBar()->setObjectName(u"statusBar"_s);
+    statusBar()->addPermanentWidget(m_import->progress());
+    m_import->progress()->hide();
     statusBar()->addPermanentWidget(m_count);
     statusBar()->addPermanentWidget(trail);
 }
@@ -207,6 +210,8 @@ void MainWindow::createStatusBar(const QString &trailPath)
 void MainWindow::follow()
 {
     connect(&m_editor, &SampleEditor::trouble, this, &MainWindow::showTrouble);
+    connect(m_import, &DataImport::reported, this, &MainWindow::showImport);
+    connect(m_import, &DataImport::added, m_table, &QTableView::scrollToBottom);
     connect(&m_editor.history(), &QUndoStack::indexChanged, this, &MainWindow::refresh);
     connect(&m_editor.history(), &QUndoStack::cleanChanged, this, &MainWindow::refresh);
     connect(&m_editor.table(), &SampleTable::wasReset, this, &MainWindow::refresh);
@@ -285,13 +290,25 @@ void MainWindow::showTrouble(const Error &error)
     // A dialog with its own place for the reason is in front of a message.
     if (!m_showMessages || findChild<AddSampleDialog *>())
         return;
+    showMessage(error.hasError() ? tr("Not done") : tr("Please note"), text);
+}
+
+void MainWindow::showImport(const QString &summary, const QStringList &refusals)
+{
+    statusBar()->showMessage(refusals.isEmpty() ? summary : summary + u' ' + refusals.constFirst(),
+                             kStatusMs);
+    // One reason fits into the status bar.
+    if (m_showMessages && refusals.size() > 1)
+        showMessage(tr("Please note"), summary + u'\n' + refusals.join(u'\n'));
+}
+
+void MainWindow::showMessage(const QString &title, const QString &text)
+{
     if (auto *shown = findChild<QMessageBox *>(u"troubleMessage"_s)) {
         shown->setText(text);
         return;
     }
-    auto *message =
-        new QMessageBox(QMessageBox::Warning, error.hasError() ? tr("Not done") : tr("Please note"), text,
-                        QMessageBox::Ok, this);
+    auto *message = new QMessageBox(QMessageBox::Warning, title, text, QMessageBox::Ok, this);
     message->setObjectName(u"troubleMessage"_s);
     message->setAttribute(Qt::WA_DeleteOnClose);
     message->open();
@@ -313,6 +330,7 @@ void MainWindow::refresh()
     m_pages->setCurrentIndex(samples > 0 ? 1 : 0);
     m_count->setText(samples == 1 ? tr("1 sample") : tr("%1 samples").arg(samples));
     setWindowModified(!history.isClean());
+    m_table->updateColumns();
 }
 
 void MainWindow::setFile(const QString &path)

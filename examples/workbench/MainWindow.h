@@ -7,14 +7,15 @@
 class QAction;
 class QLabel;
 class QStackedWidget;
-class QTableView;
 class QTreeView;
 
 namespace workbench {
 
 class AuditTrailModel;
+class DataImport;
 class SampleEditor;
 class SampleTableModel;
+class SampleTableView;
 
 /**
  * The workbench's window: the samples, what was done to them (the history), and what is recorded of it (the
@@ -33,6 +34,8 @@ public:
     ~MainWindow() override;
 
     void open(const QString &path);
+    /// Finds mass-spectrometry data for the table.
+    [[nodiscard]] DataImport &dataImport() const { return *m_import; }
     /// Whether troubles come up as messages; without, they are in the status bar only.
     void setMessagesShown(bool shown) { m_showMessages = shown; }
 
@@ -44,6 +47,7 @@ private:
                         const QKeySequence &shortcut);
     void createActions();
     void createTable();
+    QAction *createFindAction();
     void createHistory();
     void createTrail();
     void createStatusBar(const QString &trailPath);
@@ -55,6 +59,8 @@ private:
     void askRename();
     void deleteSelected();
     void showTrouble(const ozm::Error &error);
+    void showImport(const QString &summary, const QStringList &refusals);
+    void showMessage(const QString &title, const QString &text);
     void refresh();
     void setFile(const QString &path);
     [[nodiscard]] bool mayDiscard();
@@ -63,8 +69,9 @@ private:
     SampleEditor &m_editor;
     SampleTableModel *m_samples = nullptr;
     AuditTrailModel *m_trail = nullptr;
+    DataImport *m_import = nullptr;
     QStackedWidget *m_pages = nullptr;
-    QTableView *m_table = nullptr;
+    SampleTableView *m_table = nullptr;
     QTreeView *m_trailView = nullptr;
     QLabel *m_count = nullptr;
     QAction *m_undo = nullptr;

@@ -33,10 +33,11 @@ OperationLogItemSubject subjectOf(const RowNode &row)
 /// The record of a row that comes or goes as a whole.
 OperationLogItemData wholeRowData(OperationLogItemType type, const RowNode &row)
 {
+    const QStringList &columns = SampleTable::columnsOf(row);
     QVariantList values;
-    for (const QString &column : SampleTable::columns())
+    for (const QString &column : columns)
         values.append(row.getDataAt(column));
-    return {type, subjectOf(row), SampleTable::columns(), values};
+    return {type, subjectOf(row), columns, values};
 }
 
 Error checkExists(const SampleTable &table, qint64 id)
@@ -102,7 +103,16 @@ Error SetCellCommand::check(const SampleTable &table) const
         return m_value.error();
     if (Error error = checkExists(table, m_id); error.hasError())
         return error;
-    return m_column == kName ? table.checkName(m_value.value().toString(), m_id) : Error();
+    if (SampleTable::dataColumns().contains(m_column)) {
+        return Error(ErrorCode::BadParameter,
+                     tr("\"%1\" is what was found on the disk, and cannot be typed.").arg(m_column))
+            .ecatch(OZM_HERE);
+    }
+    if (m_column == kName)
+        return table.checkName(m_value.value().toString(), m_id);
+    RowNode row = *table.rowOf(m_id);
+    row.setDataAt(m_column, m_value.value());
+    return rules::checkRow(row);
 }
 
 void SetCellCommand::apply(SampleTable &table)
@@ -126,6 +136,8 @@ AddSampleCommand::AddSampleCommand(SampleTable &table, const QMap<QString, QStri
         if (value.hasError() && !m_refusal.hasError())
             m_refusal = value.error();
     }
+    if (!m_refusal.hasError())
+        m_refusal = rules::checkRow(m_row);
     setText(tr("Add %1").arg(m_row.getDataAt(kName).toString()));
     setLogData(wholeRowData(OperationLogItemType::Add, m_row));
 }

@@ -1,11 +1,14 @@
 #include "SampleEditor.h"
 
 #include "AuditTrailJson.h"
+#include "DataColumns.h"
+#include "DataSamples.h"
 #include "SampleCommands.h"
 #include "SampleFile.h"
 
 #include <ozm_common_core_mini/ColumnNames.h>
 
+#include <QDir>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -91,6 +94,20 @@ Error SampleEditor::setCell(qint64 id, const QString &column, const QString &tex
 Error SampleEditor::addSample(const QMap<QString, QString> &texts)
 {
     return push(std::make_unique<AddSampleCommand>(target(), texts));
+}
+
+Error SampleEditor::addData(const QList<ozm::msreader::MsDataFileInfo> &found, const QString &source)
+{
+    const auto samples = samplesOf(found, m_table);
+    Commands commands;
+    for (const auto &texts : samples)
+        commands.push_back(std::make_unique<AddSampleCommand>(target(), texts));
+    const OperationLogItemSubject folder(OperationLogItemSubject::Type::File,
+                                         {{kName, QDir(source).dirName()}}, {{kPath, source}});
+    return runMacro({OperationLogItemType::Add, folder, {u"Samples"_s}, samples.size()},
+                    samples.size() == 1 ? tr("Add data of 1 sample")
+                                        : tr("Add data of %1 samples").arg(samples.size()),
+                    std::move(commands));
 }
 
 Error SampleEditor::deleteSamples(const QList<qint64> &ids)

@@ -83,6 +83,8 @@ ozm::Result<RowNode> readSample(const CsvRow &line, const QStringList &columns)
             return atLine(line.line, value.error().errorMessage());
         row.setDataAt(columns.at(i), value.value());
     }
+    if (const Error error = rules::checkRow(row); error.hasError())
+        return atLine(line.line, error.errorMessage());
     return row;
 }
 
@@ -139,10 +141,12 @@ ozm::Result<Samples> read(const QString &path)
 
 Error write(const SampleTable &table, const QString &path)
 {
-    QList<QList<QString>> lines{SampleTable::columns()};
+    const QStringList &columns =
+        table.dataCount() > 0 ? SampleTable::columns() : SampleTable::annotationColumns();
+    QList<QList<QString>> lines{columns};
     for (int index = 0; index < table.rowCount(); ++index) {
         QStringList line;
-        for (const QString &column : SampleTable::columns())
+        for (const QString &column : columns)
             line.append(rules::toText(table.row(index)->getDataAt(column)));
         lines.append(line);
     }

@@ -8,7 +8,7 @@
 
 /**
  * Samples in CSV files: a line of column names (in any order and case; Name and Mass must be there), then
- * a line a sample.
+ * a line a sample. The columns of data are there only when a sample has data.
  */
 namespace workbench::samplefile {
 

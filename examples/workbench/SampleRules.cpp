@@ -1,5 +1,8 @@
 #include "SampleRules.h"
 
+#include "DataColumns.h"
+#include "SampleTable.h"
+
 #include <ozm_common_core_mini/ColumnNames.h>
 
 #include <QCoreApplication>
@@ -72,22 +75,60 @@ Parsed parseCharge(const QString &text)
     return QVariant(charge);
 }
 
+Error massRefusal(const QString &text)
+{
+    return refusal(QT_TRANSLATE_NOOP("SampleRules", "The mass must be a positive number, not \"%1\"."), text);
+}
+
 Parsed parseMass(const QString &text)
 {
+    if (text.isEmpty())
+        return QVariant();
     bool ok = false;
     const double mass = text.toDouble(&ok);
-    if (!ok || !std::isfinite(mass) || mass <= 0.0) {
-        return refusal(QT_TRANSLATE_NOOP("SampleRules", "The mass must be a positive number, not \"%1\"."),
-                       text);
-    }
+    if (!ok || !std::isfinite(mass) || mass <= 0.0)
+        return massRefusal(text);
     return QVariant(mass);
+}
+
+Parsed parseKind(const QString &text)
+{
+    if (text.isEmpty())
+        return QVariant();
+    for (const QString &kind : {kFileKind, kFolderKind}) {
+        if (kind.compare(text, Qt::CaseInsensitive) == 0)
+            return QVariant(kind);
+    }
+    return refusal(
+        QT_TRANSLATE_NOOP("SampleRules", "The kind must be \"file\", \"folder\" or empty, not \"%1\"."),
+        text);
+}
+
+Parsed parseSize(const QString &text)
+{
+    if (text.isEmpty())
+        return QVariant();
+    bool ok = false;
+    const qint64 size = text.toLongLong(&ok);
+    if (!ok || !std::ranges::all_of(text, isAsciiDigit)) {
+        return refusal(
+            QT_TRANSLATE_NOOP("SampleRules", "The size must be a number of bytes, or empty, not \"%1\"."),
+            text);
+    }
+    return QVariant(size);
+}
+
+bool isFilled(const RowNode &row, const QString &column)
+{
+    return !row.getDataAt(column).toString().isEmpty();
 }
 
 } // namespace
 
 Parsed parse(const QString &column, const QString &text)
 {
-    if (column == kComment)
+    // A path may begin or end with a blank.
+    if (column == kComment || column == kPath)
         return QVariant(text);
     const QString trimmed = text.trimmed();
     if (column == kName)
@@ -98,7 +139,30 @@ Parsed parse(const QString &column, const QString &text)
         return parseCharge(trimmed);
     if (column == kMass)
         return parseMass(trimmed);
+    if (column == kFormat || column == kDescription)
+        return QVariant(trimmed);
+    if (column == kKind)
+        return parseKind(trimmed);
+    if (column == kSize)
+        return parseSize(trimmed);
     return refusal(QT_TRANSLATE_NOOP("SampleRules", "There is no column \"%1\"."), column);
+}
+
+Error checkRow(const RowNode &row)
+{
+    const bool hasData = SampleTable::hasData(row);
+    if (!hasData && !row.getDataAt(kMass).isValid())
+        return massRefusal({});
+    for (const QString &column : SampleTable::dataColumns()) {
+        const bool isNeeded = column == kKind || column == kPath;
+        if (hasData && isNeeded && !isFilled(row, column))
+            return refusal(QT_TRANSLATE_NOOP("SampleRules", "A sample with data needs its \"%1\"."), column);
+        if (!hasData && isFilled(row, column)) {
+            return refusal(QT_TRANSLATE_NOOP("SampleRules", "\"%1\" is for samples with a data format only."),
+                           column);
+        }
+    }
+    return {};
 }
 
 QString toText(const QVariant &value)

@@ -1,5 +1,7 @@
 #include "SampleTable.h"
 
+#include "DataColumns.h"
+
 #include <ozm_common_core_mini/ColumnNames.h>
 
 using ozm::Error;
@@ -25,8 +27,30 @@ SampleTable::~SampleTable() = default;
 
 const QStringList &SampleTable::columns()
 {
+    static const QStringList columns = annotationColumns() + dataColumns();
+    return columns;
+}
+
+const QStringList &SampleTable::annotationColumns()
+{
     static const QStringList columns{kName, kSequence, kCharge, kMass, kComment};
     return columns;
+}
+
+const QStringList &SampleTable::dataColumns()
+{
+    static const QStringList columns{kFormat, kDescription, kKind, kSize, kPath};
+    return columns;
+}
+
+const QStringList &SampleTable::columnsOf(const RowNode &row)
+{
+    return hasData(row) ? columns() : annotationColumns();
+}
+
+bool SampleTable::hasData(const RowNode &row)
+{
+    return !row.getDataAt(kFormat).toString().isEmpty();
 }
 
 RowNode SampleTable::emptyRow()
@@ -103,6 +127,7 @@ void SampleTable::remove(qint64 id)
     Q_ASSERT(index >= 0);
     Q_EMIT aboutToRemove(index);
     m_names.remove(row(index)->getDataAt(kName).toString());
+    m_dataCount -= hasData(*row(index)) ? 1 : 0;
     m_rows.remove(id);
     m_root->takeChild(index).reset();
     Q_EMIT removed();
@@ -114,6 +139,7 @@ void SampleTable::replaceAll(const std::vector<RowNode> &rows)
     m_root = std::make_unique<RowNode>(allColumns());
     m_rows.clear();
     m_names.clear();
+    m_dataCount = 0;
     for (const RowNode &row : rows) {
         auto added = std::make_unique<RowNode>(row);
         added->setDataAt(kId, takeId());
@@ -127,6 +153,7 @@ void SampleTable::add(int index, std::unique_ptr<RowNode> row)
     RowNode *added = m_root->insertChild(index, std::move(row));
     m_rows.insert(idOf(*added), added);
     m_names.insert(added->getDataAt(kName).toString(), idOf(*added));
+    m_dataCount += hasData(*added) ? 1 : 0;
 }
 
 } // namespace workbench

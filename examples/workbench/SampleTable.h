@@ -28,11 +28,20 @@ public:
 
     /// The columns that people see, in the order of files and views.
     [[nodiscard]] static const QStringList &columns();
+    /// Those that people fill in.
+    [[nodiscard]] static const QStringList &annotationColumns();
+    /// Those that say what data was found for a sample; empty for a sample without.
+    [[nodiscard]] static const QStringList &dataColumns();
+    /// The columns that matter for @p row.
+    [[nodiscard]] static const QStringList &columnsOf(const RowNode &row);
+    [[nodiscard]] static bool hasData(const RowNode &row);
     /// An empty row that fits the table; it has no id yet.
     [[nodiscard]] static RowNode emptyRow();
     [[nodiscard]] static qint64 idOf(const RowNode &row);
 
     [[nodiscard]] int rowCount() const;
+    /// How many samples have data.
+    [[nodiscard]] int dataCount() const { return m_dataCount; }
     /// Null when @p index is out of range.
     [[nodiscard]] const RowNode *row(int index) const;
     /// Null when there is none.
@@ -40,6 +49,7 @@ public:
     /// -1 when there is none.
     [[nodiscard]] int indexOf(qint64 id) const;
 
+    [[nodiscard]] bool hasName(const QString &name) const { return m_names.contains(name); }
     /// Refuses @p name for the sample @p id when another one has it.
     [[nodiscard]] ozm::Error checkName(const QString &name, qint64 id) const;
 
@@ -69,6 +79,7 @@ private:
     std::unique_ptr<RowNode> m_root;
     QHash<qint64, RowNode *> m_rows;
     QHash<QString, qint64> m_names;
+    int m_dataCount = 0;
     qint64 m_nextId = 1;
 };
 

@@ -61,7 +61,7 @@ struct SampleFixture
         QStringList lines;
         for (int row = 0; row < editor->table().rowCount(); ++row) {
             QStringList cells{QString::number(idAt(row))};
-            for (const QString &column : workbench::SampleTable::columns())
+            for (const QString &column : workbench::SampleTable::columnsOf(*editor->table().row(row)))
                 cells.append(cell(row, column));
             lines.append(cells.join(u'|'));
         }

@@ -1,6 +1,9 @@
 #include "AuditTrail.h"
+#include "CsvReader.h"
+#include "DataColumns.h"
 #include "SampleFile.h"
 #include "SampleFixture.h"
+#include "core_ms/SampleTree.h"
 #include "support/StrictTest.h"
 
 #include <QImage>
@@ -67,6 +70,7 @@ class TestBatchRun : public ozm::test::StrictTest
 
 private Q_SLOTS:
     void leavesItsResults();
+    void takesAFolder();
     void continuesTheTrail();
     void failsWithAMessage_data();
     void failsWithAMessage();
@@ -111,6 +115,42 @@ void TestBatchRun::leavesItsResults()
     QCOMPARE(QImage(results.at(3)).size(), QSize(1200, 760));
 }
 
+void TestBatchRun::takesAFolder()
+{
+    const SampleTree tree;
+    tree.make({u"b/Run 1.d/analysis.tdf"_s, u"b/Run 1.d/analysis.tdf_bin"_s, u"a, b.mzML"_s, u"Z.wiff"_s,
+               u"Z.wiff.scan"_s, u"conf.d/settings.ini"_s, u"Lost.wiff"_s, u"Empty.raw/"_s,
+               u"c/Run 1.raw"_s});
+    const QTemporaryDir folder;
+    const QDir out(folder.path());
+    const Outcome outcome = run({u"--batch"_s, tree.path(), u"--out"_s, folder.path()});
+    QVERIFY2(outcome.exitCode == 0, qUtf8Printable(outcome.complaint));
+    QCOMPARE(outcome.lines.constLast(), out.filePath(u"formats.csv"_s));
+
+    const auto formats = readCsv(readFile(out.filePath(u"formats.csv"_s)));
+    QVERIFY(formats);
+    QStringList lines;
+    for (const CsvRow &row : formats.value())
+        lines.append(row.cells.join(u'|'));
+    const QStringList expected{
+        u"Path|Format|Description|Kind|Size"_s, u"Z.wiff|SciexWiff|Sciex wiff|file|0"_s,
+        u"a, b.mzML|Mzml|Open data format mzml|file|0"_s, u"b/Run 1.d|BrukerTims|Bruker Tims|folder|0"_s,
+        u"c/Run 1.raw|Thermo|Thermo|file|0"_s};
+    QCOMPARE(lines, expected);
+    QCOMPARE(outcome.lines.filter(u"found "_s).size(), 4);
+
+    const QString told = outcome.lines.join(u'\n');
+    for (const auto &part : {u"'Samples': 4"_s, u"'Comment' from to"_s, u"to * (checked)"_s, u"refused: "_s,
+                             u"UNDO Set"_s, u"REDO Set"_s})
+        QVERIFY2(told.contains(part), qUtf8Printable(part));
+    const auto samples = samplefile::read(out.filePath(u"samples.csv"_s));
+    QVERIFY(samples);
+    QCOMPARE(samples.value().size(), 4U);
+    QCOMPARE(samples.value().at(0).getDataAt(kName).toString(), u"Z (checked)"_s);
+    QCOMPARE(samples.value().at(3).getDataAt(kName).toString(), u"Run 1 (2)"_s);
+    QCOMPARE(samples.value().at(3).getDataAt(kPath).toString(), tree.path(u"c/Run 1.raw"_s));
+}
+
 void TestBatchRun::continuesTheTrail()
 {
     const QTemporaryDir folder;
@@ -146,6 +186,8 @@ void TestBatchRun::failsWithAMessage_data()
                                << u"Line 3: The charge must be"_s;
     QTest::newRow("no samples") << QStringList{u"--batch"_s, u"DIR/empty.csv"_s, u"--out"_s, u"DIR"_s} << 1
                                 << u"holds no samples"_s;
+    QTest::newRow("no data") << QStringList{u"--batch"_s, u"DIR"_s, u"--out"_s, u"DIR/out"_s} << 1
+                             << u"holds no samples"_s;
     QTest::newRow("folder under a file")
         << QStringList{u"--batch"_s, samples, u"--out"_s, u"DIR/bad.csv/out"_s} << 1
         << u"cannot be written to"_s;
@@ -172,7 +214,7 @@ void TestBatchRun::needsNoRunToExplainItself_data()
     QTest::addColumn<QString>("argument");
     QTest::addColumn<QString>("text");
     QTest::newRow("version") << u"--version"_s << u"workbench "_s;
-    QTest::newRow("help") << u"--help"_s << u"--batch <csv>"_s;
+    QTest::newRow("help") << u"--help"_s << u"--batch <input>"_s;
 }
 void TestBatchRun::needsNoRunToExplainItself()
 {

@@ -6,6 +6,7 @@
 using namespace Qt::StringLiterals;
 using namespace ozm::test;
 using namespace workbench;
+using ozm::msreader::MsDataFileInfo;
 
 class TestSampleFile : public ozm::test::StrictTest
 {
@@ -18,6 +19,7 @@ private Q_SLOTS:
     void malformedFilesAreRefused();
     void unreadablePathsAreRefused();
     void readsWhatItWrote();
+    void readsDataItWrote();
 };
 
 void TestSampleFile::readsCells_data()
@@ -60,6 +62,16 @@ void TestSampleFile::malformedFilesAreRefused_data()
     QTest::newRow("too many cells") << QByteArray("Name,Mass\nA,1,2\n") << u"Line 2: There are 3 cells"_s;
     QTest::newRow("value against a rule")
         << QByteArray("Name,Mass\n\"A\nB\",1\nC,-1\n") << u"Line 4: The mass must"_s;
+    QTest::newRow("no mass") << QByteArray("Name,Mass\nA,\n")
+                             << u"Line 2: The mass must be a positive number"_s;
+    QTest::newRow("data without a path")
+        << QByteArray("Name,Mass,Format,Kind\nA,,Mzml,file\n") << u"Line 2: A sample with data needs"_s;
+    QTest::newRow("path without data")
+        << QByteArray("Name,Mass,Path\nA,1,/a.mzml\n") << u"Line 2: \"Path\" is for samples with"_s;
+    QTest::newRow("kind") << QByteArray("Name,Mass,Format,Kind,Path\nA,,Mzml,disk,/a\n")
+                          << u"Line 2: The kind must be"_s;
+    QTest::newRow("size") << QByteArray("Name,Mass,Format,Kind,Path,Size\nA,,Mzml,file,/a,-1\n")
+                          << u"Line 2: The size must be"_s;
     QTest::newRow("name twice") << QByteArray("Name,Mass\nA,1\n\nA ,2\n")
                                 << u"Line 4: The name \"A\" is there already, on line 2"_s;
     QTest::newRow("quote not closed") << QByteArray("Name,Mass\nA,1\n\"B\n,2\n") << u"Line 3: the quote"_s;
@@ -111,6 +123,34 @@ void TestSampleFile::readsWhatItWrote()
                      fixture.editor->table().row(static_cast<int>(row))->getDataAt(column));
     }
     QVERIFY(fixture.editor->save(fixture.folder.filePath(u"none/out.csv"_s)).hasError());
+}
+
+void TestSampleFile::readsDataItWrote()
+{
+    const SampleFixture fixture;
+    const QString out = fixture.folder.filePath(u"out.csv"_s);
+    QVERIFY(!fixture.editor->save(out).hasError());
+    QVERIFY2(!readFile(out).contains("Format"), "files without data stay as they always were");
+
+    // Blanks at the ends of a path, a size beyond 32 bits, and one that is not known.
+    QVERIFY(
+        !fixture.editor
+             ->addData(
+                 {{u" /a, \"b\"/x.mzml "_s,
+                   u"Mzml"_s,
+                   u"Open, \"data\""_s,
+                   MsDataFileInfo::Kind::File,
+                   5'000'000'000,
+                   {}},
+                  {u"/質量/y.d"_s, u"BrukerTims"_s, u"Bruker Tims"_s, MsDataFileInfo::Kind::Folder, -1, {}}},
+                 u"/a"_s)
+             .hasError());
+    QVERIFY(!fixture.editor->save(out).hasError());
+    QVERIFY(!fixture.editor->load(out).hasError());
+    QCOMPARE(fixture.editor->table().rowCount(), 5);
+    QCOMPARE(fixture.editor->table().dataCount(), 2);
+    for (const QString &part : {u" /a, \"b\"/x.mzml "_s, u"5000000000"_s, u"folder||/質量/y.d"_s})
+        QVERIFY2(fixture.samples().contains(part), qUtf8Printable(part));
 }
 
 QTEST_GUILESS_MAIN(TestSampleFile)

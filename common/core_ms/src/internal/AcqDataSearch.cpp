@@ -1,0 +1,131 @@
+#include "internal/AcqDataSearch.h"
+
+#include "internal/DetectionScope.h"
+
+#include <QFileInfo>
+#include <QHash>
+
+#include <algorithm>
+#include <deque>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm::msreader::internal {
+
+namespace {
+
+constexpr auto kAcqData = "AcqData"_L1;
+
+struct Candidate
+{
+    QString path;
+    bool isNamedD;
+    bool isSettled; ///< Known to be a folder, and no link to one.
+};
+
+/**
+ * The folders read so far, and whether each holds "AcqData".
+ *
+ * Only a link can lead to a folder for a second time, so folders are told apart, which costs several system
+ * calls each, from the first link on.
+ */
+class ReadFolders
+{
+public:
+    /// Nothing for a folder that was not read yet.
+    std::optional<bool> holdsAcqData(const Candidate &candidate)
+    {
+        if (candidate.isSettled && !m_hasLinks)
+            return std::nullopt;
+        for (const auto &[path, holds] : m_beforeLinks)
+            m_read.insert(QFileInfo(path).canonicalFilePath(), holds);
+        m_beforeLinks.clear();
+        m_hasLinks = true;
+        const auto known = m_read.constFind(QFileInfo(candidate.path).canonicalFilePath());
+        return known != m_read.cend() ? std::optional(*known) : std::nullopt;
+    }
+
+    void add(const QString &path, bool holds)
+    {
+        if (m_hasLinks)
+            m_read.insert(QFileInfo(path).canonicalFilePath(), holds);
+        else
+            m_beforeLinks.append({path, holds});
+    }
+
+private:
+    bool m_hasLinks = false;
+    QList<std::pair<QString, bool>> m_beforeLinks;
+    QHash<QString, bool> m_read;
+};
+
+bool listsAcqData(const QString &folder, const FolderListing &listing)
+{
+    return std::ranges::any_of(listing.folders, [&folder](const FolderListing::Entry &entry) {
+        return entry.name.compare(kAcqData, Qt::CaseInsensitive) == 0 && leadsToFolder(folder, entry);
+    });
+}
+
+class Walk
+{
+public:
+    explicit Walk(const QString &folder) { m_waiting.push_back({folder, true, true}); }
+
+    bool findsAcqData()
+    {
+        while (!m_waiting.empty()) {
+            const Candidate candidate = std::move(m_waiting.front());
+            m_waiting.pop_front();
+            if (decides(candidate))
+                return true;
+        }
+        return false;
+    }
+
+private:
+    bool decides(const Candidate &candidate)
+    {
+        if (!candidate.isSettled && !PathUtils::isDirectory(candidate.path))
+            return false;
+        // The same folder may count under one name and not under another.
+        if (const std::optional<bool> holds = m_read.holdsAcqData(candidate))
+            return *holds && candidate.isNamedD;
+        return read(candidate) && candidate.isNamedD;
+    }
+
+    bool read(const Candidate &candidate)
+    {
+        const FolderListing listing = DetectionScope::listing(candidate.path);
+        const bool holds = listsAcqData(candidate.path, listing);
+        m_read.add(candidate.path, holds);
+        for (const FolderListing::Entry &entry : listing.folders) {
+            m_waiting.push_back({candidate.path + u'/' + entry.name,
+                                 entry.name.endsWith(".d"_L1, Qt::CaseInsensitive),
+                                 entry.kind == EntryKind::Folder});
+        }
+        return holds;
+    }
+
+    std::deque<Candidate> m_waiting;
+    ReadFolders m_read;
+};
+
+} // namespace
+
+bool holdsAcqDataDirectly(const QString &folder)
+{
+    const bool holds = PathUtils::isDirectory(folder + u'/' + kAcqData);
+    if (holds)
+        DetectionScope::note("Agilent: AcqData folder"_L1);
+    return holds;
+}
+
+bool holdsAcqDataBelow(const QString &folder)
+{
+    const bool holds = Walk(folder).findsAcqData();
+    DetectionScope::note(holds ? "Agilent: AcqData folder further down"_L1 : "Agilent: no AcqData folder"_L1);
+    return holds;
+}
+
+} // namespace ozm::msreader::internal

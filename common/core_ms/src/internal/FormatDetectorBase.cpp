@@ -1,0 +1,7 @@
+#include "internal/FormatDetectorBase.h"
+
+namespace ozm::msreader::internal {
+
+FormatDetectorBase::~FormatDetectorBase() = default;
+
+} // namespace ozm::msreader::internal

@@ -1,0 +1,21 @@
+#include "internal/FormatDetectorWaters.h"
+
+#include "internal/DetectionScope.h"
+#include "internal/FormatTable.h"
+
+namespace ozm::msreader::internal {
+
+FormatDetectorWaters::FormatDetectorWaters()
+    : FormatDetectorSimple(*formatRow(VendorDataFormat::Waters))
+{}
+
+QSet<VendorDataFormat> FormatDetectorWaters::detectFormat(const QString &path) const
+{
+    if (!isPlainMatch(path))
+        return FormatDetectorSimple::detectFormat(path);
+    // Of whatever kind, and in whatever letter case the file system takes for the same.
+    return formatsIf(PathUtils::exists(path + "/_FUNC001.DAT"_L1), "Waters: _FUNC001.DAT"_L1,
+                     "Waters: no _FUNC001.DAT"_L1);
+}
+
+} // namespace ozm::msreader::internal

@@ -1,0 +1,3 @@
+#include "internal/Logging.h"
+
+Q_LOGGING_CATEGORY(lcGeneric, "ozm.generic", QtInfoMsg)

@@ -1,0 +1,436 @@
+#include "support/StrictTest.h"
+
+#include "core_ms/LiteralRules.h"
+#include "core_ms/SampleTree.h"
+
+#include <FormatDetection.h>
+#include <internal/FormatRegistry.h>
+
+#include <QLoggingCategory>
+
+using namespace Qt::StringLiterals;
+using namespace ozm::msreader;
+using ozm::test::SampleTree;
+using Names = QStringList;
+
+Q_DECLARE_METATYPE(QStringList)
+
+namespace {
+
+DataSourceLocation at(const QString &path)
+{
+    return DataSourceLocation::fromLocalPath(path);
+}
+
+QString namesOf(const QSet<VendorDataFormat> &formats)
+{
+    Names names;
+    for (const VendorDataFormat format : formats)
+        names.append(MsDataFormat::toString(format));
+    names.sort();
+    return names.join(u' ');
+}
+
+void addColumns()
+{
+    QTest::addColumn<Names>("entries");
+    QTest::addColumn<QString>("asked");
+    QTest::addColumn<QString>("formats");
+}
+
+/// What was written at debug level while it lived.
+class DebugLines
+{
+public:
+    DebugLines()
+    {
+        s_lines.clear();
+        QLoggingCategory::setFilterRules(u"ozm.generic.debug=true"_s);
+        m_previous =
+            qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
+                if (type == QtDebugMsg)
+                    s_lines.append(text);
+            });
+    }
+    ~DebugLines()
+    {
+        qInstallMessageHandler(m_previous);
+        QLoggingCategory::setFilterRules(QString());
+    }
+    Q_DISABLE_COPY_MOVE(DebugLines)
+    [[nodiscard]] static Names lines() { return s_lines; }
+
+private:
+    QtMessageHandler m_previous;
+    static inline Names s_lines;
+};
+
+} // namespace
+
+class TestDetectors : public ozm::test::StrictTest
+{
+    Q_OBJECT
+
+    /// Every entry point, the single detectors and the rules read word for word give the same answer.
+    void checkRow()
+    {
+        QFETCH(Names, entries);
+        QFETCH(QString, asked);
+        QFETCH(QString, formats);
+        const SampleTree tree;
+        tree.make(entries);
+        const QString path = tree.path(asked);
+
+        const auto found = detectFormats(at(path), false, false);
+        QCOMPARE(namesOf(found), formats);
+        QCOMPARE(namesOf(ozm::test::literalFormats(path)), formats);
+        QCOMPARE(hasDetectableFormat(at(path), false), !formats.isEmpty());
+        const VendorDataFormat nearest = nearestFormat(at(path));
+        QVERIFY(found.isEmpty() ? nearest == VendorDataFormat::Unknown : found.contains(nearest));
+
+        QSet<VendorDataFormat> singly;
+        for (const auto &detector : internal::detectors())
+            singly.unite(detector->detectFormat(path));
+        QCOMPARE(namesOf(singly), formats);
+    }
+
+private Q_SLOTS:
+    void plainFiles_data()
+    {
+        addColumns();
+        const std::pair<const char *, const char *> rows[] = {
+            {"a.zuspec2", "Zuspec2"},
+            {"a.csv2d", "Csv2d"},
+            {"a.msfaux", "MsFaux"},
+            {"a.msfaux2", "MsFaux2"},
+            {"a.mgf", "Mgf"},
+            {"a.mzml", "Mzml"},
+            {"a.mzXML", "Mzxml"},
+            {"a.mbi", "Mobilion"},
+            {"a.LCD", "Shimadzu"},
+            {"a.raw", "Thermo"},
+            {"a.RAW", "Thermo"},
+            {"a.data.cut", "DataCut"},
+            {"a.DATA.Cut", "DataCut"},
+            {"a.vacq", "Vacq"},
+            {".mgf", "Mgf"},
+            {"试样 №1.mzML", "Mzml"},
+            {"a.b.mzML", "Mzml"},
+            {"a.mzml.gz", ""},
+            {"a.cut", ""},
+            {"mgf", ""},
+            {"a.mgf ", ""},
+            {"a.d", ""},
+            {"a.wiff.scan", ""},
+            {"a", ""},
+        };
+        for (const auto &[name, formats] : rows) {
+            const QString file = QString::fromUtf8(name);
+            QTest::newRow(name) << Names{file} << file << QString::fromLatin1(formats);
+        }
+        QTest::newRow("missing") << Names() << u"a.mzml"_s << QString();
+        QTest::newRow("slash at the end") << Names{u"a.mzml"_s} << u"a.mzml/"_s << QString();
+        QTest::newRow("link") << Names{u"blob"_s, u"a.mzml -> blob"_s} << u"a.mzml"_s << u"Mzml"_s;
+        QTest::newRow("dangling link") << Names{u"a.mzml -> blob"_s} << u"a.mzml"_s << QString();
+    }
+    void plainFiles() { checkRow(); }
+
+    void folders_data()
+    {
+        addColumns();
+        for (const char *extension : {"zuspec2", "csv2d", "msfaux", "msfaux2", "mgf", "mzml", "mzxml", "mbi",
+                                      "lcd", "data.cut", "wiff", "wiff2", "d", "raw"}) {
+            const QString name = u"a."_s + QString::fromLatin1(extension);
+            QTest::newRow(extension) << Names{name + u'/'} << name << QString();
+        }
+        QTest::newRow("vacq") << Names{u"a.vacq/"_s} << u"a.vacq"_s << u"Vacq"_s;
+        QTest::newRow("vacq, link") << Names{u"x/"_s, u"a.VACQ -> x"_s} << u"a.VACQ"_s << u"Vacq"_s;
+        QTest::newRow("vacq, slash") << Names{u"a.vacq/"_s} << u"a.vacq/"_s << QString();
+    }
+    void folders() { checkRow(); }
+
+    void waters_data()
+    {
+        addColumns();
+        QTest::newRow("usual") << Names{u"a.raw/_FUNC001.DAT"_s} << u"a.raw"_s << u"Waters"_s;
+        QTest::newRow("capital") << Names{u"a.RAW/_FUNC001.DAT"_s} << u"a.RAW"_s << u"Waters"_s;
+        QTest::newRow("a folder of that name")
+            << Names{u"a.raw/_FUNC001.DAT/"_s} << u"a.raw"_s << u"Waters"_s;
+        QTest::newRow("other function") << Names{u"a.raw/_FUNC002.DAT"_s} << u"a.raw"_s << QString();
+        QTest::newRow("deeper") << Names{u"a.raw/x/_FUNC001.DAT"_s} << u"a.raw"_s << QString();
+        QTest::newRow("dangling") << Names{u"a.raw/"_s, u"a.raw/_FUNC001.DAT -> x"_s} << u"a.raw"_s
+                                  << QString();
+    }
+    void waters() { checkRow(); }
+
+    void agilent_data()
+    {
+        addColumns();
+        const auto agilent = u"AgilentAcqData"_s;
+        QTest::newRow("folder") << Names{u"a.d/AcqData/"_s} << u"a.d"_s << agilent;
+        QTest::newRow("with a scan file") << Names{u"a.d/AcqData/msscan.bin"_s} << u"a.d"_s << agilent;
+        QTest::newRow("letter case") << Names{u"a.D/acqdata/"_s} << u"a.D"_s << agilent;
+        QTest::newRow("a file of that name") << Names{u"a.d/AcqData"_s} << u"a.d"_s << QString();
+        QTest::newRow("in a plain folder") << Names{u"a.d/x/AcqData/msscan.bin"_s} << u"a.d"_s << QString();
+        QTest::newRow("in a .d folder deep inside")
+            << Names{u"a.d/x/y/b.D/AcqData/"_s} << u"a.d"_s << agilent;
+        QTest::newRow("in a hidden .d folder") << Names{u"a.d/x/.d/AcqData/"_s} << u"a.d"_s << agilent;
+        QTest::newRow("linked") << Names{u"x/"_s, u"a.d/"_s, u"a.d/AcqData -> ../x"_s} << u"a.d"_s << agilent;
+        QTest::newRow("dangling") << Names{u"a.d/"_s, u"a.d/AcqData -> ../x"_s} << u"a.d"_s << QString();
+        QTest::newRow("only a link's name ends in .d")
+            << Names{u"a.d/x/AcqData/"_s, u"a.d/y.d -> x"_s} << u"a.d"_s << agilent;
+        QTest::newRow("the link comes before its folder")
+            << Names{u"a.d/y.d -> x"_s, u"a.d/x/AcqData/"_s} << u"a.d"_s << agilent;
+        QTest::newRow("link to the folder itself, from inside")
+            << Names{u"a.d/x/AcqData/"_s, u"a.d/x/loop.d -> ."_s} << u"a.d"_s << agilent;
+        QTest::newRow("loops and nothing else")
+            << Names{u"a.d/x/y/"_s, u"a.d/x/up -> .."_s, u"a.d/x/y/top.d -> ../.."_s} << u"a.d"_s
+            << QString();
+        QTest::newRow("slash at the end") << Names{u"a.d/AcqData/"_s} << u"a.d/"_s << QString();
+        QTest::newRow("no .d") << Names{u"a/AcqData/msscan.bin"_s} << u"a"_s << QString();
+        QTest::newRow("reached through a link")
+            << Names{u"x/AcqData/"_s, u"a.d -> x"_s} << u"a.d"_s << agilent;
+        QTest::newRow("Bruker data around it")
+            << Names{u"a.d/analysis.tdf"_s, u"a.d/analysis.tdf_bin"_s, u"a.d/b.d/AcqData/"_s} << u"a.d"_s
+            << u"AgilentAcqData BrukerTims"_s;
+    }
+    void agilent() { checkRow(); }
+
+    void brukerSpectra_data()
+    {
+        addColumns();
+        const auto row = [](const char *tag, const Names &entries, const char *format = "BrukerFID") {
+            QTest::newRow(tag) << entries << u"Run.d"_s << QString::fromLatin1(format);
+        };
+        for (const char *spectrum :
+             {"1/1SRef", "1SRef", "1/1SLin", "1SLin", "1/1Ref", "1Ref", "1/1Lin", "1Lin"})
+            row(spectrum, {u"Run.d/0_A1/%1/fid"_s.arg(QLatin1StringView(spectrum))});
+        row("other run number", {u"Run.d/0_A1/2/1SRef/fid"_s}, "");
+        row("directly inside", {u"Run.d/1/1SRef/fid"_s});
+        row("in the folder itself", {u"Run.d/1SRef/fid"_s}, "");
+        row("a folder instead of the file", {u"Run.d/0_A1/1SRef/fid/"_s}, "");
+        row("wrong case", {u"Run.d/0_A1/1SREF/fid"_s}, "");
+        row("linked spot", {u"spot/1/1SRef/fid"_s, u"Run.d/"_s, u"Run.d/0_A1 -> ../spot"_s});
+        row("linked spectrum", {u"fid"_s, u"Run.d/0_A1/1SRef/"_s, u"Run.d/0_A1/1SRef/fid -> ../../../fid"_s});
+        row("hidden spot", {u"Run.d/.spot/1SRef/fid"_s});
+        row("fid folder one level down", {u"Run.d/x/fid/"_s});
+        row("fid file one level down", {u"Run.d/x/fid"_s}, "");
+        row("fid folder beside a baf", {u"Run.d/x/fid/"_s, u"Run.d/x/analysis.baf"_s}, "");
+        row("fid folder beside a capital baf", {u"Run.d/x/fid/"_s, u"Run.d/x/Analysis.baf"_s}, "");
+        row("fid folder in the folder itself", {u"Run.d/fid/"_s});
+        row("fid file in the folder itself", {u"Run.d/fid"_s}, "");
+        row("fid folder, linked", {u"x/"_s, u"Run.d/"_s, u"Run.d/fid -> ../x"_s});
+        row("fid folder, lower-case baf", {u"Run.d/fid/"_s, u"Run.d/analysis.baf"_s}, "");
+        row("fid folder, capital baf", {u"Run.d/fid/"_s, u"Run.d/Analysis.baf"_s}, "BrukerBAF");
+        row("FID in capitals", {u"Run.d/FID/"_s}, "");
+        row("before all data files",
+            {u"Run.d/z/1/1Lin/fid"_s, u"Run.d/Analysis.yep"_s, u"Run.d/Analysis.baf"_s, u"Run.d/Run.u2"_s});
+    }
+    void brukerSpectra() { checkRow(); }
+
+    void brukerFiles_data()
+    {
+        addColumns();
+        const auto row = [](const char *tag, const Names &files, const char *format) {
+            Names entries{u"Run.d/"_s};
+            for (const QString &file : files)
+                entries.append(u"Run.d/"_s + file);
+            QTest::newRow(tag) << entries << u"Run.d"_s << QString::fromLatin1(format);
+        };
+        row("yep", {u"Analysis.yep"_s}, "BrukerYEP");
+        row("yep, lower case", {u"analysis.yep"_s}, "");
+        row("yep before baf and u2", {u"Analysis.yep"_s, u"Analysis.baf"_s, u"Run.u2"_s}, "BrukerYEP");
+        row("baf", {u"Analysis.baf"_s}, "BrukerBAF");
+        row("baf, lower case", {u"analysis.baf"_s}, "");
+        row("baf, a folder", {u"Analysis.baf/"_s}, "");
+        row("baf and u2", {u"Analysis.baf"_s, u"Run.u2"_s}, "BrukerBAF_and_U2");
+        row("baf, lower case, and u2", {u"analysis.baf"_s, u"Run.u2"_s}, "BrukerU2");
+        row("u2", {u"Run.u2"_s}, "BrukerU2");
+        row("u2 of another name", {u"run.u2"_s}, "");
+        row("u2 before tdf", {u"Run.u2"_s, u"analysis.tdf"_s, u"analysis.tdf_bin"_s}, "BrukerU2");
+        row("tdf", {u"analysis.tdf"_s, u"analysis.tdf_bin"_s}, "BrukerTims");
+        row("tdf, mixed case", {u"Analysis.tdf"_s, u"analysis.tdf_bin"_s}, "BrukerTims");
+        row("tdf, mixed the other way", {u"analysis.tdf"_s, u"Analysis.tdf_bin"_s}, "BrukerTims");
+        row("tdf, all capitals", {u"ANALYSIS.TDF"_s, u"ANALYSIS.TDF_BIN"_s}, "");
+        row("tdf without bin", {u"analysis.tdf"_s}, "");
+        row("bin without tdf", {u"analysis.tdf_bin"_s}, "");
+        row("tsf", {u"analysis.tsf"_s, u"analysis.tsf_bin"_s}, "BrukerTsf");
+        row("tsf, capitalised", {u"Analysis.tsf"_s, u"Analysis.tsf_bin"_s}, "BrukerTsf");
+        row("tdf before tsf",
+            {u"analysis.tsf"_s, u"analysis.tsf_bin"_s, u"analysis.tdf"_s, u"analysis.tdf_bin"_s},
+            "BrukerTims");
+        row("tdf and the bin of tsf", {u"analysis.tdf"_s, u"analysis.tsf_bin"_s}, "");
+        row("with a method", {u"4711.m/microTOF.method"_s, u"analysis.tdf"_s, u"analysis.tdf_bin"_s},
+            "BrukerTims");
+        Names many{u"analysis.tsf"_s, u"Analysis.tsf_bin"_s};
+        for (int i = 0; i < 200; ++i)
+            many.append(u"file%1"_s.arg(i));
+        row("among many files", many, "BrukerTsf");
+        row("nothing", {}, "");
+    }
+    void brukerFiles() { checkRow(); }
+
+    void brukerCompanionName_data()
+    {
+        addColumns();
+        const auto row = [](const char *folder, const char *file, const char *format) {
+            const QString name = QString::fromLatin1(folder);
+            QTest::addRow("%s/%s", folder, file)
+                << Names{name + u'/' + QLatin1StringView(file)} << name << QString::fromLatin1(format);
+        };
+        row("a.d.d", "a.u2.u2", "BrukerU2");
+        row("a.d.d", "a.d.u2", "");
+        row("a.dx.d", "a.u2x.u2", "BrukerU2");
+        // The suffix of a capital .D is not replaced.
+        row("Run.D", "Run.u2", "");
+        row("Run.D", "Run.D", "BrukerU2");
+        row(".d", ".u2", "BrukerU2");
+    }
+    void brukerCompanionName() { checkRow(); }
+
+    void sciex_data()
+    {
+        addColumns();
+        QTest::addColumn<QString>("warning");
+        const auto wiff = u"looks like ABI SCIEX WIFF file. But .wiff.scan file is absent"_s;
+        const auto wiff2 = u"looks like SCIEX WIFF2 file. But .wiff.scan file is absent"_s;
+        QTest::newRow("wiff") << Names{u"x.wiff"_s, u"x.wiff.scan"_s} << u"x.wiff"_s << u"SciexWiff"_s
+                              << QString();
+        QTest::newRow("WIFF") << Names{u"x.WIFF"_s, u"x.WIFF.scan"_s} << u"x.WIFF"_s << u"SciexWiff"_s
+                              << QString();
+        QTest::newRow("no scan") << Names{u"x.wiff"_s} << u"x.wiff"_s << QString() << wiff;
+        QTest::newRow("scan of other case")
+            << Names{u"x.WIFF"_s, u"x.wiff.scan"_s} << u"x.WIFF"_s << QString() << wiff;
+        QTest::newRow("no wiff") << Names{u"x.wiff.scan"_s} << u"x.wiff"_s << QString() << QString();
+        QTest::newRow("wiff2") << Names{u"x.wiff2"_s, u"x.wiff.scan"_s} << u"x.wiff2"_s << u"SciexWiff2"_s
+                               << QString();
+        QTest::newRow("WIFF2") << Names{u"x.WIFF2"_s, u"x.WIFF.scan"_s} << u"x.WIFF2"_s << u"SciexWiff2"_s
+                               << QString();
+        QTest::newRow("wiff2, scan by the other rule")
+            << Names{u"x.wiff2"_s, u"x.wiff2.scan"_s} << u"x.wiff2"_s << QString() << wiff2;
+    }
+    void sciex()
+    {
+        QFETCH(Names, entries);
+        QFETCH(QString, asked);
+        QFETCH(QString, warning);
+        const SampleTree tree;
+        tree.make(entries);
+        const QString path = tree.path(asked);
+        // Once for each question: two warnings would leave the second one unexpected.
+        const auto expectOne = [&] {
+            if (!warning.isEmpty())
+                ozm::test::expectWarning(u"File \"%1\" %2"_s.arg(path, warning));
+        };
+        expectOne();
+        const auto found = detectFormats(at(path), false, false);
+        QTEST(namesOf(found), "formats");
+        QCOMPARE(namesOf(ozm::test::literalFormats(path)), namesOf(found));
+        expectOne();
+        QCOMPARE(hasDetectableFormat(at(path), false), !found.isEmpty());
+        QVERIFY(hasDetectableFormat(at(path), true));
+    }
+
+    void testingMarker()
+    {
+        for (const char *name :
+             {"MAGIC_STRING_GOES_HERE_ozm_testing", "/x/y.MAGIC_string_GOES_here_OZM_testing"}) {
+            const auto location = at(QString::fromLatin1(name));
+            QCOMPARE(namesOf(detectFormats(location, false, false)), u"Testing"_s);
+            QCOMPARE(namesOf(detectFormats(location, true, false)), u"Testing"_s);
+            QVERIFY(hasDetectableFormat(location, false));
+        }
+        QVERIFY(!hasDetectableFormat(at(u"MAGIC_STRING_GOES_HERE_ozm_testing.x"_s), false));
+    }
+
+    void databaseHandler()
+    {
+        auto location = DataSourceLocation::fromDatabaseHandler(nullptr);
+        location.localPath = u"a.mgf"_s;
+        for (const bool byNameOnly : {false, true}) {
+            QCOMPARE(namesOf(detectFormats(location, byNameOnly, false)), u"DataCutEmbedded"_s);
+            QVERIFY(hasDetectableFormat(location, byNameOnly));
+        }
+        QCOMPARE(nearestFormat(location), VendorDataFormat::DataCutEmbedded);
+    }
+
+    void byName_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("formats");
+        QTest::addColumn<QString>("first");
+        const auto d =
+            u"AgilentAcqData BrukerBAF BrukerBAF_and_U2 BrukerFID BrukerTims BrukerTsf BrukerU2 BrukerYEP"_s;
+        QTest::newRow("d") << u"/no/such/a.d"_s << d << u"AgilentAcqData"_s;
+        QTest::newRow("D") << u"A.D"_s << d << u"AgilentAcqData"_s;
+        QTest::newRow("raw") << u"a.Raw"_s << u"Thermo Waters"_s << u"Thermo"_s;
+        QTest::newRow("wiff") << u"a.wiff"_s << u"SciexWiff"_s << u"SciexWiff"_s;
+        QTest::newRow("none") << u"a.txt"_s << QString() << QString();
+        QTest::newRow("empty") << QString() << QString() << QString();
+        QTest::newRow("folder above") << u"a.d/b"_s << QString() << QString();
+    }
+    void byName()
+    {
+        QFETCH(QString, path);
+        QTEST(namesOf(detectFormats(at(path), true, false)), "formats");
+        QTEST(namesOf(detectFormats(at(path), true, true)), "first");
+    }
+
+    void relativeAndEmptyPaths()
+    {
+        QVERIFY(!hasDetectableFormat(at(QString()), false));
+        const SampleTree tree;
+        tree.make({u"Run.d/analysis.tsf"_s, u"Run.d/analysis.tsf_bin"_s, u"a.mgf"_s});
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(tree.path()));
+        const auto folder = detectFormats(at(u"Run.d"_s), false, false);
+        const auto upAndDown = detectFormats(at(u"./Run.d/../a.mgf"_s), false, false);
+        QVERIFY(QDir::setCurrent(before));
+        QCOMPARE(namesOf(folder), u"BrukerTsf"_s);
+        QCOMPARE(namesOf(upAndDown), u"Mgf"_s);
+    }
+
+    void supportLineNamesTheRule_data()
+    {
+        QTest::addColumn<Names>("entries");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("taken")
+            << Names{u"a.d/analysis.tdf"_s, u"a.d/analysis.tdf_bin"_s}
+            << u"Detected BrukerTims in %1 by: Agilent: no AcqData folder; Bruker: analysis.tdf and analysis.tdf_bin"_s;
+        QTest::newRow("refused")
+            << Names{u"a.d/x"_s}
+            << u"Detected no format in %1 by: Agilent: no AcqData folder; Bruker: neither fid nor analysis files"_s;
+        QTest::newRow("a file")
+            << Names{u"a.d"_s}
+            << u"Detected no format in %1 by: Agilent: no AcqData folder; Bruker: not a folder"_s;
+    }
+    void supportLineNamesTheRule()
+    {
+        QFETCH(Names, entries);
+        QFETCH(QString, line);
+        const SampleTree tree;
+        tree.make(entries);
+        const DebugLines debug;
+        std::ignore = detectFormats(at(tree.path(u"a.d"_s)), false, false);
+        QCOMPARE(DebugLines::lines(), Names{line.arg(tree.path(u"a.d"_s))});
+        std::ignore = hasDetectableFormat(at(tree.path(u"a.d"_s)), false);
+        QCOMPARE(DebugLines::lines().size(), 2);
+    }
+
+    void supportLinesAreOffByDefault()
+    {
+        const QLoggingCategory category("ozm.generic", QtInfoMsg);
+        QVERIFY(!category.isDebugEnabled() && category.isWarningEnabled());
+        Names lines;
+        {
+            const DebugLines debug;
+            QLoggingCategory::setFilterRules(QString());
+            std::ignore = hasDetectableFormat(at(u"a.mgf"_s), false);
+            lines = DebugLines::lines();
+        }
+        QCOMPARE(lines, Names());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDetectors)
+#include "tst_detectors.moc"

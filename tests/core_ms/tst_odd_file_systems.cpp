@@ -1,0 +1,266 @@
+#include "support/StrictTest.h"
+
+#include "core_ms/SampleTree.h"
+
+#include <FormatDetection.h>
+#include <internal/FolderReader.h>
+#include <internal/RefusalReason.h>
+
+#include <ozm_common_core_mini/PathUtils.h>
+
+#include <atomic>
+#include <filesystem>
+#include <thread>
+
+#ifdef Q_OS_LINUX
+#include <fcntl.h>
+#include <sys/fsuid.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+using namespace Qt::StringLiterals;
+using namespace ozm::msreader;
+using ozm::test::SampleTree;
+
+namespace {
+
+bool isData(const QString &path)
+{
+    return hasDetectableFormat(DataSourceLocation::fromLocalPath(path), false);
+}
+
+QSet<VendorDataFormat> formats(const QString &path)
+{
+    return detectFormats(DataSourceLocation::fromLocalPath(path), false, false);
+}
+
+#ifdef Q_OS_LINUX
+/// Looks at files as a user without rights, also when the tests run as root: the kernel then drops the
+/// privileges over files of this thread, and gives them back at the end.
+class AsNobody
+{
+public:
+    AsNobody() { ::setfsuid(65534); }
+    ~AsNobody() { ::setfsuid(::geteuid()); }
+    Q_DISABLE_COPY_MOVE(AsNobody)
+};
+
+void setMode(const QString &path, mode_t mode)
+{
+    QCOMPARE(::chmod(QFile::encodeName(path).constData(), mode), 0);
+}
+#endif
+
+} // namespace
+
+class TestOddFileSystems : public ozm::test::StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void linkLoops()
+    {
+        const SampleTree tree;
+        tree.make({u"a.d/x/y/z/"_s, u"a.d/self -> self"_s, u"a.d/one -> two"_s, u"a.d/two -> one"_s,
+                   u"a.d/x/up -> .."_s, u"a.d/x/y/z/up.d -> ../../.."_s, u"b.d -> b.d"_s,
+                   u"b.raw -> b.raw"_s});
+        QVERIFY(!isData(tree.path(u"a.d"_s)));
+        QVERIFY(!isData(tree.path(u"b.d"_s)));
+        QVERIFY(!isData(tree.path(u"b.raw"_s)));
+        tree.make({u"a.d/x/y/z/c.d/AcqData/"_s});
+        QVERIFY(isData(tree.path(u"a.d"_s)));
+    }
+
+    // Links in every folder to every folder: a walk that tells folders apart by their paths never ends.
+    void linksAcross()
+    {
+        constexpr int kFolders = 30;
+        const SampleTree tree;
+        for (int from = 0; from < kFolders; ++from) {
+            tree.makeOne(u"a.d/%1/"_s.arg(from));
+            for (int to = 0; to < kFolders; ++to)
+                tree.makeOne(u"a.d/%1/to%2.d -> ../%2"_s.arg(from).arg(to));
+        }
+        QVERIFY(!isData(tree.path(u"a.d"_s)));
+        QVERIFY(formats(tree.path(u"a.d"_s)).isEmpty());
+    }
+
+    void veryDeep()
+    {
+        const SampleTree tree;
+        QString inside = u"a.d"_s;
+        for (int i = 0; i < 400; ++i)
+            inside += u"/folder"_s;
+        tree.makeOne(inside + u'/');
+        QVERIFY(!isData(tree.path(u"a.d"_s)));
+        tree.makeOne(inside + u"/b.d/AcqData/"_s);
+        QVERIFY(isData(tree.path(u"a.d"_s)));
+    }
+
+    void namesInAnyScript_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("Chinese") << u"质谱 数据"_s;
+        QTest::newRow("Arabic") << u"عينة ١"_s;
+        QTest::newRow("combining marks") << u"e\u0301chantillon"_s;
+        QTest::newRow("outside the first plane") << u"🧪𝔐"_s;
+        QTest::newRow("line break and quotes") << u"a\n\"b\"'c'\\"_s;
+        QTest::newRow("percent and placeholder") << u"100%1%n"_s;
+    }
+    void namesInAnyScript()
+    {
+        QFETCH(QString, name);
+        const SampleTree tree;
+        tree.make({name + u".d/"_s + name + u".d/AcqData/"_s, name + u"2.d/"_s + name + u"2.u2"_s,
+                   name + u".mzml"_s, name + u"3.d/"_s + name + u"/1SLin/fid"_s});
+        QCOMPARE(formats(tree.path(name + u".d"_s)), QSet{VendorDataFormat::AgilentAcqData});
+        QCOMPARE(formats(tree.path(name + u"2.d"_s)), QSet{VendorDataFormat::BrukerU2});
+        QCOMPARE(formats(tree.path(name + u"3.d"_s)), QSet{VendorDataFormat::BrukerFID});
+        QCOMPARE(formats(tree.path(name + u".mzml"_s)), QSet{VendorDataFormat::Mzml});
+    }
+
+    void loneSurrogatesAndNulls()
+    {
+        const SampleTree tree;
+        tree.make({u"a.mzml"_s, u"a.d/AcqData/"_s});
+        QVERIFY(!isData(tree.path(u"a.mzml"_s) + QChar(u'\0') + u".mzml"_s));
+        QVERIFY(!isData(tree.path(u"a.d"_s) + QChar(u'\0') + u".d"_s));
+        QVERIFY(!isData(tree.path(QString(QChar(0xd800))) + u".d"_s));
+    }
+
+#ifdef Q_OS_LINUX
+    void invalidBytes()
+    {
+        const SampleTree tree;
+        tree.make({u"a.d/good/"_s});
+        const QByteArray folder = QFile::encodeName(tree.path(u"a.d"_s));
+        for (const char *name : {"/\xff", "/\xc3.d", "/\xed\xa0\x80", "/\xf8\x88"})
+            QCOMPARE(::mkdir((folder + name).constData(), 0755), 0);
+        QCOMPARE(::mkdir((folder + "/\xc3.d/AcqData").constData(), 0755), 0);
+        QVERIFY2(!isData(tree.path(u"a.d"_s)), "no path can name it, so nothing could read it");
+        QVERIFY(!isData(QFile::decodeName(folder + "/\xc3.d")));
+
+        internal::FolderReader reader(tree.path(u"a.d"_s));
+        QVERIFY(reader.next());
+        QCOMPARE(reader.name(), u"good"_s);
+        QVERIFY(!reader.next() && reader.isComplete());
+
+        tree.makeOne(u"a.d/fine.d/AcqData/"_s);
+        QVERIFY(isData(tree.path(u"a.d"_s)));
+        // Qt could not remove it for the same reason.
+        std::filesystem::remove_all(folder.toStdString());
+    }
+
+    void pipesAreNotOpened()
+    {
+        const SampleTree tree;
+        tree.make({u"b.d/"_s});
+        for (const auto &name : {u"a.mzml"_s, u"a.d"_s, u"a.wiff"_s, u"b.d/AcqData"_s, u"b.d/Analysis.baf"_s})
+            QCOMPARE(::mkfifo(QFile::encodeName(tree.path(name)).constData(), 0666), 0);
+        for (const auto &name : {u"a.mzml"_s, u"a.d"_s, u"a.wiff"_s, u"b.d"_s})
+            QVERIFY2(!isData(tree.path(name)), qPrintable(name));
+    }
+
+    void unreadableFolders()
+    {
+        const SampleTree tree;
+        tree.make({u"hidden.d/AcqData/"_s, u"sealed.d/analysis.tdf"_s, u"sealed.d/analysis.tdf_bin"_s,
+                   u"part.d/shut/x.d/AcqData/"_s, u"part.d/open.d/"_s, u"shut.raw/_FUNC001.DAT"_s});
+        setMode(tree.path(), 0755);
+        setMode(tree.path(u"hidden.d"_s), 0);
+        setMode(tree.path(u"sealed.d"_s), 0711);
+        setMode(tree.path(u"part.d/shut"_s), 0);
+        setMode(tree.path(u"shut.raw"_s), 0);
+        {
+            const AsNobody asNobody;
+            QVERIFY2(!ozm::PathUtils::exists(tree.path(u"hidden.d/AcqData"_s)),
+                     "the test sees what it must not");
+            QVERIFY(!isData(tree.path(u"hidden.d"_s)));
+            QVERIFY(formats(tree.path(u"hidden.d"_s)).isEmpty());
+            QVERIFY(!isData(tree.path(u"part.d"_s)));
+            QVERIFY(!isData(tree.path(u"shut.raw"_s)));
+            QCOMPARE(internal::refusalReason(tree.path(u"hidden.d"_s)), u"The folder cannot be read."_s);
+            // Its entries cannot be listed, but those that are known by name can be asked for.
+            QCOMPARE(formats(tree.path(u"sealed.d"_s)), QSet{VendorDataFormat::BrukerTims});
+            QVERIFY(isData(tree.path(u"sealed.d"_s)));
+        }
+        setMode(tree.path(u"hidden.d"_s), 0755);
+        setMode(tree.path(u"part.d/shut"_s), 0755);
+        setMode(tree.path(u"shut.raw"_s), 0755);
+        QVERIFY(isData(tree.path(u"hidden.d"_s)) && isData(tree.path(u"part.d"_s)));
+    }
+
+    // Without a way past the C library's, a folder like this one took a call for every 700 entries.
+    void largeFoldersAreReadWhole()
+    {
+        constexpr int kFiles = 20'000;
+        const SampleTree tree;
+        tree.make({u"a.d/"_s});
+        const QByteArray folder = QFile::encodeName(tree.path(u"a.d"_s));
+        for (int i = 0; i < kFiles; ++i) {
+            const QByteArray name = folder + "/some file of a long name " + QByteArray::number(i);
+            QCOMPARE(::mknod(name.constData(), S_IFREG | 0644, 0), 0);
+        }
+        internal::FolderReader reader(tree.path(u"a.d"_s));
+        QSet<QString> names;
+        while (reader.next())
+            names.insert(reader.name());
+        QCOMPARE(names.size(), kFiles);
+        QVERIFY(reader.isComplete());
+    }
+#endif
+
+    void foldersThatVanish()
+    {
+        const SampleTree tree;
+        std::atomic<bool> done = false;
+        std::thread destroyer([&] {
+            while (!done) {
+                tree.make({u"a.d/x/y.d/AcqData/"_s, u"a.d/z/1/1SRef/fid"_s, u"a.d/link -> x"_s});
+                QDir(tree.path(u"a.d"_s)).removeRecursively();
+            }
+        });
+        const QSet possible{VendorDataFormat::AgilentAcqData, VendorDataFormat::BrukerFID};
+        bool wasPossible = true;
+        for (int i = 0; i < 3000 && wasPossible; ++i) {
+            wasPossible = possible.contains(formats(tree.path(u"a.d"_s)));
+            std::ignore = isData(tree.path(u"a.d"_s));
+        }
+        done = true;
+        destroyer.join();
+        QVERIFY(wasPossible);
+        QVERIFY(!isData(tree.path(u"a.d"_s)));
+    }
+
+    void reasons_data()
+    {
+        QTest::addColumn<QStringList>("entries");
+        QTest::addColumn<QString>("asked");
+        QTest::addColumn<QString>("part");
+        const auto row = [](const char *tag, const QStringList &entries, const char *part) {
+            QTest::newRow(tag) << entries << entries.constFirst().section(u'/', 0, 0)
+                               << QString::fromLatin1(part);
+        };
+        row("name", {u"notes.txt"_s}, "none of the extensions");
+        row("empty .d folder", {u"a.d/"_s}, "neither an \"AcqData\" folder (Agilent) nor");
+        row(".d file", {u"a.d"_s},
+            "(Agilent, Bruker, Bruker Tims, Bruker Tsf) is a folder, but this is a file");
+        row("raw folder", {u"a.raw/x"_s}, "_FUNC001.DAT");
+        row("mzML folder", {u"a.mzml/x"_s}, "(Open data format mzml) is a file, but this is a folder");
+        QTest::newRow("missing") << QStringList() << u"a.mzml"_s << u"no such file"_s;
+    }
+    void reasons()
+    {
+        QFETCH(QStringList, entries);
+        QFETCH(QString, asked);
+        QFETCH(QString, part);
+        const SampleTree tree;
+        tree.make(entries);
+        const QString reason = internal::refusalReason(tree.path(asked));
+        QVERIFY2(reason.contains(part), qPrintable(reason));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestOddFileSystems)
+#include "tst_odd_file_systems.moc"
