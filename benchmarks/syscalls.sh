@@ -38,7 +38,7 @@ echo '|---|---|---|---|---|---|'
     mkdir "$work/$number"
     row "$name" "$("$probe" make "$number" "$work/$number")"
 done
-for large in 'tdf 60000' 'fid 6000' 'agilent 6000'; do
+for large in 'tdf 20000' 'fid 2000' 'agilent 2000'; do
     folder="$work/large ${large}"
     mkdir "$folder"
     # shellcheck disable=SC2086

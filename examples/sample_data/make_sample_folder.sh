@@ -1,124 +1,144 @@
 #!/bin/sh
-# Lays out a folder such as a laboratory keeps: studies with data of several vendors, nested and flat, and
-# among them folders and files that only look like data. The two open-format files are small but valid.
+# Lays out a folder as laboratories have them: data of several vendors in nested studies, and what is easily
+# taken for data. The mzML and MGF files are small but valid; vendor files are empty, as far as recognition
+# goes.
 #
-#     make_sample_folder.sh FOLDER
+#     examples/sample_data/make_sample_folder.sh out/samples
+
 set -eu
 
-[ $# -eq 1 ] || { echo "usage: $0 FOLDER" >&2; exit 2; }
-mkdir -p "$1"
-cd "$1"
+top=${1:?the folder to make}
+mkdir -p "$top"
+cd "$top"
 
-# file PATH...: files with a little in them, and the folders they need.
-file() {
-    for path in "$@"; do
-        mkdir -p "$(dirname "$path")"
-        printf 'sample data\n' >"$path"
+empty() { # file...
+    for file in "$@"; do
+        mkdir -p "$(dirname "$file")"
+        : > "$file"
     done
 }
 
-mzml() {
+mgf() { # file title
     mkdir -p "$(dirname "$1")"
-    cat >"$1" <<'XML'
+    cat > "$1" <<END
+BEGIN IONS
+TITLE=$2
+PEPMASS=421.7584 1520.0
+CHARGE=2+
+RTINSECONDS=612.4
+175.1190 120.0
+288.2030 310.5
+401.2871 95.2
+END IONS
+END
+}
+
+# Two numbers as 64-bit floating point, little endian: 100.0 and 200.0, and 10.0 and 20.0.
+mz='AAAAAAAAWUAAAAAAAABpQA=='
+intensity='AAAAAAAAJEAAAAAAAAA0QA=='
+
+array() { # values accession name unit
+    cat <<END
+          <binaryDataArray encodedLength="${#1}">
+            <cvParam cvRef="MS" accession="MS:1000523" name="64-bit float"/>
+            <cvParam cvRef="MS" accession="MS:1000576" name="no compression"/>
+            <cvParam cvRef="MS" accession="$2" name="$3" unitCvRef="MS" $4/>
+            <binary>$1</binary>
+          </binaryDataArray>
+END
+}
+
+mzml() { # file id
+    mkdir -p "$(dirname "$1")"
+    {
+        cat <<END
 <?xml version="1.0" encoding="UTF-8"?>
-<mzML xmlns="http://psi.hupo.org/ms/mzml" version="1.1.0" id="blank">
-  <cvList count="2">
-    <cv id="MS" fullName="Mass spectrometry ontology" version="4.1.30" URI="psi-ms.obo"/>
-    <cv id="UO" fullName="Unit Ontology" version="09:04:2014" URI="unit.obo"/>
+<mzML xmlns="http://psi.hupo.org/ms/mzml" version="1.1.0" id="$2">
+  <cvList count="1">
+    <cv id="MS" fullName="Proteomics Standards Initiative Mass Spectrometry Ontology" version="4.1.0"
+        URI="https://raw.githubusercontent.com/HUPO-PSI/psi-ms-CV/master/psi-ms.obo"/>
   </cvList>
   <fileDescription>
-    <fileContent>
-      <cvParam cvRef="MS" accession="MS:1000579" name="MS1 spectrum"/>
-    </fileContent>
+    <fileContent><cvParam cvRef="MS" accession="MS:1000579" name="MS1 spectrum"/></fileContent>
   </fileDescription>
   <softwareList count="1">
-    <software id="made_by_hand" version="1">
-      <cvParam cvRef="MS" accession="MS:1000799" name="custom unreleased software tool" value="made by hand"/>
+    <software id="script" version="1">
+      <cvParam cvRef="MS" accession="MS:1000799" name="custom unreleased software tool" value="sample data"/>
     </software>
   </softwareList>
   <instrumentConfigurationList count="1">
-    <instrumentConfiguration id="instrument">
+    <instrumentConfiguration id="IC1">
       <cvParam cvRef="MS" accession="MS:1000031" name="instrument model"/>
     </instrumentConfiguration>
   </instrumentConfigurationList>
   <dataProcessingList count="1">
-    <dataProcessing id="conversion">
-      <processingMethod order="0" softwareRef="made_by_hand">
+    <dataProcessing id="DP1">
+      <processingMethod order="0" softwareRef="script">
         <cvParam cvRef="MS" accession="MS:1000544" name="Conversion to mzML"/>
       </processingMethod>
     </dataProcessing>
   </dataProcessingList>
-  <run id="run" defaultInstrumentConfigurationRef="instrument">
-    <spectrumList count="1" defaultDataProcessingRef="conversion">
+  <run id="$2" defaultInstrumentConfigurationRef="IC1">
+    <spectrumList count="1" defaultDataProcessingRef="DP1">
       <spectrum index="0" id="scan=1" defaultArrayLength="2">
-        <cvParam cvRef="MS" accession="MS:1000579" name="MS1 spectrum"/>
         <cvParam cvRef="MS" accession="MS:1000511" name="ms level" value="1"/>
+        <cvParam cvRef="MS" accession="MS:1000579" name="MS1 spectrum"/>
         <cvParam cvRef="MS" accession="MS:1000127" name="centroid spectrum"/>
         <binaryDataArrayList count="2">
-          <binaryDataArray encodedLength="24">
-            <cvParam cvRef="MS" accession="MS:1000523" name="64-bit float"/>
-            <cvParam cvRef="MS" accession="MS:1000576" name="no compression"/>
-            <cvParam cvRef="MS" accession="MS:1000514" name="m/z array" unitCvRef="MS" unitAccession="MS:1000040" unitName="m/z"/>
-            <binary>AAAAAAAAeUAAAAAAAMiJQA==</binary>
-          </binaryDataArray>
-          <binaryDataArray encodedLength="24">
-            <cvParam cvRef="MS" accession="MS:1000523" name="64-bit float"/>
-            <cvParam cvRef="MS" accession="MS:1000576" name="no compression"/>
-            <cvParam cvRef="MS" accession="MS:1000515" name="intensity array" unitCvRef="MS" unitAccession="MS:1000131" unitName="number of detector counts"/>
-            <binary>AAAAAABAj0AAAAAAAECPQA==</binary>
-          </binaryDataArray>
+END
+        array "$mz" MS:1000514 'm/z array' 'unitAccession="MS:1000040" unitName="m/z"'
+        array "$intensity" MS:1000515 'intensity array' \
+            'unitAccession="MS:1000131" unitName="number of detector counts"'
+        cat <<END
         </binaryDataArrayList>
       </spectrum>
     </spectrumList>
   </run>
 </mzML>
-XML
+END
+    } > "$1"
 }
 
-mgf() {
-    mkdir -p "$(dirname "$1")"
-    cat >"$1" <<'TEXT'
-BEGIN IONS
-TITLE=HC-T20 scan 1824
-PEPMASS=418.2208 152340
-CHARGE=2+
-RTINSECONDS=911.4
-175.1190 8200
-288.2030 12100
-419.2435 9900
-506.2755 4100
-END IONS
-TEXT
-}
+# Studies with data.
+mzml 'Antibody stability/week 0/mAb-01.mzML' mAb-01
+mzml 'Antibody stability/week 0/mAb-02.MZML' mAb-02
+mgf 'Antibody stability/search/mAb-01.mgf' 'mAb-01 scan 612'
+empty 'Antibody stability/week 4/mAb-01.d/AcqData/MSScan.bin' \
+      'Antibody stability/week 4/mAb-01.d/AcqData/MSPeak.bin' \
+      'Antibody stability/week 4/mAb-02.D/acqdata/msprofile.bin' \
+      'Peptide mapping/digest 1.raw' \
+      'Peptide mapping/digest 2.RAW' \
+      'Peptide mapping/TOF/digest 1.raw/_FUNC001.DAT' \
+      'Peptide mapping/TOF/digest 1.raw/_HEADER.TXT' \
+      'Peptide mapping/ion mobility/digest 3.d/analysis.tdf' \
+      'Peptide mapping/ion mobility/digest 3.d/analysis.tdf_bin' \
+      'Peptide mapping/ion mobility/digest 3.d/4711.m/method.xml' \
+      'Peptide mapping/ion mobility/digest 4.d/analysis.tsf' \
+      'Peptide mapping/ion mobility/digest 4.d/analysis.tsf_bin' \
+      'Peptide mapping/ion mobility/digest 5.mbi' \
+      'Glycans/Übersicht/плазма 1.d/Analysis.baf' \
+      'Glycans/Übersicht/плазма 1.d/плазма 1.u2' \
+      'Glycans/trap/run 7.d/Analysis.yep' \
+      'Glycans/MALDI/plate.d/0_A1/1/1SRef/fid' \
+      'Glycans/MALDI/plate.d/0_A2/1/1SRef/fid' \
+      'Metabolites/pos.wiff' 'Metabolites/pos.wiff.scan' \
+      'Metabolites/neg.wiff2' 'Metabolites/neg.wiff.scan' \
+      'Metabolites/blank.lcd' \
+      'Metabolites/acquisition.vacq' 'Metabolites/long acquisition.vacq/part1' \
+      'Simulated/spectra.msfaux' 'Simulated/spectra.msfaux2' 'Simulated/region.data.cut' \
+      'Simulated/map.csv2d' 'Simulated/archive.zuspec2'
 
-# A stability study, by instrument.
-for day in 01 07 28; do
-    file "Stability 2026/Q-TOF/Day $day.d/AcqData/MSScan.bin" "Stability 2026/Q-TOF/Day $day.d/AcqData/Contents.xml"
-done
-for day in 01 07; do
-    file "Stability 2026/timsTOF/Day $day.d/analysis.tdf" "Stability 2026/timsTOF/Day $day.d/analysis.tdf_bin"
-    file "Stability 2026/Orbitrap/Day $day.raw"
-done
-file "Stability 2026/Orbitrap/Day 01.raw.sha256" "Stability 2026/protocol.txt"
-
-# Released batches, nested by year and month.
-file "Release/2026/03/Batch 17.raw/_FUNC001.DAT" "Release/2026/03/Batch 17.raw/_HEADER.TXT"
-file "Release/2026/03/Batch 18.wiff" "Release/2026/03/Batch 18.wiff.scan"
-file "Release/2026/04/Batch 19.wiff2" "Release/2026/04/Batch 19.wiff.scan"
-file "Release/2026/04/Batch 20.d/Analysis.baf" "Release/2026/04/Batch 20.d/Batch 20.u2"
-file "Release/2026/04/Batch 21.D/analysis.tsf" "Release/2026/04/Batch 21.D/analysis.tsf_bin"
-file "Release/2026/04/Spot A1.d/0_A1/1/1SRef/fid"
-file "Release/2026/04/Batch 22.lcd" "Release/2026/04/Batch 23.MZXML"
-
-# Converted and in-house data, with names in several scripts.
-mzml "Converted/blank.mzML"
-mgf "Converted/HC-T20.mgf"
-mzml "Converted/質量分析/試料 1.mzml"
-file "Converted/Überprüfung µg.vacq" "In house/Run 5.vacq/trace" "In house/Simulated.msfaux2" "In house/Peaks.csv2d"
-file "In house/Region.data.cut" "In house/Mobility.mbi"
-
-# What only looks like data: configuration and empty folders, a scan file that did not come along, a reference
-# that was copied without its folder.
-file "Confusing/conf.d/settings.ini" "Confusing/Scans.raw/readme.txt" "Confusing/Lost scan.wiff"
-file "Confusing/notes.mzml.txt" "Confusing/analysis.tdf" "Confusing/lower case.d/analysis.baf"
-mkdir -p "Confusing/Empty.d" "Confusing/Empty.raw" "Confusing/Folder.mzML"
+# What only looks like data: each is refused, or searched for what lies in it.
+empty 'Confusable/settings.d/10-local.conf' \
+      'Confusable/main.d' \
+      'Confusable/photos.raw/IMG_0001.CR2' \
+      'Confusable/lone.wiff' \
+      'Confusable/lone2.wiff2' \
+      'Confusable/lower case.d/analysis.baf' \
+      'Confusable/half.d/analysis.tdf' \
+      'Confusable/report.mzML.pdf'
+mkdir -p 'Confusable/folder.mzML'
+mgf 'Confusable/photos.raw/real data.mgf' 'found in an ordinary folder'
+ln -sf 'nowhere.mzML' 'Confusable/dangling.mzML'
+ln -sfn '..' 'Confusable/up'
+echo 'Bring the wiff.scan files along when you copy data.' > 'Confusable/notes.txt'

@@ -79,7 +79,7 @@ FormatSet detectFormats(const DataSourceLocation &location, bool byNameOnly, boo
     if (byNameOnly)
         return detectByName(location.localPath, stopAtFirst);
     const DetectionScope scope(location.localPath);
-    const FormatSet found = detectOnDisk(location.localPath, stopAtFirst);
+    FormatSet found = detectOnDisk(location.localPath, stopAtFirst);
     scope.report(found);
     return found;
 }

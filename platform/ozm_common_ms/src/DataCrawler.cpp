@@ -10,6 +10,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <ranges>
 
 using namespace Qt::StringLiterals;
 
@@ -185,15 +186,16 @@ DataCrawler::Item DataCrawler::entryOf(const Item &folder, const internal::Folde
 
 void DataCrawler::queueEntries(QList<Item> entries)
 {
-    // All of one folder, so that their paths compare as their names do. The stack gives the last one first.
-    std::ranges::sort(entries, [](const Item &a, const Item &b) { return namesInOrder(b.path, a.path); });
+    // All of one folder, so that their paths compare as their names do.
+    std::ranges::sort(entries, namesInOrder, &Item::path);
     for (const Item &entry : std::as_const(entries)) {
+        if (entry.isLink)
+            m_links.append(entry.path);
+    }
+    // The stack gives the last one first.
+    for (const Item &entry : std::as_const(entries) | std::views::reverse) {
         if (!entry.isLink)
             m_stack.append(entry);
-    }
-    for (auto entry = entries.crbegin(); entry != entries.crend(); ++entry) {
-        if (entry->isLink)
-            m_links.append(entry->path);
     }
 }
 

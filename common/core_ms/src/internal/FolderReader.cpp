@@ -17,9 +17,9 @@ namespace ozm::msreader::internal {
 namespace {
 
 // Holds some 700 entries, more than most folders have, and stays below what the allocator maps anew.
-constexpr std::size_t kFirstPiece = 32 * 1024;
+constexpr std::size_t kFirstPiece = 32UL * 1024;
 // For the rest of a large folder: about 100,000 entries a call, where the C library takes 700.
-constexpr std::size_t kLargePiece = 4 * 1024 * 1024;
+constexpr std::size_t kLargePiece = 4UL * 1024 * 1024;
 
 bool isDotOrDotDot(std::string_view name)
 {

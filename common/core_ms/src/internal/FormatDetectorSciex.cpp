@@ -25,7 +25,7 @@ FormatDetectorSciexWiff::FormatDetectorSciexWiff()
 
 QSet<VendorDataFormat> FormatDetectorSciexWiff::detectFormat(const QString &path) const
 {
-    if (!isPlainMatch(path))
+    if (!isNameRight(path) || !isKindRight(path))
         return FormatDetectorSimple::detectFormat(path);
     return formatsIf(
         hasScanFile(path, path + ".scan"_L1, "looks like ABI SCIEX WIFF file. But .wiff.scan file is absent"),
@@ -38,7 +38,7 @@ FormatDetectorSciexWiff2::FormatDetectorSciexWiff2()
 
 QSet<VendorDataFormat> FormatDetectorSciexWiff2::detectFormat(const QString &path) const
 {
-    if (!isPlainMatch(path))
+    if (!isNameRight(path) || !isKindRight(path))
         return FormatDetectorSimple::detectFormat(path);
     // run.wiff2 and run.wiff share their scan file.
     return formatsIf(hasScanFile(path, path.chopped(1) + ".scan"_L1,

@@ -21,6 +21,17 @@ const FormatSet &setOf(VendorDataFormat format)
     return sets.at(static_cast<std::size_t>(format));
 }
 
+/// Whether the last characters leave it open that @p path ends with @p extension: most names fail already
+/// there, at a tenth of the price. Beyond ASCII, where one letter can have several forms, it stays open.
+bool mayEndWith(const QString &path, const QString &extension)
+{
+    constexpr char16_t kCaseBit = 0x20;
+    if (path.isEmpty() || extension.isEmpty())
+        return extension.isEmpty();
+    const char16_t last = path.back().unicode();
+    return last >= 0x80 || (last | kCaseBit) == (extension.back().unicode() | kCaseBit);
+}
+
 } // namespace
 
 FormatDetectorSimple::FormatDetectorSimple(VendorDataFormat format, bool isFolder, const QString &extension,
@@ -49,7 +60,7 @@ QSet<VendorDataFormat> FormatDetectorSimple::detectFormat(const QString &path) c
 {
     if (!isNameRight(path))
         return {};
-    return formatsIf(isPlainMatch(path), "extension and kind"_L1,
+    return formatsIf(isKindRight(path), "extension and kind"_L1,
                      m_isFolder ? "extension, but no folder"_L1 : "extension, but no file"_L1);
 }
 
@@ -75,13 +86,12 @@ QString FormatDetectorSimple::formatDescription(VendorDataFormat) const
 
 bool FormatDetectorSimple::isNameRight(const QString &path) const
 {
-    return path.endsWith(m_extension, Qt::CaseInsensitive);
+    return mayEndWith(path, m_extension) && path.endsWith(m_extension, Qt::CaseInsensitive);
 }
 
-bool FormatDetectorSimple::isPlainMatch(const QString &path) const
+bool FormatDetectorSimple::isKindRight(const QString &path) const
 {
-    return isNameRight(path) &&
-           DetectionScope::kind(path) == (m_isFolder ? PathUtils::Kind::Folder : PathUtils::Kind::File);
+    return DetectionScope::kind(path) == (m_isFolder ? PathUtils::Kind::Folder : PathUtils::Kind::File);
 }
 
 QSet<VendorDataFormat> FormatDetectorSimple::formatsIf(bool holds, QLatin1StringView rule,

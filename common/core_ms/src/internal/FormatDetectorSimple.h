@@ -31,8 +31,9 @@ public:
 protected:
     [[nodiscard]] bool isNameRight(const QString &path) const;
 
-    /// The name test and the kind test: all that plain formats need.
-    [[nodiscard]] bool isPlainMatch(const QString &path) const;
+    /// Whether there is a file or a folder, whichever this format is; with the name, all that plain formats
+    /// need.
+    [[nodiscard]] bool isKindRight(const QString &path) const;
 
     /// The supported formats if @p holds, noting @p rule for the line to support either way.
     [[nodiscard]] QSet<VendorDataFormat> formatsIf(bool holds, QLatin1StringView rule,

@@ -11,7 +11,7 @@ FormatDetectorWaters::FormatDetectorWaters()
 
 QSet<VendorDataFormat> FormatDetectorWaters::detectFormat(const QString &path) const
 {
-    if (!isPlainMatch(path))
+    if (!isNameRight(path) || !isKindRight(path))
         return FormatDetectorSimple::detectFormat(path);
     // Of whatever kind, and in whatever letter case the file system takes for the same.
     return formatsIf(PathUtils::exists(path + "/_FUNC001.DAT"_L1), "Waters: _FUNC001.DAT"_L1,

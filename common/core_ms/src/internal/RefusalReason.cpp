@@ -23,9 +23,10 @@ struct MissingPart
 };
 
 constexpr std::array kMissingParts{
-    MissingPart{".d"_L1, Kind::Folder,
-                "The folder holds neither an \"AcqData\" folder (Agilent) nor \"fid\" or \"analysis\" files "
-                "(Bruker)."_L1},
+    MissingPart{
+        ".d"_L1, Kind::Folder,
+        "The folder holds neither an \"AcqData\" folder (Agilent) nor \"fid\" files or a complete set of "
+        "\"analysis\" files (Bruker)."_L1},
     MissingPart{".raw"_L1, Kind::Folder, "The folder holds no \"_FUNC001.DAT\" file (Waters)."_L1},
     MissingPart{".wiff"_L1, Kind::File, "The \".wiff.scan\" file that belongs to it is missing."_L1},
     MissingPart{".wiff2"_L1, Kind::File, "The \".wiff.scan\" file that belongs to it is missing."_L1},
