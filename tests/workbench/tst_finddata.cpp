@@ -116,6 +116,7 @@ private Q_SLOTS:
     void noFolderIsNoSearch();
     void canceledFindAddsNothing();
     void openingOtherSamplesEndsTheFind();
+    void closingEndsTheFind();
     void lockedTrailKeepsDataOut();
     void unreadableFoldersAreReported();
     void missingFolderIsReported();
@@ -221,6 +222,19 @@ void TestFindData::openingOtherSamplesEndsTheFind()
     fixture.window.open(fixture.csvPath());
     QVERIFY(fixture.searched());
     QCOMPARE(fixture.editor->table().rowCount(), 3);
+}
+
+void TestFindData::closingEndsTheFind()
+{
+    // A find that outlives its window reports to freed memory: the next test, or a sanitizer, crashes.
+    auto fixture = std::make_unique<FindFixture>();
+    fixture->trigger(u"findDataAction"_s);
+    fixture.reset();
+    fixture = std::make_unique<FindFixture>();
+    fixture->drop({fixture->url(u"Day 1.d"_s)});
+    QVERIFY(fixture->window.dataImport().isRunning());
+    fixture.reset();
+    QCoreApplication::processEvents();
 }
 
 void TestFindData::lockedTrailKeepsDataOut()
