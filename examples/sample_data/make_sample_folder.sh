@@ -1,7 +1,7 @@
 #!/bin/sh
 # Lays out a folder as laboratories have them: data of several vendors in nested studies, and what is easily
-# taken for data. The mzML and MGF files are small but valid; vendor files are empty, as far as recognition
-# goes.
+# taken for data. The mzML and MGF files are small but valid; vendor files are zeros, which is
+# enough to be recognised.
 #
 #     examples/sample_data/make_sample_folder.sh out/samples
 
@@ -11,10 +11,12 @@ top=${1:?the folder to make}
 mkdir -p "$top"
 cd "$top"
 
-empty() { # file...
+blocks=0
+vendor() { # file...
     for file in "$@"; do
         mkdir -p "$(dirname "$file")"
-        : > "$file"
+        blocks=$((blocks + 1))
+        dd if=/dev/zero of="$file" bs=4096 count=$blocks 2>/dev/null
     done
 }
 
@@ -103,40 +105,40 @@ END
 mzml 'Antibody stability/week 0/mAb-01.mzML' mAb-01
 mzml 'Antibody stability/week 0/mAb-02.MZML' mAb-02
 mgf 'Antibody stability/search/mAb-01.mgf' 'mAb-01 scan 612'
-empty 'Antibody stability/week 4/mAb-01.d/AcqData/MSScan.bin' \
-      'Antibody stability/week 4/mAb-01.d/AcqData/MSPeak.bin' \
-      'Antibody stability/week 4/mAb-02.D/acqdata/msprofile.bin' \
-      'Peptide mapping/digest 1.raw' \
-      'Peptide mapping/digest 2.RAW' \
-      'Peptide mapping/TOF/digest 1.raw/_FUNC001.DAT' \
-      'Peptide mapping/TOF/digest 1.raw/_HEADER.TXT' \
-      'Peptide mapping/ion mobility/digest 3.d/analysis.tdf' \
-      'Peptide mapping/ion mobility/digest 3.d/analysis.tdf_bin' \
-      'Peptide mapping/ion mobility/digest 3.d/4711.m/method.xml' \
-      'Peptide mapping/ion mobility/digest 4.d/analysis.tsf' \
-      'Peptide mapping/ion mobility/digest 4.d/analysis.tsf_bin' \
-      'Peptide mapping/ion mobility/digest 5.mbi' \
-      'Glycans/Übersicht/плазма 1.d/Analysis.baf' \
-      'Glycans/Übersicht/плазма 1.d/плазма 1.u2' \
-      'Glycans/trap/run 7.d/Analysis.yep' \
-      'Glycans/MALDI/plate.d/0_A1/1/1SRef/fid' \
-      'Glycans/MALDI/plate.d/0_A2/1/1SRef/fid' \
-      'Metabolites/pos.wiff' 'Metabolites/pos.wiff.scan' \
-      'Metabolites/neg.wiff2' 'Metabolites/neg.wiff.scan' \
-      'Metabolites/blank.lcd' \
-      'Metabolites/acquisition.vacq' 'Metabolites/long acquisition.vacq/part1' \
-      'Simulated/spectra.msfaux' 'Simulated/spectra.msfaux2' 'Simulated/region.data.cut' \
-      'Simulated/map.csv2d' 'Simulated/archive.zuspec2'
+vendor 'Antibody stability/week 4/mAb-01.d/AcqData/MSScan.bin' \
+       'Antibody stability/week 4/mAb-01.d/AcqData/MSPeak.bin' \
+       'Antibody stability/week 4/mAb-02.D/acqdata/msprofile.bin' \
+       'Peptide mapping/digest 1.raw' \
+       'Peptide mapping/digest 2.RAW' \
+       'Peptide mapping/TOF/digest 1.raw/_FUNC001.DAT' \
+       'Peptide mapping/TOF/digest 1.raw/_HEADER.TXT' \
+       'Peptide mapping/ion mobility/digest 3.d/analysis.tdf' \
+       'Peptide mapping/ion mobility/digest 3.d/analysis.tdf_bin' \
+       'Peptide mapping/ion mobility/digest 3.d/4711.m/method.xml' \
+       'Peptide mapping/ion mobility/digest 4.d/analysis.tsf' \
+       'Peptide mapping/ion mobility/digest 4.d/analysis.tsf_bin' \
+       'Peptide mapping/ion mobility/digest 5.mbi' \
+       'Glycans/Übersicht/плазма 1.d/Analysis.baf' \
+       'Glycans/Übersicht/плазма 1.d/плазма 1.u2' \
+       'Glycans/trap/run 7.d/Analysis.yep' \
+       'Glycans/MALDI/plate.d/0_A1/1/1SRef/fid' \
+       'Glycans/MALDI/plate.d/0_A2/1/1SRef/fid' \
+       'Metabolites/pos.wiff' 'Metabolites/pos.wiff.scan' \
+       'Metabolites/neg.wiff2' 'Metabolites/neg.wiff.scan' \
+       'Metabolites/blank.lcd' \
+       'Metabolites/acquisition.vacq' 'Metabolites/long acquisition.vacq/part1' \
+       'Simulated/spectra.msfaux' 'Simulated/spectra.msfaux2' 'Simulated/region.data.cut' \
+       'Simulated/map.csv2d' 'Simulated/archive.zuspec2'
 
 # What only looks like data: each is refused, or searched for what lies in it.
-empty 'Confusable/settings.d/10-local.conf' \
-      'Confusable/main.d' \
-      'Confusable/photos.raw/IMG_0001.CR2' \
-      'Confusable/lone.wiff' \
-      'Confusable/lone2.wiff2' \
-      'Confusable/lower case.d/analysis.baf' \
-      'Confusable/half.d/analysis.tdf' \
-      'Confusable/report.mzML.pdf'
+vendor 'Confusable/settings.d/10-local.conf' \
+       'Confusable/main.d' \
+       'Confusable/photos.raw/IMG_0001.CR2' \
+       'Confusable/lone.wiff' \
+       'Confusable/lone2.wiff2' \
+       'Confusable/lower case.d/analysis.baf' \
+       'Confusable/half.d/analysis.tdf' \
+       'Confusable/report.mzML.pdf'
 mkdir -p 'Confusable/folder.mzML'
 mgf 'Confusable/photos.raw/real data.mgf' 'found in an ordinary folder'
 ln -sf 'nowhere.mzML' 'Confusable/dangling.mzML'

@@ -1,4 +1,5 @@
 #include "support/StrictTest.h"
+#include "support/WithoutRights.h"
 
 #include "core_ms/SampleTree.h"
 
@@ -14,7 +15,6 @@
 
 #ifdef Q_OS_LINUX
 #include <fcntl.h>
-#include <sys/fsuid.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -22,6 +22,10 @@
 using namespace Qt::StringLiterals;
 using namespace ozm::msreader;
 using ozm::test::SampleTree;
+#ifdef Q_OS_LINUX
+using ozm::test::setMode;
+using ozm::test::WithoutRights;
+#endif
 
 namespace {
 
@@ -34,23 +38,6 @@ QSet<VendorDataFormat> formats(const QString &path)
 {
     return detectFormats(DataSourceLocation::fromLocalPath(path), false, false);
 }
-
-#ifdef Q_OS_LINUX
-/// Looks at files as a user without rights, also when the tests run as root: the kernel then drops the
-/// privileges over files of this thread, and gives them back at the end.
-class AsNobody
-{
-public:
-    AsNobody() { ::setfsuid(65534); }
-    ~AsNobody() { ::setfsuid(::geteuid()); }
-    Q_DISABLE_COPY_MOVE(AsNobody)
-};
-
-void setMode(const QString &path, mode_t mode)
-{
-    QCOMPARE(::chmod(QFile::encodeName(path).constData(), mode), 0);
-}
-#endif
 
 } // namespace
 
@@ -173,7 +160,7 @@ private Q_SLOTS:
         setMode(tree.path(u"part.d/shut"_s), 0);
         setMode(tree.path(u"shut.raw"_s), 0);
         {
-            const AsNobody asNobody;
+            const WithoutRights rights;
             QVERIFY2(!ozm::PathUtils::exists(tree.path(u"hidden.d/AcqData"_s)),
                      "the test sees what it must not");
             QVERIFY(!isData(tree.path(u"hidden.d"_s)));

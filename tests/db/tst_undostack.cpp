@@ -1,5 +1,4 @@
-#include "UndoTestTools.h"
-#include "support/StrictTest.h"
+#include "UndoStackTest.h"
 
 #include <QSignalSpy>
 
@@ -11,40 +10,11 @@ using ozm::OperationLogItemPrivate;
 using ozm::UndoStack;
 using Context = ozm::OperationLogItemUndoContext;
 
-class TestUndoStack : public StrictTest
+class TestUndoStack : public UndoStackTest
 {
     Q_OBJECT
 
-private:
-    ScriptedCommand *command(const Script &script) { return new ScriptedCommand(script, &m_journal); }
-    ozm::Error push(const Script &script) { return m_stack->push(command(script)); }
-    void beginMacro(const QString &name, bool collapse = true)
-    {
-        OperationLogItemData data = recordOf(name);
-        data.setCollapseTrivialMacro(collapse);
-        m_stack->beginMacro(data, name);
-    }
-    QStringList journal() { return std::exchange(m_journal, {}); }
-
-    QStringList m_journal;
-    std::unique_ptr<RecordingLogger> m_logger;
-    std::unique_ptr<UndoStack> m_stack;
-
 private Q_SLOTS:
-    void init()
-    {
-        StrictTest::init();
-        m_logger = std::make_unique<RecordingLogger>(&m_journal);
-        m_stack = std::make_unique<UndoStack>();
-        m_stack->setLogging(m_logger.get());
-    }
-    void cleanup()
-    {
-        m_stack.reset();
-        m_logger.reset();
-        m_journal.clear();
-    }
-
     void stepsAreLogged()
     {
         QVERIFY(!m_stack->push(nullptr).hasError());
@@ -90,7 +60,7 @@ private Q_SLOTS:
     void failedPushLeavesNoTrace()
     {
         QVERIFY(!push({.name = u"a"_s}).hasError());
-        journal();
+        m_journal.clear();
         expectWarning(u"Error in \"New\" command:"_s);
         const ozm::Error error = push({.name = u"b"_s, .failsRedo = true});
         QCOMPARE(error.errorCode(), ErrorCode::Failed);
@@ -120,7 +90,7 @@ private Q_SLOTS:
         expectWarning(
             u"Error in logging begin of macro command: OperationLogItemData{Set Project 'm' to 1}"_s);
         beginMacro(u"m"_s);
-        journal();
+        m_journal.clear();
         m_logger->fails = false;
         QVERIFY(!push({.name = u"b"_s}).hasError());
         QCOMPARE(journal(), QStringList({u"before b"_s, u"redo b"_s, u"log New alone b in -"_s}));
@@ -172,7 +142,7 @@ private Q_SLOTS:
         beginMacro(u"m"_s, collapse);
         for (int i = 0; i < commands; ++i)
             QVERIFY(!push({.name = u"c"_s}).hasError());
-        journal();
+        m_journal.clear();
         QVERIFY(m_stack->endMacro());
         const QStringList commits = journal().filter(u"commit"_s);
         QCOMPARE(commits, committed.isEmpty() ? QStringList() : QStringList{committed});
@@ -189,7 +159,7 @@ private Q_SLOTS:
         QVERIFY(!push({.name = u"a"_s}).hasError());
         QVERIFY(m_stack->endMacro());
         QVERIFY2(!m_logger->items.at(0)->hasChildren(), "nothing is left of either");
-        journal();
+        m_journal.clear();
         QVERIFY(m_stack->endMacro());
         QCOMPARE(journal(), QStringList{u"commit 1 []"_s});
     }
@@ -273,7 +243,7 @@ private Q_SLOTS:
     void refusedFirstStepIsNotRun()
     {
         beginMacro(u"m"_s);
-        journal();
+        m_journal.clear();
         const ozm::Error error = push({.name = u"f"_s, .failsBefore = true});
         QCOMPARE(error.errorMessage(), u"before f"_s);
         QCOMPARE(journal(), QStringList{u"before f"_s});
@@ -306,11 +276,11 @@ private Q_SLOTS:
         a->undo();
         QCOMPARE(journal(), QStringList({u"redo a"_s, u"undo a"_s}));
         QVERIFY(!m_stack->push(a).hasError());
-        journal();
+        m_journal.clear();
         a->redo();
         QVERIFY2(journal() == QStringList{u"redo a"_s}, "there is nothing to redo in the stack");
         m_stack->undo();
-        journal();
+        m_journal.clear();
         expectWarning(u"Can't undo \"a\""_s);
         a->undo();
         QVERIFY(journal().isEmpty());

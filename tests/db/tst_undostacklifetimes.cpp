@@ -1,5 +1,4 @@
-#include "UndoTestTools.h"
-#include "support/StrictTest.h"
+#include "UndoStackTest.h"
 
 using namespace Qt::StringLiterals;
 using namespace ozm::test;
@@ -31,39 +30,18 @@ private:
 
 /// Commands that die in the middle of things, and edits that come at the wrong moment. Most of these guard
 /// against a use of freed memory, which the run under the address sanitizer shows for sure.
-class TestUndoStackLifetimes : public StrictTest
+class TestUndoStackLifetimes : public UndoStackTest
 {
     Q_OBJECT
 
 private:
-    ozm::Error push(const Script &script) { return m_stack->push(new ScriptedCommand(script, &m_journal)); }
-    void beginMacro() { m_stack->beginMacro(recordOf(u"m"_s), u"m"_s); }
-    QStringList journal() { return std::exchange(m_journal, {}); }
-    QString recentLogItem() const
+    [[nodiscard]] QString recentLogItem() const
     {
         const auto item = m_stack->recentLogItem().toStrongRef();
         return item ? item->data()->attributeNamesString() : QString();
     }
 
-    QStringList m_journal;
-    std::unique_ptr<RecordingLogger> m_logger;
-    std::unique_ptr<UndoStack> m_stack;
-
 private Q_SLOTS:
-    void init()
-    {
-        StrictTest::init();
-        m_logger = std::make_unique<RecordingLogger>(&m_journal);
-        m_stack = std::make_unique<UndoStack>();
-        m_stack->setLogging(m_logger.get());
-    }
-    void cleanup()
-    {
-        m_stack.reset();
-        m_logger.reset();
-        m_journal.clear();
-    }
-
     void mergedAway_data()
     {
         QTest::addColumn<bool>("inMacro");
@@ -78,9 +56,9 @@ private Q_SLOTS:
         QFETCH(bool, inMacro);
         QFETCH(bool, fails);
         if (inMacro)
-            beginMacro();
+            beginMacro(u"m"_s);
         QVERIFY(!push({.name = u"a"_s, .mergeId = 1, .greedy = true}).hasError());
-        journal();
+        m_journal.clear();
         if (fails)
             expectWarning(u"Error in \"New\" command:"_s);
         const ozm::Error error = push({.name = u"b"_s, .mergeId = 1, .failsRedo = fails});
@@ -105,7 +83,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, fails);
         QVERIFY(!push({.name = u"a"_s}).hasError());
-        journal();
+        m_journal.clear();
         if (fails)
             expectWarning(u"Error in \"New\" command:"_s);
         const ozm::Error error = push({.name = u"b"_s, .failsRedo = fails, .obsoleteAfterRedo = true});
@@ -133,7 +111,7 @@ private Q_SLOTS:
             else
                 QVERIFY(!push({.name = u"c"_s}).hasError());
         });
-        journal();
+        m_journal.clear();
         expectWarning(u"Error in \"New\" command:"_s);
         QCOMPARE(push({.name = u"b"_s, .failsRedo = true}).errorMessage(), u"redo b"_s);
         const QStringList calls = journal();
@@ -154,7 +132,7 @@ private Q_SLOTS:
     void lastOfAMacroDies()
     {
         QFETCH(bool, clears);
-        beginMacro();
+        beginMacro(u"m"_s);
         auto *last = new ScriptedCommand({.name = u"a"_s, .mergeId = 1, .greedy = true}, &m_journal);
         QVERIFY(!m_stack->push(last).hasError());
         if (clears) {
@@ -166,7 +144,7 @@ private Q_SLOTS:
             QVERIFY(!push({.name = u"b"_s, .mergeId = 1}).hasError());
         }
         QVERIFY(m_journal.contains(u"dies a"_s));
-        journal();
+        m_journal.clear();
         QCOMPARE(m_stack->endMacro(), !clears);
         QVERIFY(!journal().contains(u"after a"_s));
     }
@@ -193,9 +171,9 @@ private Q_SLOTS:
 
     void stackDiesInTheMiddleOfMacros()
     {
-        beginMacro();
+        beginMacro(u"m"_s);
         QVERIFY(!push({.name = u"a"_s}).hasError());
-        beginMacro();
+        beginMacro(u"m"_s);
         QVERIFY(!push({.name = u"b"_s}).hasError());
         m_stack.reset();
         QCOMPARE(m_journal.filter(u"dies"_s).size(), 2);
@@ -210,14 +188,14 @@ private Q_SLOTS:
     void clearInTheMiddleOfMacros()
     {
         QFETCH(bool, throughBase);
-        beginMacro();
+        beginMacro(u"m"_s);
         QVERIFY(!push({.name = u"a"_s}).hasError());
-        beginMacro();
+        beginMacro(u"m"_s);
         if (throughBase)
             static_cast<QUndoStack *>(m_stack.get())->clear();
         else
             m_stack->clear();
-        journal();
+        m_journal.clear();
 
         QVERIFY(!push({.name = u"b"_s}).hasError());
         QCOMPARE(journal(), QStringList({u"redo b"_s, u"log New alone b in -"_s}));
@@ -288,7 +266,7 @@ private Q_SLOTS:
         QVERIFY(!push({.name = u"b"_s, .inRedo = attempt, .inUndo = attempt}).hasError());
         QVERIFY(!push({.name = u"c"_s}).hasError());
         m_stack->setIndex(redo ? 1 : 2);
-        journal();
+        m_journal.clear();
         armed = true;
         if (redo)
             m_stack->redo();
@@ -329,7 +307,7 @@ private Q_SLOTS:
     void macroAbortedByItsOwnCommand()
     {
         QFETCH(bool, beforehand);
-        beginMacro();
+        beginMacro(u"m"_s);
         Script script{.name = u"a"_s};
         (beforehand ? script.inBefore : script.inRedo) = [this] { QVERIFY(m_stack->abortMacro()); };
         QVERIFY(!push(script).hasError());
@@ -341,7 +319,7 @@ private Q_SLOTS:
     void lastCountersDroppedByAnUndo()
     {
         Script script{.name = u"a"_s};
-        beginMacro();
+        beginMacro(u"m"_s);
         bool armed = false;
         script.inBefore = [this, &armed] {
             if (!armed)

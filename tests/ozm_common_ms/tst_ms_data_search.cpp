@@ -1,4 +1,5 @@
 #include "support/StrictTest.h"
+#include "support/WithoutRights.h"
 
 #include "core_ms/SampleTree.h"
 
@@ -9,12 +10,6 @@
 
 #include <algorithm>
 #include <random>
-
-#ifdef Q_OS_LINUX
-#include <sys/fsuid.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
 
 using namespace Qt::StringLiterals;
 using namespace ozm::msreader;
@@ -153,11 +148,8 @@ private Q_SLOTS:
     {
         const SampleTree tree;
         tree.make({u"a.mgf"_s, u"shut/b.mgf"_s, u"z/c.mgf"_s});
-        const auto setMode = [&tree](const QString &name, mode_t mode) {
-            QCOMPARE(::chmod(QFile::encodeName(tree.path(name)).constData(), mode), 0);
-        };
-        setMode(QString(), 0755);
-        setMode(u"shut"_s, 0);
+        ozm::test::setMode(tree.path(), 0755);
+        ozm::test::setMode(tree.path(u"shut"_s), 0);
         QStringList found;
         QStringList passedOver;
         MsDataSearchCallbacks callbacks;
@@ -165,12 +157,14 @@ private Q_SLOTS:
         callbacks.passedOver = [&](const QString &folder, const QString &reason) {
             passedOver.append(folder + u": "_s + reason);
         };
-        // Also root is a user without rights for a while.
-        ::setfsuid(65534);
-        const ozm::Error error = MsDataFileUtils::search(tree.path(), {}, callbacks);
-        const ozm::Error atStart = MsDataFileUtils::search(tree.path(u"shut"_s), {}, {});
-        ::setfsuid(::geteuid());
-        setMode(u"shut"_s, 0755);
+        ozm::Error error;
+        ozm::Error atStart;
+        {
+            const ozm::test::WithoutRights rights;
+            error = MsDataFileUtils::search(tree.path(), {}, callbacks);
+            atStart = MsDataFileUtils::search(tree.path(u"shut"_s), {}, {});
+        }
+        ozm::test::setMode(tree.path(u"shut"_s), 0755);
         QVERIFY(!error.hasError());
         QCOMPARE(relativeTo(tree, found), (QStringList{u"a.mgf"_s, u"z/c.mgf"_s}));
         QCOMPARE(passedOver, QStringList{tree.path(u"shut"_s) + u": The folder cannot be read."_s});

@@ -5,6 +5,7 @@
 #include "SampleFixture.h"
 #include "core_ms/SampleTree.h"
 #include "support/StrictTest.h"
+#include "support/WithoutRights.h"
 
 #include <QAction>
 #include <QDropEvent>
@@ -15,12 +16,6 @@
 #include <QTableView>
 #include <QToolButton>
 #include <QUrl>
-
-#ifdef Q_OS_LINUX
-#include <sys/fsuid.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
 
 using namespace Qt::StringLiterals;
 using namespace ozm::test;
@@ -82,21 +77,6 @@ struct FindFixture : SampleFixture
     MainWindow window;
     QSignalSpy reports;
 };
-
-#ifdef Q_OS_LINUX
-/// Threads started meanwhile meet the rights of a user who owns nothing.
-class WithoutRights
-{
-public:
-    WithoutRights()
-    {
-        if (geteuid() == 0)
-            setfsuid(65534);
-    }
-    ~WithoutRights() { setfsuid(geteuid()); }
-    Q_DISABLE_COPY_MOVE(WithoutRights)
-};
-#endif
 
 } // namespace
 
@@ -254,24 +234,22 @@ void TestFindData::unreadableFoldersAreReported()
     FindFixture fixture;
     for (const auto &name : {u"A"_s, u"B"_s}) {
         fixture.tree.make({name + u"/secret.mzml"_s});
-        QCOMPARE(chmod(qUtf8Printable(fixture.tree.path(name)), 0), 0);
+        ozm::test::setMode(fixture.tree.path(name), 0);
     }
-    QCOMPARE(chmod(qUtf8Printable(fixture.tree.path()), 0755), 0);
+    ozm::test::setMode(fixture.tree.path(), 0755);
     {
-        const WithoutRights rights;
+        const ozm::test::WithoutRights rights;
         fixture.trigger(u"findDataAction"_s);
     }
     QVERIFY(fixture.searched());
     for (const auto &name : {u"A"_s, u"B"_s})
-        chmod(qUtf8Printable(fixture.tree.path(name)), 0755);
+        ozm::test::setMode(fixture.tree.path(name), 0755);
     QCOMPARE(fixture.editor->table().rowCount(), 5);
     QCOMPARE(fixture.refusals().size(), 2);
     QVERIFY(fixture.refusals().constFirst().contains(fixture.tree.path(u"A"_s)));
     const auto *message = fixture.find<QMessageBox>(u"troubleMessage"_s);
     QVERIFY(message);
     QVERIFY(message->text().contains(fixture.tree.path(u"B"_s)));
-#else
-    QSKIP("Rights are taken away as on Linux");
 #endif
 }
 
