@@ -10,7 +10,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <ranges>
+#include <iterator>
 
 using namespace Qt::StringLiterals;
 
@@ -193,10 +193,8 @@ void DataCrawler::queueEntries(QList<Item> entries)
             m_links.append(entry.path);
     }
     // The stack gives the last one first.
-    for (const Item &entry : std::as_const(entries) | std::views::reverse) {
-        if (!entry.isLink)
-            m_stack.append(entry);
-    }
+    std::ranges::copy_if(entries.crbegin(), entries.crend(), std::back_inserter(m_stack),
+                         [](const Item &entry) { return !entry.isLink; });
 }
 
 void DataCrawler::passOver(const QString &folder)
