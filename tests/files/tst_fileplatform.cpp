@@ -108,14 +108,15 @@ void TestFilePlatform::referencesReadBack()
     LocalResourceReference local;
     QVERIFY(!local.setPath(location).hasError());
     QCOMPARE(local.path(), location);
-    for (const auto &reference :
-         {static_cast<const ResourceReference &>(local), ResourceReference(Scheme::Server, location),
-          ResourceReference(Scheme::Database, location)}) {
-        const QString text = reference.toString();
+    const ResourceReference server(Scheme::Server, location);
+    const ResourceReference database(Scheme::Database, location);
+    for (const ResourceReference *reference :
+         std::initializer_list<const ResourceReference *>{&local, &server, &database}) {
+        const QString text = reference->toString();
         QVERIFY2(!text.contains(u'\n'), qPrintable(text));
         const auto again = ResourceReference::fromString(text);
         QVERIFY(again);
-        QCOMPARE(again.value()->scheme(), reference.scheme());
+        QCOMPARE(again.value()->scheme(), reference->scheme());
         QCOMPARE(again.value()->location(), location);
     }
 }
