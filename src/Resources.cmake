@@ -1,0 +1,11 @@
+# What is embedded into the library: style sheet, icons, translations.
+
+set(resources_dir "${PROJECT_SOURCE_DIR}/resources")
+file(GLOB icons CONFIGURE_DEPENDS "${resources_dir}/icons/*.svg")
+foreach(icon IN LISTS icons)
+    cmake_path(GET icon FILENAME name)
+    set_source_files_properties("${icon}" PROPERTIES QT_RESOURCE_ALIAS "icons/${name}")
+endforeach()
+set_source_files_properties("${resources_dir}/stylesheet.qss" PROPERTIES QT_RESOURCE_ALIAS "stylesheet")
+qt_add_resources(ozm_widgets ozm_widgets_style PREFIX "/style"
+    FILES "${resources_dir}/stylesheet.qss" ${icons})
