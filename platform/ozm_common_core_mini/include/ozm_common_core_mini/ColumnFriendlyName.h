@@ -16,11 +16,22 @@
 class OZM_COMMON_CORE_MINI_EXPORT ColumnFriendlyName
 {
 public:
+    /// What stands for a column in a row that summarises several; where they read the same, that value.
+    enum class Summary
+    {
+        Values, ///< The different values, in order of appearance, joined with "; ".
+        Range,  ///< The smallest and the largest number: "2 – 5".
+        Sum,    ///< Of all values, equal ones too.
+        Mean,   ///< Of all values, equal ones too.
+        Count   ///< How many different values there are.
+    };
+
     struct OZM_COMMON_CORE_MINI_EXPORT FriendlyNameStruct
     {
         QString friendlyName;
         QString toolTip;
         int decimals = -1; ///< Digits shown after the point; -1 shows a number as it is.
+        Summary summary = Summary::Values;
 
         /// The value as a reader sees it: numbers with the column's digits, lists joined with "; ".
         [[nodiscard]] QString valueToString(const QVariant &value) const;

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <ozm_widgets/ozm_widgets_export.h>
+
+#include <QList>
+#include <QMap>
+#include <QObject>
+#include <QString>
+#include <QVariant>
+
+#include <chrono>
+#include <memory>
+
+class TemplateEditorJSEnginePrivate;
+
+/**
+ * Runs the JavaScript of report templates.
+ *
+ * Scripts see the decoded codes as the global object `inputParameters`, and the helper functions of the
+ * script library as `templateEditorCore`:
+ *
+ *     TemplateEditorJSEngine engine;
+ *     engine.evaluateJS(u"templateEditorCore.number(inputParameters['[Mass]'], 2)"_s, {{u"[Mass]"_s,
+ * 1045.534}});
+ *
+ * The library is a file that evaluates to an object of functions, which keep no state of their own. Without
+ * a usable one the engine is not valid, has said so in one warning, and runs scripts without helpers.
+ *
+ * What scripts leave behind stays until the engine goes; TemplateEditorJSCodeReader keeps templates apart.
+ * GUI thread, with a QCoreApplication.
+ */
+class OZM_WIDGETS_EXPORT TemplateEditorJSEngine : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// With the library templateEditorJSLib/TemplateEditorJSUtils.js in the application's folder.
+    explicit TemplateEditorJSEngine(QObject *parent = nullptr);
+    explicit TemplateEditorJSEngine(const QString &path, QObject *parent = nullptr);
+    ~TemplateEditorJSEngine() override;
+
+    /// Whether the library was loaded and evaluated without an error.
+    [[nodiscard]] bool isValid() const;
+
+    /// The text of the script's result; @p code itself when the script fails in any way: an error as its
+    /// result, anything thrown, a result whose conversion throws, or a deadline missed.
+    [[nodiscard]] QString evaluateJS(const QString &code, const QMap<QString, QVariant> &parameters);
+
+    /**
+     * How long a piece of script may run before it is interrupted and counts as failed; 5 seconds unless
+     * set, none at all when zero. For all engines of the process, from the next piece on; any thread.
+     *
+     * Only running script code is interrupted. One call of a built-in function that takes long by itself
+     * (filling an array of a hundred million elements) is not: it ends in its own time.
+     */
+    static void setDeadline(std::chrono::milliseconds deadline);
+    [[nodiscard]] static std::chrono::milliseconds deadline();
+
+private:
+    friend class TemplateEditorJSCodeReader;
+
+    const std::unique_ptr<TemplateEditorJSEnginePrivate> d;
+};
+
+/**
+ * Decodes the text of a template: runs the scripts between "<script>" and "</script>" and puts their results
+ * in their places, then puts values in the places of codes.
+ *
+ *     TemplateEditorJSCodeReader reader;
+ *     reader.readAsString(u"[Name]: <script>6 * 7</script>"_s, {{u"[Name]"_s, u"T12"_s}});
+ *     // T12: <script>42</script>
+ *
+ * The tags stay; AbstractTemplateEditor::withoutScriptTags() takes them out for readers. The pieces run from
+ * the last to the first. What a template leaves behind in the engine is gone for the next one.
+ *
+ * Parsed templates are remembered, up to a bound on the characters that takes. GUI thread.
+ */
+class OZM_WIDGETS_EXPORT TemplateEditorJSCodeReader : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit TemplateEditorJSCodeReader(QObject *parent = nullptr);
+    ~TemplateEditorJSCodeReader() override;
+
+    [[nodiscard]] bool isValid() const;
+
+    /// The code of all pieces of script in @p text, in order of position.
+    [[nodiscard]] QList<QString> createAndReturnAllScriptElements(const QString &text);
+
+    /**
+     * The decoded text. Each key of @p parameters is replaced, in ascending order and with letter case, in
+     * all of the text, so that a value may bring in a key that comes later. A string list is joined with
+     * "; ", any other value is put in as QVariant::toString() has it.
+     */
+    [[nodiscard]] QString readAsString(const QString &text, const QMap<QString, QVariant> &parameters);
+
+private:
+    friend class TemplateDecoder;
+    class Private;
+    const std::unique_ptr<Private> d;
+};

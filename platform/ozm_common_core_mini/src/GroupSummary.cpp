@@ -1,0 +1,135 @@
+#include <ozm_common_core_mini/GroupSummary.h>
+
+#include <ozm_common_core_mini/RowNode.h>
+#include <ozm_common_core_mini/VariantItems.h>
+
+#include <QSet>
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm::rn {
+
+namespace {
+
+using Description = ColumnFriendlyName::FriendlyNameStruct;
+using Summary = ColumnFriendlyName::Summary;
+
+void appendItems(QVariantList &all, const QVariant &value)
+{
+    if (value.metaType() == QMetaType::fromType<VariantItems>()) {
+        for (const QVariant &item : value.value<VariantItems>().toList())
+            appendItems(all, item);
+    } else if (value.typeId() == QMetaType::QVariantList || value.typeId() == QMetaType::QStringList) {
+        for (const QVariant &item : value.toList())
+            appendItems(all, item);
+    } else if (value.isValid()) {
+        all.append(value);
+    }
+}
+
+/// The values of a column below @p group, lists taken apart; what reads as nothing is left out.
+QVariantList valuesBelow(const RowNode &group, int column, const Description &description)
+{
+    QVariantList all;
+    for (int index = 0; index < group.childCount(); ++index)
+        appendItems(all, group.child(index)->getDataAt(column));
+    all.removeIf([&](const QVariant &value) { return description.valueToString(value).isEmpty(); });
+    return all;
+}
+
+/// Those that read differently, the first of each.
+QVariantList differentValues(const QVariantList &all, const Description &description)
+{
+    QVariantList different;
+    QSet<QString> seen;
+    for (const QVariant &value : all) {
+        const qsizetype known = seen.size();
+        seen.insert(description.valueToString(value));
+        if (seen.size() > known)
+            different.append(value);
+    }
+    return different;
+}
+
+std::optional<std::vector<double>> numbers(const QVariantList &values)
+{
+    std::vector<double> all;
+    for (const QVariant &value : values) {
+        bool isNumber = false;
+        all.push_back(value.toDouble(&isNumber));
+        if (!isNumber)
+            return std::nullopt;
+    }
+    return all;
+}
+
+double sum(const std::vector<double> &all)
+{
+    double total = 0.0;
+    for (const double number : all)
+        total += number;
+    return total;
+}
+
+QVariant range(const QVariantList &values, const std::vector<double> &all, const Description &description)
+{
+    const auto [least, most] = std::ranges::minmax_element(all);
+    return u"%1 – %2"_s.arg(description.valueToString(values.at(least - all.begin())),
+                            description.valueToString(values.at(most - all.begin())));
+}
+
+QVariant summaryOf(const QVariantList &all, const Description &description)
+{
+    const QVariantList different = differentValues(all, description);
+    if (description.summary == Summary::Count)
+        return different.isEmpty() ? QVariant() : QVariant(different.size());
+    if (different.isEmpty())
+        return {};
+    const auto summed = description.summary == Summary::Sum || description.summary == Summary::Mean;
+    if (different.size() == 1 && !summed)
+        return different.constFirst();
+
+    // One text among the numbers, such as "n. d.", and there is nothing to reckon with.
+    const auto found = numbers(summed ? all : different);
+    if (!found || description.summary == Summary::Values)
+        return different;
+    if (description.summary == Summary::Range)
+        return range(different, *found, description);
+    const double total = sum(*found);
+    return description.summary == Summary::Sum ? total : total / static_cast<double>(found->size());
+}
+
+} // namespace
+
+void GroupSummary::set(const QString &name, const Description &description)
+{
+    m_columns.insert(name, description);
+}
+
+void GroupSummary::update(RowNode *root) const
+{
+    if (!root)
+        return;
+    // Each row stands before those below it, so that backwards the lowest come first.
+    std::vector<RowNode *> rows{root};
+    for (std::size_t next = 0; next < rows.size(); ++next) {
+        RowNode *row = rows[next];
+        for (int index = 0; index < row->childCount(); ++index)
+            rows.push_back(row->child(index));
+    }
+    for (std::size_t next = rows.size(); next-- > 1;) {
+        RowNode *group = rows[next];
+        if (group->childCount() == 0)
+            continue;
+        for (auto column = m_columns.cbegin(); column != m_columns.cend(); ++column) {
+            if (const int index = group->columnIndex(column.key()); index >= 0)
+                group->setDataAt(index, summaryOf(valuesBelow(*group, index, *column), *column));
+        }
+    }
+}
+
+} // namespace ozm::rn

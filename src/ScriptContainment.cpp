@@ -1,0 +1,10 @@
+#include "ScriptContainment.h"
+
+namespace ozm {
+
+bool isContainedScript(const QString &code)
+{
+    return code.trimmed().isEmpty();
+}
+
+} // namespace ozm

@@ -1,0 +1,106 @@
+#include "ScriptWatchdog.h"
+
+#include <QDeadlineTimer>
+#include <QJSEngine>
+#include <QMutex>
+#include <QThread>
+#include <QWaitCondition>
+
+#include <algorithm>
+#include <vector>
+
+namespace ozm {
+
+namespace {
+
+class Watchdog
+{
+public:
+    /// Never destroyed: its thread sleeps until the process ends, and there is no good moment to join it.
+    static Watchdog &instance()
+    {
+        static auto *watchdog = new Watchdog;
+        return *watchdog;
+    }
+
+    void watch(QJSEngine &engine, QDeadlineTimer deadline)
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_watched.push_back({&engine, deadline});
+        if (deadline < m_wakeUp)
+            m_sooner.wakeOne();
+    }
+
+    void release(QJSEngine &engine)
+    {
+        const QMutexLocker lock(&m_mutex);
+        const auto latest =
+            std::ranges::find(m_watched.rbegin(), m_watched.rend(), &engine, &Watched::engine);
+        m_watched.erase(std::next(latest).base());
+    }
+
+private:
+    struct Watched
+    {
+        QJSEngine *engine;
+        QDeadlineTimer deadline;
+    };
+
+    Watchdog()
+    {
+        QThread *thread = QThread::create([this] { run(); });
+        thread->setObjectName(QStringLiteral("script watchdog"));
+        thread->start();
+    }
+
+    [[noreturn]] void run()
+    {
+        const QMutexLocker lock(&m_mutex);
+        while (true) {
+            interruptTheLate();
+            m_sooner.wait(&m_mutex, m_wakeUp);
+        }
+    }
+
+    void interruptTheLate()
+    {
+        m_wakeUp = QDeadlineTimer(QDeadlineTimer::Forever);
+        for (Watched &watched : m_watched) {
+            if (watched.deadline.hasExpired()) {
+                watched.engine->setInterrupted(true);
+                watched.deadline = QDeadlineTimer(QDeadlineTimer::Forever);
+            }
+            m_wakeUp = std::min(m_wakeUp, watched.deadline);
+        }
+    }
+
+    QMutex m_mutex;
+    QWaitCondition m_sooner;
+    QDeadlineTimer m_wakeUp{QDeadlineTimer::Forever};
+    std::vector<Watched> m_watched;
+};
+
+} // namespace
+
+ScriptWatch::ScriptWatch(QJSEngine &engine, std::chrono::milliseconds deadline)
+    : m_engine(engine)
+    , m_watching(deadline.count() > 0)
+{
+    if (m_watching)
+        Watchdog::instance().watch(engine, QDeadlineTimer(deadline, Qt::PreciseTimer));
+}
+
+ScriptWatch::~ScriptWatch()
+{
+    if (!m_watching)
+        return;
+    Watchdog::instance().release(m_engine);
+    m_engine.setInterrupted(false);
+}
+
+bool ScriptWatch::barked() const
+{
+    return m_engine.isInterrupted();
+}
+
+} // namespace ozm

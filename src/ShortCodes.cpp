@@ -1,0 +1,216 @@
+#include <ozm_widgets/ShortCodes.h>
+
+#include "Logging.h"
+#include "ShortCodes_p.h"
+
+#include <ozm_widgets/TECWrapper.h>
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+ShortCodeImplementation::ShortCodeImplementation(QObject *parent)
+    : QObject(parent)
+{}
+
+ShortCodeImplementation::~ShortCodeImplementation() = default;
+
+bool ShortCodeImplementation::beforeGetDisplayName(ShortCode * /*shortCode*/,
+                                                   const QMap<QString, QVariant> & /*parameters*/)
+{
+    return true;
+}
+
+bool ShortCodeImplementation::beforeRemove()
+{
+    return true;
+}
+
+void ShortCodeImplementation::init(ShortCode * /*shortCode*/) {}
+
+QString ShortCodeImplementation::displayName(const QString &name)
+{
+    return name;
+}
+
+ShortCode::Private::Private(ShortCode *owner)
+    : implementation(new ShortCodeImplementation)
+    , qptr(owner)
+{}
+
+bool ShortCode::Private::copyParameters(const ShortCode &other)
+{
+    if (!qptr) {
+        qCCritical(lcOzmWidgets, "qptr is invalid");
+        return false;
+    }
+    implementation = other.d->implementation;
+    qptr->code = other.code;
+    qptr->name = other.name;
+    qptr->toolTip = other.toolTip;
+    qptr->extraText = other.extraText;
+    return true;
+}
+
+ShortCode::ShortCode()
+    : d(std::make_unique<Private>(this))
+{}
+
+ShortCode::ShortCode(const QString &codeText, const QString &nameText, const QString &toolTipText,
+                     const QString &extra)
+    : code(codeText)
+    , name(nameText)
+    , toolTip(toolTipText)
+    , extraText(extra)
+    , d(std::make_unique<Private>(this))
+{}
+
+ShortCode::ShortCode(const ShortCode &other)
+    : ShortCode()
+{
+    d->copyParameters(other);
+}
+
+ShortCode &ShortCode::operator=(const ShortCode &other)
+{
+    if (this != &other)
+        d->copyParameters(other);
+    return *this;
+}
+
+ShortCode::~ShortCode() = default;
+
+bool ShortCode::operator==(const ShortCode &other) const
+{
+    return code == other.code && name == other.name && toolTip == other.toolTip &&
+           extraText == other.extraText;
+}
+
+QString ShortCode::displayName()
+{
+    return d->implementation->displayName(name);
+}
+
+bool ShortCode::beforeGetDisplayName(const QMap<QString, QVariant> &parameters)
+{
+    return d->implementation && d->implementation->beforeGetDisplayName(this, parameters);
+}
+
+bool ShortCode::beforeRemove() const
+{
+    return d->implementation->beforeRemove();
+}
+
+QSharedPointer<ShortCodeImplementation> ShortCode::implementation()
+{
+    return d->implementation;
+}
+
+void ShortCode::setImplementation(ShortCodeImplementation *implementation)
+{
+    if (!implementation) {
+        qCWarning(lcOzmWidgets) << "A short code cannot be without an implementation:" << code;
+        return;
+    }
+    d->implementation.reset(implementation);
+    d->implementation->init(this);
+}
+
+namespace ShortCodeUtils {
+
+bool keyExist(const QString &key, const QList<ShortCode> &codes)
+{
+    return std::ranges::any_of(codes, [&key](const ShortCode &each) { return each.code == key; });
+}
+
+ShortCode findValue(const QString &key, const QList<ShortCode> &codes)
+{
+    const auto found =
+        std::ranges::find_if(codes, [&key](const ShortCode &each) { return each.code == key; });
+    return found != codes.end() ? *found : ShortCode();
+}
+
+} // namespace ShortCodeUtils
+
+namespace {
+
+// What was called after oligonucleotides first is known by the protein; old templates say the old names.
+constexpr std::array kLegacyNames{"OligoAliasName"_L1, "OligoAccessionName"_L1};
+
+void renameLegacyCodes(QList<QString> &codes)
+{
+    for (const QLatin1StringView legacy : kLegacyNames) {
+        // Only the first: templates in use rely on later ones being left alone.
+        const auto found = std::ranges::find(codes, legacy);
+        if (found != codes.end())
+            found->replace("Oligo"_L1, "Protein"_L1);
+    }
+}
+
+qsizetype findCodeEnd(QStringView text, qsizetype from)
+{
+    while (from < text.size() && text[from] != u']' && text[from] != u'\n')
+        ++from;
+    return from;
+}
+
+} // namespace
+
+QList<QString> getCodes(const QString &text, bool withBrackets)
+{
+    // The matches of \[(.*?)\], found without starting anew at each of many brackets left open.
+    QList<QString> codes;
+    for (qsizetype open = text.indexOf(u'['); open >= 0;) {
+        const qsizetype end = findCodeEnd(text, open + 1);
+        if (end == text.size())
+            break;
+        if (text.at(end) == u']') {
+            const QStringView inner = QStringView(text).sliced(open + 1, end - open - 1);
+            if (withBrackets)
+                codes.append(text.sliced(open, end - open + 1));
+            else
+                codes.append(inner.sliced(inner.lastIndexOf(u'[') + 1).toString());
+        }
+        open = text.indexOf(u'[', end + 1);
+    }
+    renameLegacyCodes(codes);
+    return codes;
+}
+
+namespace {
+
+const QString kEnvelopeTag = u"ozm_template"_s;
+const QString kVersionAttribute = u"version"_s;
+const QString kVersion = u"1.0"_s;
+
+const QRegularExpression &envelopePattern()
+{
+    static const QRegularExpression pattern(
+        u"<%1 %2=\"(\\d.\\d)\">(.*)</%3>"_s.arg(kEnvelopeTag, kVersionAttribute, kEnvelopeTag),
+        QRegularExpression::DotMatchesEverythingOption);
+    return pattern;
+}
+
+} // namespace
+
+QString TECWrapper::wrapTEC(const QString &content)
+{
+    // One argument at a time: stored templates rely on markers in the content taking part.
+    return u"<%1 %2=\"%3\">%4</%5>"_s.arg(kEnvelopeTag)
+        .arg(kVersionAttribute)
+        .arg(kVersion)
+        .arg(content)
+        .arg(kEnvelopeTag);
+}
+
+QString TECWrapper::unwrapTEC(const QString &text, bool *ok)
+{
+    const QRegularExpressionMatch match = envelopePattern().match(text);
+    const bool known = match.hasMatch() && match.capturedView(1) == kVersion;
+    if (ok)
+        *ok = known;
+    return known ? match.captured(2) : QString();
+}
