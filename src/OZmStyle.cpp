@@ -24,6 +24,8 @@ static void initResources()
 namespace {
 
 const QString kIconFolder = u":/style/icons"_s;
+// Kept with the application, since that is what it is true of.
+constexpr const char *kApplied = "ozmAppliedStyle";
 
 QByteArray read(const QString &path)
 {
@@ -84,21 +86,24 @@ void followPalette()
     qApp->installEventFilter(follower);
 }
 
-QIcon ownIcon(const QString &name)
+} // namespace
+
+std::unique_ptr<ozm::StyleIconEngine> ozm::loadStyleIcon(const QString &name)
 {
     initResources();
     const QByteArray svg = read(kIconFolder + u'/' + name + u".svg"_s);
     if (svg.isEmpty() || !QSvgRenderer(svg).isValid())
-        return {};
-    return QIcon(new ozm::StyleIconEngine(name, svg));
+        return nullptr;
+    return std::make_unique<StyleIconEngine>(name, svg);
 }
 
-} // namespace
+bool ozm::isStyleApplied()
+{
+    return qApp->property(kApplied).isValid();
+}
 
 void OZMStyle::apply(const QString &style)
 {
-    const char *kApplied = "ozmAppliedStyle";
-    // Kept with the application, since that is what it is true of.
     if (qApp->property(kApplied).toString() == style && qApp->styleSheet() == sheet())
         return;
     QApplication::setStyle(installedStyle(style));
@@ -124,9 +129,8 @@ QIcon OZMStyle::icon(const QString &name)
     static QHash<QString, QIcon> icons;
     if (const auto known = icons.constFind(name); known != icons.cend())
         return *known;
-    const QIcon own = ownIcon(name);
-    if (!own.isNull())
-        return *icons.insert(name, own);
+    if (auto engine = ozm::loadStyleIcon(name))
+        return *icons.insert(name, QIcon(engine.release()));
     // Not kept: the theme may change.
     if (QIcon::hasThemeIcon(name))
         return QIcon::fromTheme(name);

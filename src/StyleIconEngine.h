@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QIconEngine>
+#include <QPixmap>
+
+#include <memory>
 
 namespace ozm {
 
@@ -22,11 +25,17 @@ public:
     [[nodiscard]] QString iconName() override;
     [[nodiscard]] bool isNull() override;
 
-private:
     [[nodiscard]] QPixmap render(const QSize &pixels, const QColor &color) const;
 
+private:
     QString m_name;
     QByteArray m_svg;
 };
+
+/// The engine of one of the library's own icons; null when there is none of that name.
+[[nodiscard]] std::unique_ptr<StyleIconEngine> loadStyleIcon(const QString &name);
+
+/// Whether OZMStyle::apply() has given the application its look.
+[[nodiscard]] bool isStyleApplied();
 
 } // namespace ozm

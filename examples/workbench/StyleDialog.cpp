@@ -20,6 +20,8 @@ namespace workbench {
 
 namespace {
 
+// Room for the longest name of an icon.
+constexpr QSize kCell(178, 60);
 constexpr auto kSignal = ozm::OzmMessageBoxSignal::FirstOfApplication;
 
 void showCritical(QWidget *parent)
@@ -116,10 +118,12 @@ QWidget *StyleDialog::createIcons()
     icons->setResizeMode(QListView::Adjust);
     icons->setMovement(QListView::Static);
     icons->setIconSize({24, 24});
-    icons->setGridSize({128, 60});
-    icons->setUniformItemSizes(true);
-    for (const QString &name : OZMStyle::iconNames())
-        (new QListWidgetItem(OZMStyle::icon(name), name, icons))->setToolTip(name);
+    icons->setGridSize(kCell);
+    for (const QString &name : OZMStyle::iconNames()) {
+        auto *item = new QListWidgetItem(OZMStyle::icon(name), name, icons);
+        item->setSizeHint(kCell);
+        item->setToolTip(name);
+    }
     return icons;
 }
 
