@@ -50,7 +50,7 @@ format:
 # Brings translations/*.ts up to date with the sources; what is new in them is then to be translated.
 translations:
 	@.ci/setup build
-	$(QT_TOOLS)lupdate -locations none -no-obsolete src include platform -ts translations/ozm_widgets_de.ts
+	$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -I include -I src src include platform common -ts translations/ozm_widgets_de.ts
 
 clean:
 	rm -rf build
