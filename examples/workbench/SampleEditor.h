@@ -25,7 +25,7 @@ class SampleCommand;
  * made: the table, the history and the trail stay as they were, and the error says why. A change that breaks
  * a rule is recorded with its error, and not made either; the history, what can be redone included, stays.
  *
- *     SampleEditor editor(*database, currentUser());
+ *     SampleEditor editor(*database, ozm::OzmCoreApplication::userName());
  *     if (const ozm::Error error = editor.setCell(id, kCharge, u"3"_s); error.hasError())
  *         show(error);
  *

@@ -4,10 +4,12 @@
 #include "MainWindow.h"
 #include "SampleEditor.h"
 
+#include <ozm_widgets/OZMStyle.h>
+#include <ozm_widgets/OzmCoreApplication.h>
+
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
-#include <QMessageBox>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -94,7 +96,8 @@ QString defaultDatabase()
 /// For a user who may have started the program without a terminal.
 int complainOnScreen(const Error &error)
 {
-    QMessageBox::critical(nullptr, QApplication::applicationDisplayName(), error.errorMessage());
+    OZMStyle::critical(nullptr, ozm::OzmMessageBoxSignal::FileNotReadable,
+                       QApplication::applicationDisplayName(), error.errorMessage());
     return complain(error.errorMessage(), Failed);
 }
 
@@ -122,6 +125,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(u"workbench"_s);
     QApplication::setApplicationDisplayName(QApplication::translate("main", "Workbench"));
     QApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
+    ozm::OzmCoreApplication::start();
 
     Options options;
     // For tests that interrupt a run; of no use to users.
@@ -136,8 +140,8 @@ int main(int argc, char **argv)
                                  u"[file]"_s);
     parser.process(application);
 
-    const QString user =
-        parser.value(options.user).isEmpty() ? workbench::currentUser() : parser.value(options.user);
+    const QString user = parser.value(options.user).isEmpty() ? ozm::OzmCoreApplication::userName()
+                                                              : parser.value(options.user);
     if (parser.isSet(options.batch))
         return batch(parser, options, user);
     const QString database =
