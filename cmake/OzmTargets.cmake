@@ -11,6 +11,25 @@ set(CMAKE_VERIFY_INTERFACE_HEADER_SETS ON)
 include(CMakePackageConfigHelpers)
 include(GenerateExportHeader)
 
+# ozm_precompile(<name> <header>...): headers that any number of targets then read compiled, by
+# ozm_use_precompiled(<target> <name>). Qt's take most of the time of a small source, and compiling them
+# once cuts a whole build to less than half. The targets must be built with the same Qt modules.
+function(ozm_precompile name)
+    if(OZM_PRECOMPILE_HEADERS)
+        list(TRANSFORM ARGN REPLACE "(.+)" "<\\1>")
+        file(CONFIGURE OUTPUT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp" CONTENT "// Carries the headers.\n")
+        add_library(${name} OBJECT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
+        ozm_configure_target(${name})
+        target_precompile_headers(${name} PRIVATE ${ARGN})
+    endif()
+endfunction()
+
+function(ozm_use_precompiled target name)
+    if(TARGET ${name})
+        target_precompile_headers(${target} REUSE_FROM ${name})
+    endif()
+endfunction()
+
 # ozm_configure_target(<target>): the compile and link rules that hold everywhere.
 function(ozm_configure_target target)
     target_compile_features(${target} PUBLIC cxx_std_20)

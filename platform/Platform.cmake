@@ -4,7 +4,11 @@
 set(OZM_PLATFORM_LIBRARIES
     ozm_common_stable
     ozm_common_core_mini
-    ozm_common_ms)
+    ozm_common_ms
+    ozm_references
+    ozm_qt_shared_libs_core
+    ozm_common_core
+    ozm_common_widgets)
 
 if(OZM_PLATFORM STREQUAL "bundled")
     foreach(library IN LISTS OZM_PLATFORM_LIBRARIES)

@@ -82,4 +82,29 @@ private:
     std::variant<T, Error> m_side;
 };
 
+/// The outcome of work that has no value to give.
+template <>
+class [[nodiscard]] Result<void>
+{
+public:
+    Result() = default;
+    Result(Error error)
+        : m_error(std::move(error))
+    {
+        Q_ASSERT_X(hasError(), "ozm::Result", "made from an Error that holds no error");
+    }
+
+    [[nodiscard]] bool hasError() const noexcept { return m_error.hasError(); }
+    explicit operator bool() const noexcept { return !hasError(); }
+    /// As for the others, the error of a success must not be asked for.
+    [[nodiscard]] const Error &error() const
+    {
+        Q_ASSERT_X(hasError(), "ozm::Result", "error() of a result that holds a value");
+        return m_error;
+    }
+
+private:
+    Error m_error;
+};
+
 } // namespace ozm

@@ -1,0 +1,145 @@
+#pragma once
+
+#include <ozm_common_stable/Error.h>
+#include <ozm_widgets/DisplayString.h>
+#include <ozm_widgets/OzmMessageBoxSignal.h>
+#include <ozm_widgets/ozm_widgets_export.h>
+
+#include <QCoreApplication>
+#include <QMap>
+#include <QMessageBox>
+
+#include <functional>
+
+class QWidget;
+
+namespace ozm {
+struct MessageBoxDescription;
+}
+
+/**
+ * The look of the suite's applications, and its messages to the user.
+ *
+ * ## Message boxes
+ *
+ *     if (OZMStyle::question(this, signal, tr("Delete"), tr("Delete the run?"), QMessageBox::Yes |
+ * QMessageBox::No, QMessageBox::No) == QMessageBox::Yes) remove(run);
+ *
+ * May be called from any thread. The box is always built and shown on the thread of its parent, which is
+ * the GUI thread; the calling thread waits for the answer. A parent that is deleted meanwhile takes its
+ * box with it.
+ *
+ * The answer is the button that was pressed, and Cancel when the box was closed without one. When the box
+ * could not be shown (its parent was gone before, the application was ending), question() answers Cancel and
+ * the others the default button they were given. Never is a button answered that could mean more than that.
+ *
+ * A box that is asked for from another thread deadlocks when the GUI thread waits for that thread, for
+ * instance with QThread::wait() or for a lock that the thread holds. Hold no lock while you ask, and have the
+ * GUI thread told by a signal. After five seconds a warning names the waiting thread.
+ *
+ * A modal box runs an event loop in the middle of your function: objects of yours may be gone when it
+ * returns. The open... functions do without.
+ *
+ * A warning whose parent has Qt::WA_DontShowOnScreen is written to the log, and answered with Ok.
+ */
+class OZM_WIDGETS_EXPORT OZMStyle
+{
+    Q_DECLARE_TR_FUNCTIONS(OZMStyle)
+
+public:
+    using Signal = ozm::OzmMessageBoxSignal;
+    using Button = QMessageBox::StandardButton;
+    using Buttons = QMessageBox::StandardButtons;
+    using Answered = std::function<void(QMessageBox::StandardButton)>;
+
+    OZMStyle() = delete;
+
+    // Without a title: "Error", "Warning", "Information". An error is added to the text by its message, or
+    // by its code's text when it has none. No buttons at all means Ok. Texts of buttons that are empty leave
+    // the usual ones.
+
+    static Button critical(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+                           Buttons buttons = QMessageBox::Ok, Button defaultButton = QMessageBox::NoButton,
+                           const QString &detailedText = {});
+    static Button critical(QWidget *parent, Signal signal, const DisplayString &text,
+                           Buttons buttons = QMessageBox::Ok, Button defaultButton = QMessageBox::NoButton);
+    static Button critical(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+                           const ozm::Error &error, Buttons buttons = QMessageBox::Ok,
+                           Button defaultButton = QMessageBox::NoButton);
+
+    static Button warning(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+                          Buttons buttons = QMessageBox::Ok, Button defaultButton = QMessageBox::NoButton,
+                          const QString &detailedText = {});
+    static Button warning(QWidget *parent, Signal signal, const DisplayString &text,
+                          Buttons buttons = QMessageBox::Ok, Button defaultButton = QMessageBox::NoButton);
+    static Button warning(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+                          Buttons buttons, const QString &yesText, const QString &noText,
+                          const QString &cancelText, Button defaultButton = QMessageBox::NoButton,
+                          const QString &detailedText = {});
+    static Button warning(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+                          const ozm::Error &error, Buttons buttons = QMessageBox::Ok,
+                          Button defaultButton = QMessageBox::NoButton);
+
+    static Button information(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+                              Buttons buttons = QMessageBox::Ok,
+                              Button defaultButton = QMessageBox::NoButton);
+    static Button information(QWidget *parent, Signal signal, const DisplayString &text,
+                              Buttons buttons = QMessageBox::Ok,
+                              Button defaultButton = QMessageBox::NoButton);
+
+    static Button question(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+                           Buttons buttons = QMessageBox::Yes | QMessageBox::No,
+                           Button defaultButton = QMessageBox::NoButton, const QString &yesText = {},
+                           const QString &noText = {}, const QString &cancelText = {});
+    /// The buttons are those that have a text in @p buttonTexts; an empty one leaves the usual text.
+    static Button question(QWidget *parent, const QString &title, const DisplayString &text,
+                           const QMap<QMessageBox::StandardButton, QString> &buttonTexts,
+                           Button defaultButton = QMessageBox::NoButton);
+    /// Up to three buttons, those with a text, in the roles of Yes, No and Cancel. The answer is the index of
+    /// the button, and 2 (Cancel) when the box was closed otherwise. Esc presses the button of
+    /// @p escapeIndex; -1 leaves both that and the default to the toolkit.
+    static int question(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+                        const QString &text0, const QString &text1, const QString &text2,
+                        int defaultIndex = 0, int escapeIndex = -1);
+
+    // Older forms. The two buttons are both shown, the second is the default; NoButton stands for none. A
+    // call of the forms above with one button, and the same as the default, means the same here.
+
+    static int critical(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+                        QMessageBox::StandardButton button, QMessageBox::StandardButton defaultButton);
+    static int warning(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+                       QMessageBox::StandardButton button, QMessageBox::StandardButton defaultButton);
+    static int information(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+                           QMessageBox::StandardButton button, QMessageBox::StandardButton defaultButton);
+    static int question(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+                        QMessageBox::StandardButton button, QMessageBox::StandardButton defaultButton);
+
+    /// The application's icon beside @p text, which can be selected and whose links open.
+    static void about(QWidget *parent, const QString &title, const DisplayString &text);
+
+    // Without waiting: the box is opened over its parent, and answered() is called once, on the thread of
+    // context, with what the modal form would have returned. Not when context is deleted before; it must be
+    // there when this is called. Any thread.
+
+    static void openCritical(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+                             QObject *context, const Answered &answered, Buttons buttons = QMessageBox::Ok,
+                             Button defaultButton = QMessageBox::NoButton, const QString &detailedText = {});
+    static void openWarning(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+                            QObject *context, const Answered &answered, Buttons buttons = QMessageBox::Ok,
+                            Button defaultButton = QMessageBox::NoButton, const QString &detailedText = {});
+    static void openInformation(QWidget *parent, Signal signal, const QString &title,
+                                const DisplayString &text, QObject *context, const Answered &answered,
+                                Buttons buttons = QMessageBox::Ok,
+                                Button defaultButton = QMessageBox::NoButton);
+    static void openQuestion(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+                             QObject *context, const Answered &answered,
+                             Buttons buttons = QMessageBox::Yes | QMessageBox::No,
+                             Button defaultButton = QMessageBox::NoButton);
+
+private:
+    static Button criticalImpl(QWidget *parent, const ozm::MessageBoxDescription &box);
+    static Button warningImpl(QWidget *parent, const ozm::MessageBoxDescription &box);
+    static Button informationImpl(QWidget *parent, const ozm::MessageBoxDescription &box);
+    static Button questionImpl(QWidget *parent, const ozm::MessageBoxDescription &box);
+    static void aboutImpl(QWidget *parent, const ozm::MessageBoxDescription &box);
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <ozm_widgets/ozm_widgets_export.h>
+
+#include <QObject>
+#include <QString>
+
+namespace ozm {
+
+class OzmMessageBox;
+
+/**
+ * What an application and this library share: one object per process, beside whichever QApplication there is.
+ *
+ *     connect(ozm::OzmCoreApplication::instance(), &ozm::OzmCoreApplication::ozmMessageBoxShown, this,
+ *             [](ozm::OzmMessageBox *box) { journal(box->signal(), box->text()); });
+ */
+class OZM_WIDGETS_EXPORT OzmCoreApplication : public QObject
+{
+    Q_OBJECT
+
+public:
+    [[nodiscard]] static OzmCoreApplication *instance();
+
+    /// Who works with the application, for the audit trail: what was set, or else the name by which the
+    /// operating system knows the user; "unknown" when it knows none. Any thread.
+    [[nodiscard]] static QString userName();
+    /// Empty goes back to the operating system's name. Any thread.
+    static void setUserName(const QString &name);
+
+Q_SIGNALS:
+    /// Once each time a box is shown, from the GUI thread, with the box visible and its event loop running.
+    /// A slot may answer the box: box->button(QMessageBox::Yes)->click().
+    void ozmMessageBoxShown(ozm::OzmMessageBox *box);
+
+private:
+    OzmCoreApplication();
+    ~OzmCoreApplication() override;
+};
+
+} // namespace ozm

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <ozm_common_stable/ozm_common_stable_export.h>
+
+namespace ozm {
+
+/// What can be given up by whoever was asked for it.
+class OZM_COMMON_STABLE_EXPORT Cancelable
+{
+public:
+    Cancelable() = default;
+    Cancelable(const Cancelable &) = default;
+    Cancelable(Cancelable &&) = default;
+    Cancelable &operator=(const Cancelable &) = default;
+    Cancelable &operator=(Cancelable &&) = default;
+    virtual ~Cancelable();
+
+    [[nodiscard]] virtual bool isCanceled() const = 0;
+    virtual void setCanceled(bool canceled) = 0;
+};
+
+} // namespace ozm

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <ozm_widgets/DisplayString.h>
+#include <ozm_widgets/OzmMessageBoxSignal.h>
+
+#include <QMap>
+#include <QMessageBox>
+
+#include <functional>
+
+namespace ozm {
+
+class OzmMessageBox;
+
+/// What a message box is to look like; every way to ask for one comes down to this.
+struct MessageBoxDescription
+{
+    QMessageBox::Icon icon;
+    OzmMessageBoxSignal signal;
+    QString title;
+    DisplayString text;
+    QMessageBox::StandardButtons buttons = QMessageBox::Ok;
+    QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;
+    QString detailedText = {};
+    QMap<QMessageBox::StandardButton, QString> buttonTexts = {};
+    QMessageBox::StandardButton escapeButton = QMessageBox::NoButton;
+    bool isAbout = false;
+
+    /// What is answered when the box cannot be shown.
+    [[nodiscard]] QMessageBox::StandardButton answerUnshown() const;
+};
+
+/// What the code that a box ended with means: closed without a button, it was canceled.
+[[nodiscard]] QMessageBox::StandardButton answerOf(int code);
+
+/// Builds and runs the box, on the GUI thread whichever this one is.
+[[nodiscard]] QMessageBox::StandardButton runMessageBox(const MessageBoxDescription &description,
+                                                        QWidget *parent);
+
+/// Calls @p work on the thread of @p parent and waits; the answer of a box that was not shown when that was
+/// not possible. Off the GUI thread @p parent may be dying, or dead.
+[[nodiscard]] QMessageBox::StandardButton
+askOnThreadOf(QWidget *parent, const MessageBoxDescription &description,
+              const std::function<QMessageBox::StandardButton()> &work);
+
+/// Builds and opens the box, and does not wait; see OZMStyle::openWarning().
+void openMessageBox(const MessageBoxDescription &description, QWidget *parent, QObject *context,
+                    const std::function<void(QMessageBox::StandardButton)> &answered);
+
+} // namespace ozm
