@@ -44,7 +44,8 @@
             return text(value);
         var parts = fixed(parsed, digits === undefined ? 0 : digits).split(".");
         var between = separator === undefined ? "\u2009" : separator;
-        parts[0] = parts[0].replace(/\B(?=(\d{3})+$)/g, function () { return between; });
+        for (var at = parts[0].length - 3; at > (parsed < 0 ? 1 : 0); at -= 3)
+            parts[0] = parts[0].slice(0, at) + between + parts[0].slice(at);
         return parts.join(".");
     }
 

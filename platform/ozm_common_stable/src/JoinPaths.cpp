@@ -9,7 +9,7 @@ QString joinPaths(const QString &folder, const QString &name, QChar separator)
     const bool ends = folder.endsWith(separator);
     const bool begins = name.startsWith(separator);
     if (ends && begins)
-        return folder + QStringView(name).sliced(1);
+        return folder + name.sliced(1);
     return ends || begins ? folder + name : folder + separator + name;
 }
 
