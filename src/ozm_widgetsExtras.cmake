@@ -6,18 +6,20 @@
 # where it is looked for; with DESTINATION, also installs it below that directory.
 function(ozm_deploy_script_library target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESTINATION" "")
+    get_property(library GLOBAL PROPERTY OZM_SCRIPT_LIBRARY)
     add_custom_command(TARGET ${target} POST_BUILD
         COMMAND ${CMAKE_COMMAND} -E make_directory "$<TARGET_FILE_DIR:${target}>/templateEditorJSLib"
-        COMMAND ${CMAKE_COMMAND} -E copy_if_different "${OZM_SCRIPT_LIBRARY}"
+        COMMAND ${CMAKE_COMMAND} -E copy_if_different "${library}"
             "$<TARGET_FILE_DIR:${target}>/templateEditorJSLib/TemplateEditorJSUtils.js"
         VERBATIM)
     if(arg_DESTINATION)
-        install(FILES "${OZM_SCRIPT_LIBRARY}" DESTINATION "${arg_DESTINATION}/templateEditorJSLib")
+        install(FILES "${library}" DESTINATION "${arg_DESTINATION}/templateEditorJSLib")
     endif()
 endfunction()
 
-# In the source tree it is beside the sources; in the package, beside this file's package.
-if(NOT DEFINED OZM_SCRIPT_LIBRARY)
-    get_filename_component(OZM_SCRIPT_LIBRARY
-        "${PACKAGE_PREFIX_DIR}/share/ozm_widgets/templateEditorJSLib/TemplateEditorJSUtils.js" ABSOLUTE)
+# The tree of the sources has said where its own is; in the package it is beside what else is shared.
+get_property(known GLOBAL PROPERTY OZM_SCRIPT_LIBRARY SET)
+if(NOT known)
+    set_property(GLOBAL PROPERTY OZM_SCRIPT_LIBRARY
+        "${PACKAGE_PREFIX_DIR}/share/ozm_widgets/templateEditorJSLib/TemplateEditorJSUtils.js")
 endif()
