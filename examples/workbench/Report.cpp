@@ -30,7 +30,7 @@ const QString kStyle =
     ".lab { font-size: 11pt; font-weight: bold; color: #24506f; margin: 0px; }"
     ".lead { font-size: 10pt; color: #51606d; margin-top: 0px; margin-bottom: 12px; }"
     ".small { font-size: 8pt; color: #51606d; margin-top: 2px; margin-bottom: 2px; }"
-    ".gap { font-size: 4pt; margin: 0px; }"
+    ".gap { font-size: 6pt; margin: 0px; }"
     ".sequence { font-family: 'DejaVu Sans Mono', monospace; }"
     "table.facts, table.list { border-color: #b8c4ce; border-style: solid; border-collapse: collapse; }"
     "table.list { font-size: 8pt; }"_s;
