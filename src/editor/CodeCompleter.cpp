@@ -51,7 +51,6 @@ CodeCompleter::CodeCompleter(CodeModel *codes, const Field &field)
     m_completer->setCaseSensitivity(Qt::CaseInsensitive);
     m_completer->setMaxVisibleItems(kShownRows);
     m_completer->popup()->setObjectName(u"codeCompletions"_s);
-    field.widget->installEventFilter(this);
     connect(m_completer, qOverload<const QModelIndex &>(&QCompleter::activated), this,
             [this](const QModelIndex &index) { accept(index.data(CodeModel::CodeRole).toString()); });
 }
@@ -82,16 +81,9 @@ void CodeCompleter::accept(const QString &code)
         m_field.insert(open, code);
 }
 
-bool CodeCompleter::eventFilter(QObject *watched, QEvent *event)
+bool CodeCompleter::takes(const QKeyEvent &event) const
 {
-    if (watched == m_field.widget && event->type() == QEvent::KeyPress && m_completer->popup()->isVisible()) {
-        // The list hands its keys on to the field first, which must leave these to it.
-        if (isChoosing(static_cast<QKeyEvent *>(event)->key())) {
-            event->ignore();
-            return true;
-        }
-    }
-    return QObject::eventFilter(watched, event);
+    return m_completer->popup()->isVisible() && isChoosing(event.key());
 }
 
 } // namespace ozm::editor

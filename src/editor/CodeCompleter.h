@@ -6,6 +6,7 @@
 
 class QAbstractScrollArea;
 class QCompleter;
+class QKeyEvent;
 class QTextCursor;
 
 namespace ozm::editor {
@@ -32,8 +33,8 @@ public:
     /// To be called after a key that changed the text.
     void offer();
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    /// Keys that choose from the list are handed to the field first, which must leave them to the list.
+    [[nodiscard]] bool takes(const QKeyEvent &event) const;
 
 private:
     void accept(const QString &code);

@@ -97,7 +97,7 @@ bool CodeEdit::event(QEvent *event)
 
 void CodeEdit::keyPressEvent(QKeyEvent *event)
 {
-    if (m_isUndoneOutside && isHistoryKey(*event)) {
+    if ((m_isUndoneOutside && isHistoryKey(*event)) || (m_completer && m_completer->takes(*event))) {
         event->ignore();
         return;
     }

@@ -162,7 +162,7 @@ bool RichTextView::event(QEvent *event)
 
 void RichTextView::keyPressEvent(QKeyEvent *event)
 {
-    if (isHistoryKey(*event)) {
+    if (isHistoryKey(*event) || m_completer->takes(*event)) {
         event->ignore();
         return;
     }
