@@ -71,7 +71,7 @@ MainWindow::MainWindow(SampleEditor &editor, const QString &trailPath, QWidget *
           editor, [this] { return QFileDialog::getExistingDirectory(this, tr("Find MS data")); }, this))
 {
     setObjectName(u"mainWindow"_s);
-    resize(1320, 800);
+    resize(1200, 760);
     createTable();
     connectActions();
     createDocks();
