@@ -25,12 +25,14 @@ public:
 
     QAction *open = nullptr;
     QAction *save = nullptr;
+    QAction *openData = nullptr;
     QAction *findData = nullptr;
     QAction *addSample = nullptr;
     QAction *deleteSamples = nullptr;
     QAction *rename = nullptr;
     QAction *undo = nullptr;
     QAction *redo = nullptr;
+    QAction *listData = nullptr;
     QAction *exportTrail = nullptr;
     QAction *style = nullptr;
 

@@ -3,6 +3,7 @@
 #include "AddSampleDialog.h"
 #include "AuditTrailModel.h"
 #include "DataImport.h"
+#include "FileQuestions.h"
 #include "HistoryView.h"
 #include "MainActions.h"
 #include "RoomyDelegate.h"
@@ -14,6 +15,7 @@
 #include "TrailView.h"
 
 #include <ozm_widgets/BlackSplitterHandle.h>
+#include <ozm_widgets/FileCrawlerDialog.h>
 #include <ozm_widgets/OZMDockWidgetTitleBar.h>
 #include <ozm_widgets/OZMStyle.h>
 #include <ozm_widgets/OzmMessageBox.h>
@@ -22,7 +24,6 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QDockWidget>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QLabel>
@@ -44,11 +45,6 @@ constexpr int kTrailHeight = 270;
 constexpr int kDetailsWidth = 240;
 constexpr int kStatusMs = 15000;
 
-QString csvFilter()
-{
-    return MainWindow::tr("Samples (*.csv)");
-}
-
 QLabel *emptyPage(QWidget *parent)
 {
     auto *page = new QLabel(
@@ -68,7 +64,7 @@ MainWindow::MainWindow(SampleEditor &editor, const QString &trailPath, QWidget *
     , m_trail(new AuditTrailModel(editor.trail(), this))
     , m_actions(new MainActions(this))
     , m_import(new DataImport(
-          editor, [this] { return QFileDialog::getExistingDirectory(this, tr("Find MS data")); }, this))
+          editor, [this] { return files::askDataFolder(this); }, this))
 {
     setObjectName(u"mainWindow"_s);
     resize(1200, 760);
@@ -89,6 +85,11 @@ void MainWindow::connectActions()
     connect(m_actions->save, &QAction::triggered, this, &MainWindow::askSave);
     connect(m_actions->findData, &QAction::triggered, m_import, &DataImport::ask);
     connect(m_import, &DataImport::runningChanged, m_actions->findData, &QAction::setDisabled);
+    connect(m_actions->openData, &QAction::triggered, this,
+            [this] { m_import->inspect(files::askData(this)); });
+    connect(m_import, &DataImport::runningChanged, m_actions->openData, &QAction::setDisabled);
+    connect(m_actions->listData, &QAction::triggered, this,
+            [this] { FileCrawlerDialog::generateMSDataPathsCsv(this); });
     connect(m_actions->addSample, &QAction::triggered, this,
             [this] { AddSampleDialog(m_editor, this).exec(); });
     connect(m_actions->deleteSamples, &QAction::triggered, this, &MainWindow::deleteSelected);
@@ -175,27 +176,39 @@ void MainWindow::askOpen()
 {
     if (!mayDiscard())
         return;
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open samples"), m_file, csvFilter());
+    const QString path = files::askSamples(this, m_file);
     if (!path.isEmpty())
         open(path);
 }
 
 bool MainWindow::askSave()
 {
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save samples"), m_file, csvFilter());
-    if (path.isEmpty() || m_editor.save(path).hasError())
+    const auto location = files::askSaveSamples(this, m_file);
+    if (location.isCanceled())
         return false;
-    setFile(path);
-    statusBar()->showMessage(tr("Saved to %1").arg(QDir::toNativeSeparators(path)), kStatusMs);
+    const Error error = files::save(this, location, [this](const QString &path) {
+        Error failure = m_editor.save(path);
+        if (!failure.hasError())
+            setFile(path);
+        return failure;
+    });
+    if (error.hasError())
+        return false;
+    statusBar()->showMessage(tr("Saved to %1").arg(QDir::toNativeSeparators(location.toString())), kStatusMs);
     return true;
 }
 
 void MainWindow::askExport()
 {
-    const QString path =
-        QFileDialog::getSaveFileName(this, tr("Export audit trail"), u"audit.json"_s, tr("JSON (*.json)"));
-    if (!path.isEmpty() && !m_editor.exportTrail(path).hasError())
-        statusBar()->showMessage(tr("Exported to %1").arg(QDir::toNativeSeparators(path)), kStatusMs);
+    const auto location = files::askExportTrail(this);
+    if (location.isCanceled())
+        return;
+    const Error error =
+        files::save(this, location, [this](const QString &path) { return m_editor.exportTrail(path); });
+    if (!error.hasError()) {
+        statusBar()->showMessage(tr("Exported to %1").arg(QDir::toNativeSeparators(location.toString())),
+                                 kStatusMs);
+    }
 }
 
 void MainWindow::askRename()

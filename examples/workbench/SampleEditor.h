@@ -72,6 +72,7 @@ public:
     /// Replaces the samples by those in a file, and forgets the history.
     ozm::Error load(const QString &path);
     ozm::Error save(const QString &path);
+    /// As a table when @p path ends with ".csv", else as JSON.
     ozm::Error exportTrail(const QString &path);
 
 Q_SIGNALS:

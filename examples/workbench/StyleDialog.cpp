@@ -1,5 +1,7 @@
 #include "StyleDialog.h"
 
+#include "FileQuestions.h"
+
 #include <ozm_widgets/BlackSplitterHandle.h>
 #include <ozm_widgets/OZMStyle.h>
 
@@ -94,6 +96,7 @@ StyleDialog::StyleDialog(QWidget *parent)
     auto *side = new QWidget(this);
     auto *column = new QVBoxLayout(side);
     column->addWidget(createSchemes());
+    column->addWidget(createFileDialogs());
     column->addWidget(createBoxes());
     column->addStretch();
 
@@ -155,6 +158,21 @@ QWidget *StyleDialog::createSchemes()
     connect(dark, &QRadioButton::toggled, this, [](bool on) {
         QApplication::setPalette(OZMStyle::palette(on ? OZMStyle::Scheme::Dark : OZMStyle::Scheme::Light));
     });
+    return group;
+}
+
+QWidget *StyleDialog::createFileDialogs()
+{
+    auto *group = new QGroupBox(tr("File dialogs"), this);
+    auto *column = new QVBoxLayout(group);
+    auto *system = new QRadioButton(tr("Those of the system"), group);
+    system->setObjectName(u"systemFileDialogs"_s);
+    auto *toolkit = new QRadioButton(tr("Those of the toolkit"), group);
+    toolkit->setObjectName(u"toolkitFileDialogs"_s);
+    column->addWidget(system);
+    column->addWidget(toolkit);
+    (files::usesToolkitDialogs() ? toolkit : system)->setChecked(true);
+    connect(toolkit, &QRadioButton::toggled, this, &files::setUsesToolkitDialogs);
     return group;
 }
 

@@ -18,6 +18,7 @@ private:
     QWidget *createIcons();
     QWidget *createBoxes();
     QWidget *createSchemes();
+    QWidget *createFileDialogs();
 };
 
 } // namespace workbench

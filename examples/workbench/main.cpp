@@ -1,9 +1,11 @@
 #include "AuditDatabase.h"
 #include "AuditLogger.h"
 #include "BatchRun.h"
+#include "FileQuestions.h"
 #include "MainWindow.h"
 #include "SampleEditor.h"
 
+#include <ozm_widgets/DefaultWidgetCreator.h>
 #include <ozm_widgets/OZMStyle.h>
 #include <ozm_widgets/OzmCoreApplication.h>
 
@@ -129,6 +131,8 @@ int main(int argc, char **argv)
     QApplication::setApplicationDisplayName(QApplication::translate("main", "Workbench"));
     QApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
     OZMStyle::apply();
+    ozm::DefaultWidgetCreator::initialize();
+    workbench::files::restoreDialogChoice();
 
     Options options;
     // For tests that interrupt a run; of no use to users.
