@@ -23,6 +23,13 @@
     </message>
 </context>
 <context>
+    <name>AuditTrailCsv</name>
+    <message>
+        <source>&quot;%1&quot; cannot be written.</source>
+        <translation>„%1“ kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
     <name>AuditTrailJson</name>
     <message>
         <source>&quot;%1&quot; cannot be written: %2.</source>
@@ -214,6 +221,46 @@
     <message>
         <source>The folder &quot;%1&quot; cannot be written to. Choose another with --out.</source>
         <translation>In den Ordner „%1“ kann nicht geschrieben werden. Wählen Sie mit --out einen anderen.</translation>
+    </message>
+    <message>
+        <source>The template &quot;%1&quot; cannot be read.</source>
+        <translation>Die Vorlage „%1“ kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no template of this version.</source>
+        <translation>„%1“ ist keine Vorlage dieser Version.</translation>
+    </message>
+    <message>
+        <source>%1 has no value.</source>
+        <translation>%1 hat keinen Wert.</translation>
+    </message>
+    <message>
+        <source>A script failed in its line %1: %2</source>
+        <translation>Ein Skript schlug in seiner Zeile %1 fehl: %2</translation>
+    </message>
+    <message>
+        <source>Sample certificate</source>
+        <translation>Probenzertifikat</translation>
+    </message>
+    <message>
+        <source>Sample list</source>
+        <translation>Probenliste</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written.</source>
+        <translation>„%1“ kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>Made by the workbench</source>
+        <translation>Von der Werkbank erstellt</translation>
     </message>
 </context>
 <context>
@@ -411,10 +458,6 @@
         <translation>Trail exportieren</translation>
     </message>
     <message>
-        <source>Export the audit trail as JSON</source>
-        <translation>Den Audit-Trail als JSON exportieren</translation>
-    </message>
-    <message>
         <source>Style</source>
         <translation>Stil</translation>
     </message>
@@ -442,13 +485,29 @@
         <source>Nothing to redo</source>
         <translation>Nichts zu wiederholen</translation>
     </message>
+    <message>
+        <source>Open MS data…</source>
+        <translation>MS-Daten öffnen …</translation>
+    </message>
+    <message>
+        <source>Choose mass-spectrometry data, files and folders, and add it as samples</source>
+        <translation>Massenspektrometrie-Daten, Dateien und Ordner, wählen und als Proben hinzufügen</translation>
+    </message>
+    <message>
+        <source>List MS data…</source>
+        <translation>MS-Daten auflisten …</translation>
+    </message>
+    <message>
+        <source>Save a CSV file that lists the mass-spectrometry data in a folder</source>
+        <translation>Eine CSV-Datei speichern, die die Massenspektrometrie-Daten eines Ordners auflistet</translation>
+    </message>
+    <message>
+        <source>Export the audit trail as JSON or CSV</source>
+        <translation>Den Audit-Trail als JSON oder CSV exportieren</translation>
+    </message>
 </context>
 <context>
     <name>workbench::MainWindow</name>
-    <message>
-        <source>Samples (*.csv)</source>
-        <translation>Proben (*.csv)</translation>
-    </message>
     <message>
         <source>No samples yet.
 
@@ -456,10 +515,6 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
         <translation>Noch keine Proben.
 
 Öffnen Sie eine CSV-Datei, suchen Sie MS-Daten, legen Sie Daten hier ab oder fügen Sie eine Probe hinzu.</translation>
-    </message>
-    <message>
-        <source>Find MS data</source>
-        <translation>MS-Daten suchen</translation>
     </message>
     <message>
         <source>History</source>
@@ -474,24 +529,8 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
         <translation>Aufgezeichnet in %1</translation>
     </message>
     <message>
-        <source>Open samples</source>
-        <translation>Proben öffnen</translation>
-    </message>
-    <message>
-        <source>Save samples</source>
-        <translation>Proben speichern</translation>
-    </message>
-    <message>
         <source>Saved to %1</source>
         <translation>Gespeichert in %1</translation>
-    </message>
-    <message>
-        <source>Export audit trail</source>
-        <translation>Audit-Trail exportieren</translation>
-    </message>
-    <message>
-        <source>JSON (*.json)</source>
-        <translation>JSON (*.json)</translation>
     </message>
     <message>
         <source>Exported to %1</source>
@@ -541,6 +580,53 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
     </message>
 </context>
 <context>
+    <name>workbench::ReportDialog</name>
+    <message>
+        <source>Save report</source>
+        <translation>Bericht speichern</translation>
+    </message>
+    <message>
+        <source>&amp;One by one</source>
+        <translation>&amp;Einzeln</translation>
+    </message>
+    <message>
+        <source>As a &amp;group</source>
+        <translation>Als &amp;Gruppe</translation>
+    </message>
+    <message>
+        <source>Save as &amp;HTML…</source>
+        <translation>Als &amp;HTML speichern …</translation>
+    </message>
+    <message>
+        <source>Save as &amp;PDF…</source>
+        <translation>Als &amp;PDF speichern …</translation>
+    </message>
+    <message>
+        <source>Report on 1 sample</source>
+        <translation>Bericht über 1 Probe</translation>
+    </message>
+    <message>
+        <source>Report on %1 samples</source>
+        <translation>Bericht über %1 Proben</translation>
+    </message>
+    <message>
+        <source>&amp;Template:</source>
+        <translation>&amp;Vorlage:</translation>
+    </message>
+    <message>
+        <source>HTML (*.html)</source>
+        <translation>HTML (*.html)</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Saved to %1</source>
+        <translation>Gespeichert in %1</translation>
+    </message>
+</context>
+<context>
     <name>workbench::Run</name>
     <message>
         <source>&quot;%1&quot; holds no samples.</source>
@@ -581,6 +667,10 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
     <message>
         <source>&quot;%1&quot; cannot be written.</source>
         <translation>„%1“ kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>report: </source>
+        <translation>Bericht: </translation>
     </message>
 </context>
 <context>
@@ -780,12 +870,63 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
         <source>Dark</source>
         <translation>Dunkel</translation>
     </message>
+    <message>
+        <source>File dialogs</source>
+        <translation>Dateidialoge</translation>
+    </message>
+    <message>
+        <source>Those of the system</source>
+        <translation>Die des Systems</translation>
+    </message>
+    <message>
+        <source>Those of the toolkit</source>
+        <translation>Die des Toolkits</translation>
+    </message>
 </context>
 <context>
     <name>workbench::TrailView</name>
     <message>
         <source>Audit trail</source>
         <translation>Audit-Trail</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::files</name>
+    <message>
+        <source>Samples (*.csv)</source>
+        <translation>Proben (*.csv)</translation>
+    </message>
+    <message>
+        <source>MS data</source>
+        <translation>MS-Daten</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Open samples</source>
+        <translation>Proben öffnen</translation>
+    </message>
+    <message>
+        <source>Open MS data</source>
+        <translation>MS-Daten öffnen</translation>
+    </message>
+    <message>
+        <source>Find MS data</source>
+        <translation>MS-Daten suchen</translation>
+    </message>
+    <message>
+        <source>Save samples</source>
+        <translation>Proben speichern</translation>
+    </message>
+    <message>
+        <source>Export audit trail</source>
+        <translation>Audit-Trail exportieren</translation>
+    </message>
+    <message>
+        <source>JSON (*.json);;Table (*.csv)</source>
+        <translation>JSON (*.json);;Tabelle (*.csv)</translation>
     </message>
 </context>
 <context>

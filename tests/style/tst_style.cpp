@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QDockWidget>
+#include <QFile>
 #include <QLoggingCategory>
 #include <QMainWindow>
 #include <QPainter>
@@ -365,6 +366,11 @@ void TestStyle::splitterHandle()
 
 void TestStyle::germanIsComplete()
 {
+    for (const char *name : {"ozm_widgets_de.ts", "workbench_de.ts"}) {
+        QFile file(QStringLiteral(TRANSLATIONS "/") + QString::fromLatin1(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY2(!file.readAll().contains("unfinished"), name);
+    }
     QVERIFY(ozm::OzmCoreApplication::loadTranslation(QLocale(QLocale::German)));
     QCOMPARE(OZMStyle::tr("Warning"), u"Warnung"_s);
     const Dock fixture;
