@@ -1,9 +1,11 @@
 # The commands of the README. Each installs what it needs, builds what it needs, and then does it.
 
 PRESET ?= dev
+# Where the tools of Qt are that are not on the path.
+QT_TOOLS ?= $(wildcard /usr/lib/qt6/bin)/
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: help run test check bench install format clean
+.PHONY: help run test check bench install format translations clean
 
 help:
 	@echo "make run      the workbench, or its batch mode where there is no display"
@@ -44,6 +46,11 @@ install:
 format:
 	@.ci/setup check
 	git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format -i
+
+# Brings translations/*.ts up to date with the sources; what is new in them is then to be translated.
+translations:
+	@.ci/setup build
+	$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -I include -I src src include platform common -ts translations/ozm_widgets_de.ts
 
 clean:
 	rm -rf build

@@ -105,7 +105,7 @@ public:
     {
         // The context cannot be gone before this is through: forget() would have to be through first.
         const QMutexLocker lock(&m_mutex);
-        if (m_context)
+        if (m_context && m_answered)
             QMetaObject::invokeMethod(
                 m_context, [answered = m_answered, button] { answered(button); }, Qt::QueuedConnection);
         m_context = nullptr;

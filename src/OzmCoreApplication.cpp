@@ -1,10 +1,22 @@
 #include <ozm_widgets/OzmCoreApplication.h>
 
+#include <ozm_widgets/OZMStyle.h>
+
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QMutex>
 #include <QThread>
+#include <QTranslator>
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
+
+static void initTranslations()
+{
+    // A static build drops resources that nobody names.
+    Q_INIT_RESOURCE(ozm_widgets_translations);
+}
 
 namespace ozm {
 
@@ -32,6 +44,18 @@ QString userOfSystem()
     return u"unknown"_s;
 }
 
+/// Puts a translator in the place of the one of that name before; false when there is nothing to load.
+bool install(const QString &name, const QLocale &locale, const QString &file, const QString &folder)
+{
+    delete qApp->findChild<QTranslator *>(name, Qt::FindDirectChildrenOnly);
+    auto translator = std::make_unique<QTranslator>(qApp);
+    translator->setObjectName(name);
+    if (!translator->load(locale, file, u"_"_s, folder))
+        return false;
+    QCoreApplication::installTranslator(translator.release());
+    return true;
+}
+
 } // namespace
 
 OzmCoreApplication::OzmCoreApplication()
@@ -47,6 +71,20 @@ OzmCoreApplication *OzmCoreApplication::instance()
 {
     static OzmCoreApplication application;
     return &application;
+}
+
+void OzmCoreApplication::start(const QString &style)
+{
+    OZMStyle::apply(style);
+    (void)loadTranslation(QLocale());
+}
+
+bool OzmCoreApplication::loadTranslation(const QLocale &locale)
+{
+    initTranslations();
+    install(u"ozmToolkitTranslator"_s, locale, u"qtbase"_s,
+            QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    return install(u"ozmTranslator"_s, locale, u"ozm_widgets"_s, u":/i18n"_s);
 }
 
 QString OzmCoreApplication::userName()

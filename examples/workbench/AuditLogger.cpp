@@ -230,14 +230,4 @@ std::optional<AuditRecord> AuditLogger::storeOne(const QList<AuditRecord> &recor
     return stored.value().constFirst();
 }
 
-QString currentUser()
-{
-    for (const char *variable : {"USER", "USERNAME", "LOGNAME"}) {
-        QString user = qEnvironmentVariable(variable);
-        if (!user.isEmpty())
-            return user;
-    }
-    return u"unknown"_s;
-}
-
 } // namespace workbench

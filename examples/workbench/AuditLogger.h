@@ -95,7 +95,4 @@ private:
     QList<AuditRecord> m_overdueMarks;
 };
 
-/// The user that the operating system names, or "unknown".
-[[nodiscard]] QString currentUser();
-
 } // namespace workbench

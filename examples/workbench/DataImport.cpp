@@ -46,6 +46,11 @@ void DataImport::ask()
         start(m_finder.search(folder));
 }
 
+void DataImport::inspect(const QStringList &paths)
+{
+    start(m_finder.inspect(paths));
+}
+
 bool DataImport::eventFilter(QObject *watched, QEvent *event)
 {
     const auto type = event->type();

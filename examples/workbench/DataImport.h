@@ -40,6 +40,8 @@ public:
     /// Takes what is dropped on @p widget.
     void acceptDropsOn(QWidget *widget);
     void ask();
+    /// Takes the data at @p paths.
+    void inspect(const QStringList &paths);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -3,29 +3,34 @@
 #include "AddSampleDialog.h"
 #include "AuditTrailModel.h"
 #include "DataImport.h"
+#include "FileQuestions.h"
 #include "HistoryView.h"
+#include "MainActions.h"
+#include "RoomyDelegate.h"
+#include "SampleDetails.h"
 #include "SampleEditor.h"
 #include "SampleTableModel.h"
 #include "SampleTableView.h"
+#include "StyleDialog.h"
+#include "TrailView.h"
+
+#include <ozm_widgets/BlackSplitterHandle.h>
+#include <ozm_widgets/FileCrawlerDialog.h>
+#include <ozm_widgets/OZMDockWidgetTitleBar.h>
+#include <ozm_widgets/OZMStyle.h>
+#include <ozm_widgets/OzmMessageBox.h>
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QDir>
 #include <QDockWidget>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QLabel>
-#include <QMessageBox>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QStyle>
-#include <QStyledItemDelegate>
-#include <QToolBar>
-#include <QTreeView>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -35,27 +40,10 @@ namespace workbench {
 
 namespace {
 
-constexpr std::array kTrailWidths{180, 75, 510};
 constexpr int kHistoryWidth = 230;
 constexpr int kTrailHeight = 270;
+constexpr int kDetailsWidth = 240;
 constexpr int kStatusMs = 15000;
-
-/// Gives the rows of a tree the room that those of a table have.
-class RoomyDelegate : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 4);
-    }
-};
-
-QString csvFilter()
-{
-    return MainWindow::tr("Samples (*.csv)");
-}
 
 QLabel *emptyPage(QWidget *parent)
 {
@@ -74,15 +62,15 @@ MainWindow::MainWindow(SampleEditor &editor, const QString &trailPath, QWidget *
     , m_editor(editor)
     , m_samples(new SampleTableModel(editor, this))
     , m_trail(new AuditTrailModel(editor.trail(), this))
+    , m_actions(new MainActions(this))
     , m_import(new DataImport(
-          editor, [this] { return QFileDialog::getExistingDirectory(this, tr("Find MS data")); }, this))
+          editor, [this] { return files::askDataFolder(this); }, this))
 {
     setObjectName(u"mainWindow"_s);
-    resize(1200, 760);
+    resize(1320, 800);
     createTable();
-    createActions();
-    createHistory();
-    createTrail();
+    connectActions();
+    createDocks();
     createStatusBar(trailPath);
     follow();
     setFile({});
@@ -91,64 +79,25 @@ MainWindow::MainWindow(SampleEditor &editor, const QString &trailPath, QWidget *
 
 MainWindow::~MainWindow() = default;
 
-QAction *MainWindow::makeAction(const char *name, const QString &text, int icon, const QString &tip,
-                                const QKeySequence &shortcut)
+void MainWindow::connectActions()
 {
-    auto *action = new QAction(style()->standardIcon(static_cast<QStyle::StandardPixmap>(icon)), text, this);
-    action->setObjectName(QString::fromLatin1(name));
-    action->setToolTip(tip);
-    action->setStatusTip(tip);
-    action->setShortcut(shortcut);
-    return action;
-}
-
-void MainWindow::createActions()
-{
-    QToolBar *bar = addToolBar(tr("Edit samples"));
-    bar->setObjectName(u"toolBar"_s);
-    bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-
-    QAction *open = makeAction("openAction", tr("Open"), QStyle::SP_DialogOpenButton,
-                               tr("Open samples from a CSV file"), QKeySequence::Open);
-    m_save = makeAction("saveAction", tr("Save"), QStyle::SP_DialogSaveButton,
-                        tr("Save the samples to a CSV file"), QKeySequence::Save);
-    QAction *add = makeAction("addSampleAction", tr("Add"), QStyle::SP_FileDialogNewFolder,
-                              tr("Add a sample"), QKeySequence::New);
-    m_delete = makeAction("deleteAction", tr("Delete"), QStyle::SP_TrashIcon, tr("Delete the chosen samples"),
-                          QKeySequence::Delete);
-    m_rename = makeAction("renameAction", tr("Rename"), QStyle::SP_FileDialogDetailedView,
-                          tr("Rename the chosen samples in one step"), QKeySequence(u"Ctrl+R"_s));
-    m_undo = makeAction("undoAction", tr("Undo"), QStyle::SP_ArrowBack, {}, QKeySequence::Undo);
-    m_redo = makeAction("redoAction", tr("Redo"), QStyle::SP_ArrowForward, {}, QKeySequence::Redo);
-    QAction *exporting = makeAction("exportAction", tr("Export trail"), QStyle::SP_FileIcon,
-                                    tr("Export the audit trail as JSON"), QKeySequence(u"Ctrl+E"_s));
-
-    bar->addActions({open, m_save});
-    bar->addSeparator();
-    bar->addActions({createFindAction(), add, m_delete, m_rename});
-    bar->addSeparator();
-    bar->addActions({m_undo, m_redo});
-    bar->addSeparator();
-    bar->addAction(exporting);
-
-    connect(open, &QAction::triggered, this, &MainWindow::askOpen);
-    connect(m_save, &QAction::triggered, this, &MainWindow::askSave);
-    connect(add, &QAction::triggered, this, [this] { AddSampleDialog(m_editor, this).exec(); });
-    connect(m_delete, &QAction::triggered, this, &MainWindow::deleteSelected);
-    connect(m_rename, &QAction::triggered, this, &MainWindow::askRename);
-    connect(m_undo, &QAction::triggered, &m_editor, &SampleEditor::undo);
-    connect(m_redo, &QAction::triggered, &m_editor, &SampleEditor::redo);
-    connect(exporting, &QAction::triggered, this, &MainWindow::askExport);
-}
-
-QAction *MainWindow::createFindAction()
-{
-    QAction *find = makeAction("findDataAction", tr("Find MS data…"), QStyle::SP_FileDialogContentsView,
-                               tr("Find the mass-spectrometry data in a folder, and add it as samples"),
-                               QKeySequence::Find);
-    connect(find, &QAction::triggered, m_import, &DataImport::ask);
-    connect(m_import, &DataImport::runningChanged, find, &QAction::setDisabled);
-    return find;
+    connect(m_actions->open, &QAction::triggered, this, &MainWindow::askOpen);
+    connect(m_actions->save, &QAction::triggered, this, &MainWindow::askSave);
+    connect(m_actions->findData, &QAction::triggered, m_import, &DataImport::ask);
+    connect(m_import, &DataImport::runningChanged, m_actions->findData, &QAction::setDisabled);
+    connect(m_actions->openData, &QAction::triggered, this,
+            [this] { m_import->inspect(files::askData(this)); });
+    connect(m_import, &DataImport::runningChanged, m_actions->openData, &QAction::setDisabled);
+    connect(m_actions->listData, &QAction::triggered, this,
+            [this] { FileCrawlerDialog::generateMSDataPathsCsv(this); });
+    connect(m_actions->addSample, &QAction::triggered, this,
+            [this] { AddSampleDialog(m_editor, this).exec(); });
+    connect(m_actions->deleteSamples, &QAction::triggered, this, &MainWindow::deleteSelected);
+    connect(m_actions->rename, &QAction::triggered, this, &MainWindow::askRename);
+    connect(m_actions->undo, &QAction::triggered, &m_editor, &SampleEditor::undo);
+    connect(m_actions->redo, &QAction::triggered, &m_editor, &SampleEditor::redo);
+    connect(m_actions->exportTrail, &QAction::triggered, this, &MainWindow::askExport);
+    connect(m_actions->style, &QAction::triggered, this, [this] { StyleDialog(this).exec(); });
 }
 
 void MainWindow::createTable()
@@ -158,39 +107,38 @@ void MainWindow::createTable()
     m_pages->setObjectName(u"pages"_s);
     m_pages->addWidget(emptyPage(m_pages));
     m_pages->addWidget(m_table);
-    setCentralWidget(m_pages);
+
+    auto *splitter = new ozm::BlackSplitter(Qt::Horizontal, this);
+    splitter->setObjectName(u"splitter"_s);
+    splitter->addWidget(m_pages);
+    splitter->addWidget(new SampleDetails(m_table, splitter));
+    splitter->setCollapsible(0, false);
+    splitter->setStretchFactor(0, 1);
+    splitter->setSizes({width() - kDetailsWidth, kDetailsWidth});
+    setCentralWidget(splitter);
     m_import->acceptDropsOn(m_pages);
 }
 
-void MainWindow::createHistory()
+QDockWidget *MainWindow::addDock(const QString &name, const QString &title, QWidget *content,
+                                 Qt::DockWidgetArea area)
 {
-    auto *dock = new QDockWidget(tr("History"), this);
-    dock->setObjectName(u"historyDock"_s);
-    auto *view = new HistoryView(m_editor, dock);
-    view->setItemDelegate(new RoomyDelegate(view));
-    dock->setWidget(view);
-    addDockWidget(Qt::RightDockWidgetArea, dock);
-    resizeDocks({dock}, {kHistoryWidth}, Qt::Horizontal);
+    auto *dock = new QDockWidget(title, this);
+    dock->setObjectName(name);
+    dock->setTitleBarWidget(new OZMDockWidgetTitleBar(dock));
+    dock->setWidget(content);
+    addDockWidget(area, dock);
+    return dock;
 }
 
-void MainWindow::createTrail()
+void MainWindow::createDocks()
 {
-    m_trailView = new QTreeView(this);
-    m_trailView->setObjectName(u"trailView"_s);
-    m_trailView->setAccessibleName(tr("Audit trail"));
-    m_trailView->setModel(m_trail);
-    m_trailView->setAlternatingRowColors(true);
-    m_trailView->setUniformRowHeights(true);
-    m_trailView->setItemDelegate(new RoomyDelegate(m_trailView));
-    for (int column = 0; column < static_cast<int>(kTrailWidths.size()); ++column)
-        m_trailView->setColumnWidth(column, kTrailWidths.at(static_cast<std::size_t>(column)));
-    m_trailView->expandAll();
-
-    auto *dock = new QDockWidget(tr("Audit trail"), this);
-    dock->setObjectName(u"trailDock"_s);
-    dock->setWidget(m_trailView);
-    addDockWidget(Qt::BottomDockWidgetArea, dock);
-    resizeDocks({dock}, {kTrailHeight}, Qt::Vertical);
+    auto *history = new HistoryView(m_editor, this);
+    history->setItemDelegate(new RoomyDelegate(history));
+    resizeDocks({addDock(u"historyDock"_s, tr("History"), history, Qt::RightDockWidgetArea)}, {kHistoryWidth},
+                Qt::Horizontal);
+    auto *trail = new TrailView(m_trail, this);
+    resizeDocks({addDock(u"trailDock"_s, tr("Audit trail"), trail, Qt::BottomDockWidgetArea)}, {kTrailHeight},
+                Qt::Vertical);
 }
 
 void MainWindow::createStatusBar(const QString &trailPath)
@@ -216,17 +164,6 @@ void MainWindow::follow()
     connect(&m_editor.history(), &QUndoStack::cleanChanged, this, &MainWindow::refresh);
     connect(&m_editor.table(), &SampleTable::wasReset, this, &MainWindow::refresh);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, &MainWindow::refresh);
-    // New entries are what people look for, with what is below them.
-    connect(m_trail, &QAbstractItemModel::rowsInserted, this,
-            [this](const QModelIndex &, int first, int last) {
-                for (int row = first; row <= last; ++row)
-                    m_trailView->expandRecursively(m_trail->index(row, 0));
-                m_trailView->scrollToBottom();
-            });
-    connect(m_trail, &QAbstractItemModel::modelReset, this, [this] {
-        m_trailView->expandAll();
-        m_trailView->scrollToBottom();
-    });
 }
 
 void MainWindow::open(const QString &path)
@@ -239,27 +176,39 @@ void MainWindow::askOpen()
 {
     if (!mayDiscard())
         return;
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open samples"), m_file, csvFilter());
+    const QString path = files::askSamples(this, m_file);
     if (!path.isEmpty())
         open(path);
 }
 
 bool MainWindow::askSave()
 {
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save samples"), m_file, csvFilter());
-    if (path.isEmpty() || m_editor.save(path).hasError())
+    const auto location = files::askSaveSamples(this, m_file);
+    if (location.isCanceled())
         return false;
-    setFile(path);
-    statusBar()->showMessage(tr("Saved to %1").arg(QDir::toNativeSeparators(path)), kStatusMs);
+    const Error error = files::save(this, location, [this](const QString &path) {
+        Error failure = m_editor.save(path);
+        if (!failure.hasError())
+            setFile(path);
+        return failure;
+    });
+    if (error.hasError())
+        return false;
+    statusBar()->showMessage(tr("Saved to %1").arg(QDir::toNativeSeparators(location.toString())), kStatusMs);
     return true;
 }
 
 void MainWindow::askExport()
 {
-    const QString path =
-        QFileDialog::getSaveFileName(this, tr("Export audit trail"), u"audit.json"_s, tr("JSON (*.json)"));
-    if (!path.isEmpty() && !m_editor.exportTrail(path).hasError())
-        statusBar()->showMessage(tr("Exported to %1").arg(QDir::toNativeSeparators(path)), kStatusMs);
+    const auto location = files::askExportTrail(this);
+    if (location.isCanceled())
+        return;
+    const Error error =
+        files::save(this, location, [this](const QString &path) { return m_editor.exportTrail(path); });
+    if (!error.hasError()) {
+        statusBar()->showMessage(tr("Exported to %1").arg(QDir::toNativeSeparators(location.toString())),
+                                 kStatusMs);
+    }
 }
 
 void MainWindow::askRename()
@@ -304,29 +253,18 @@ void MainWindow::showImport(const QString &summary, const QStringList &refusals)
 
 void MainWindow::showMessage(const QString &title, const QString &text)
 {
-    if (auto *shown = findChild<QMessageBox *>(u"troubleMessage"_s)) {
+    if (auto *shown = findChild<ozm::OzmMessageBox *>()) {
         shown->setText(text);
         return;
     }
-    auto *message = new QMessageBox(QMessageBox::Warning, title, text, QMessageBox::Ok, this);
-    message->setObjectName(u"troubleMessage"_s);
-    message->setAttribute(Qt::WA_DeleteOnClose);
-    message->open();
+    OZMStyle::openWarning(this, ozm::OzmMessageBoxSignal::Unspecified, title, text, this, {});
 }
 
 void MainWindow::refresh()
 {
     const QUndoStack &history = m_editor.history();
-    m_undo->setEnabled(history.canUndo());
-    m_undo->setToolTip(history.canUndo() ? tr("Undo: %1").arg(history.undoText()) : tr("Nothing to undo"));
-    m_redo->setEnabled(history.canRedo());
-    m_redo->setToolTip(history.canRedo() ? tr("Redo: %1").arg(history.redoText()) : tr("Nothing to redo"));
-
-    const bool selected = m_table->selectionModel()->hasSelection();
     const int samples = m_editor.table().rowCount();
-    m_delete->setEnabled(selected);
-    m_rename->setEnabled(selected);
-    m_save->setEnabled(samples > 0);
+    m_actions->update(history, samples > 0, m_table->selectionModel()->hasSelection());
     m_pages->setCurrentIndex(samples > 0 ? 1 : 0);
     m_count->setText(samples == 1 ? tr("1 sample") : tr("%1 samples").arg(samples));
     setWindowModified(!history.isClean());
@@ -345,8 +283,9 @@ bool MainWindow::mayDiscard()
     if (m_editor.history().isClean())
         return true;
     const auto answer =
-        QMessageBox::question(this, tr("Unsaved samples"), tr("The samples have changed. Save them first?"),
-                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+        OZMStyle::question(this, ozm::OzmMessageBoxSignal::UnsavedChanges, tr("Unsaved samples"),
+                           tr("The samples have changed. Save them first?"),
+                           QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
     if (answer == QMessageBox::Save)
         return askSave();
     return answer == QMessageBox::Discard;

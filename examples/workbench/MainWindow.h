@@ -4,15 +4,15 @@
 
 #include <QMainWindow>
 
-class QAction;
+class QDockWidget;
 class QLabel;
 class QStackedWidget;
-class QTreeView;
 
 namespace workbench {
 
 class AuditTrailModel;
 class DataImport;
+class MainActions;
 class SampleEditor;
 class SampleTableModel;
 class SampleTableView;
@@ -43,13 +43,11 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    QAction *makeAction(const char *name, const QString &text, int icon, const QString &tip,
-                        const QKeySequence &shortcut);
-    void createActions();
+    void connectActions();
     void createTable();
-    QAction *createFindAction();
-    void createHistory();
-    void createTrail();
+    QDockWidget *addDock(const QString &name, const QString &title, QWidget *content,
+                         Qt::DockWidgetArea area);
+    void createDocks();
     void createStatusBar(const QString &trailPath);
     void follow();
 
@@ -69,16 +67,11 @@ private:
     SampleEditor &m_editor;
     SampleTableModel *m_samples = nullptr;
     AuditTrailModel *m_trail = nullptr;
+    MainActions *m_actions = nullptr;
     DataImport *m_import = nullptr;
     QStackedWidget *m_pages = nullptr;
     SampleTableView *m_table = nullptr;
-    QTreeView *m_trailView = nullptr;
     QLabel *m_count = nullptr;
-    QAction *m_undo = nullptr;
-    QAction *m_redo = nullptr;
-    QAction *m_save = nullptr;
-    QAction *m_delete = nullptr;
-    QAction *m_rename = nullptr;
     QString m_file;
     bool m_showMessages = true;
 };

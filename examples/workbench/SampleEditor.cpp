@@ -1,5 +1,6 @@
 #include "SampleEditor.h"
 
+#include "AuditTrailCsv.h"
 #include "AuditTrailJson.h"
 #include "DataColumns.h"
 #include "DataSamples.h"
@@ -247,10 +248,14 @@ Error SampleEditor::save(const QString &path)
 
 Error SampleEditor::exportTrail(const QString &path)
 {
-    return audited(fileEvent(path, u"Exported audit trail"_s, u"JSON"_s), [this, path] {
+    const bool isTable = QFileInfo(path).suffix().compare("csv"_L1, Qt::CaseInsensitive) == 0;
+    const QString format = isTable ? u"CSV"_s : u"JSON"_s;
+    return audited(fileEvent(path, u"Exported audit trail"_s, format), [this, path, isTable] {
         // With the record of this export in it.
         Error error = m_trail.refresh();
-        return error.hasError() ? error : writeAuditTrailJson(m_trail, path);
+        if (error.hasError())
+            return error;
+        return isTable ? writeAuditTrailCsv(m_trail, path) : writeAuditTrailJson(m_trail, path);
     });
 }
 

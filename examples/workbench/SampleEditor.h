@@ -25,7 +25,7 @@ class SampleCommand;
  * made: the table, the history and the trail stay as they were, and the error says why. A change that breaks
  * a rule is recorded with its error, and not made either; the history, what can be redone included, stays.
  *
- *     SampleEditor editor(*database, currentUser());
+ *     SampleEditor editor(*database, ozm::OzmCoreApplication::userName());
  *     if (const ozm::Error error = editor.setCell(id, kCharge, u"3"_s); error.hasError())
  *         show(error);
  *
@@ -72,6 +72,7 @@ public:
     /// Replaces the samples by those in a file, and forgets the history.
     ozm::Error load(const QString &path);
     ozm::Error save(const QString &path);
+    /// As a table when @p path ends with ".csv", else as JSON.
     ozm::Error exportTrail(const QString &path);
 
 Q_SIGNALS:

@@ -1,13 +1,17 @@
 #include "AuditDatabase.h"
 #include "AuditLogger.h"
 #include "BatchRun.h"
+#include "FileQuestions.h"
 #include "MainWindow.h"
 #include "SampleEditor.h"
+
+#include <ozm_widgets/DefaultWidgetCreator.h>
+#include <ozm_widgets/OZMStyle.h>
+#include <ozm_widgets/OzmCoreApplication.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
-#include <QMessageBox>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -94,7 +98,8 @@ QString defaultDatabase()
 /// For a user who may have started the program without a terminal.
 int complainOnScreen(const Error &error)
 {
-    QMessageBox::critical(nullptr, QApplication::applicationDisplayName(), error.errorMessage());
+    OZMStyle::critical(nullptr, ozm::OzmMessageBoxSignal::FileNotReadable,
+                       QApplication::applicationDisplayName(), error.errorMessage());
     return complain(error.errorMessage(), Failed);
 }
 
@@ -122,6 +127,9 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(u"workbench"_s);
     QApplication::setApplicationDisplayName(QApplication::translate("main", "Workbench"));
     QApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
+    ozm::OzmCoreApplication::start();
+    ozm::DefaultWidgetCreator::initialize();
+    workbench::files::restoreDialogChoice();
 
     Options options;
     // For tests that interrupt a run; of no use to users.
@@ -136,8 +144,8 @@ int main(int argc, char **argv)
                                  u"[file]"_s);
     parser.process(application);
 
-    const QString user =
-        parser.value(options.user).isEmpty() ? workbench::currentUser() : parser.value(options.user);
+    const QString user = parser.value(options.user).isEmpty() ? ozm::OzmCoreApplication::userName()
+                                                              : parser.value(options.user);
     if (parser.isSet(options.batch))
         return batch(parser, options, user);
     const QString database =

@@ -6,8 +6,11 @@
 #include <ozm_widgets/ozm_widgets_export.h>
 
 #include <QCoreApplication>
+#include <QIcon>
 #include <QMap>
 #include <QMessageBox>
+#include <QPalette>
+#include <QStringList>
 
 #include <functional>
 
@@ -19,6 +22,15 @@ struct MessageBoxDescription;
 
 /**
  * The look of the suite's applications, and its messages to the user.
+ *
+ * ## Style and icons
+ *
+ *     QApplication application(argc, argv);
+ *     OZMStyle::apply(u"breeze"_s);
+ *     action->setIcon(OZMStyle::icon(u"document-save"_s));
+ *
+ * Both are right on light and on dark: the style sheet speaks in palette roles, icons are drawn in the
+ * palette's text colour when they are painted, and both follow when the palette changes. GUI thread.
  *
  * ## Message boxes
  *
@@ -52,7 +64,28 @@ public:
     using Buttons = QMessageBox::StandardButtons;
     using Answered = std::function<void(QMessageBox::StandardButton)>;
 
+    enum class Scheme
+    {
+        Light,
+        Dark
+    };
+
     OZMStyle() = delete;
+
+    /// Gives the application the style, "breeze" or "fusion" or any other that is installed, and the style
+    /// sheet ":/style/stylesheet". One that is not installed is replaced by Fusion, with a warning. Calling
+    /// it again with the same style costs nothing.
+    static void apply(const QString &style = QStringLiteral("fusion"));
+
+    /// A palette for QApplication::setPalette(), where the system gives none or the user wants another.
+    [[nodiscard]] static QPalette palette(Scheme scheme);
+    /// Whether @p palette has light text on dark or dark text on light.
+    [[nodiscard]] static Scheme scheme(const QPalette &palette);
+
+    /// The icon of this name from the library's set (see iconNames()), sharp at every size; or else that of
+    /// the system's theme; or else a null icon, and a line in the log.
+    [[nodiscard]] static QIcon icon(const QString &name);
+    [[nodiscard]] static QStringList iconNames();
 
     // Without a title: "Error", "Warning", "Information". An error is added to the text by its message, or
     // by its code's text when it has none. No buttons at all means Ok. Texts of buttons that are empty leave

@@ -2,6 +2,7 @@
 
 #include <ozm_widgets/ozm_widgets_export.h>
 
+#include <QLocale>
 #include <QObject>
 #include <QString>
 
@@ -12,6 +13,9 @@ class OzmMessageBox;
 /**
  * What an application and this library share: one object per process, beside whichever QApplication there is.
  *
+ *     QApplication application(argc, argv);
+ *     ozm::OzmCoreApplication::start();   // style and translation
+ *
  *     connect(ozm::OzmCoreApplication::instance(), &ozm::OzmCoreApplication::ozmMessageBoxShown, this,
  *             [](ozm::OzmMessageBox *box) { journal(box->signal(), box->text()); });
  */
@@ -21,6 +25,14 @@ class OZM_WIDGETS_EXPORT OzmCoreApplication : public QObject
 
 public:
     [[nodiscard]] static OzmCoreApplication *instance();
+
+    /// Applies the style, see OZMStyle::apply(), and loads the translation of the system's language. To be
+    /// called once the QApplication is there.
+    static void start(const QString &style = QStringLiteral("fusion"));
+
+    /// Has this library, and the toolkit below it, speak the language of @p locale instead of the one
+    /// before. False when there is no translation into it: then they speak English. GUI thread.
+    static bool loadTranslation(const QLocale &locale);
 
     /// Who works with the application, for the audit trail: what was set, or else the name by which the
     /// operating system knows the user; "unknown" when it knows none. Any thread.

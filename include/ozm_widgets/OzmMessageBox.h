@@ -29,9 +29,11 @@ public:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void announce(int show);
+    void drawIcon();
 
     OzmMessageBoxSignal m_signal;
     int m_shows = 0;

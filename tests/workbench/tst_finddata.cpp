@@ -9,7 +9,7 @@
 
 #include <QAction>
 #include <QDropEvent>
-#include <QMessageBox>
+#include <ozm_widgets/OzmMessageBox.h>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QStatusBar>
@@ -247,7 +247,7 @@ void TestFindData::unreadableFoldersAreReported()
     QCOMPARE(fixture.editor->table().rowCount(), 5);
     QCOMPARE(fixture.refusals().size(), 2);
     QVERIFY(fixture.refusals().constFirst().contains(fixture.tree.path(u"A"_s)));
-    const auto *message = fixture.find<QMessageBox>(u"troubleMessage"_s);
+    const auto *message = fixture.find<ozm::OzmMessageBox>(u"ozmMessageBox"_s);
     QVERIFY(message);
     QVERIFY(message->text().contains(fixture.tree.path(u"B"_s)));
 #endif

@@ -12,7 +12,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
+#include <ozm_widgets/OzmMessageBox.h>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -149,7 +149,7 @@ void TestMainWindow::refusedEditIsShown()
     const WindowFixture fixture;
     QVERIFY(fixture.type(0, 0, u"T2"_s));
     QCOMPARE(fixture.cellIndex(0, 0).data().toString(), u"T1"_s);
-    const auto *message = fixture.find<QMessageBox>(u"troubleMessage"_s);
+    const auto *message = fixture.find<ozm::OzmMessageBox>(u"ozmMessageBox"_s);
     QVERIFY(message);
     const QString text = u"Another sample is called \"T2\" already; names must be unique."_s;
     QCOMPARE(message->text(), text);
@@ -164,7 +164,7 @@ void TestMainWindow::lockedTrailKeepsTheEditOut()
     const AuditFault fault(u"locked"_s, *fixture.database);
     QVERIFY(fixture.type(0, 2, u"3"_s));
     QCOMPARE(fixture.cellIndex(0, 2).data().toString(), u"2"_s);
-    QVERIFY(fixture.find<QMessageBox>(u"troubleMessage"_s)->text().contains("locked by another program"_L1));
+    QVERIFY(fixture.find<ozm::OzmMessageBox>(u"ozmMessageBox"_s)->text().contains("locked by another program"_L1));
     QVERIFY(!fixture.action(u"undoAction"_s)->isEnabled());
 }
 
@@ -243,7 +243,7 @@ void TestMainWindow::addDialogStaysOpenUntilTaken()
     fixture.action(u"addSampleAction"_s)->trigger();
     QVERIFY(worked);
     QCOMPARE(fixture.samples().section(u'\n', -1).section(u'|', 1), u"T4|||12.5|"_s);
-    QVERIFY2(!fixture.find<QMessageBox>(u"troubleMessage"_s), "the dialog has shown the reason itself");
+    QVERIFY2(!fixture.find<ozm::OzmMessageBox>(u"ozmMessageBox"_s), "the dialog has shown the reason itself");
 }
 
 void TestMainWindow::emptyTableSaysWhatToDo()

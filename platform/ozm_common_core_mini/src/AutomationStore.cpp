@@ -36,9 +36,8 @@ Error parseFile(const QString &path, QVariantHash *answers)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return Error(
-            ErrorCode::FileAccess,
-            u"The automation answers in \"%1\" cannot be read: %2."_s.arg(path, file.errorString()));
+        return Error(ErrorCode::FileAccess,
+                     u"The automation answers in \"%1\" cannot be read: %2."_s.arg(path, file.errorString()));
     }
     return parse(file.readAll(), u"\"%1\""_s.arg(path), answers);
 }

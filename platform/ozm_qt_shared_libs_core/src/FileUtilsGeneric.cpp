@@ -24,8 +24,7 @@ Result<QString> FileUtilsGeneric::createFilePathForLocalResource(const QString &
     if (folder.isEmpty())
         return Error(ErrorCode::BadParameter, u"No folder is given for \"%1\"."_s.arg(relative));
     if (leadsOut(relative)) {
-        return Error(ErrorCode::BadParameter,
-                     u"\"%1\" is not a path inside \"%2\"."_s.arg(relative, folder));
+        return Error(ErrorCode::BadParameter, u"\"%1\" is not a path inside \"%2\"."_s.arg(relative, folder));
     }
     return joinPaths(folder, relative);
 }

@@ -10,8 +10,8 @@ namespace {
 
 bool isAbsolute(const QString &path)
 {
-    const bool hasDrive = path.size() > 2 && path[0].isLetter() && path[1] == u':' &&
-                          (path[2] == u'/' || path[2] == u'\\');
+    const bool hasDrive =
+        path.size() > 2 && path[0].isLetter() && path[1] == u':' && (path[2] == u'/' || path[2] == u'\\');
     return hasDrive || path.startsWith("\\\\"_L1) || QFileInfo(path).isAbsolute();
 }
 

@@ -64,7 +64,8 @@ QString unescaped(QStringView text)
     location.reserve(text.size());
     for (qsizetype i = 0; i < text.size(); ++i) {
         bool isNumber = false;
-        const QStringView digits = text[i] == u'%' && i + 2 < text.size() ? text.sliced(i + 1, 2) : QStringView();
+        const QStringView digits =
+            text[i] == u'%' && i + 2 < text.size() ? text.sliced(i + 1, 2) : QStringView();
         const QChar c(digits.toUShort(&isNumber, 16));
         location += isNumber ? c : text[i];
         i += isNumber ? 2 : 0;

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <ozm_widgets/IFileAccessor.h>
+
+#include <QStringList>
+
+class QWidget;
+
+/**
+ * All that the workbench asks of its user about files, each question with a remembered folder of its own. An
+ * empty answer, or a canceled location, means that nothing was chosen.
+ */
+namespace workbench::files {
+
+using Location = ozm::IFileAccessor::DestinationFileLocation;
+
+[[nodiscard]] QString askSamples(QWidget *parent, const QString &current);
+/// Mass-spectrometry data, files and folders together.
+[[nodiscard]] QStringList askData(QWidget *parent);
+[[nodiscard]] QString askDataFolder(QWidget *parent);
+[[nodiscard]] Location askSaveSamples(QWidget *parent, const QString &current);
+/// JSON or CSV, by the extension.
+[[nodiscard]] Location askExportTrail(QWidget *parent);
+
+/// Saves through the accessor, as @p writer does, and offers to open what was written.
+ozm::Error save(QWidget *parent, const Location &location, const ozm::IFileAccessor::Writer &writer);
+
+/// Whether the toolkit's dialogs are shown in place of the system's; kept for the next run.
+[[nodiscard]] bool usesToolkitDialogs();
+void setUsesToolkitDialogs(bool on);
+/// Does what the user chose in an earlier run, unless the environment says otherwise.
+void restoreDialogChoice();
+
+} // namespace workbench::files

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QObject>
+
+class QAction;
+class QMainWindow;
+class QToolBar;
+class QUndoStack;
+
+namespace workbench {
+
+/**
+ * What a user can do in the window, and the tool bar that offers it. To add an action: a member here, and a
+ * row in the table of the source.
+ */
+class MainActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit MainActions(QMainWindow *window);
+
+    /// Which of them can be used now.
+    void update(const QUndoStack &history, bool hasSamples, bool hasSelection) const;
+
+    QAction *open = nullptr;
+    QAction *save = nullptr;
+    QAction *openData = nullptr;
+    QAction *findData = nullptr;
+    QAction *addSample = nullptr;
+    QAction *deleteSamples = nullptr;
+    QAction *rename = nullptr;
+    QAction *undo = nullptr;
+    QAction *redo = nullptr;
+    QAction *listData = nullptr;
+    QAction *exportTrail = nullptr;
+    QAction *style = nullptr;
+
+private:
+    void fill(QToolBar *bar);
+};
+
+} // namespace workbench

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <ozm_common_widgets/RestrictedFileDialog.h>
+#include <ozm_widgets/ozm_widgets_export.h>
+
+namespace ozm {
+class PickRecognition;
+}
+
+/**
+ * A file dialog in which mass-spectrometry data is picked, files and vendors' raw folders together.
+ *
+ * A folder that is named as a raw folder is chosen, not shown from inside: by the Open button, by a double
+ * click, by the Enter key in the list or in the name box. Any other folder is entered. Beneath the list
+ * stands what each highlighted entry is recognised as, or why it holds no data: what holds none is left out
+ * of the answer.
+ *
+ *     const QList<QString> data = SpectrumFileDialog::getSpectrumFileList(this, tr("Open data"), folder,
+ * filter);
+ *
+ * Drawn by the toolkit whatever the system has. Relies on the toolkit's English text of its Open button;
+ * where that is translated it is a plain dialog for several files. GUI thread only; entries are looked at in
+ * another.
+ */
+class OZM_WIDGETS_EXPORT SpectrumFileDialog : public ozm::RestrictedFileDialog
+{
+    Q_OBJECT
+
+public:
+    explicit SpectrumFileDialog(QWidget *parent = nullptr);
+    ~SpectrumFileDialog() override;
+
+    /// What the user picked and is data, in the dialog's order; empty when canceled, also by the parent's
+    /// deletion. Begins with the filter that @p selectedFilter names, and leaves that as it is.
+    [[nodiscard]] static QList<QString>
+    getSpectrumFileList(QWidget *parent = nullptr, const QString &caption = {}, const QString &dir = {},
+                        const QString &filter = {}, QString *selectedFilter = nullptr,
+                        QFileDialog::Options options = {});
+
+    /// Whether @p path is named as a vendor's raw folder, and, with @p checkExistingDir, is a folder.
+    [[nodiscard]] static bool isVendorRawFolder(QString path, bool checkExistingDir);
+
+protected:
+    void accept() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private Q_SLOTS:
+    void currentChanged_custom(QString path);
+    void directoryEntered_custom(QString path);
+    void openButton_clicked();
+
+private:
+    [[nodiscard]] static QList<QString> _internalGetOpenFunction(QWidget *parent, const QString &caption,
+                                                                 const QString &dir, const QString &filter,
+                                                                 QString *selectedFilter,
+                                                                 QFileDialog::Options options);
+    void rewire(QWidget *openButton);
+    void openOne(const QString &path);
+    void enter(const QString &folder);
+    void finish();
+    void showPicks();
+    void recognise();
+
+    // Null in the plain dialog.
+    ozm::PickRecognition *m_recognition = nullptr;
+};

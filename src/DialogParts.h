@@ -1,0 +1,20 @@
+#pragma once
+
+class QFileDialog;
+class QItemSelectionModel;
+class QLineEdit;
+class QWidget;
+
+namespace ozm {
+
+// Parts of a file dialog that the toolkit draws, by the names it gives them. A toolkit that renames them
+// gives null, and the dialogs do without.
+
+[[nodiscard]] QLineEdit *nameBox(const QFileDialog &dialog);
+/// Of the list and of the table of details, which share it.
+[[nodiscard]] QItemSelectionModel *selectionModel(const QFileDialog &dialog);
+
+/// Puts @p widget beneath all that is in the dialog.
+void addToFileDialog(QFileDialog &dialog, QWidget *widget);
+
+} // namespace ozm

@@ -1,0 +1,239 @@
+#include <ozm_widgets/SpectrumFileDialog.h>
+
+#include "DialogParts.h"
+#include "GuardedDialog.h"
+#include "Logging.h"
+#include "MsFileTypes.h"
+#include "PickRecognition.h"
+
+#include <FormatDetection.h>
+
+#include <QAbstractItemView>
+#include <QFileInfo>
+#include <QFileSystemModel>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using ozm::GuardedDialog;
+using ozm::msreader::DataSourceLocation;
+
+namespace {
+
+// Nobody reads more names in a box of one line.
+constexpr qsizetype kMostNamesShown = 100;
+
+bool isDataOnDisk(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.isFile() ||
+           (info.isDir() && hasDetectableFormat(DataSourceLocation::fromLocalPath(path), false));
+}
+
+QPushButton *openButtonOf(const QFileDialog &dialog)
+{
+    const QList<QPushButton *> buttons = dialog.findChildren<QPushButton *>();
+    const auto open = std::ranges::find_if(
+        buttons, [](const QPushButton *button) { return button->text().contains("Open"_L1); });
+    return open != buttons.cend() ? *open : nullptr;
+}
+
+/// A typed name may end like a folder.
+QString withoutSlashAtEnd(QString path)
+{
+    while (path.size() > 1 && path.endsWith(u'/'))
+        path.chop(1);
+    return path;
+}
+
+} // namespace
+
+SpectrumFileDialog::SpectrumFileDialog(QWidget *parent)
+    : RestrictedFileDialog(parent)
+{
+    setOption(QFileDialog::DontUseNativeDialog, true);
+    setFileMode(QFileDialog::ExistingFiles);
+    if (QPushButton *button = openButtonOf(*this))
+        rewire(button);
+    else
+        qCDebug(lcOzmWidgets) << "openButton is nullptr";
+}
+
+SpectrumFileDialog::~SpectrumFileDialog() = default;
+
+void SpectrumFileDialog::rewire(QWidget *openButton)
+{
+    auto *button = static_cast<QPushButton *>(openButton);
+    disconnect(button, &QPushButton::clicked, nullptr, nullptr);
+    connect(button, &QPushButton::clicked, this, &SpectrumFileDialog::openButton_clicked);
+    connect(this, &QFileDialog::currentChanged, this, &SpectrumFileDialog::currentChanged_custom);
+    connect(this, &QFileDialog::directoryEntered, this, &SpectrumFileDialog::directoryEntered_custom);
+
+    m_recognition = new ozm::PickRecognition(this);
+    ozm::addToFileDialog(*this, m_recognition);
+    if (const QItemSelectionModel *selection = ozm::selectionModel(*this)) {
+        connect(selection, &QItemSelectionModel::selectionChanged, this, &SpectrumFileDialog::showPicks);
+        connect(selection, &QItemSelectionModel::selectionChanged, this, &SpectrumFileDialog::recognise);
+    }
+    if (const QLineEdit *name = ozm::nameBox(*this))
+        connect(name, &QLineEdit::textEdited, this, &SpectrumFileDialog::recognise);
+    for (QAbstractItemView *view : findChildren<QAbstractItemView *>())
+        view->installEventFilter(this);
+}
+
+bool SpectrumFileDialog::isVendorRawFolder(QString path, bool checkExistingDir)
+{
+    if (checkExistingDir && !QFileInfo(path).isDir())
+        return false;
+    return FileTypes::fileMatchesAnyType(path, {ozm::msFolderType()});
+}
+
+void SpectrumFileDialog::currentChanged_custom(QString path)
+{
+    // Not selectFile(), which would drop the other picks and the keyboard's place in the list.
+    if (isVendorRawFolder(path, true))
+        showPicks();
+}
+
+void SpectrumFileDialog::directoryEntered_custom(QString path)
+{
+    if (!isVendorRawFolder(path, true)) {
+        // The name of what was highlighted in the folder above means nothing in this one.
+        if (QLineEdit *name = ozm::nameBox(*this); name && !name->hasFocus())
+            name->clear();
+        return;
+    }
+    if (QLineEdit *name = ozm::nameBox(*this))
+        name->clearFocus(); // With it, the toolkit leaves what was typed in place of the folder's name.
+    selectFile(path);
+    finish();
+}
+
+bool SpectrumFileDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        const auto *view = qobject_cast<QAbstractItemView *>(watched);
+        // The toolkit would enter the current folder and forget the other picks.
+        if ((key == Qt::Key_Return || key == Qt::Key_Enter) && view &&
+            view->selectionModel() == ozm::selectionModel(*this) && selectedFiles().size() > 1) {
+            openButton_clicked();
+            return true;
+        }
+    }
+    return RestrictedFileDialog::eventFilter(watched, event);
+}
+
+void SpectrumFileDialog::accept()
+{
+    const QStringList files = selectedFiles();
+    // The base class tells the user that there is no such file, and stays.
+    if (!m_recognition || (files.size() == 1 && !QFileInfo::exists(files.constFirst())))
+        RestrictedFileDialog::accept();
+    else
+        openButton_clicked();
+}
+
+void SpectrumFileDialog::openButton_clicked()
+{
+    const QStringList files = selectedFiles();
+    qCDebug(lcOzmWidgets).nospace() << "Got here with " << files.size() << " selections.";
+    for (const QString &file : files)
+        qCDebug(lcOzmWidgets).noquote() << file;
+    if (files.size() == 1)
+        openOne(files.constFirst());
+    else if (std::ranges::any_of(files, isDataOnDisk))
+        finish();
+}
+
+void SpectrumFileDialog::openOne(const QString &path)
+{
+    if (QFileInfo(path).isDir() && !isVendorRawFolder(path, true))
+        enter(path);
+    else
+        finish();
+}
+
+void SpectrumFileDialog::enter(const QString &folder)
+{
+    if (QLineEdit *name = ozm::nameBox(*this))
+        name->clear();
+    setDirectory(folder);
+}
+
+void SpectrumFileDialog::finish()
+{
+    // Not the base class's accept(), which enters folders. Nothing is closed after it: that would reject.
+    const QStringList files = selectedFiles();
+    const QPointer<SpectrumFileDialog> self(this);
+    Q_EMIT filesSelected(files);
+    if (self)
+        QDialog::accept();
+}
+
+void SpectrumFileDialog::showPicks()
+{
+    QLineEdit *name = ozm::nameBox(*this);
+    const QItemSelectionModel *selection = ozm::selectionModel(*this);
+    if (!name || !selection || name->hasFocus())
+        return;
+    const QModelIndexList rows = selection->selectedRows();
+    if (rows.size() > kMostNamesShown)
+        return;
+    QStringList names;
+    bool hasFolder = false;
+    for (const QModelIndex &row : rows) {
+        const QString path = row.data(QFileSystemModel::FilePathRole).toString();
+        const bool isFolder = QFileInfo(path).isDir();
+        if (isFolder && !isVendorRawFolder(path, false))
+            continue;
+        hasFolder = hasFolder || isFolder;
+        names.append(row.data(QFileSystemModel::FileNameRole).toString());
+    }
+    // Of files alone the toolkit shows the names.
+    if (hasFolder)
+        name->setText(names.size() == 1 ? names.constFirst() : u'"' + names.join("\" \""_L1) + u'"');
+}
+
+void SpectrumFileDialog::recognise()
+{
+    m_recognition->recognise(selectedFiles());
+}
+
+QList<QString> SpectrumFileDialog::_internalGetOpenFunction(QWidget *parent, const QString &caption,
+                                                            const QString &dir, const QString &filter,
+                                                            QString *selectedFilter,
+                                                            QFileDialog::Options options)
+{
+    GuardedDialog dialog(new SpectrumFileDialog(parent));
+    QDir start(dir);
+    // A raw folder is shown among its neighbours, not from inside.
+    if (isVendorRawFolder(dir, true) && start.cdUp())
+        start.setPath(start.absolutePath());
+    dialog->setDirectory(start);
+    dialog->setNameFilter(filter);
+    dialog->setWindowTitle(caption);
+    dialog->setOptions(options);
+    if (selectedFilter && !selectedFilter->isEmpty())
+        dialog->selectNameFilter(*selectedFilter);
+    return dialog.exec() ? dialog->selectedFiles() : QList<QString>();
+}
+
+QList<QString> SpectrumFileDialog::getSpectrumFileList(QWidget *parent, const QString &caption,
+                                                       const QString &dir, const QString &filter,
+                                                       QString *selectedFilter, QFileDialog::Options options)
+{
+    QList<QString> data;
+    for (const QString &pick :
+         _internalGetOpenFunction(parent, caption, dir, filter, selectedFilter, options)) {
+        const QString path = withoutSlashAtEnd(pick);
+        if (isDataOnDisk(path))
+            data.append(path);
+        else
+            qCDebug(lcOzmWidgets).noquote() << "Dropped, as it holds no data:" << path;
+    }
+    return data;
+}

@@ -1,0 +1,194 @@
+#pragma once
+
+#include <ozm_common_core/FileSystemSettings.h>
+#include <ozm_common_core_mini/AutomationStore.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QFileSystemModel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPointer>
+#include <QPushButton>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+
+#include <functional>
+
+namespace ozm::test {
+
+/**
+ * Works on the modal dialogs that open while it lives: the first function on the first dialog, and so on.
+ *
+ *     DialogDriver driver({[](QDialog *dialog) { dialog->reject(); }});
+ *     const QString path = FileDialog::getSaveFileName(...);
+ *     QCOMPARE(driver.opened(), 1);
+ *
+ * A dialog that is still open after its function, or that has none, fails the test and is closed, so that
+ * nothing hangs.
+ */
+class DialogDriver : public QObject
+{
+public:
+    using Work = std::function<void(QDialog *)>;
+
+    explicit DialogDriver(const QList<Work> &works)
+        : m_works(works)
+    {
+        qApp->installEventFilter(this);
+    }
+    ~DialogDriver() override { qApp->removeEventFilter(this); }
+
+    [[nodiscard]] int opened() const { return m_opened; }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *dialog = qobject_cast<QDialog *>(watched);
+        if (event->type() == QEvent::Show && dialog && !event->spontaneous()) {
+            const QPointer<QDialog> guard(dialog);
+            const Work work = m_works.value(m_opened++);
+            QTimer::singleShot(0, dialog, [guard, work] { drive(guard, work); });
+        }
+        return false;
+    }
+
+private:
+    static void drive(const QPointer<QDialog> &dialog, const Work &work)
+    {
+        if (work)
+            work(dialog);
+        if (!dialog || !dialog->isVisible())
+            return;
+        dialog->done(QDialog::Rejected);
+        QFAIL("a dialog was left open");
+    }
+
+    const QList<Work> m_works;
+    int m_opened = 0;
+};
+
+/// Folders are remembered in memory, settings of the toolkit in a folder of their own, and nothing is
+/// answered or switched from outside, until it ends.
+class FileStateGuard
+{
+public:
+    FileStateGuard()
+    {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
+        m_before = FileSystemSettings::Instance().setStore(FileSystemSettings::memoryStore());
+        clear();
+    }
+    ~FileStateGuard()
+    {
+        clear();
+        FileSystemSettings::Instance().setStore(std::move(m_before));
+    }
+    Q_DISABLE_COPY_MOVE(FileStateGuard)
+
+private:
+    static void clear()
+    {
+        as::clear();
+        qunsetenv("OZM_USE_QT_SAVE_DIALOG");
+        qunsetenv("OZM_USE_QT_FILE_DIALOG");
+    }
+
+    const QTemporaryDir m_settings;
+    std::unique_ptr<FileSystemSettings::Store> m_before;
+};
+
+/// What a user sees of a file dialog that the toolkit draws.
+class FileDialogDriver
+{
+public:
+    explicit FileDialogDriver(QDialog *dialog)
+        : m_dialog(qobject_cast<QFileDialog *>(dialog))
+    {
+        if (!m_dialog)
+            return;
+        m_dialog->setViewMode(QFileDialog::List);
+        // Without the focus, the toolkit takes what is typed for a proposal of its own.
+        m_dialog->activateWindow();
+        (void)QTest::qWaitForWindowActive(m_dialog);
+    }
+
+    [[nodiscard]] QFileDialog *dialog() const { return m_dialog; }
+    [[nodiscard]] QLineEdit *name() const
+    {
+        return m_dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    }
+    [[nodiscard]] QListView *list() const
+    {
+        return m_dialog->findChild<QListView *>(QStringLiteral("listView"));
+    }
+    [[nodiscard]] QPushButton *acceptButton() const
+    {
+        auto *box = m_dialog->findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"));
+        auto *open = box->button(QDialogButtonBox::Open);
+        return open ? open : box->button(QDialogButtonBox::Save);
+    }
+
+    /// Waits until @p path is in the list and on the screen, as the list is filled from another thread.
+    [[nodiscard]] QRect rectOf(const QString &path) const
+    {
+        const auto *model = qobject_cast<QFileSystemModel *>(list()->model());
+        QRect rect;
+        const bool isShown = QTest::qWaitFor([&] {
+            rect = list()->visualRect(model->index(path));
+            return model->index(path).isValid() && rect.isValid() && isSorted(*model, list()->rootIndex()) &&
+                   list()->viewport()->rect().contains(rect.center());
+        });
+        return isShown ? rect : QRect();
+    }
+
+    [[nodiscard]] bool click(const QString &path, Qt::KeyboardModifiers keys = {}) const
+    {
+        const QRect rect = rectOf(path);
+        QTest::mouseClick(list()->viewport(), Qt::LeftButton, keys, rect.center());
+        return rect.isValid();
+    }
+
+    [[nodiscard]] bool doubleClick(const QString &path) const
+    {
+        const QRect rect = rectOf(path);
+        QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, rect.center());
+        QTest::mouseDClick(list()->viewport(), Qt::LeftButton, {}, rect.center());
+        return rect.isValid();
+    }
+
+    /// Types @p text in place of what the box holds.
+    void type(const QString &text) const
+    {
+        name()->setFocus();
+        name()->selectAll();
+        if (text.isEmpty())
+            QTest::keyClick(name(), Qt::Key_Delete);
+        else
+            QTest::keyClicks(name(), text);
+    }
+
+    void pressEnter(QWidget *in) const { QTest::keyClick(in, Qt::Key_Return); }
+    void clickAccept() const { QTest::mouseClick(acceptButton(), Qt::LeftButton); }
+
+private:
+    /// Folders come before files once the list is in its order.
+    [[nodiscard]] static bool isSorted(const QFileSystemModel &model, const QModelIndex &folder)
+    {
+        bool wasFile = false;
+        for (int row = 0; row < model.rowCount(folder); ++row) {
+            const bool isFile = !model.isDir(model.index(row, 0, folder));
+            if (wasFile && !isFile)
+                return false;
+            wasFile = isFile;
+        }
+        return true;
+    }
+
+    QFileDialog *m_dialog;
+};
+
+} // namespace ozm::test
