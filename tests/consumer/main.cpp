@@ -1,6 +1,7 @@
 #include <ozm_common_core_mini/ColumnNames.h>
 #include <ozm_common_core_mini/RowNode.h>
 #include <ozm_common_stable/Result.h>
+#include <ozm_widgets/AbstractTemplateEditor.h>
 #include <ozm_widgets/db/common/AuditTrailLoggingInterface.h>
 #include <ozm_widgets/db/common/UndoCommand.h>
 #include <ozm_widgets/db/common/UndoRedoHints.h>
@@ -99,5 +100,11 @@ int main(int argc, char *argv[])
     QTextStream out(stdout);
     for (const Logger::Item &item : std::as_const(logger.items))
         out << item->dataToString() << '\n';
-    return row.getDataAt(kCharge) == 2 && logger.items.size() == 2 ? 0 : 1;
+
+    const QString text =
+        u"[Name], <script>templateEditorCore.number(inputParameters['[Charge]'], 1)</script>"_s;
+    const QString decoded =
+        AbstractTemplateEditor::withoutScriptTags(AbstractTemplateEditor::decodeTEC(text, &row, {}));
+    out << decoded << '\n';
+    return row.getDataAt(kCharge) == 2 && logger.items.size() == 2 && decoded == u"T12, 2.0"_s ? 0 : 1;
 }
