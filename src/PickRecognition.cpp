@@ -104,6 +104,7 @@ PickRecognition::PickRecognition(QWidget *parent)
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     // Its room is there from the start, so that nothing moves under the mouse; long names do not widen it.
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    showLines({});
     setFixedHeight(static_cast<int>(kMostLines + 1) * fontMetrics().lineSpacing() + 2 * margin());
 }
 
@@ -135,12 +136,18 @@ void PickRecognition::showLines(const QStringList &lines)
 {
     m_lines = lines;
     setToolTip(lines.join(u'\n'));
+    // One entry alone has room for its whole reason.
+    setWordWrap(lines.size() <= 1);
     elide();
     Q_EMIT recognised();
 }
 
 void PickRecognition::elide()
 {
+    if (wordWrap()) {
+        setText(m_lines.value(0, tr("Highlight files and folders to see what data they hold.")));
+        return;
+    }
     QStringList shown;
     for (const QString &line : std::as_const(m_lines))
         shown.append(fontMetrics().elidedText(line, Qt::ElideRight, width()));

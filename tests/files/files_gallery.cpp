@@ -3,6 +3,7 @@
 
 #include "../core_ms/SampleTree.h"
 #include "DialogDriver.h"
+#include "support/WithoutRights.h"
 
 #include <ozm_widgets/FileCrawlerDialog.h>
 #include <ozm_widgets/FileDialog.h>
@@ -11,9 +12,9 @@
 #include <ozm_widgets/SpectrumFileDialog.h>
 #include <ozm_widgets/openfilefolderdialog.h>
 
+#include <QCheckBox>
 #include <QLabel>
 #include <QPainter>
-#include <QProgressBar>
 
 using namespace Qt::StringLiterals;
 using namespace ozm::test;
@@ -72,7 +73,7 @@ QPixmap spectrumPicture(const SampleTree &tree, const QStringList &picks, QFileD
     }
     dialog.setViewMode(mode);
     const auto *label = dialog.findChild<QLabel *>(u"recognition"_s);
-    (void)QTest::qWaitFor([label] { return !label->text().isEmpty(); });
+    (void)QTest::qWaitFor([label] { return !label->toolTip().isEmpty(); });
     return picture(dialog);
 }
 
@@ -93,21 +94,58 @@ QPixmap folderPicture(const SampleTree &tree)
     return picture(dialog);
 }
 
-QPixmap finderPicture(const SampleTree &tree, bool isSearching)
+/// The finder as it comes up, in the middle of a search, and after one that was canceled.
+QList<QPixmap> finderPictures(const SampleTree &large)
 {
-    FileCrawlerDialog finder;
-    finder.findChild<QLineEdit *>(u"crawlPathLine"_s)->setText(isSearching ? tree.path() : QString());
+    QList<QPixmap> pictures;
+    const DialogDriver driver({[&](QDialog *dialog) {
+        pictures.append(picture(*dialog));
+        dialog->findChild<QLineEdit *>(u"crawlPathLine"_s)->setText(large.path());
+        dialog->findChild<QCheckBox *>(u"enableRecursiveSearch"_s)->setChecked(true);
+        QTimer poll;
+        QObject::connect(&poll, &QTimer::timeout, dialog, [&] {
+            const QString status = dialog->findChild<QLabel *>(u"searchStatus"_s)->text();
+            if (status.isEmpty() || status.contains(": 0."_L1))
+                return;
+            poll.stop();
+            pictures.append(dialog->grab());
+            dialog->reject();
+        });
+        poll.start(0);
+        dialog->accept();
+        pictures.append(picture(*dialog));
+        dialog->reject();
+    }});
+    (void)FileCrawlerDialog::generateMSDataPaths(nullptr);
+    return pictures;
+}
+
+/// What the finder says of folders that it cannot read.
+QPixmap passedOverPicture()
+{
+    const SampleTree tree;
+    tree.make({u"a.mzml"_s, u"Service/x.mzml"_s, u"Private/x.mzml"_s});
+    setMode(tree.path(), 0755);
+    for (const QString &name : {u"Service"_s, u"Private"_s})
+        setMode(tree.path(name), 0);
     QPixmap pixmap;
-    if (isSearching) {
-        // While accept() searches; the answer to the box that follows ends it.
-        QTimer::singleShot(0, &finder, [&] { pixmap = finder.grab(); });
-        const DialogDriver driver({[](QDialog *box) { box->reject(); }, [](QDialog *box) { box->reject(); }});
-        finder.setAskForDestinationPath(true);
-        finder.show();
-        finder.accept();
-        return pixmap;
+    {
+        const WithoutRights nobody;
+        const DialogDriver driver(
+            {[&](QDialog *dialog) {
+                 dialog->findChild<QLineEdit *>(u"crawlPathLine"_s)->setText(tree.path());
+                 dialog->findChild<QCheckBox *>(u"enableRecursiveSearch"_s)->setChecked(true);
+                 dialog->accept();
+             },
+             [&](QDialog *box) {
+                 pixmap = picture(*box);
+                 box->accept();
+             }});
+        (void)FileCrawlerDialog::generateMSDataPaths(nullptr);
     }
-    return picture(finder);
+    for (const QString &name : {u"Service"_s, u"Private"_s})
+        setMode(tree.path(name), 0755);
+    return pixmap;
 }
 
 QPixmap promptPicture(const QString &error, const QString &file)
@@ -140,19 +178,23 @@ int main(int argc, char **argv)
     tree.make({u"Day 1/x.mzml"_s, u"Run 12.d/AcqData/"_s, u"Run 13.d/analysis.tdf"_s, u"Empty.d/"_s,
                u"HeLa 200 ng.mzml"_s, u"blank.raw"_s, u"results.csv"_s, u"notes.txt"_s,
                u"A long name, as instruments give them, with sample, date, operator and method.mzml"_s});
+    const SampleTree large;
+    for (int i = 0; i < 5000; ++i)
+        large.makeOne(u"Day %1/x.mzml"_s.arg(i));
     for (const auto scheme : {OZMStyle::Scheme::Light, OZMStyle::Scheme::Dark}) {
         QApplication::setPalette(OZMStyle::palette(scheme));
-        const QList<QPixmap> pictures{
-            spectrumPicture(tree, {u"Run 12.d"_s}, QFileDialog::Detail),
+        QList<QPixmap> pictures{
+            spectrumPicture(tree, {}, QFileDialog::Detail),
+            spectrumPicture(tree, {u"Empty.d"_s}, QFileDialog::Detail),
             spectrumPicture(tree, {u"Run 12.d"_s, u"HeLa 200 ng.mzml"_s, u"Empty.d"_s}, QFileDialog::List),
             savePicture(tree),
             folderPicture(tree),
-            finderPicture(tree, false),
-            finderPicture(tree, true),
             promptPicture({}, tree.path(u"results.csv"_s)),
             promptPicture(u"The disk is full."_s, tree.path(u"results.csv"_s)),
             boxPicture([&] { (void)FileDialog::checkIfFileCanBeOpenToWrite(nullptr, tree.path()); }),
         };
+        pictures += finderPictures(large);
+        pictures.append(passedOverPicture());
         const QString name = scheme == OZMStyle::Scheme::Dark ? u"dark"_s : u"light"_s;
         sheetOf(pictures).save(
             out.filePath(u"files-%1-%2x.png"_s.arg(name).arg(application.devicePixelRatio())));

@@ -217,7 +217,8 @@ void TestFileAccessor::startsInAFolder()
         }});
         (void)ask(question, dir.isEmpty() ? dir : tree.path(dir));
         const bool opens = question == Question::OpenOne || question == Question::OpenSeveral;
-        QVERIFY2(start == tree.path(opens ? whenOpening : whenSaving), qPrintable(QLatin1StringView(name) + ": "_L1 + start));
+        QVERIFY2(start == tree.path(opens ? whenOpening : whenSaving),
+                 qPrintable(QLatin1StringView(name) + ": "_L1 + start));
     }
 }
 
