@@ -42,10 +42,10 @@ int lineOf(const QJSValue &result, const QStringList &stack)
 template <typename Visit>
 void visitObjects(const QVariant &value, Visit visit)
 {
-    if (QMetaType(value.metaType()).flags() & QMetaType::PointerToQObject) {
+    if (value.metaType().flags() & QMetaType::PointerToQObject) {
         if (QObject *object = value.value<QObject *>())
             visit(object);
-    } else if (value.canConvert<QVariantMap>() && value.typeId() == QMetaType::QVariantMap) {
+    } else if (value.typeId() == QMetaType::QVariantMap) {
         for (const QVariant &each : value.toMap())
             visitObjects(each, visit);
     } else if (value.typeId() == QMetaType::QVariantList) {
@@ -102,6 +102,11 @@ std::optional<QString> ScriptRealm::load(const ScriptLibrary &library)
         return messageOf(result);
     m_engine.globalObject().setProperty(kLibrary, result);
     return std::nullopt;
+}
+
+ScriptOutcome ScriptRealm::run(const QString &code)
+{
+    return evaluate(code);
 }
 
 ScriptOutcome ScriptRealm::run(const QString &code, const QMap<QString, QVariant> &parameters)

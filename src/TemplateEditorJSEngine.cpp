@@ -20,6 +20,26 @@ constexpr std::chrono::milliseconds kDefaultDeadline{5000};
 
 std::atomic<std::chrono::milliseconds> s_deadline{kDefaultDeadline};
 
+/// Whether nothing of @p value lives on in an engine that has seen it, and nothing of it can be called.
+bool isPlain(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::UnknownType:
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Float:
+    case QMetaType::Double:
+    case QMetaType::QString:
+    case QMetaType::QStringList:
+        return true;
+    default:
+        return false;
+    }
+}
+
 QString defaultLibraryPath()
 {
     return QCoreApplication::applicationDirPath() + u"/templateEditorJSLib/TemplateEditorJSUtils.js"_s;
@@ -102,13 +122,14 @@ QString TemplateEditorJSCodeReader::Private::runPieces(const ozm::TemplateText &
                                                        QList<ozm::FailedScript> *failed)
 {
     std::unique_ptr<ozm::ScriptRealm> own;
-    if (!parsed.isContained())
+    if (!parsed.isContained() || !std::ranges::all_of(parameters, isPlain))
         own = engine.d->freshRealm();
     ozm::ScriptRealm &realm = own ? *own : engine.d->realm();
 
     QList<QString> texts;
     for (const ozm::ScriptPiece &piece : parsed.pieces() | std::views::reverse) {
-        const ozm::ScriptOutcome outcome = realm.run(piece.code, parameters);
+        const ozm::ScriptOutcome outcome =
+            piece.readsParameters ? realm.run(piece.code, parameters) : realm.run(piece.code);
         texts.append(outcome.text);
         if (failed && outcome.failed)
             failed->prepend({piece.start, outcome.line, outcome.message, piece.code});

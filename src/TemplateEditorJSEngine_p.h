@@ -39,6 +39,8 @@ public:
     ScriptRealm &operator=(const ScriptRealm &) = delete;
 
     [[nodiscard]] ScriptOutcome run(const QString &code, const QMap<QString, QVariant> &parameters);
+    /// For code that does not look at its parameters: handing them over costs more than a short script.
+    [[nodiscard]] ScriptOutcome run(const QString &code);
 
 private:
     class GuardedObjects;

@@ -22,6 +22,13 @@ constexpr qsizetype kCachedCharacters = 8'000'000;
 // What an entry takes beside its text, so that many small ones are bounded, too.
 constexpr qsizetype kEntryCost = 200;
 
+ScriptPiece scriptPiece(const QString &text, qsizetype start, qsizetype length)
+{
+    const QString code = text.sliced(start, length);
+    const bool contained = isContainedScript(code);
+    return {static_cast<qint32>(start), code, contained, !contained || code.contains("inputParameters"_L1)};
+}
+
 QList<ScriptPiece> scriptPieces(const QString &text)
 {
     const QList<ScriptTag> tags = scriptTags(text);
@@ -35,7 +42,7 @@ QList<ScriptPiece> scriptPieces(const QString &text)
         const qsizetype start = tag.position + tag.length;
         const qsizetype length = tags.at(index + 1).position - start;
         if (depth >= 1 && length > 0)
-            pieces.append({static_cast<qint32>(start), text.sliced(start, length)});
+            pieces.append(scriptPiece(text, start, length));
     }
     return pieces;
 }
@@ -58,7 +65,7 @@ QList<ScriptTag> scriptTags(QStringView text)
 TemplateText::TemplateText(const QString &text)
     : m_text(text)
     , m_pieces(scriptPieces(text))
-    , m_contained(std::ranges::all_of(m_pieces, isContainedScript, &ScriptPiece::code))
+    , m_contained(std::ranges::all_of(m_pieces, &ScriptPiece::contained))
     , m_marks(tokens::marked(text))
 {
     collectNames();

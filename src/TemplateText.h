@@ -14,6 +14,8 @@ struct ScriptPiece
 {
     qint32 start; ///< In the template, just after the tag.
     QString code;
+    bool contained;       ///< Leaves nothing behind in the engine: see isContainedScript().
+    bool readsParameters; ///< May look at them; false only when that is certain.
 };
 
 /// What can be known of a template before there is data for it.
@@ -24,7 +26,7 @@ public:
 
     [[nodiscard]] const QString &text() const { return m_text; }
     [[nodiscard]] const QList<ScriptPiece> &pieces() const { return m_pieces; }
-    /// Whether no piece can leave anything behind in the engine it runs in: see ScriptContainment.
+    /// Whether all pieces are.
     [[nodiscard]] bool isContained() const { return m_contained; }
     [[nodiscard]] const tokens::MarkedText &marks() const { return m_marks; }
 

@@ -3,6 +3,7 @@
 #include "AuditDatabase.h"
 #include "DataSamples.h"
 #include "MainWindow.h"
+#include "Report.h"
 #include "SampleEditor.h"
 
 #include <ozm_common_core_mini/ColumnNames.h>
@@ -104,7 +105,7 @@ public:
     Error all()
     {
         for (const auto step : {&Run::load, &Run::edit, &Run::add, &Run::rename, &Run::tryInvalid,
-                                &Run::undoAndRedo, &Run::repeat, &Run::save, &Run::grab}) {
+                                &Run::undoAndRedo, &Run::repeat, &Run::save, &Run::report, &Run::grab}) {
             if (Error error = (this->*step)(); error.hasError())
                 return error;
         }
@@ -207,6 +208,28 @@ private:
         return error.hasError() ? error : m_editor.exportTrail(m_out.filePath(u"audit.json"_s));
     }
 
+    /// A certificate for each of the renamed samples, and a list of all.
+    Error report()
+    {
+        std::vector<RowNode> all;
+        for (int index = 0; index < m_editor.table().rowCount(); ++index)
+            all.push_back(*m_editor.table().row(index));
+        const std::vector<RowNode> first(all.begin(),
+                                         all.begin() + qMin<qsizetype>(kRenamed, std::ssize(all)));
+        const ReportContext context(m_options.user, QFileInfo(m_options.input).fileName(), all);
+        ReportPages pages;
+        for (const ReportTemplate &each : reportTemplates()) {
+            const auto filled = fillReport(each.path, each.forGroup, each.forGroup ? all : first, context);
+            if (!filled)
+                return filled.error();
+            pages.append(filled.value());
+        }
+        for (const QString &trouble : std::as_const(pages.troubles))
+            tell(tr("report: ") + trouble);
+        Error error = saveReportHtml(pages, m_out.filePath(u"report.html"_s));
+        return error.hasError() ? error : saveReportPdf(pages, m_out.filePath(u"report.pdf"_s));
+    }
+
     Error grab()
     {
         QApplication::processEvents();
@@ -229,7 +252,8 @@ void tellResults(const BatchOptions &options)
 {
     const QDir out(options.outDirectory);
     tell(QFileInfo(options.database).absoluteFilePath());
-    for (const auto &name : {u"audit.json"_s, u"samples.csv"_s, u"window.png"_s})
+    for (const auto &name :
+         {u"audit.json"_s, u"samples.csv"_s, u"report.html"_s, u"report.pdf"_s, u"window.png"_s})
         tell(QFileInfo(out.filePath(name)).absoluteFilePath());
     if (QFileInfo(options.input).isDir())
         tell(QFileInfo(out.filePath(u"formats.csv"_s)).absoluteFilePath());

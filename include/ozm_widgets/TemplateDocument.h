@@ -1,0 +1,91 @@
+#pragma once
+
+#include <ozm_widgets/ozm_widgets_export.h>
+
+#include <QHash>
+#include <QString>
+#include <QTextDocument>
+
+#include <memory>
+
+class QTextCursor;
+
+namespace ozm {
+
+/**
+ * A report template as formatted text.
+ *
+ * Short codes, scripts, and markup that formatted text has no form for stand in it as chips: single
+ * characters that are selected, copied, deleted and undone whole, and that hold their text to the letter.
+ *
+ *     ozm::TemplateDocument document;
+ *     document.setSource(u"<p>Dear <b>[Name]</b></p>"_s);
+ *     QTextCursor cursor(&document);
+ *     document.insertSource(cursor, u"[Charge]"_s);
+ *     const QString source = document.source();
+ *
+ * Reading brings a source into this class's own short form of HTML; what it writes, it reads and writes
+ * again without a change. Codes, scripts, tables and images are the same in both. A page's head, and
+ * classes and identifiers of elements, are not kept, unless they hold a code or script.
+ *
+ * Text that is set to a document on screen should come in by insertSource(): setSource() ends the undo
+ * history. GUI thread only; nothing is ever loaded from a network or from disk.
+ */
+class OZM_WIDGETS_EXPORT TemplateDocument : public QTextDocument
+{
+    Q_OBJECT
+
+public:
+    enum class ChipKind
+    {
+        None,
+        Code,
+        Script,
+        Markup
+    };
+
+    struct Chip
+    {
+        ChipKind kind = ChipKind::None;
+        QString source;
+    };
+
+    explicit TemplateDocument(QObject *parent = nullptr);
+    ~TemplateDocument() override;
+
+    /// HTML, or plain text, whose lines become paragraphs.
+    void setSource(const QString &source);
+    [[nodiscard]] QString source() const;
+    /// The source of what @p selection holds; of one line without the line's own tag.
+    [[nodiscard]] QString source(const QTextCursor &selection) const;
+
+    /// Puts @p source in the place of the selection of @p cursor, in one step of the history.
+    void insertSource(QTextCursor &cursor, const QString &source);
+
+    /// The chip after @p position.
+    [[nodiscard]] Chip chipAt(int position) const;
+    /// Replaces the text of the chip after @p position; false when there is none.
+    bool setChipSource(int position, const QString &source);
+
+    /// The position of the chip that holds @p offset in source(), or of the one before; -1 before the first.
+    [[nodiscard]] int positionOf(qsizetype offset) const;
+    /// Where the chip after @p position begins in source(); -1 when there is none.
+    [[nodiscard]] qsizetype offsetOf(int position) const;
+
+    /// What codes are called on chips, by code with brackets. Others are marked as unknown, unless the
+    /// table is empty.
+    void setDisplayNames(const QHash<QString, QString> &names);
+    [[nodiscard]] bool isKnownCode(const QString &code) const;
+
+    /// True for a text with tags; anything else is plain text, in which lines count.
+    [[nodiscard]] static bool isHtml(const QString &source);
+
+protected:
+    QVariant loadResource(int type, const QUrl &name) override;
+
+private:
+    class Private;
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace ozm

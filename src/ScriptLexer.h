@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace ozm {
+
+struct ScriptToken
+{
+    enum class Kind
+    {
+        Name, ///< An identifier or a keyword.
+        Number,
+        Text,     ///< A string literal with its quotes, or a part of a template literal.
+        Operator, ///< Brackets and separators, too.
+    };
+
+    Kind kind;
+    QStringView text;
+
+    bool operator==(QStringView other) const { return kind != Kind::Text && text == other; }
+};
+
+/**
+ * The tokens of a script; nothing when it cannot be taken apart beyond doubt: anything that may be a regular
+ * expression, an escape outside of texts, a character beyond ASCII there, or a text without an end.
+ *
+ * The views are of @p code. The parts of a template literal stand as texts around "${" and "}".
+ */
+[[nodiscard]] std::optional<std::vector<ScriptToken>> scriptTokens(QStringView code);
+
+} // namespace ozm

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace ozm::editor {
+
+enum class HtmlTokenKind
+{
+    Text,
+    StartTag,
+    EndTag,
+    /// A whole element whose content is no markup: a script with attributes, a style sheet, a title.
+    RawElement,
+    /// What decoding runs: from "<script>" to the "</script>" that closes it, nested ones included.
+    Script,
+    /// Comments, declarations, and script tags without a partner.
+    Opaque,
+};
+
+struct HtmlToken
+{
+    HtmlTokenKind kind = HtmlTokenKind::Text;
+    qsizetype start = 0;
+    qsizetype end = 0;
+    /// Lower case; of tags and raw elements only.
+    QString name;
+};
+
+/**
+ * Splits @p source into tokens that cover it without a gap. Nothing is an error: what is no tag is text,
+ * a "<" before a digit or a blank among it, and what is not closed ends with the source.
+ */
+[[nodiscard]] QList<HtmlToken> scanHtml(const QString &source);
+
+/// What @p token lacks because the source ended in it; written without, it would swallow what follows.
+[[nodiscard]] QString missingEnd(const QString &source, const HtmlToken &token);
+
+/// An element by its range; an element that is never closed ends where its parent does.
+struct HtmlElement
+{
+    QString name;
+    qsizetype start = 0;
+    qsizetype startTagEnd = 0;
+    qsizetype end = 0;
+    int parent = -1;
+};
+
+struct HtmlTree
+{
+    /// In the order of their start tags.
+    QList<HtmlElement> elements;
+    /// For each token the innermost element that is open after it; -1 where none is.
+    QList<int> innermost;
+};
+
+[[nodiscard]] HtmlTree treeOf(const QList<HtmlToken> &tokens);
+
+[[nodiscard]] bool isVoidElement(const QString &name);
+
+} // namespace ozm::editor
