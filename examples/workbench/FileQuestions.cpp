@@ -44,6 +44,12 @@ DirLocation trailLocation()
     return location;
 }
 
+DirLocation reportLocation()
+{
+    static const DirLocation location = FileSystemSettings::addLocation(u"reports"_s);
+    return location;
+}
+
 FileExtensionsNameFilter samplesFilter()
 {
     return FileExtensionsNameFilter(tr("Samples (*.csv)"));
@@ -93,6 +99,13 @@ Location askExportTrail(QWidget *parent)
     return DefaultWidgetCreator::fileAccessor()->getSaveFileName(
         parent, tr("Export audit trail"), {}, u"audit.json"_s,
         FileExtensionsNameFilter(tr("JSON (*.json);;Table (*.csv)")), nullptr, {}, trailLocation());
+}
+
+Location askSaveReport(QWidget *parent, const QString &name, const QString &filter)
+{
+    return DefaultWidgetCreator::fileAccessor(ozm::IFileAccessor::FileAccessorType::Report)
+        ->getSaveFileName(parent, tr("Save report"), {}, name, FileExtensionsNameFilter(filter), nullptr, {},
+                          reportLocation());
 }
 
 Error save(QWidget *parent, const Location &location, const ozm::IFileAccessor::Writer &writer)

@@ -22,6 +22,9 @@ using Location = ozm::IFileAccessor::DestinationFileLocation;
 /// JSON or CSV, by the extension.
 [[nodiscard]] Location askExportTrail(QWidget *parent);
 
+/// A report under the name @p name, proposed, and the filter that goes with its form.
+[[nodiscard]] Location askSaveReport(QWidget *parent, const QString &name, const QString &filter);
+
 /// Saves through the accessor, as @p writer does, and offers to open what was written.
 ozm::Error save(QWidget *parent, const Location &location, const ozm::IFileAccessor::Writer &writer);
 

@@ -1,8 +1,10 @@
 #include "ReportDialog.h"
 
+#include "FileQuestions.h"
+
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFileDialog>
+#include <QDir>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -16,12 +18,6 @@ using ozm::Error;
 namespace workbench {
 
 namespace {
-
-/// The one place at which a report asks where it is to go; empty when nowhere.
-QString askDestination(QWidget *parent, const QString &name, const QString &filter)
-{
-    return QFileDialog::getSaveFileName(parent, ReportDialog::tr("Save report"), name, filter);
-}
 
 template <typename Widget>
 Widget *named(Widget *widget, const char *name)
@@ -111,11 +107,17 @@ void ReportDialog::fill()
 void ReportDialog::save(const QString &name, const QString &filter,
                         Error (*write)(const ReportPages &report, const QString &path))
 {
-    const QString path = askDestination(this, name, filter);
-    if (path.isEmpty())
+    const auto location = files::askSaveReport(this, name, filter);
+    if (location.isCanceled())
         return;
-    const Error error = write(m_report, path);
-    showNote(error.hasError() ? error.errorMessage() : tr("Saved to %1").arg(QDir::toNativeSeparators(path)));
+    const Error error = files::save(this, location, [this, write](const QString &path) {
+        Error failure = write(m_report, path);
+        showNote(failure.hasError() ? failure.errorMessage()
+                                    : tr("Saved to %1").arg(QDir::toNativeSeparators(path)));
+        return failure;
+    });
+    if (error.hasError())
+        showNote(error.errorMessage());
 }
 
 void ReportDialog::showNote(const QString &text)

@@ -1,6 +1,7 @@
 #include "DataImport.h"
 #include "FileQuestions.h"
 #include "MainWindow.h"
+#include "ReportDialog.h"
 #include "SampleFixture.h"
 #include "StyleDialog.h"
 #include "core_ms/SampleTree.h"
@@ -134,6 +135,7 @@ private Q_SLOTS:
     void trailIsExported();
     void dataIsOpenedTogether();
     void dataIsListedByTheFinder();
+    void reportsAreSaved();
     void savedFilesCanBeOpened();
     void dialogsAreSwitched();
 };
@@ -205,6 +207,18 @@ void TestFileQuestions::dataIsListedByTheFinder()
     }});
     QCOMPARE(fixture.trigger(u"listDataAction"_s, {csv}), (QStringList{u"Save CSV file"_s, u"saveFile"_s}));
     QVERIFY(readFile(csv).contains("one.mzml"));
+}
+
+void TestFileQuestions::reportsAreSaved()
+{
+    ScriptedFixture fixture;
+    const std::vector<RowNode> rows{*fixture.editor->table().row(0)};
+    ReportDialog dialog(rows, ReportContext(u"jdoe"_s, {}, rows));
+    const QString path = fixture.folder.filePath(u"report.html"_s);
+    fixture.answers.paths = {path};
+    dialog.findChild<QPushButton *>(u"saveHtml"_s)->click();
+    QCOMPARE(fixture.answers.questions, (QStringList{u"Save report"_s, u"saveFile"_s}));
+    QVERIFY(readFile(path).contains("T1"));
 }
 
 void TestFileQuestions::savedFilesCanBeOpened()
