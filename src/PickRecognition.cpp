@@ -32,6 +32,13 @@ QString lineFor(const QString &path, const MsDataFileInfo &info, bool isAlone)
                      : PickRecognition::tr("%1: no data, left out. %2").arg(name, info.refusal);
 }
 
+/// Of their own, so that a share which does not answer holds up nobody else's work.
+QThreadPool &threads()
+{
+    static QThreadPool pool;
+    return pool;
+}
+
 QString withoutSlashAtEnd(QString path)
 {
     while (path.size() > 1 && path.endsWith(u'/'))
@@ -120,7 +127,7 @@ void PickRecognition::recognise(const QStringList &paths)
         showLines({});
         return;
     }
-    QThreadPool::globalInstance()->start([requests = m_requests, number, paths] {
+    threads().start([requests = m_requests, number, paths] {
         const QStringList lines = linesFor(paths, [&] { return requests->latest != number; });
         requests->answer(number, lines);
     });

@@ -1,3 +1,4 @@
+#include "CsvReader.h"
 #include "DataImport.h"
 #include "FileQuestions.h"
 #include "MainWindow.h"
@@ -8,12 +9,16 @@
 #include "files/DialogDriver.h"
 #include "support/StrictTest.h"
 
+#include <ozm_common_ms/MsDataFileUtils.h>
 #include <ozm_widgets/DefaultFileAccessor.h>
 #include <ozm_widgets/DefaultWidgetCreator.h>
 #include <ozm_widgets/FileCrawlerDialog.h>
 #include <ozm_widgets/openfilefolderdialog.h>
 
 #include <QAction>
+#include <QCheckBox>
+#include <QLoggingCategory>
+#include <QProcess>
 #include <QRadioButton>
 #include <QSignalSpy>
 
@@ -197,16 +202,29 @@ void TestFileQuestions::dataIsOpenedTogether()
 void TestFileQuestions::dataIsListedByTheFinder()
 {
     ScriptedFixture fixture;
-    const SampleTree tree;
-    tree.make({u"one.mzml"_s});
-    const QString csv = tree.path(u"paths.csv"_s);
+    const QString samples = fixture.folder.filePath(u"sample data"_s);
+    QCOMPARE(QProcess::execute(u"sh"_s, {QStringLiteral(SAMPLE_FOLDER_SCRIPT), samples}), 0);
+    const QString csv = fixture.folder.filePath(u"paths.csv"_s);
+    // The folder holds data that is incomplete, which is worth a warning.
+    QLoggingCategory::setFilterRules(u"ozm.generic.warning=false"_s);
     const DialogDriver driver({[&](QDialog *dialog) {
         QVERIFY(qobject_cast<FileCrawlerDialog *>(dialog));
-        dialog->findChild<QLineEdit *>(u"crawlPathLine"_s)->setText(tree.path());
+        dialog->findChild<QLineEdit *>(u"crawlPathLine"_s)->setText(samples);
+        dialog->findChild<QCheckBox *>(u"enableRecursiveSearch"_s)->setChecked(true);
         dialog->findChild<QDialogButtonBox *>(u"buttonBox"_s)->button(QDialogButtonBox::Ok)->click();
     }});
     QCOMPARE(fixture.trigger(u"listDataAction"_s, {csv}), (QStringList{u"Save CSV file"_s, u"saveFile"_s}));
-    QVERIFY(readFile(csv).contains("one.mzml"));
+
+    const auto lines = readCsv(readFile(csv));
+    QVERIFY(lines);
+    QStringList listed;
+    for (const CsvRow &line : lines.value().sliced(3))
+        listed.append(line.cells.at(1));
+    QVERIFY(listed.size() > 10);
+    QCOMPARE(listed, ozm::msreader::MsDataFileUtils::searchForMSFilesAndDirectories(
+                         samples, true, ozm::msreader::MsDataFileInfo::CheckLevel::Content)
+                         .valueOr({}));
+    QLoggingCategory::setFilterRules({});
 }
 
 void TestFileQuestions::reportsAreSaved()
