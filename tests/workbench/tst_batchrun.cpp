@@ -115,7 +115,7 @@ void TestBatchRun::leavesItsResults()
     QCOMPARE(samples.value().at(0).getDataAt(kCharge).toInt(), 4);
     QVERIFY(readFile(results.at(4)).startsWith("%PDF"));
     QVERIFY(!readFile(results.at(3)).contains("script>"));
-    QCOMPARE(QImage(results.constLast()).size(), QSize(1320, 800));
+    QCOMPARE(QImage(results.constLast()).size(), QSize(1200, 760));
 }
 
 void TestBatchRun::takesAFolder()

@@ -234,7 +234,7 @@ void TestFileQuestions::reportsAreSaved()
     ReportDialog dialog(rows, ReportContext(u"jdoe"_s, {}, rows));
     const QString path = fixture.folder.filePath(u"report.html"_s);
     fixture.answers.paths = {path};
-    dialog.findChild<QPushButton *>(u"saveHtml"_s)->click();
+    dialog.findChild<QPushButton *>(u"save"_s)->click();
     QCOMPARE(fixture.answers.questions, (QStringList{u"Save report"_s, u"saveFile"_s}));
     QVERIFY(readFile(path).contains("T1"));
 }
