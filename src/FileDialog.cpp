@@ -105,10 +105,18 @@ void FileDialog::acceptSave()
         enterFolder(chosen);
         return;
     }
-    // The user's answer to a warning may take as long as it likes, and this dialog's parent may go meanwhile.
-    const QPointer<FileDialog> self(this);
-    if (checkIfFileCanBeOpenToWrite(this, pathToSave()) && self)
+    if (ozm::probeSave(pathToSave()) == SaveProbe::Writable) {
         QDialog::accept();
+        return;
+    }
+    // Not under the key press that led here: the name box does not expect to be gone when that returns, and
+    // this dialog's parent may go while the user reads the warning.
+    const auto warn = [this] {
+        const QPointer<FileDialog> self(this);
+        if (checkIfFileCanBeOpenToWrite(this, pathToSave()) && self)
+            QDialog::accept();
+    };
+    QMetaObject::invokeMethod(this, warn, Qt::QueuedConnection);
 }
 
 void FileDialog::enterFolder(const QString &folder)

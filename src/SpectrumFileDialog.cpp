@@ -130,11 +130,21 @@ bool SpectrumFileDialog::eventFilter(QObject *watched, QEvent *event)
 void SpectrumFileDialog::accept()
 {
     const QStringList files = selectedFiles();
-    // The base class tells the user that there is no such file, and stays.
-    if (!m_recognition || (files.size() == 1 && !QFileInfo::exists(files.constFirst())))
+    if (!m_recognition)
         RestrictedFileDialog::accept();
+    else if (files.size() == 1 && !QFileInfo::exists(files.constFirst()))
+        tellMissing(files.constFirst());
     else
         openButton_clicked();
+}
+
+void SpectrumFileDialog::tellMissing(const QString &path)
+{
+    const QString text = tr("%1\nFile not found.\nPlease verify the correct file name was given.").arg(path);
+    // Not under the key press that led here: the name box does not expect to be gone when that returns, and
+    // this dialog's parent may go while the user reads the message.
+    QMetaObject::invokeMethod(
+        this, [this, text] { ozm::showWarning(this, windowTitle(), text); }, Qt::QueuedConnection);
 }
 
 void SpectrumFileDialog::openButton_clicked()

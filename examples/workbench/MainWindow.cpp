@@ -68,7 +68,7 @@ MainWindow::MainWindow(SampleEditor &editor, const QString &trailPath, QWidget *
           editor, [this] { return files::askDataFolder(this); }, this))
 {
     setObjectName(u"mainWindow"_s);
-    resize(1320, 800);
+    resize(1200, 760);
     createTable();
     connectActions();
     createDocks();

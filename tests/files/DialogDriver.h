@@ -172,6 +172,8 @@ public:
     }
 
     void pressEnter(QWidget *in) const { QTest::keyClick(in, Qt::Key_Return); }
+    /// Lets a message about what was done come up, and its own driver work on it.
+    void waitForMessage() const { QApplication::processEvents(); }
     void clickAccept() const { QTest::mouseClick(acceptButton(), Qt::LeftButton); }
 
 private:
