@@ -93,7 +93,7 @@ void ReportDialog::fill()
     const auto filled = fillReport(reportTemplates().at(m_template->currentIndex()).path,
                                    m_group->isChecked(), m_rows, m_context);
     m_report = filled ? filled.value() : ReportPages();
-    m_preview->setHtml(reportHtml(m_report));
+    m_preview->setHtml(reportHtml(m_report, PageEnd::Line));
     showNote(filled ? m_report.troubles.join(u'\n') : filled.error().errorMessage());
     m_save->setEnabled(!m_report.pages.isEmpty());
 }
