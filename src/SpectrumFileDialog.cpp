@@ -181,7 +181,7 @@ void SpectrumFileDialog::finish()
     const QPointer<SpectrumFileDialog> self(this);
     Q_EMIT filesSelected(files);
     if (self)
-        QDialog::accept();
+        self->done(Accepted);
 }
 
 void SpectrumFileDialog::showPicks()
