@@ -87,8 +87,8 @@ void TestBatchRun::leavesItsResults()
         {u"--batch"_s, QStringLiteral(WORKBENCH_SAMPLES), u"--out"_s, out.path(), u"--user"_s, u"jdoe"_s});
     QVERIFY2(outcome.exitCode == 0, qUtf8Printable(outcome.complaint));
     const QStringList results{out.filePath(u"audit.sqlite"_s), out.filePath(u"audit.json"_s),
-                              out.filePath(u"samples.csv"_s), out.filePath(u"report.html"_s),
-                              out.filePath(u"report.pdf"_s), out.filePath(u"window.png"_s)};
+                              out.filePath(u"samples.csv"_s),  out.filePath(u"report.html"_s),
+                              out.filePath(u"report.pdf"_s),   out.filePath(u"window.png"_s)};
     QCOMPARE(outcome.lines.mid(outcome.lines.size() - results.size()), results);
 
     const QString told = outcome.lines.join(u'\n');
