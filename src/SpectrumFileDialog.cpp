@@ -84,6 +84,8 @@ void SpectrumFileDialog::rewire(QWidget *openButton)
         view->installEventFilter(this);
 }
 
+// By value, as in the suite's other libraries, which are built against it.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 bool SpectrumFileDialog::isVendorRawFolder(QString path, bool checkExistingDir)
 {
     if (checkExistingDir && !QFileInfo(path).isDir())
@@ -91,14 +93,14 @@ bool SpectrumFileDialog::isVendorRawFolder(QString path, bool checkExistingDir)
     return FileTypes::fileMatchesAnyType(path, {ozm::msFolderType()});
 }
 
-void SpectrumFileDialog::currentChanged_custom(QString path)
+void SpectrumFileDialog::currentChanged_custom(const QString &path)
 {
     // Not selectFile(), which would drop the other picks and the keyboard's place in the list.
     if (isVendorRawFolder(path, true))
         showPicks();
 }
 
-void SpectrumFileDialog::directoryEntered_custom(QString path)
+void SpectrumFileDialog::directoryEntered_custom(const QString &path)
 {
     if (!isVendorRawFolder(path, true)) {
         // The name of what was highlighted in the folder above means nothing in this one.

@@ -111,7 +111,7 @@ Location askSaveReport(QWidget *parent, const QString &name)
 Error save(QWidget *parent, const Location &location, const ozm::IFileAccessor::Writer &writer)
 {
     const QPointer<QWidget> owner(parent);
-    const Error error = DefaultWidgetCreator::fileAccessor()->saveFile(location, writer);
+    Error error = DefaultWidgetCreator::fileAccessor()->saveFile(location, writer);
     if (error.hasError() || !owner)
         return error;
     const QPointer<openfilefolderdialog> prompt =
