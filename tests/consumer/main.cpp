@@ -2,6 +2,7 @@
 #include <ozm_common_core_mini/RowNode.h>
 #include <ozm_common_stable/Result.h>
 #include <ozm_widgets/AbstractTemplateEditor.h>
+#include <ozm_widgets/DefaultWidgetCreator.h>
 #include <ozm_widgets/db/common/AuditTrailLoggingInterface.h>
 #include <ozm_widgets/db/common/UndoCommand.h>
 #include <ozm_widgets/db/common/UndoRedoHints.h>
@@ -9,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QTemporaryDir>
 #include <QTextStream>
 
 using namespace Qt::StringLiterals;
@@ -81,6 +83,13 @@ private:
     }
 };
 
+Error saveTable(const QString &path)
+{
+    using Location = IFileAccessor::DestinationFileLocation;
+    return DefaultWidgetCreator::fileAccessor()->saveCsvFile(Location("file:"_L1 + path),
+                                                             {{kName, u"T12"_s}});
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -96,6 +105,10 @@ int main(int argc, char *argv[])
     if (const Error error = stack.push(new SetCharge(&row, 3)); error.hasError())
         return 1;
     stack.undo();
+
+    const QTemporaryDir folder;
+    if (saveTable(folder.filePath(u"table.csv"_s)).hasError())
+        return 1;
 
     QTextStream out(stdout);
     for (const Logger::Item &item : std::as_const(logger.items))
