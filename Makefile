@@ -22,13 +22,13 @@ run:
 	@.ci/workbench build/release
 
 test:
-	@.ci/setup build
+	@.ci/setup build web
 	@cmake --preset $(PRESET) >/dev/null
 	cmake --build --preset $(PRESET) -j $(JOBS)
 	ctest --preset $(PRESET)
 
 check:
-	@.ci/setup build check
+	@.ci/setup build web check
 	@mkdir -p build
 	@JOBS=$(JOBS) .ci/check
 
