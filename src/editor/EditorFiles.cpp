@@ -1,5 +1,6 @@
 #include "editor/EditorFiles.h"
 
+#include <ozm_references/LocalResourceReference.h>
 #include <ozm_widgets/AbstractTemplateEditor.h>
 #include <ozm_widgets/DefaultWidgetCreator.h>
 #include <ozm_widgets/OZMStyle.h>
@@ -40,6 +41,14 @@ FileExtensionsNameFilter saveFilter()
     return FileExtensionsNameFilter(EditorFiles::tr("Templates (*.ozt);;Templates as HTML (*.html)"));
 }
 
+IFileAccessor::DestinationFileLocation locationOf(const QString &path)
+{
+    auto reference = QSharedPointer<LocalResourceReference>::create();
+    // Refused, it stays the reference to nothing, which is then what cannot be written.
+    (void)reference->setPath(path);
+    return {reference, QFileInfo(path).fileName()};
+}
+
 QSettings settings()
 {
     // An application without an organization is its own.
@@ -64,6 +73,7 @@ void tellWrongFormat(QWidget *parent)
 EditorFiles::EditorFiles(AbstractTemplateEditor *editor, const Template &shown)
     : m_editor(editor)
     , m_shown(shown)
+    , m_file(std::make_unique<TemplateFile>())
 {
     m_storeTimer.setSingleShot(true);
     m_storeTimer.setInterval(kStoreAfterMs);
@@ -117,40 +127,54 @@ void EditorFiles::openChosen(const QString &path)
         open(path);
 }
 
+Result<TemplateFile::Loaded> EditorFiles::read(const QString &path)
+{
+    // Reading a page lets events through.
+    const QScopedValueRollback asking(m_isAsking, true);
+    auto loaded = TemplateFile::read(path);
+    if (loaded || loaded.error().errorCode() != ErrorCode::NotAllowed)
+        return loaded;
+    const auto answer = OZMStyle::question(
+        m_editor, Signal::FileNotReadable, tr("Page without its reader"),
+        tr("%1\n\nOpen all of its text as it stands?").arg(loaded.error().errorMessage()));
+    return answer == QMessageBox::Yes ? TemplateFile::read(path, TemplateFile::Page::AsText) : loaded;
+}
+
 bool EditorFiles::open(const QString &path)
 {
-    const auto loaded = TemplateFile::read(path);
+    const auto loaded = read(path);
     if (!loaded) {
-        OZMStyle::critical(m_editor, Signal::FileNotReadable, tr("Template not opened"),
-                           QDir::toNativeSeparators(path), loaded.error());
+        // Said already, as the question.
+        if (loaded.error().errorCode() != ErrorCode::NotAllowed) {
+            OZMStyle::critical(m_editor, Signal::FileNotReadable, tr("Template not opened"),
+                               QDir::toNativeSeparators(path), loaded.error());
+        }
         return false;
     }
     m_shown.show(loaded.value().content);
-    if (loaded.value().converted) {
-        // Saved over, the page would be gone for whoever wrote it.
-        setNoFile();
-        m_shown.setUnsaved();
-        Q_EMIT told(tr("The body of the page was taken over as a new template."));
+    if (!loaded.value().converted) {
+        setPath(path, loaded.value().digest);
         return true;
     }
-    setPath(path);
+    // Saved over, the page would be gone for whoever wrote it.
+    setNoFile();
+    m_shown.setUnsaved();
+    Q_EMIT told(tr("The body of the page was taken over as a new template."));
     return true;
 }
 
-void EditorFiles::setPath(const QString &path)
+void EditorFiles::setPath(const QString &path, const QByteArray &digest)
 {
-    m_file.opened(path);
-    m_storeTimer.stop();
-    m_autosave.reset();
+    m_file->opened(path, digest);
+    giveUp();
     remember(path);
     Q_EMIT pathChanged();
 }
 
 void EditorFiles::setNoFile()
 {
-    m_file = TemplateFile();
-    m_storeTimer.stop();
-    m_autosave.reset();
+    m_file = std::make_unique<TemplateFile>();
+    giveUp();
     Q_EMIT pathChanged();
 }
 
@@ -158,7 +182,7 @@ bool EditorFiles::save()
 {
     if (path().isEmpty())
         return askSaveAs();
-    return mayReplaceChanged() && saveTo(path());
+    return mayReplaceChanged() && saveTo(locationOf(path()));
 }
 
 bool EditorFiles::askSaveAs()
@@ -168,19 +192,23 @@ bool EditorFiles::askSaveAs()
         path().isEmpty() ? m_editor->storageDirectory() : QFileInfo(path()).absolutePath();
     const auto location = DefaultWidgetCreator::fileAccessor()->getSaveFileName(
         m_editor, tr("Save template"), folder, name, saveFilter(), nullptr, {}, templateLocation());
-    return !location.isCanceled() && saveTo(location.toString());
+    return !location.isCanceled() && saveTo(location);
 }
 
-bool EditorFiles::saveTo(const QString &path)
+bool EditorFiles::saveTo(const IFileAccessor::DestinationFileLocation &location)
 {
-    const Error error = TemplateFile::write(path, m_shown.content());
+    const QString path = location.toString();
+    const Error error =
+        DefaultWidgetCreator::fileAccessor()->saveFile(location, [this](const QString &local) {
+            return TemplateFile::write(local, m_shown.content());
+        });
     if (error.hasError()) {
         OZMStyle::critical(m_editor, Signal::FileNotWritable, tr("Template not saved"),
                            tr("The template could not be saved. It is unchanged in the window."), error);
         return false;
     }
     m_shown.setSaved();
-    setPath(path);
+    setPath(path, {});
     Q_EMIT told(tr("Saved to %1").arg(QDir::toNativeSeparators(path)));
     Q_EMIT saved(path);
     return true;
@@ -188,7 +216,7 @@ bool EditorFiles::saveTo(const QString &path)
 
 bool EditorFiles::mayReplaceChanged()
 {
-    if (!m_file.changedOnDisk() || !QFileInfo::exists(path()))
+    if (!m_file->changedOnDisk() || !QFileInfo::exists(path()))
         return true;
     const QScopedValueRollback asking(m_isAsking, true);
     return OZMStyle::warning(m_editor, Signal::FileExists, tr("File changed"),
@@ -214,12 +242,12 @@ bool EditorFiles::mayDiscard()
 
 void EditorFiles::checkDisk()
 {
-    if (m_isAsking || !m_file.changedOnDisk())
+    if (m_isAsking || !m_file->changedOnDisk())
         return;
     const QScopedValueRollback asking(m_isAsking, true);
     const QString file = QDir::toNativeSeparators(path());
     if (!QFileInfo::exists(path())) {
-        m_file.opened(path());
+        m_file->opened(path());
         m_shown.setUnsaved();
         Q_EMIT told(tr("\"%1\" is no longer there. The template is kept in the window.").arg(file));
         return;
@@ -235,7 +263,7 @@ void EditorFiles::checkDisk()
         return;
     }
     // Asked once for each change.
-    m_file.opened(path());
+    m_file->opened(path());
     m_shown.setUnsaved();
 }
 
@@ -269,17 +297,26 @@ void EditorFiles::offerRescued()
             tr("The program ended while %1 was not saved. Open what was kept of it at %2?")
                 .arg(name, QLocale().toString(copy.when, QLocale::ShortFormat)),
             QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
-        // One window shows one template: the one before is saved, or given up, first.
-        if (answer != QMessageBox::Yes || !mayDiscard())
-            continue;
-        m_shown.show(copy.content);
-        m_file = TemplateFile();
-        if (!copy.path.isEmpty())
-            m_file.opened(copy.path);
-        m_shown.setUnsaved();
-        Q_EMIT pathChanged();
-        storeNow();
+        if (answer == QMessageBox::Yes && !openRescued(copy)) {
+            // Never deleted, as that would delete the copy, which is to be offered at the next start again.
+            (new TemplateAutosave(storageName(*m_editor)))->store(copy.path, copy.content);
+        }
     }
+}
+
+bool EditorFiles::openRescued(const TemplateAutosave::Rescued &copy)
+{
+    // One window shows one template: the one before is saved, or given up, first.
+    if (!mayDiscard())
+        return false;
+    m_shown.show(copy.content);
+    m_file = std::make_unique<TemplateFile>();
+    if (!copy.path.isEmpty())
+        m_file->opened(copy.path);
+    m_shown.setUnsaved();
+    Q_EMIT pathChanged();
+    storeNow();
+    return true;
 }
 
 } // namespace ozm::editor

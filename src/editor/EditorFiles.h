@@ -1,11 +1,14 @@
 #pragma once
 
-#include "editor/TemplateFile.h"
+#include <ozm_widgets/IFileAccessor.h>
+#include <ozm_widgets/TemplateAutosave.h>
+#include <ozm_widgets/TemplateFile.h>
 
 #include <QObject>
 #include <QTimer>
 
 #include <functional>
+#include <memory>
 
 class AbstractTemplateEditor;
 class QMenu;
@@ -32,7 +35,7 @@ public:
     EditorFiles(AbstractTemplateEditor *editor, const Template &shown);
     ~EditorFiles() override;
 
-    [[nodiscard]] QString path() const { return m_file.path(); }
+    [[nodiscard]] QString path() const { return m_file->path(); }
     void fillRecentMenu(QMenu *menu);
 
     void askNew();
@@ -59,15 +62,17 @@ Q_SIGNALS:
 
 private:
     void openChosen(const QString &path);
-    bool saveTo(const QString &path);
+    [[nodiscard]] Result<TemplateFile::Loaded> read(const QString &path);
+    bool saveTo(const IFileAccessor::DestinationFileLocation &location);
     [[nodiscard]] bool mayReplaceChanged();
-    void setPath(const QString &path);
+    void setPath(const QString &path, const QByteArray &digest);
+    [[nodiscard]] bool openRescued(const TemplateAutosave::Rescued &copy);
     void remember(const QString &path);
     void storeNow();
 
     AbstractTemplateEditor *m_editor;
     const Template m_shown;
-    TemplateFile m_file;
+    std::unique_ptr<TemplateFile> m_file;
     std::unique_ptr<TemplateAutosave> m_autosave;
     QTimer m_storeTimer;
     bool m_isAsking = false;

@@ -57,6 +57,7 @@ class TestTemplateEditor : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
     void aTemplateIsWrittenAndPrinted();
     void codesAreInsertedInTheSource();
     void modesKeepTheSource();
