@@ -17,6 +17,7 @@ namespace ozm::editor {
 namespace {
 
 constexpr int kShownRows = 10;
+constexpr int kLeastWidth = 200;
 
 /// The opening bracket before the cursor and what stands between; without selection when there is none.
 QTextCursor openCode(QTextCursor cursor)
@@ -45,7 +46,7 @@ CodeCompleter::CodeCompleter(CodeModel *codes, const Field &field)
 {
     m_completer->setObjectName(u"codeCompleter"_s);
     m_completer->setWidget(field.widget);
-    m_completer->setCompletionRole(CodeModel::SearchRole);
+    m_completer->setCompletionRole(CodeModel::NameRole);
     m_completer->setCompletionMode(QCompleter::PopupCompletion);
     m_completer->setFilterMode(Qt::MatchContains);
     m_completer->setCaseSensitivity(Qt::CaseInsensitive);
@@ -69,8 +70,8 @@ void CodeCompleter::offer()
     }
     m_completer->popup()->setCurrentIndex(m_completer->completionModel()->index(0, 0));
     QRect place = m_field.cursorRect();
-    place.setWidth(m_completer->popup()->sizeHintForColumn(0) +
-                   m_completer->popup()->verticalScrollBar()->sizeHint().width() + 16);
+    place.setWidth(qMax(kLeastWidth, m_completer->popup()->sizeHintForColumn(0) +
+                                         m_completer->popup()->verticalScrollBar()->sizeHint().width()));
     m_completer->complete(place);
 }
 

@@ -54,6 +54,15 @@ CodeEdit::CodeEdit(QWidget *parent)
     placeMargin();
 }
 
+void CodeEdit::showDocument(QTextDocument *document)
+{
+    if (document)
+        document->setDefaultFont(font());
+    setDocument(document);
+    setTabStopDistance(kTabCharacters * fontMetrics().horizontalAdvance(u' '));
+    placeMargin();
+}
+
 void CodeEdit::setCompletion(CodeModel *codes)
 {
     m_completer = new CodeCompleter(codes, {this, [this] { return textCursor(); },

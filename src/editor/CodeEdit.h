@@ -18,6 +18,8 @@ public:
 
     /// Whether the window undoes, rather than the field itself.
     void setUndoneOutside(bool outside) { m_isUndoneOutside = outside; }
+    /// Null shows nothing.
+    void showDocument(QTextDocument *document);
     void setCompletion(CodeModel *codes);
     /// Counted from 1; 0 marks none.
     void markLine(int line);

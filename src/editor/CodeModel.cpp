@@ -21,7 +21,9 @@ QStandardItem *makeItem(ShortCode &code, const QMap<QString, QVariant> &paramete
     const QString help = code.toolTip.isEmpty() || code.toolTip == name ? QString() : u'\n' + code.toolTip;
     item->setToolTip(code.code + help);
     item->setData(code.code, CodeModel::CodeRole);
-    item->setData(QStringList{code.code.mid(1), name, code.toolTip}.join(u' '), CodeModel::SearchRole);
+    const QString names = code.code.mid(1) + u' ' + name;
+    item->setData(names, CodeModel::NameRole);
+    item->setData(names + u' ' + code.toolTip, CodeModel::SearchRole);
     item->setData(QVariant(name + ", "_L1 + code.code), Qt::AccessibleTextRole);
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled);
     return item;

@@ -20,6 +20,7 @@ public:
     enum Role
     {
         CodeRole = Qt::UserRole + 1, ///< With brackets.
+        NameRole,                    ///< What a user may begin to type.
         SearchRole                   ///< Everything by which a user may know it.
     };
 

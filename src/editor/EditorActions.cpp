@@ -226,7 +226,7 @@ constexpr std::array kActions{
     ActionRow{"splitCellAction", Menu::Table, "table-cells-split", OZM_TEXT("&Split cell"), "",
               [](Editor &e) { e.table.splitCell(); }, Edits | Rich | InTable | OnView},
 
-    ActionRow{"richModeAction", Menu::View, "view-style", OZM_TEXT("&Formatted text"), "Ctrl+Shift+F",
+    ActionRow{"richModeAction", Menu::View, "format-font", OZM_TEXT("&Formatted text"), "Ctrl+Shift+F",
               [](Editor &e) { e.qptr->setMode(AbstractTemplateEditor::Mode::Rich); },
               Checked | OnBar | Starts},
     ActionRow{"plainModeAction", Menu::View, "view-source", OZM_TEXT("&Source"), "Ctrl+Shift+U",

@@ -8,10 +8,13 @@ namespace ozm::editor {
 
 namespace {
 
+constexpr qreal kMargin = 14;
+
 std::unique_ptr<QTextDocument> makeDocument(EditorSession::Mode mode, const QString &source)
 {
     if (mode == EditorSession::Mode::Rich) {
         auto document = std::make_unique<TemplateDocument>();
+        document->setDocumentMargin(kMargin);
         document->setSource(source);
         return document;
     }

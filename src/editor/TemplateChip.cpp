@@ -23,6 +23,14 @@ constexpr qreal kSideMargin = 4.0;
 constexpr qreal kGapToText = 1.0;
 constexpr qreal kCornerRadius = 3.0;
 
+// Objects have no descent of their own: only at the bottom of the line, their text is level with the text
+// around them.
+constexpr auto kAlignment = QTextCharFormat::AlignBottom;
+
+// By how much HTML's sizes -2 to +4 are larger than the usual one.
+constexpr std::array kSizes{0.7, 0.8, 1.0, 1.2, 1.5, 2.0, 2.4};
+constexpr int kUsualSize = 2;
+
 struct ChipLook
 {
     PartKind kind;
@@ -49,7 +57,12 @@ QColor mixed(const QColor &a, const QColor &b, qreal share)
 
 QFont chipFont(QTextDocument *document, const QTextFormat &format)
 {
-    return format.toCharFormat().font().resolve(document->defaultFont());
+    QFont font = format.toCharFormat().font().resolve(document->defaultFont());
+    const int size = kUsualSize + format.intProperty(QTextFormat::FontSizeAdjustment);
+    if (size != kUsualSize && font.pointSizeF() > 0) {
+        font.setPointSizeF(font.pointSizeF() * kSizes.at(size_t(qBound(0, size, int(kSizes.size()) - 1))));
+    }
+    return font;
 }
 
 QString firstLine(const QString &text)
@@ -77,7 +90,7 @@ QTextCharFormat chipFormat(const TemplatePart &part, const QTextCharFormat &base
     format.setProperty(kKindProperty, int(part.kind));
     format.setProperty(kSourceProperty, part.source);
     if (format.verticalAlignment() == QTextCharFormat::AlignNormal) {
-        format.setVerticalAlignment(QTextCharFormat::AlignBaseline);
+        format.setVerticalAlignment(kAlignment);
     }
     return format;
 }
@@ -100,7 +113,7 @@ QTextCharFormat withoutChip(QTextCharFormat format)
     format.clearProperty(QTextFormat::ObjectType);
     format.clearProperty(kKindProperty);
     format.clearProperty(kSourceProperty);
-    if (format.verticalAlignment() == QTextCharFormat::AlignBaseline) {
+    if (format.verticalAlignment() == kAlignment) {
         format.clearProperty(QTextFormat::TextVerticalAlignment);
     }
     return format;

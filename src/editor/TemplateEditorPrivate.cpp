@@ -88,7 +88,7 @@ AbstractTemplateEditor::Private::~Private()
     history->stack().disconnect();
     // The documents go with the history, and must not be shown any more by then.
     rich->showDocument(nullptr);
-    plain->setDocument(nullptr);
+    plain->showDocument(nullptr);
 }
 
 void AbstractTemplateEditor::Private::build()
@@ -184,7 +184,7 @@ void AbstractTemplateEditor::Private::showSession()
     if (TemplateDocument *document = session.richDocument())
         document->setDisplayNames(codes->displayNames());
     rich->showDocument(session.richDocument());
-    plain->setDocument(formatted ? nullptr : session.document());
+    plain->showDocument(formatted ? nullptr : session.document());
     if (!formatted && !session.document()->findChild<SourceHighlighter *>())
         new SourceHighlighter(session.document(), codes, SourceHighlighter::Language::Template);
     views->setCurrentIndex(formatted ? 0 : 1);
@@ -465,7 +465,7 @@ void AbstractTemplateEditor::Private::updateState()
 void AbstractTemplateEditor::Private::updateTitle()
 {
     const QString name = files->path().isEmpty() ? tr("New template") : QFileInfo(files->path()).fileName();
-    qptr->setWindowTitle(isReadOnly ? tr("%1 (read only) - Template editor").arg(name)
+    qptr->setWindowTitle(isReadOnly ? tr("%1[*] (read only) - Template editor").arg(name)
                                     : tr("%1[*] - Template editor").arg(name));
     qptr->setWindowModified(isModified());
 }
