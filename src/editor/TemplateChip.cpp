@@ -146,8 +146,10 @@ void ChipPainter::drawObject(QPainter *painter, const QRectF &rect, QTextDocumen
     const QColor tint = known ? QColor(lookOf(part.kind).tint) : QColor(Qt::red);
     // Templates are shown on paper, which is white; a selection brings its own colours.
     const QTextCharFormat look = format.toCharFormat();
-    const QColor base = look.background().style() == Qt::NoBrush ? QColor(Qt::white) : look.background().color();
-    const QColor text = look.foreground().style() == Qt::NoBrush ? QColor(Qt::black) : look.foreground().color();
+    const QColor base =
+        look.background().style() == Qt::NoBrush ? QColor(Qt::white) : look.background().color();
+    const QColor text =
+        look.foreground().style() == Qt::NoBrush ? QColor(Qt::black) : look.foreground().color();
 
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);

@@ -439,7 +439,9 @@ void AbstractTemplateEditor::Private::find(bool replacing)
 void AbstractTemplateEditor::Private::show(const QString &content)
 {
     const bool large = content.size() > EditorSession::kLargestRich;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
     history->start(large ? Mode::Plain : history->session().mode(), content);
+    QApplication::restoreOverrideCursor();
     updateState();
     if (large)
         tell(tr("The template is large, and shown as its source."));
