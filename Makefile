@@ -2,7 +2,7 @@
 
 PRESET ?= dev
 # Where the tools of Qt are that are not on the path.
-QT_TOOLS ?= $(wildcard /usr/lib/qt6/bin)/
+QT_TOOLS ?= $(addsuffix /,$(wildcard /usr/lib/qt6/bin))
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
 .PHONY: help run test check bench install format translations clean
@@ -12,6 +12,7 @@ help:
 	@echo "make test     build everything and run the tests"
 	@echo "make check    format, clang-tidy, headers, consumer, sanitizers"
 	@echo "make bench    the benchmarks, as ratios"
+	@echo "make translations  brings the texts to translate up to date"
 	@echo "make install  into PREFIX (default /usr/local)"
 
 run:
@@ -50,7 +51,10 @@ format:
 # Brings translations/*.ts up to date with the sources; what is new in them is then to be translated.
 translations:
 	@.ci/setup build
-	$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -I include -I src src include platform common -ts translations/ozm_widgets_de.ts
+	$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -I include -I src src include platform common plugins \
+		-ts $(wildcard translations/ozm_widgets_*.ts)
+	$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -I include -I examples/workbench examples/workbench \
+		-ts $(wildcard translations/workbench_*.ts)
 
 clean:
 	rm -rf build

@@ -10,7 +10,10 @@
 #include <ozm_widgets/TECWrapper.h>
 #include <ozm_widgets/TemplateEditorJSEngine.h>
 
+#include <QCoreApplication>
 #include <QMetaProperty>
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -32,18 +35,40 @@ QVariant DecodeTecExtraData::read(int index) const
 
 namespace {
 
-// Readers are never destroyed: their engines must not outlive the application object, and there is no later
-// moment than the end of the process at which nobody decodes any more.
+using KeptReader = std::unique_ptr<TemplateEditorJSCodeReader>;
+
+/// The decoder whose reader @p kept holds from its first use to the end of the application object, which
+/// engines must not outlive. A later application in the same process begins anew.
+template <KeptReader &(*kept)()>
+TemplateDecoder keptDecoder()
+{
+    if (!kept()) {
+        kept() = std::make_unique<TemplateEditorJSCodeReader>();
+        qAddPostRoutine([] { kept().reset(); });
+    }
+    return TemplateDecoder(*kept());
+}
+
+KeptReader &rowReader()
+{
+    static KeptReader reader;
+    return reader;
+}
+
+KeptReader &extraDataReader()
+{
+    static KeptReader reader;
+    return reader;
+}
+
 TemplateDecoder rowDecoder()
 {
-    static auto *reader = new TemplateEditorJSCodeReader(nullptr);
-    return TemplateDecoder(*reader);
+    return keptDecoder<rowReader>();
 }
 
 TemplateDecoder extraDataDecoder()
 {
-    static auto *reader = new TemplateEditorJSCodeReader(nullptr);
-    return TemplateDecoder(*reader);
+    return keptDecoder<extraDataReader>();
 }
 
 QString decodeWrapped(const QString &text, const QList<DecodeTecExtraData> &extraData,

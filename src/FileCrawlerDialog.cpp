@@ -333,7 +333,7 @@ void FileCrawlerDialog::generateMSDataPathsCsv()
 QList<QString> FileCrawlerDialog::generateMSDataPaths(QWidget *parent)
 {
     const QPointer<FileCrawlerDialog> dialog(DefaultWidgetCreator::fileCrawler(parent));
-    const QList<QString> paths = dialog->generateMSDataPaths();
+    QList<QString> paths = dialog->generateMSDataPaths();
     delete dialog.data();
     return paths;
 }

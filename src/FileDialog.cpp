@@ -92,10 +92,11 @@ QString FileDialog::getExistingDirectory(QWidget *parent, const QString &caption
 
 void FileDialog::accept()
 {
+    // What a plain dialog does on acceptance, and nothing of what QFileDialog adds.
     if (acceptMode() == QFileDialog::AcceptSave)
         acceptSave();
     else
-        QDialog::accept();
+        done(Accepted);
 }
 
 void FileDialog::acceptSave()
@@ -105,10 +106,19 @@ void FileDialog::acceptSave()
         enterFolder(chosen);
         return;
     }
-    // The user's answer to a warning may take as long as it likes, and this dialog's parent may go meanwhile.
-    const QPointer<FileDialog> self(this);
-    if (checkIfFileCanBeOpenToWrite(this, pathToSave()) && self)
-        QDialog::accept();
+    if (ozm::probeSave(pathToSave()) == SaveProbe::Writable) {
+        done(Accepted);
+        return;
+    }
+    // Not under the key press that led here: the name box does not expect to be gone when that returns, and
+    // this dialog's parent may go while the user reads the warning.
+    const auto warn = [this] {
+        const QString path = pathToSave();
+        const QPointer<FileDialog> self(this);
+        if (checkIfFileCanBeOpenToWrite(this, path) && self)
+            self->done(Accepted);
+    };
+    QMetaObject::invokeMethod(this, warn, Qt::QueuedConnection);
 }
 
 void FileDialog::enterFolder(const QString &folder)

@@ -56,7 +56,7 @@ QString IFileAccessor::DestinationFileLocation::toString() const
 {
     if (isNull())
         return {};
-    const QString location = reference->location();
+    QString location = reference->location();
     if (!reference->isScheme(ResourceReference::Scheme::LocalFile))
         return u"%1: %2"_s.arg(location, path);
     if (!QFileInfo(location).isDir())

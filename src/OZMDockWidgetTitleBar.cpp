@@ -17,6 +17,7 @@ namespace {
 constexpr int kMargin = 4;
 constexpr int kTextMargin = 4;
 constexpr int kIconSize = 16;
+constexpr float kShade = 0.08F;
 // What of the title is always shown, in characters of average width.
 constexpr int kLeastCharacters = 4;
 
@@ -142,7 +143,10 @@ void OZMDockWidgetTitleBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     QRect bar = rect();
-    painter.fillRect(bar, palette().brush(QPalette::Midlight));
+    // A little of the text's colour stands out on every palette, and never much.
+    QColor shade = palette().color(QPalette::WindowText);
+    shade.setAlphaF(kShade);
+    painter.fillRect(bar, shade);
     const QString text = d->shownTitle();
     QRect place(kMargin + kTextMargin, 0, d->textLength(), height());
     if (d->isVertical()) {

@@ -36,13 +36,27 @@ QString automated(const QString &key)
     return slashRepaired(as::value(key, QVariant(QString())).toString());
 }
 
+/// The folder or, when it is gone, the nearest one above it. The toolkit would take its name for that of a
+/// file.
+QString nearestFolder(const QString &folder)
+{
+    QString nearest = folder;
+    while (!QFileInfo(nearest).isDir()) {
+        const QString above = QFileInfo(nearest).path();
+        if (above == nearest)
+            return {};
+        nearest = above;
+    }
+    return nearest;
+}
+
 /// A place to save may not exist yet, as long as its folder does. Without a remembered folder it is the
 /// current one, not the documents as when opening: exports belong beside the work.
 QString saveStart(const QString &dir, const QString &remembered)
 {
     if (!dir.isEmpty() && QFileInfo(dir).absoluteDir().exists())
         return dir;
-    return remembered.isEmpty() ? QDir::currentPath() : remembered;
+    return remembered.isEmpty() ? QDir::currentPath() : nearestFolder(remembered);
 }
 
 QString folderOf(const QString &result)
@@ -94,7 +108,7 @@ void OZMFileDialog::_setDir(QString &dir, QString &remembered, const DirLocation
     if (!dir.isEmpty() && QFile::exists(dir))
         return;
     if (!remembered.isEmpty()) {
-        dir = remembered;
+        dir = nearestFolder(remembered);
         return;
     }
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);

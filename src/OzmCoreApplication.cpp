@@ -44,16 +44,16 @@ QString userOfSystem()
     return u"unknown"_s;
 }
 
-/// Puts a translator in the place of the one of that name before; false when there is nothing to load.
-bool install(const QString &name, const QLocale &locale, const QString &file, const QString &folder)
+/// Loads <file>_<language>.qm in place of what was loaded of that file before; false when there is none.
+bool install(const QString &file, const QLocale &locale, const QString &folder)
 {
+    const QString name = u"ozmTranslator/"_s + file;
     delete qApp->findChild<QTranslator *>(name, Qt::FindDirectChildrenOnly);
     auto translator = std::make_unique<QTranslator>(qApp);
     translator->setObjectName(name);
     if (!translator->load(locale, file, u"_"_s, folder))
         return false;
-    QCoreApplication::installTranslator(translator.release());
-    return true;
+    return QCoreApplication::installTranslator(translator.release());
 }
 
 } // namespace
@@ -79,12 +79,11 @@ void OzmCoreApplication::start(const QString &style)
     (void)loadTranslation(QLocale());
 }
 
-bool OzmCoreApplication::loadTranslation(const QLocale &locale)
+bool OzmCoreApplication::loadTranslation(const QLocale &locale, const QString &name)
 {
     initTranslations();
-    install(u"ozmToolkitTranslator"_s, locale, u"qtbase"_s,
-            QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    return install(u"ozmTranslator"_s, locale, u"ozm_widgets"_s, u":/i18n"_s);
+    install(u"qtbase"_s, locale, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    return install(name, locale, u":/i18n"_s);
 }
 
 QString OzmCoreApplication::userName()

@@ -32,6 +32,13 @@ QString lineFor(const QString &path, const MsDataFileInfo &info, bool isAlone)
                      : PickRecognition::tr("%1: no data, left out. %2").arg(name, info.refusal);
 }
 
+/// Of their own, so that a share which does not answer holds up nobody else's work.
+QThreadPool &threads()
+{
+    static QThreadPool pool;
+    return pool;
+}
+
 QString withoutSlashAtEnd(QString path)
 {
     while (path.size() > 1 && path.endsWith(u'/'))
@@ -104,6 +111,7 @@ PickRecognition::PickRecognition(QWidget *parent)
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     // Its room is there from the start, so that nothing moves under the mouse; long names do not widen it.
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    showLines({});
     setFixedHeight(static_cast<int>(kMostLines + 1) * fontMetrics().lineSpacing() + 2 * margin());
 }
 
@@ -119,7 +127,7 @@ void PickRecognition::recognise(const QStringList &paths)
         showLines({});
         return;
     }
-    QThreadPool::globalInstance()->start([requests = m_requests, number, paths] {
+    threads().start([requests = m_requests, number, paths] {
         const QStringList lines = linesFor(paths, [&] { return requests->latest != number; });
         requests->answer(number, lines);
     });
@@ -135,12 +143,18 @@ void PickRecognition::showLines(const QStringList &lines)
 {
     m_lines = lines;
     setToolTip(lines.join(u'\n'));
+    // One entry alone has room for its whole reason.
+    setWordWrap(lines.size() <= 1);
     elide();
     Q_EMIT recognised();
 }
 
 void PickRecognition::elide()
 {
+    if (wordWrap()) {
+        setText(m_lines.value(0, tr("Highlight files and folders to see what data they hold.")));
+        return;
+    }
     QStringList shown;
     for (const QString &line : std::as_const(m_lines))
         shown.append(fontMetrics().elidedText(line, Qt::ElideRight, width()));

@@ -10,18 +10,6 @@ set_source_files_properties("${resources_dir}/stylesheet.qss" PROPERTIES QT_RESO
 qt_add_resources(ozm_widgets ozm_widgets_style PREFIX "/style"
     FILES "${resources_dir}/stylesheet.qss" ${icons})
 
-# Compiled from translations/*.ts, which `make translations` brings up to date.
-find_program(OZM_LRELEASE NAMES lrelease-qt6 lrelease6 lrelease
-    HINTS "${QT6_INSTALL_PREFIX}/${QT6_INSTALL_BINS}" "${QT6_INSTALL_PREFIX}/lib/qt6/bin" REQUIRED)
+include(OzmTranslations)
 file(GLOB translations CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/translations/ozm_widgets_*.ts")
-set(compiled_translations "")
-foreach(translation IN LISTS translations)
-    cmake_path(GET translation STEM name)
-    set(compiled "${CMAKE_CURRENT_BINARY_DIR}/${name}.qm")
-    add_custom_command(OUTPUT "${compiled}"
-        COMMAND "${OZM_LRELEASE}" -silent "${translation}" -qm "${compiled}"
-        DEPENDS "${translation}" VERBATIM)
-    set_source_files_properties("${compiled}" PROPERTIES QT_RESOURCE_ALIAS "${name}.qm" GENERATED ON)
-    list(APPEND compiled_translations "${compiled}")
-endforeach()
-qt_add_resources(ozm_widgets ozm_widgets_translations PREFIX "/i18n" FILES ${compiled_translations})
+ozm_add_translations(ozm_widgets ozm_widgets_translations ${translations})

@@ -25,7 +25,7 @@ QString targetOf(const QString &path)
     QString target = path;
     for (int i = 0; i < kMostLinks; ++i) {
         const QFileInfo info(target);
-        if (!info.isSymLink())
+        if (!info.isSymbolicLink())
             return target;
         target = info.symLinkTarget();
     }

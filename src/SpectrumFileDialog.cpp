@@ -84,6 +84,8 @@ void SpectrumFileDialog::rewire(QWidget *openButton)
         view->installEventFilter(this);
 }
 
+// By value, as in the suite's other libraries, which are built against it.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 bool SpectrumFileDialog::isVendorRawFolder(QString path, bool checkExistingDir)
 {
     if (checkExistingDir && !QFileInfo(path).isDir())
@@ -91,14 +93,14 @@ bool SpectrumFileDialog::isVendorRawFolder(QString path, bool checkExistingDir)
     return FileTypes::fileMatchesAnyType(path, {ozm::msFolderType()});
 }
 
-void SpectrumFileDialog::currentChanged_custom(QString path)
+void SpectrumFileDialog::currentChanged_custom(const QString &path)
 {
     // Not selectFile(), which would drop the other picks and the keyboard's place in the list.
     if (isVendorRawFolder(path, true))
         showPicks();
 }
 
-void SpectrumFileDialog::directoryEntered_custom(QString path)
+void SpectrumFileDialog::directoryEntered_custom(const QString &path)
 {
     if (!isVendorRawFolder(path, true)) {
         // The name of what was highlighted in the folder above means nothing in this one.
@@ -130,11 +132,21 @@ bool SpectrumFileDialog::eventFilter(QObject *watched, QEvent *event)
 void SpectrumFileDialog::accept()
 {
     const QStringList files = selectedFiles();
-    // The base class tells the user that there is no such file, and stays.
-    if (!m_recognition || (files.size() == 1 && !QFileInfo::exists(files.constFirst())))
+    if (!m_recognition)
         RestrictedFileDialog::accept();
+    else if (files.size() == 1 && !QFileInfo::exists(files.constFirst()))
+        tellMissing(files.constFirst());
     else
         openButton_clicked();
+}
+
+void SpectrumFileDialog::tellMissing(const QString &path)
+{
+    const QString text = tr("%1\nFile not found.\nPlease verify the correct file name was given.").arg(path);
+    // Not under the key press that led here: the name box does not expect to be gone when that returns, and
+    // this dialog's parent may go while the user reads the message.
+    QMetaObject::invokeMethod(
+        this, [this, text] { ozm::showWarning(this, windowTitle(), text); }, Qt::QueuedConnection);
 }
 
 void SpectrumFileDialog::openButton_clicked()
@@ -171,7 +183,7 @@ void SpectrumFileDialog::finish()
     const QPointer<SpectrumFileDialog> self(this);
     Q_EMIT filesSelected(files);
     if (self)
-        QDialog::accept();
+        self->done(Accepted);
 }
 
 void SpectrumFileDialog::showPicks()

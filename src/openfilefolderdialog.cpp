@@ -82,6 +82,8 @@ openfilefolderdialog::Form::Form(openfilefolderdialog *dialog)
     QMetaObject::connectSlotsByName(dialog);
 }
 
+// By value, as in the suite's other libraries, which are built against it.
+// NOLINTBEGIN(performance-unnecessary-value-param)
 openfilefolderdialog::openfilefolderdialog(QWidget *parent, QString errorMessage, QString path,
                                            QString message, bool enableOpenFile, bool enableOpenFolder)
     : QDialog(parent)
@@ -92,6 +94,7 @@ openfilefolderdialog::openfilefolderdialog(QWidget *parent, QString errorMessage
     ui->openFolderButton->setEnabled(enableOpenFolder);
     ui->plainTextEdit_message->setPlainText(chooseText(errorMessage, message));
 }
+// NOLINTEND(performance-unnecessary-value-param)
 
 openfilefolderdialog::~openfilefolderdialog() = default;
 

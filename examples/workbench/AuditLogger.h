@@ -41,6 +41,8 @@ class AuditLogger : public ozm::AuditTrailLoggingInterface
 
 public:
     AuditLogger(AuditDatabase &database, const QString &user);
+
+    [[nodiscard]] const QString &user() const { return m_user; }
     ~AuditLogger() override;
     Q_DISABLE_COPY_MOVE(AuditLogger)
 

@@ -2,10 +2,10 @@
 
 #include "AuditTrail.h"
 
-#include <QApplication>
+#include <ozm_widgets/OZMStyle.h>
+
 #include <QFont>
 #include <QIcon>
-#include <QStyle>
 
 using namespace Qt::StringLiterals;
 
@@ -51,7 +51,7 @@ QVariant iconOf(const AuditEntry &entry, int column)
 {
     if (column != AuditTrailModel::ErrorText || !entry.record.outcome.hasError())
         return {};
-    return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
+    return OZMStyle::icon(u"dialog-warning"_s);
 }
 
 } // namespace

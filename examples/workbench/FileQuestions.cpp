@@ -44,6 +44,12 @@ DirLocation trailLocation()
     return location;
 }
 
+DirLocation reportLocation()
+{
+    static const DirLocation location = FileSystemSettings::addLocation(u"reports"_s);
+    return location;
+}
+
 FileExtensionsNameFilter samplesFilter()
 {
     return FileExtensionsNameFilter(tr("Samples (*.csv)"));
@@ -95,10 +101,17 @@ Location askExportTrail(QWidget *parent)
         FileExtensionsNameFilter(tr("JSON (*.json);;Table (*.csv)")), nullptr, {}, trailLocation());
 }
 
+Location askSaveReport(QWidget *parent, const QString &name)
+{
+    return DefaultWidgetCreator::fileAccessor()->getSaveFileName(
+        parent, tr("Save report"), {}, name, FileExtensionsNameFilter(tr("PDF (*.pdf);;HTML (*.html)")),
+        nullptr, {}, reportLocation());
+}
+
 Error save(QWidget *parent, const Location &location, const ozm::IFileAccessor::Writer &writer)
 {
     const QPointer<QWidget> owner(parent);
-    const Error error = DefaultWidgetCreator::fileAccessor()->saveFile(location, writer);
+    Error error = DefaultWidgetCreator::fileAccessor()->saveFile(location, writer);
     if (error.hasError() || !owner)
         return error;
     const QPointer<openfilefolderdialog> prompt =

@@ -22,6 +22,9 @@ using Location = ozm::IFileAccessor::DestinationFileLocation;
 /// JSON or CSV, by the extension.
 [[nodiscard]] Location askExportTrail(QWidget *parent);
 
+/// HTML or PDF, by the extension.
+[[nodiscard]] Location askSaveReport(QWidget *parent, const QString &name);
+
 /// Saves through the accessor, as @p writer does, and offers to open what was written.
 ozm::Error save(QWidget *parent, const Location &location, const ozm::IFileAccessor::Writer &writer);
 

@@ -78,6 +78,11 @@ constexpr std::array kActions{
               QT_TRANSLATE_NOOP("workbench::MainActions", "Export trail"),
               QT_TRANSLATE_NOOP("workbench::MainActions", "Export the audit trail as JSON or CSV"),
               QKeySequence::UnknownKey, "Ctrl+E"},
+    ActionRow{&MainActions::report, Group::Tools, "reportAction", "document-print-preview",
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Report…"),
+              QT_TRANSLATE_NOOP("workbench::MainActions",
+                                "Make a report on the chosen samples, or on all when none is chosen"),
+              QKeySequence::Print},
     ActionRow{&MainActions::style, Group::Tools, "styleAction", "view-style",
               QT_TRANSLATE_NOOP("workbench::MainActions", "Style"),
               QT_TRANSLATE_NOOP("workbench::MainActions", "Look at icons and messages, in light and dark"),
@@ -133,6 +138,7 @@ void MainActions::update(const QUndoStack &history, bool hasSamples, bool hasSel
     deleteSamples->setEnabled(hasSelection);
     rename->setEnabled(hasSelection);
     save->setEnabled(hasSamples);
+    report->setEnabled(hasSamples);
 }
 
 } // namespace workbench

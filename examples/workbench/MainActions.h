@@ -34,6 +34,7 @@ public:
     QAction *redo = nullptr;
     QAction *listData = nullptr;
     QAction *exportTrail = nullptr;
+    QAction *report = nullptr;
     QAction *style = nullptr;
 
 private:

@@ -6,6 +6,7 @@
 #include "FileQuestions.h"
 #include "HistoryView.h"
 #include "MainActions.h"
+#include "ReportDialog.h"
 #include "RoomyDelegate.h"
 #include "SampleDetails.h"
 #include "SampleEditor.h"
@@ -67,7 +68,7 @@ MainWindow::MainWindow(SampleEditor &editor, const QString &trailPath, QWidget *
           editor, [this] { return files::askDataFolder(this); }, this))
 {
     setObjectName(u"mainWindow"_s);
-    resize(1320, 800);
+    resize(1200, 760);
     createTable();
     connectActions();
     createDocks();
@@ -97,6 +98,7 @@ void MainWindow::connectActions()
     connect(m_actions->undo, &QAction::triggered, &m_editor, &SampleEditor::undo);
     connect(m_actions->redo, &QAction::triggered, &m_editor, &SampleEditor::redo);
     connect(m_actions->exportTrail, &QAction::triggered, this, &MainWindow::askExport);
+    connect(m_actions->report, &QAction::triggered, this, &MainWindow::showReport);
     connect(m_actions->style, &QAction::triggered, this, [this] { StyleDialog(this).exec(); });
 }
 
@@ -224,6 +226,20 @@ void MainWindow::askRename()
     connect(dialog, &QInputDialog::textValueSelected, this,
             [this, ids](const QString &pattern) { m_editor.renameSamples(ids, pattern); });
     dialog->open();
+}
+
+void MainWindow::showReport()
+{
+    const QList<qint64> ids = selectedIds();
+    std::vector<RowNode> rows;
+    for (int index = 0; index < m_editor.table().rowCount(); ++index) {
+        const RowNode &row = *m_editor.table().row(index);
+        if (ids.isEmpty() || ids.contains(SampleTable::idOf(row)))
+            rows.push_back(row);
+    }
+    const QString source = m_file.isEmpty() ? tr("the open table") : QFileInfo(m_file).fileName();
+    const ReportContext context(m_editor.user(), source, rows);
+    ReportDialog(std::move(rows), context, this).exec();
 }
 
 void MainWindow::deleteSelected()

@@ -55,6 +55,7 @@ private:
     bool askSave();
     void askExport();
     void askRename();
+    void showReport();
     void deleteSelected();
     void showTrouble(const ozm::Error &error);
     void showImport(const QString &summary, const QStringList &refusals);

@@ -118,13 +118,14 @@ ozm::Result<ReportPages> fillReport(const QString &path, bool asGroup, const std
     return report;
 }
 
-QString reportHtml(const ReportPages &report)
+QString reportHtml(const ReportPages &report, PageEnd end)
 {
     QString html = u"<!DOCTYPE html><html><head><meta charset=\"utf-8\"><title>"_s + tr("Report") +
                    u"</title><style>"_s + kStyle + u"</style></head><body>"_s;
     for (qsizetype index = 0; index < report.pages.size(); ++index) {
         if (index > 0)
-            html += u"<p style=\"page-break-before: always; margin: 0px;\"></p>"_s;
+            html += end == PageEnd::Line ? u"<p></p><hr/><p></p>"_s
+                                         : u"<p style=\"page-break-before: always; margin: 0px;\"></p>"_s;
         html += report.pages.at(index);
     }
     return html + u"</body></html>"_s;

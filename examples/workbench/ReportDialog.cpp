@@ -1,8 +1,10 @@
 #include "ReportDialog.h"
 
+#include "FileQuestions.h"
+
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFileDialog>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -16,12 +18,6 @@ using ozm::Error;
 namespace workbench {
 
 namespace {
-
-/// The one place at which a report asks where it is to go; empty when nowhere.
-QString askDestination(QWidget *parent, const QString &name, const QString &filter)
-{
-    return QFileDialog::getSaveFileName(parent, ReportDialog::tr("Save report"), name, filter);
-}
 
 template <typename Widget>
 Widget *named(Widget *widget, const char *name)
@@ -41,8 +37,7 @@ ReportDialog::ReportDialog(std::vector<RowNode> rows, const ReportContext &conte
     , m_group(named(new QRadioButton(tr("As a &group"), this), "group"))
     , m_preview(named(new QTextBrowser(this), "preview"))
     , m_note(named(new QLabel(this), "note"))
-    , m_html(named(new QPushButton(tr("Save as &HTML…"), this), "saveHtml"))
-    , m_pdf(named(new QPushButton(tr("Save as &PDF…"), this), "savePdf"))
+    , m_save(named(new QPushButton(tr("&Save…"), this), "save"))
 {
     setObjectName(u"reportDialog"_s);
     setWindowTitle(m_rows.size() == 1 ? tr("Report on 1 sample")
@@ -68,8 +63,7 @@ ReportDialog::ReportDialog(std::vector<RowNode> rows, const ReportContext &conte
     choices->addWidget(m_group);
     choices->addStretch();
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    buttons->addButton(m_html, QDialogButtonBox::ActionRole);
-    buttons->addButton(m_pdf, QDialogButtonBox::ActionRole);
+    buttons->addButton(m_save, QDialogButtonBox::ActionRole);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(choices);
     layout->addWidget(m_preview, 1);
@@ -79,10 +73,7 @@ ReportDialog::ReportDialog(std::vector<RowNode> rows, const ReportContext &conte
     connect(m_template, &QComboBox::currentIndexChanged, this, &ReportDialog::chooseTemplate);
     connect(m_group, &QRadioButton::toggled, this, &ReportDialog::fill);
     connect(buttons, &QDialogButtonBox::rejected, this, &ReportDialog::reject);
-    connect(m_html, &QPushButton::clicked, this,
-            [this] { save(u"report.html"_s, tr("HTML (*.html)"), &saveReportHtml); });
-    connect(m_pdf, &QPushButton::clicked, this,
-            [this] { save(u"report.pdf"_s, tr("PDF (*.pdf)"), &saveReportPdf); });
+    connect(m_save, &QPushButton::clicked, this, &ReportDialog::save);
     chooseTemplate();
 }
 
@@ -102,20 +93,22 @@ void ReportDialog::fill()
     const auto filled = fillReport(reportTemplates().at(m_template->currentIndex()).path,
                                    m_group->isChecked(), m_rows, m_context);
     m_report = filled ? filled.value() : ReportPages();
-    m_preview->setHtml(reportHtml(m_report));
+    m_preview->setHtml(reportHtml(m_report, PageEnd::Line));
     showNote(filled ? m_report.troubles.join(u'\n') : filled.error().errorMessage());
-    m_html->setEnabled(!m_report.pages.isEmpty());
-    m_pdf->setEnabled(!m_report.pages.isEmpty());
+    m_save->setEnabled(!m_report.pages.isEmpty());
 }
 
-void ReportDialog::save(const QString &name, const QString &filter,
-                        Error (*write)(const ReportPages &report, const QString &path))
+void ReportDialog::save()
 {
-    const QString path = askDestination(this, name, filter);
-    if (path.isEmpty())
+    const auto location = files::askSaveReport(this, u"report.pdf"_s);
+    if (location.isCanceled())
         return;
-    const Error error = write(m_report, path);
-    showNote(error.hasError() ? error.errorMessage() : tr("Saved to %1").arg(QDir::toNativeSeparators(path)));
+    const Error error = files::save(this, location, [this](const QString &path) {
+        const bool asHtml = QFileInfo(path).suffix().compare("html"_L1, Qt::CaseInsensitive) == 0;
+        return asHtml ? saveReportHtml(m_report, path) : saveReportPdf(m_report, path);
+    });
+    showNote(error.hasError() ? error.errorMessage()
+                              : tr("Saved to %1").arg(QDir::toNativeSeparators(location.toString())));
 }
 
 void ReportDialog::showNote(const QString &text)

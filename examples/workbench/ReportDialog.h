@@ -30,8 +30,7 @@ public:
 private:
     void chooseTemplate();
     void fill();
-    void save(const QString &name, const QString &filter,
-              ozm::Error (*write)(const ReportPages &report, const QString &path));
+    void save();
     void showNote(const QString &text);
 
     const std::vector<RowNode> m_rows;
@@ -42,8 +41,7 @@ private:
     QRadioButton *m_group;
     QTextBrowser *m_preview;
     QLabel *m_note;
-    QPushButton *m_html;
-    QPushButton *m_pdf;
+    QPushButton *m_save;
 };
 
 } // namespace workbench

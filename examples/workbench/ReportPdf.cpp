@@ -106,6 +106,28 @@ void keepRowsTogether(const QTextFrame &frame, double sheetHeight)
     }
 }
 
+/// Draws the line below the last row on this sheet of a table that goes on, which has none of its own.
+void closeTables(QPainter &painter, const QTextFrame &frame, const QRectF &sheet)
+{
+    const QAbstractTextDocumentLayout *layout = frame.document()->documentLayout();
+    for (QTextFrame *child : frame.childFrames()) {
+        closeTables(painter, *child, sheet);
+        const auto *table = qobject_cast<QTextTable *>(child);
+        const QRectF area = layout->frameBoundingRect(child);
+        if (!table || area.top() > sheet.bottom() || area.bottom() <= sheet.bottom())
+            continue;
+        const double pixel = kDotsPerInch / kScreenDotsPerInch;
+        const double padding = table->format().cellPadding() * pixel;
+        const auto cell = [&](int column) {
+            return layout->blockBoundingRect(table->cellAt(0, column).firstCursorPosition().block());
+        };
+        const double y = sheet.bottom() - padding;
+        painter.setPen(QPen(table->format().borderBrush(), pixel));
+        painter.drawLine(QPointF(cell(0).left() - padding, y),
+                         QPointF(cell(table->columns() - 1).right() + padding, y));
+    }
+}
+
 void drawPages(QTextDocument &document, QPdfWriter &writer)
 {
     const double footer = kFooterMm * kDotsPerInch / 25.4;
@@ -125,10 +147,9 @@ void drawPages(QTextDocument &document, QPdfWriter &writer)
         const QRectF part(0, page * body.height(), body.width(), body.height());
         painter.save();
         painter.translate(0, -part.top());
-        // The line below the last row is drawn across the end of the sheet.
-        const QRectF withLine = part.adjusted(0, 0, 0, 3);
-        painter.setClipRect(withLine);
-        document.drawContents(&painter, withLine);
+        painter.setClipRect(part);
+        document.drawContents(&painter, part);
+        closeTables(painter, *document.rootFrame(), part);
         painter.restore();
         drawFooter(painter, sheet, page + 1, pages);
     }

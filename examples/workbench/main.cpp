@@ -105,6 +105,9 @@ int complainOnScreen(const Error &error)
 
 int interact(const QString &databasePath, const QString &user, const QString &file)
 {
+    // Batch runs speak English, whatever the language: their output is for scripts.
+    ozm::OzmCoreApplication::start();
+    ozm::OzmCoreApplication::loadTranslation(QLocale(), u"workbench"_s);
     const auto database = workbench::AuditDatabase::open(databasePath);
     if (!database)
         return complainOnScreen(database.error());
@@ -127,7 +130,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(u"workbench"_s);
     QApplication::setApplicationDisplayName(QApplication::translate("main", "Workbench"));
     QApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
-    ozm::OzmCoreApplication::start();
+    OZMStyle::apply();
     ozm::DefaultWidgetCreator::initialize();
     workbench::files::restoreDialogChoice();
 

@@ -15,6 +15,7 @@ class OzmMessageBox;
  *
  *     QApplication application(argc, argv);
  *     ozm::OzmCoreApplication::start();   // style and translation
+ *     ozm::OzmCoreApplication::loadTranslation(QLocale(), u"application"_s);   // its own, if it has one
  *
  *     connect(ozm::OzmCoreApplication::instance(), &ozm::OzmCoreApplication::ozmMessageBoxShown, this,
  *             [](ozm::OzmMessageBox *box) { journal(box->signal(), box->text()); });
@@ -26,13 +27,14 @@ class OZM_WIDGETS_EXPORT OzmCoreApplication : public QObject
 public:
     [[nodiscard]] static OzmCoreApplication *instance();
 
-    /// Applies the style, see OZMStyle::apply(), and loads the translation of the system's language. To be
-    /// called once the QApplication is there.
+    /// Applies the style, see OZMStyle::apply(), and loads the library's translation into the user's
+    /// language. To be called once the QApplication is there.
     static void start(const QString &style = QStringLiteral("fusion"));
 
     /// Has this library, and the toolkit below it, speak the language of @p locale instead of the one
-    /// before. False when there is no translation into it: then they speak English. GUI thread.
-    static bool loadTranslation(const QLocale &locale);
+    /// before. An application loads its own texts by their @p name: ":/i18n/<name>_<language>.qm". False when
+    /// there is no translation into that language: the texts are English then. GUI thread.
+    static bool loadTranslation(const QLocale &locale, const QString &name = QStringLiteral("ozm_widgets"));
 
     /// Who works with the application, for the audit trail: what was set, or else the name by which the
     /// operating system knows the user; "unknown" when it knows none. Any thread.

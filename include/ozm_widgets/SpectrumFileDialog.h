@@ -45,8 +45,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private Q_SLOTS:
-    void currentChanged_custom(QString path);
-    void directoryEntered_custom(QString path);
+    void currentChanged_custom(const QString &path);
+    void directoryEntered_custom(const QString &path);
     void openButton_clicked();
 
 private:
@@ -55,6 +55,7 @@ private:
                                                                  QString *selectedFilter,
                                                                  QFileDialog::Options options);
     void rewire(QWidget *openButton);
+    void tellMissing(const QString &path);
     void openOne(const QString &path);
     void enter(const QString &folder);
     void finish();

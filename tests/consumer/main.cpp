@@ -1,6 +1,8 @@
 #include <ozm_common_core_mini/ColumnNames.h>
 #include <ozm_common_core_mini/RowNode.h>
 #include <ozm_common_stable/Result.h>
+#include <ozm_widgets/AbstractTemplateEditor.h>
+#include <ozm_widgets/DefaultWidgetCreator.h>
 #include <ozm_widgets/db/common/AuditTrailLoggingInterface.h>
 #include <ozm_widgets/db/common/UndoCommand.h>
 #include <ozm_widgets/db/common/UndoRedoHints.h>
@@ -8,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QTemporaryDir>
 #include <QTextStream>
 
 using namespace Qt::StringLiterals;
@@ -80,6 +83,13 @@ private:
     }
 };
 
+Error saveTable(const QString &path)
+{
+    using Location = IFileAccessor::DestinationFileLocation;
+    return DefaultWidgetCreator::fileAccessor()->saveCsvFile(Location("file:"_L1 + path),
+                                                             {{kName, u"T12"_s}});
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -96,8 +106,18 @@ int main(int argc, char *argv[])
         return 1;
     stack.undo();
 
+    const QTemporaryDir folder;
+    if (saveTable(folder.filePath(u"table.csv"_s)).hasError())
+        return 1;
+
     QTextStream out(stdout);
     for (const Logger::Item &item : std::as_const(logger.items))
         out << item->dataToString() << '\n';
-    return row.getDataAt(kCharge) == 2 && logger.items.size() == 2 ? 0 : 1;
+
+    const QString text =
+        u"[Name], <script>templateEditorCore.number(inputParameters['[Charge]'], 1)</script>"_s;
+    const QString decoded =
+        AbstractTemplateEditor::withoutScriptTags(AbstractTemplateEditor::decodeTEC(text, &row, {}));
+    out << decoded << '\n';
+    return row.getDataAt(kCharge) == 2 && logger.items.size() == 2 && decoded == u"T12, 2.0"_s ? 0 : 1;
 }

@@ -4,6 +4,7 @@
 #include <ozm_common_core_mini/AutomationStore.h>
 
 #include <QApplication>
+#include <QCollator>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -172,18 +173,29 @@ public:
     }
 
     void pressEnter(QWidget *in) const { QTest::keyClick(in, Qt::Key_Return); }
+    /// Lets a message about what was done come up, and its own driver work on it.
+    void waitForMessage() const { QApplication::processEvents(); }
     void clickAccept() const { QTest::mouseClick(acceptButton(), Qt::LeftButton); }
 
 private:
-    /// Folders come before files once the list is in its order.
+    /// Whether all entries are there, folders first and each kind by name: until then, rows move.
     [[nodiscard]] static bool isSorted(const QFileSystemModel &model, const QModelIndex &folder)
     {
-        bool wasFile = false;
-        for (int row = 0; row < model.rowCount(folder); ++row) {
-            const bool isFile = !model.isDir(model.index(row, 0, folder));
-            if (wasFile && !isFile)
+        const QDir dir(model.filePath(folder));
+        const QDir::Filters filter = model.filter() | QDir::AllDirs | QDir::NoDotAndDotDot;
+        if (model.rowCount(folder) < dir.entryList(model.nameFilters(), filter).size())
+            return false;
+        QCollator collator;
+        collator.setNumericMode(true);
+        collator.setCaseSensitivity(Qt::CaseInsensitive);
+        for (int row = 1; row < model.rowCount(folder); ++row) {
+            const QModelIndex above = model.index(row - 1, 0, folder);
+            const QModelIndex index = model.index(row, 0, folder);
+            if (model.isDir(index) && !model.isDir(above))
                 return false;
-            wasFile = isFile;
+            if (model.isDir(index) == model.isDir(above) &&
+                collator.compare(model.fileName(above), model.fileName(index)) > 0)
+                return false;
         }
         return true;
     }

@@ -116,6 +116,7 @@ private Q_SLOTS:
     void switchesDialogs();
     void startsInAFolder_data();
     void startsInAFolder();
+    void startsAboveAFolderThatIsGone();
     void startsInTheDocuments();
     void remembersFolders_data();
     void remembersFolders();
@@ -217,7 +218,24 @@ void TestFileAccessor::startsInAFolder()
         }});
         (void)ask(question, dir.isEmpty() ? dir : tree.path(dir));
         const bool opens = question == Question::OpenOne || question == Question::OpenSeveral;
-        QVERIFY2(start == tree.path(opens ? whenOpening : whenSaving), qPrintable(QLatin1StringView(name) + ": "_L1 + start));
+        QVERIFY2(start == tree.path(opens ? whenOpening : whenSaving),
+                 qPrintable(QLatin1StringView(name) + ": "_L1 + start));
+    }
+}
+
+void TestFileAccessor::startsAboveAFolderThatIsGone()
+{
+    const SampleTree tree;
+    for (const auto &[question, name] : kQuestions) {
+        remember(tree.path(u"gone/with it"_s));
+        const DialogDriver driver({[&](QDialog *dialog) {
+            const FileDialogDriver files(dialog);
+            QCOMPARE(files.dialog()->directory().path(), tree.path());
+            QCOMPARE(files.name()->text(), QString());
+            dialog->reject();
+        }});
+        (void)ask(question, {});
+        QVERIFY2(driver.opened() == 1, name);
     }
 }
 

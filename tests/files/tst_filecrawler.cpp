@@ -93,6 +93,7 @@ private Q_SLOTS:
     void findsData();
     void refusesFolders_data();
     void refusesFolders();
+    void errorsNameTheirPlace();
     void canBeCanceledInTheMiddle();
     void namesUnreadableFolders();
     void savesTheTemplate();
@@ -180,6 +181,24 @@ void TestFileCrawler::refusesFolders()
     QCOMPARE(driver.opened(), 2);
     QCOMPARE(title, u"Error"_s);
     QCOMPARE(shown, text.contains("%1"_L1) ? text.arg(tree.path(folder)) : text);
+}
+
+void TestFileCrawler::errorsNameTheirPlace()
+{
+    class Exposed : public FileCrawlerDialog
+    {
+    public:
+        using FileCrawlerDialog::retrieveMsReferences;
+    };
+    Exposed finder;
+    const auto found = finder.retrieveMsReferences();
+    QVERIFY2(!found, "no folder is given");
+    QCOMPARE(found.error().errorCode(), ErrorCode::Failed);
+    QCOMPARE(found.error().errorMessage(), u"Search path does not exist"_s);
+    const QList<ErrorPlace> places = found.error().places();
+    QCOMPARE(places.size(), 1);
+    QVERIFY(places.constFirst().path.endsWith("src/FileCrawlerDialog.cpp"_L1));
+    QVERIFY(places.constFirst().function.contains("retrieveMsReferences"_L1));
 }
 
 void TestFileCrawler::canBeCanceledInTheMiddle()

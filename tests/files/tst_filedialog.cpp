@@ -8,6 +8,9 @@
 #include <QLabel>
 #include <QMessageBox>
 
+#ifdef Q_OS_LINUX
+#include <sys/mount.h>
+#endif
 #ifdef Q_OS_UNIX
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -77,6 +80,41 @@ void makeSocket(const QString &path)
     ::bind(socket, reinterpret_cast<sockaddr *>(&address), sizeof address);
     ::close(socket);
 }
+
+#endif
+
+#ifdef Q_OS_LINUX
+
+/// A disk of its own on @p folder, with no room left for another file; only where the system lets a test do
+/// that.
+class FullDisk
+{
+public:
+    explicit FullDisk(const QString &folder)
+        : m_folder(QFile::encodeName(folder))
+        , m_isMounted(::mount("tmpfs", m_folder.constData(), "tmpfs", 0, "size=16k,nr_inodes=2,mode=0777") ==
+                      0)
+    {
+        QFile file(folder + u"/there.csv"_s);
+        if (m_isMounted && file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+            while (file.write(QByteArray(4096, 'x')) > 0) {
+            }
+            setMode(file.fileName(), 0666);
+        }
+    }
+    ~FullDisk()
+    {
+        if (m_isMounted)
+            ::umount(m_folder.constData());
+    }
+    Q_DISABLE_COPY_MOVE(FullDisk)
+
+    [[nodiscard]] bool isMounted() const { return m_isMounted; }
+
+private:
+    const QByteArray m_folder;
+    const bool m_isMounted;
+};
 
 #endif
 
@@ -212,6 +250,7 @@ void TestFileDialog::staysOpen()
         const FileDialogDriver driver(dialog);
         driver.type(typed);
         driver.pressEnter(driver.name());
+        driver.waitForMessage();
         QVERIFY2(dialog->isVisible(), "it closed");
         QCOMPARE(driver.dialog()->directory().path(), QDir::cleanPath(saving.path(folder)));
         dialog->reject();
@@ -262,6 +301,7 @@ void TestFileDialog::staysWhenItCannotSave()
                                    const FileDialogDriver files(dialog);
                                    files.type(u"read only"_s);
                                    files.pressEnter(files.name());
+                                   files.waitForMessage();
                                    QVERIFY2(dialog->isVisible(), "it closed after the warning");
                                    dialog->reject();
                                },
@@ -299,6 +339,13 @@ void TestFileDialog::probeLeavesTheDiskAsItWas_data()
     QTest::newRow("name too long") << QString(300, u'n') << kNotCreatable;
     QTest::newRow("below a device") << u"/dev/full/new.csv"_s << kNotCreatable;
     QTest::newRow("nothing") << QString() << kNotCreatable;
+#ifdef Q_OS_LINUX
+    const QTemporaryDir trial;
+    if (FullDisk(trial.path()).isMounted()) {
+        QTest::newRow("full disk, new file") << u"disk/new.csv"_s << kNotCreatable;
+        QTest::newRow("full disk, existing file") << u"disk/there.csv"_s << writable;
+    }
+#endif
 }
 
 void TestFileDialog::probeLeavesTheDiskAsItWas()
@@ -315,6 +362,12 @@ void TestFileDialog::probeLeavesTheDiskAsItWas()
     setMode(tree.path(u"file.csv"_s), 0666);
     setMode(tree.path(u"read only.csv"_s), 0444);
     setMode(tree.path(u"locked"_s), 0555);
+#ifdef Q_OS_LINUX
+    tree.makeOne(u"disk/"_s);
+    std::optional<FullDisk> disk;
+    if (target.startsWith("disk/"_L1))
+        disk.emplace(tree.path(u"disk"_s));
+#endif
     const QStringList before = snapshot(tree.path());
     QVERIFY(before.size() > 10);
     const WithoutRights nobody;
@@ -358,6 +411,7 @@ void TestFileDialog::endsWithItsParent()
                                    const FileDialogDriver files(dialog);
                                    files.type(u"folder/missing/out"_s);
                                    files.pressEnter(files.name());
+                                   files.waitForMessage();
                                },
                                [&](QDialog *) { delete parent; }});
     QCOMPARE(FileDialog::getSaveFileName(parent, {}, saving.path(), u"CSV files (*.csv)"_s), QString());

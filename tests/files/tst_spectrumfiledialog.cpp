@@ -251,6 +251,7 @@ void TestSpectrumFileDialog::staysOpen()
         const FileDialogDriver driver(dialog);
         for (const Step &step : steps)
             take(step, driver, picks);
+        QApplication::processEvents();
         QVERIFY2(dialog->isVisible(), "it closed");
         QCOMPARE(driver.dialog()->directory().path(), QDir::cleanPath(picks.path(folder)));
         dialog->reject();
@@ -358,11 +359,23 @@ void TestSpectrumFileDialog::namesPicksInTheBox()
 
 void TestSpectrumFileDialog::endsWithItsParent()
 {
-    auto *parent = new QWidget;
-    const DialogDriver driver({[&](QDialog *) { delete parent; }});
-    // The dialog stands on the heap; on the stack it would be destroyed twice.
-    QCOMPARE(SpectrumFileDialog::getSpectrumFileList(parent, {}, QDir::tempPath()), QStringList());
-    QCOMPARE(driver.opened(), 1);
+    // The dialog and its message stand on the heap; on the stack they would be destroyed twice.
+    for (const bool underMessage : {false, true}) {
+        auto *parent = new QWidget;
+        const DialogDriver driver({[&](QDialog *dialog) {
+                                       if (!underMessage) {
+                                           delete parent;
+                                           return;
+                                       }
+                                       const FileDialogDriver files(dialog);
+                                       files.type(u"missing"_s);
+                                       files.pressEnter(files.name());
+                                       files.waitForMessage();
+                                   },
+                                   [&](QDialog *) { delete parent; }});
+        QCOMPARE(SpectrumFileDialog::getSpectrumFileList(parent, {}, QDir::tempPath()), QStringList());
+        QCOMPARE(driver.opened(), underMessage ? 2 : 1);
+    }
 }
 
 /// Calls the button that opens by another name, as a translation does.

@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QDockWidget>
 #include <QPainter>
+#include <QPushButton>
 #include <QTableView>
 #include <QtMath>
 
@@ -104,6 +105,17 @@ QList<QPixmap> boxPictures(QWidget *parent)
     };
 }
 
+/// The boxes of the dialog, in the language of the run.
+QList<QPixmap> dialogBoxPictures(const workbench::StyleDialog &dialog)
+{
+    QList<QPixmap> pictures;
+    for (const auto *name : {"showCritical", "showWarning", "showInformation", "showQuestion", "showAbout"}) {
+        auto *button = dialog.findChild<QPushButton *>(QString::fromLatin1(name));
+        pictures.append(boxPicture([button] { button->click(); }));
+    }
+    return pictures;
+}
+
 QPixmap windowPicture()
 {
     ozm::test::SampleFixture fixture;
@@ -127,6 +139,7 @@ int main(int argc, char **argv)
     const QDir out(QApplication::arguments().value(1, u"."_s));
     QLocale::setDefault(QLocale(QApplication::arguments().value(2, u"en"_s)));
     ozm::OzmCoreApplication::start();
+    ozm::OzmCoreApplication::loadTranslation(QLocale(), u"workbench"_s);
     out.mkpath(u"."_s);
     for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
         const QString suffix =
@@ -138,8 +151,10 @@ int main(int argc, char **argv)
         sheetOf(boxPictures(&parent), 3).save(out.filePath(u"boxes"_s + suffix));
         windowPicture().save(out.filePath(u"window"_s + suffix));
         workbench::StyleDialog dialog;
-        dialog.resize(1150, 760);
+        dialog.resize(1440, 900);
         picture(dialog).save(out.filePath(u"style"_s + suffix));
+        dialog.hide();
+        sheetOf(dialogBoxPictures(dialog), 3).save(out.filePath(u"examples"_s + suffix));
     }
     return 0;
 }

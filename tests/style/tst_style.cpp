@@ -7,15 +7,18 @@
 
 #include <QApplication>
 #include <QDockWidget>
+#include <QFile>
 #include <QLoggingCategory>
 #include <QMainWindow>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyle>
+#include <QStyleFactory>
 #include <QToolBar>
 #include <QToolButton>
 
 #include <cmath>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 using namespace ozm::test;
@@ -80,9 +83,16 @@ int countEvents(QWidget *widget, QEvent::Type type, const std::function<void()> 
 }
 
 /// Under a style sheet the style has no name, but still its measures.
-bool isFusion()
+bool isStyle(const QString &name)
 {
-    return QApplication::style()->pixelMetric(QStyle::PM_SplitterWidth) == 1;
+    const std::unique_ptr<QStyle> style(QStyleFactory::create(name));
+    for (const auto metric :
+         {QStyle::PM_ToolBarIconSize, QStyle::PM_SliderThickness, QStyle::PM_MenuBarVMargin,
+          QStyle::PM_ScrollBarSliderMin, QStyle::PM_DefaultFrameWidth}) {
+        if (QApplication::style()->pixelMetric(metric) != style->pixelMetric(metric))
+            return false;
+    }
+    return true;
 }
 
 struct Dock
@@ -160,7 +170,7 @@ void TestStyle::cleanup()
 void TestStyle::applyOnceAndOnlyOnce()
 {
     OZMStyle::apply();
-    QVERIFY(isFusion());
+    QVERIFY(isStyle(u"fusion"_s));
     QVERIFY(qApp->styleSheet().contains("QToolBar"_L1));
     QPushButton button;
     button.ensurePolished();
@@ -174,10 +184,10 @@ void TestStyle::applyOnceAndOnlyOnce()
 void TestStyle::missingStyleFallsBack()
 {
     OZMStyle::apply(u"windows"_s);
-    QVERIFY(!isFusion());
+    QVERIFY(isStyle(u"windows"_s) && !isStyle(u"fusion"_s));
     expectWarning(u"The style \"nonesuch\" is not installed"_s);
     OZMStyle::apply(u"nonesuch"_s);
-    QVERIFY(isFusion());
+    QVERIFY(isStyle(u"fusion"_s));
     // One warning, not one a call.
     OZMStyle::apply(u"nonesuch"_s);
     OZMStyle::apply(u"Fusion"_s);
@@ -356,6 +366,11 @@ void TestStyle::splitterHandle()
 
 void TestStyle::germanIsComplete()
 {
+    for (const char *name : {"ozm_widgets_de.ts", "workbench_de.ts"}) {
+        QFile file(QStringLiteral(TRANSLATIONS "/") + QString::fromLatin1(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY2(!file.readAll().contains("unfinished"), name);
+    }
     QVERIFY(ozm::OzmCoreApplication::loadTranslation(QLocale(QLocale::German)));
     QCOMPARE(OZMStyle::tr("Warning"), u"Warnung"_s);
     const Dock fixture;

@@ -87,8 +87,9 @@ void TestBatchRun::leavesItsResults()
         {u"--batch"_s, QStringLiteral(WORKBENCH_SAMPLES), u"--out"_s, out.path(), u"--user"_s, u"jdoe"_s});
     QVERIFY2(outcome.exitCode == 0, qUtf8Printable(outcome.complaint));
     const QStringList results{out.filePath(u"audit.sqlite"_s), out.filePath(u"audit.json"_s),
-                              out.filePath(u"samples.csv"_s), out.filePath(u"window.png"_s)};
-    QCOMPARE(outcome.lines.mid(outcome.lines.size() - 4), results);
+                              out.filePath(u"samples.csv"_s),  out.filePath(u"report.html"_s),
+                              out.filePath(u"report.pdf"_s),   out.filePath(u"window.png"_s)};
+    QCOMPARE(outcome.lines.mid(outcome.lines.size() - results.size()), results);
 
     const QString told = outcome.lines.join(u'\n');
     for (const auto &part :
@@ -112,7 +113,9 @@ void TestBatchRun::leavesItsResults()
     QVERIFY(samples);
     QCOMPARE(samples.value().at(0).getDataAt(kName).toString(), u"HC-T01 (checked)"_s);
     QCOMPARE(samples.value().at(0).getDataAt(kCharge).toInt(), 4);
-    QCOMPARE(QImage(results.at(3)).size(), QSize(1200, 760));
+    QVERIFY(readFile(results.at(4)).startsWith("%PDF"));
+    QVERIFY(!readFile(results.at(3)).contains("script>"));
+    QCOMPARE(QImage(results.constLast()).size(), QSize(1200, 760));
 }
 
 void TestBatchRun::takesAFolder()

@@ -1,18 +1,24 @@
+#include "CsvReader.h"
 #include "DataImport.h"
 #include "FileQuestions.h"
 #include "MainWindow.h"
+#include "ReportDialog.h"
 #include "SampleFixture.h"
 #include "StyleDialog.h"
 #include "core_ms/SampleTree.h"
 #include "files/DialogDriver.h"
 #include "support/StrictTest.h"
 
+#include <ozm_common_ms/MsDataFileUtils.h>
 #include <ozm_widgets/DefaultFileAccessor.h>
 #include <ozm_widgets/DefaultWidgetCreator.h>
 #include <ozm_widgets/FileCrawlerDialog.h>
 #include <ozm_widgets/openfilefolderdialog.h>
 
 #include <QAction>
+#include <QCheckBox>
+#include <QLoggingCategory>
+#include <QProcess>
 #include <QRadioButton>
 #include <QSignalSpy>
 
@@ -134,6 +140,7 @@ private Q_SLOTS:
     void trailIsExported();
     void dataIsOpenedTogether();
     void dataIsListedByTheFinder();
+    void reportsAreSaved();
     void savedFilesCanBeOpened();
     void dialogsAreSwitched();
 };
@@ -195,16 +202,41 @@ void TestFileQuestions::dataIsOpenedTogether()
 void TestFileQuestions::dataIsListedByTheFinder()
 {
     ScriptedFixture fixture;
-    const SampleTree tree;
-    tree.make({u"one.mzml"_s});
-    const QString csv = tree.path(u"paths.csv"_s);
+    const QString samples = fixture.folder.filePath(u"sample data"_s);
+    QCOMPARE(QProcess::execute(u"sh"_s, {QStringLiteral(SAMPLE_FOLDER_SCRIPT), samples}), 0);
+    const QString csv = fixture.folder.filePath(u"paths.csv"_s);
+    // The folder holds data that is incomplete, which is worth a warning.
+    QLoggingCategory::setFilterRules(u"ozm.generic.warning=false"_s);
     const DialogDriver driver({[&](QDialog *dialog) {
         QVERIFY(qobject_cast<FileCrawlerDialog *>(dialog));
-        dialog->findChild<QLineEdit *>(u"crawlPathLine"_s)->setText(tree.path());
+        dialog->findChild<QLineEdit *>(u"crawlPathLine"_s)->setText(samples);
+        dialog->findChild<QCheckBox *>(u"enableRecursiveSearch"_s)->setChecked(true);
         dialog->findChild<QDialogButtonBox *>(u"buttonBox"_s)->button(QDialogButtonBox::Ok)->click();
     }});
     QCOMPARE(fixture.trigger(u"listDataAction"_s, {csv}), (QStringList{u"Save CSV file"_s, u"saveFile"_s}));
-    QVERIFY(readFile(csv).contains("one.mzml"));
+
+    const auto lines = readCsv(readFile(csv));
+    QVERIFY(lines);
+    QStringList listed;
+    for (const CsvRow &line : lines.value().sliced(3))
+        listed.append(line.cells.at(1));
+    QVERIFY(listed.size() > 10);
+    QCOMPARE(listed, ozm::msreader::MsDataFileUtils::searchForMSFilesAndDirectories(
+                         samples, true, ozm::msreader::MsDataFileInfo::CheckLevel::Content)
+                         .valueOr({}));
+    QLoggingCategory::setFilterRules({});
+}
+
+void TestFileQuestions::reportsAreSaved()
+{
+    ScriptedFixture fixture;
+    const std::vector<RowNode> rows{*fixture.editor->table().row(0)};
+    ReportDialog dialog(rows, ReportContext(u"jdoe"_s, {}, rows));
+    const QString path = fixture.folder.filePath(u"report.html"_s);
+    fixture.answers.paths = {path};
+    dialog.findChild<QPushButton *>(u"save"_s)->click();
+    QCOMPARE(fixture.answers.questions, (QStringList{u"Save report"_s, u"saveFile"_s}));
+    QVERIFY(readFile(path).contains("T1"));
 }
 
 void TestFileQuestions::savedFilesCanBeOpened()

@@ -7,9 +7,10 @@
 #include "support/StrictTest.h"
 #include "support/WithoutRights.h"
 
+#include <ozm_widgets/OzmMessageBox.h>
+
 #include <QAction>
 #include <QDropEvent>
-#include <ozm_widgets/OzmMessageBox.h>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QStatusBar>

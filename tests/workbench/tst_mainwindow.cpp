@@ -5,6 +5,8 @@
 #include "SampleFixture.h"
 #include "support/StrictTest.h"
 
+#include <ozm_widgets/OzmMessageBox.h>
+
 #include <QAbstractItemModelTester>
 #include <QAction>
 #include <QDialogButtonBox>
@@ -12,7 +14,6 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <ozm_widgets/OzmMessageBox.h>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -164,7 +165,9 @@ void TestMainWindow::lockedTrailKeepsTheEditOut()
     const AuditFault fault(u"locked"_s, *fixture.database);
     QVERIFY(fixture.type(0, 2, u"3"_s));
     QCOMPARE(fixture.cellIndex(0, 2).data().toString(), u"2"_s);
-    QVERIFY(fixture.find<ozm::OzmMessageBox>(u"ozmMessageBox"_s)->text().contains("locked by another program"_L1));
+    QVERIFY(fixture.find<ozm::OzmMessageBox>(u"ozmMessageBox"_s)
+                ->text()
+                .contains("locked by another program"_L1));
     QVERIFY(!fixture.action(u"undoAction"_s)->isEnabled());
 }
 

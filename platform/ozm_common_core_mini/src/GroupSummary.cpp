@@ -21,7 +21,8 @@ using Summary = ColumnFriendlyName::Summary;
 void appendItems(QVariantList &all, const QVariant &value)
 {
     if (value.metaType() == QMetaType::fromType<VariantItems>()) {
-        for (const QVariant &item : value.value<VariantItems>().toList())
+        const auto items = value.value<VariantItems>();
+        for (const QVariant &item : items.toList())
             appendItems(all, item);
     } else if (value.typeId() == QMetaType::QVariantList || value.typeId() == QMetaType::QStringList) {
         for (const QVariant &item : value.toList())

@@ -55,7 +55,9 @@ private:
         if (m_state != from)
             return false;
         m_state = to;
-        m_changed.notify_all();
+        // That the work was begun wakes nobody: it is looked at when the patience is at its end.
+        if (to != State::Running)
+            m_changed.notify_all();
         return true;
     }
 

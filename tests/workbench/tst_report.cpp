@@ -1,0 +1,116 @@
+#include "Report.h"
+#include "ReportDialog.h"
+#include "SampleTable.h"
+#include "support/StrictTest.h"
+
+#include <ozm_common_core_mini/ColumnNames.h>
+
+#include <QComboBox>
+#include <QRadioButton>
+#include <QTextBrowser>
+
+using namespace Qt::StringLiterals;
+using namespace workbench;
+
+namespace {
+
+RowNode sample(const QString &name, const QString &sequence, int charge, double mass)
+{
+    RowNode row = SampleTable::emptyRow();
+    row.setDataAt(kName, name);
+    row.setDataAt(kSequence, sequence);
+    row.setDataAt(kCharge, charge);
+    row.setDataAt(kMass, mass);
+    return row;
+}
+
+std::vector<RowNode> samples()
+{
+    return {sample(u"T1 <b>"_s, u"QAPGK"_s, 1, 499.2754), sample(u"T2"_s, u"FTISR"_s, 2, 622.3439)};
+}
+
+QString text(const ReportPages &report)
+{
+    QTextDocument document;
+    document.setHtml(reportHtml(report));
+    return document.toPlainText();
+}
+
+} // namespace
+
+class TestReport : public ozm::test::StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void certificates()
+    {
+        const ReportContext context(u"jdoe"_s, u"samples.csv"_s, samples());
+        const auto filled = fillReport(reportTemplates().at(0).path, false, samples(), context);
+        QVERIFY(filled);
+        QCOMPARE(filled.value().pages.size(), 2);
+        QCOMPARE(filled.value().troubles, QStringList());
+        const QString shown = text(filled.value());
+        for (const auto &expected : {u"T1 <b>"_s, u"QAPGK"_s, u"500.2827"_s, u"312.1792"_s, u"jdoe"_s})
+            QVERIFY2(shown.contains(expected), qPrintable(expected + u" in "_s + shown));
+        QVERIFY(!reportHtml(filled.value()).contains(u"script>"_s, Qt::CaseInsensitive));
+        static const QRegularExpression code(u"\\[[A-Z][A-Za-z]+\\]"_s);
+        QVERIFY(!shown.contains(code));
+    }
+
+    void listOfAll()
+    {
+        const ReportContext context(u"jdoe"_s, u"samples.csv"_s, samples());
+        const auto filled = fillReport(reportTemplates().at(1).path, true, samples(), context);
+        QVERIFY(filled);
+        QCOMPARE(filled.value().pages.size(), 1);
+        QCOMPARE(filled.value().troubles, QStringList());
+        const QString shown = text(filled.value());
+        for (const auto &expected : {u"2 samples"_s, u"499.2754 – 622.3439 Da"_s, u"1 – 2"_s, u"312.1792"_s})
+            QVERIFY2(shown.contains(expected), qPrintable(expected + u" in "_s + shown));
+    }
+
+    void troublesAreTold()
+    {
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        file.write("<ozm_template version=\"1.0\">[Nope]<script>\nnull.x</script></ozm_template>");
+        file.close();
+        const auto filled = fillReport(file.fileName(), false, samples(), {});
+        QVERIFY(filled);
+        QCOMPARE(filled.value().troubles.size(), 2);
+        QVERIFY(filled.value().troubles.at(0).contains(u"[Nope]"_s));
+        QVERIFY(filled.value().troubles.at(1).contains(u"line 2"_s));
+        QVERIFY(!fillReport(u":/nowhere"_s, false, samples(), {}));
+    }
+
+    void pdfOfManySheets()
+    {
+        std::vector<RowNode> rows;
+        for (int index = 0; index < 120; ++index)
+            rows.push_back(sample(u"A name that takes two lines %1"_s.arg(index), u"QAPGK"_s, 1, 499.2754));
+        const ReportContext context(u"jdoe"_s, u"samples.csv"_s, rows);
+        const auto filled = fillReport(reportTemplates().at(1).path, true, rows, context);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"report.pdf"_s);
+        QVERIFY(filled && !saveReportPdf(filled.value(), path).hasError());
+        QFile pdf(path);
+        QVERIFY(pdf.open(QIODevice::ReadOnly));
+        QVERIFY(pdf.read(4) == "%PDF" && pdf.size() > 20000);
+        QVERIFY(saveReportPdf(filled.value(), folder.filePath(u"missing/report.pdf"_s)).hasError());
+        QVERIFY(saveReportHtml(filled.value(), folder.filePath(u"missing/report.html"_s)).hasError());
+    }
+
+    void dialog()
+    {
+        ReportDialog dialog(samples(), ReportContext(u"jdoe"_s, u"samples.csv"_s, samples()));
+        auto *preview = dialog.findChild<QTextBrowser *>(u"preview"_s);
+        QVERIFY(preview->toPlainText().contains(u"Certificate of Annotation"_s));
+        dialog.findChild<QComboBox *>(u"template"_s)->setCurrentIndex(1);
+        QVERIFY(dialog.findChild<QRadioButton *>(u"group"_s)->isChecked());
+        QVERIFY(preview->toPlainText().contains(u"2 samples"_s));
+    }
+};
+
+QTEST_MAIN(TestReport)
+#include "tst_report.moc"
