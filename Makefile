@@ -58,7 +58,7 @@ format:
 # Brings translations/*.ts up to date with the sources; what is new in them is then to be translated.
 translations:
 	@.ci/setup build
-	$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -I include -I src src include platform common \
+	$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -I include -I src src include platform common plugins \
 		-ts $(wildcard translations/ozm_widgets_*.ts)
 	$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -I include -I examples/workbench examples/workbench \
 		-ts $(wildcard translations/workbench_*.ts)

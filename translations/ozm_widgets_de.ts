@@ -185,6 +185,9 @@ Der berichtigte Pfad ist:
     </message>
 </context>
 <context>
+    <name>SpectrumFileDialog</name>
+</context>
+<context>
     <name>openfilefolderdialog</name>
     <message>
         <source>Open &amp;file</source>
@@ -229,6 +232,29 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::EngineWebReader</name>
+    <message>
+        <source>This file is a whole web page. The web engine that reads its body does not run for the system&apos;s administrator. The file can be opened as plain text instead.</source>
+        <translation>Diese Datei ist eine ganze Webseite. Die Web-Engine, die ihren Inhalt liest, läuft nicht für den Administrator des Systems. Die Datei kann stattdessen als reiner Text geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The web engine failed on the page.</source>
+        <translation>Die Web-Engine ist an der Seite gescheitert.</translation>
+    </message>
+    <message>
+        <source>The web engine found no body in the page.</source>
+        <translation>Die Web-Engine hat in der Seite keinen Inhalt gefunden.</translation>
+    </message>
+    <message>
+        <source>The web engine did not read the page in time.</source>
+        <translation>Die Web-Engine hat die Seite nicht rechtzeitig gelesen.</translation>
+    </message>
+    <message>
+        <source>The program ended while the web engine read the page.</source>
+        <translation>Das Programm wurde beendet, während die Web-Engine die Seite las.</translation>
+    </message>
+</context>
+<context>
     <name>ozm::PickRecognition</name>
     <message>
         <source>%1: %2</source>
@@ -249,6 +275,81 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     <message>
         <source>What is highlighted</source>
         <translation>Was hervorgehoben ist</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::TemplateFile</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>„%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>It is larger than %1 MB.</source>
+        <translation>Der Inhalt ist größer als %1 MB.</translation>
+    </message>
+    <message>
+        <source>It is no file.</source>
+        <translation>Das ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>The file begins as a template, but is cut short or of another version.</source>
+        <translation>Die Datei beginnt als Vorlage, ist aber abgeschnitten oder von einer anderen Version.</translation>
+    </message>
+    <message>
+        <source>The template cannot be saved.</source>
+        <translation>Die Vorlage kann nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The template holds a zero character, which cannot be saved. Remove it.</source>
+        <translation>Die Vorlage enthält ein Nullzeichen, das nicht gespeichert werden kann. Entfernen Sie es.</translation>
+    </message>
+    <message>
+        <source>The template holds half of a character pair, which cannot be saved. Remove what is shown as a question mark or an empty box.</source>
+        <translation>Die Vorlage enthält ein halbes Zeichenpaar, das nicht gespeichert werden kann. Entfernen Sie, was als Fragezeichen oder leerer Kasten erscheint.</translation>
+    </message>
+    <message>
+        <source>The template could not be read back once saved, so it was not.</source>
+        <translation>Die Vorlage wurde nicht gespeichert, weil sie danach nicht mehr lesbar wäre.</translation>
+    </message>
+    <message>
+        <source>The page says that it is written in the character set &quot;%1&quot;, which is not known here.</source>
+        <translation>Die Seite gibt als Zeichensatz „%1“ an, der hier nicht bekannt ist.</translation>
+    </message>
+    <message>
+        <source>The page says that it is written in the character set &quot;%1&quot;, but it holds bytes that mean nothing in it.</source>
+        <translation>Die Seite gibt als Zeichensatz „%1“ an, enthält aber Bytes, die darin nichts bedeuten.</translation>
+    </message>
+    <message>
+        <source>Wrong template editor content format.</source>
+        <translation>Falsches Format des Vorlageninhalts.</translation>
+    </message>
+    <message>
+        <source>The file holds zero bytes, as programs and pictures do, and no text.</source>
+        <translation>Die Datei enthält Nullbytes wie Programme und Bilder und keinen Text.</translation>
+    </message>
+    <message>
+        <source>The file is not written in the character set of its byte-order mark.</source>
+        <translation>Die Datei ist nicht im Zeichensatz ihrer Bytereihenfolge-Marke geschrieben.</translation>
+    </message>
+    <message>
+        <source>The file holds bytes that are no UTF-8 text.</source>
+        <translation>Die Datei enthält Bytes, die kein UTF-8-Text sind.</translation>
+    </message>
+    <message>
+        <source>This file is a whole web page. Its body is read by the plug-in &quot;ozm_webreader&quot;, which is not installed here (looked for in %1). The file can be opened as plain text instead.</source>
+        <translation>Diese Datei ist eine ganze Webseite. Ihren Inhalt liest das Plug-in „ozm_webreader“, das hier nicht installiert ist (gesucht in %1). Die Datei kann stattdessen als reiner Text geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>This file is a whole web page. This program was built without the part that reads the body of web pages. The file can be opened as plain text instead.</source>
+        <translation>Diese Datei ist eine ganze Webseite. Dieses Programm wurde ohne den Teil gebaut, der den Inhalt von Webseiten liest. Die Datei kann stattdessen als reiner Text geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The body of a web page can only be read on the main thread of a program with windows.</source>
+        <translation>Der Inhalt einer Webseite kann nur im Hauptthread eines Programms mit Fenstern gelesen werden.</translation>
     </message>
 </context>
 <context>
