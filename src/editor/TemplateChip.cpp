@@ -1,8 +1,9 @@
 #include "editor/TemplateChip.h"
 
-#include <QColor>
+#include <QApplication>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QPalette>
 #include <QTextDocument>
 
 #include <array>
@@ -21,15 +22,20 @@ constexpr int kLongestLabel = 32;
 constexpr qreal kSideMargin = 4.0;
 constexpr qreal kGapToText = 1.0;
 constexpr qreal kCornerRadius = 3.0;
-// A template is shown as the paper that it becomes, whatever the colours of the window around it.
-constexpr QColor kPaper(255, 255, 255);
-constexpr QColor kInk(0, 0, 0);
+
+// Objects have no descent of their own: only at the bottom of the line, their text is level with the text
+// around them.
+constexpr auto kAlignment = QTextCharFormat::AlignBottom;
+
+// By how much HTML's sizes -2 to +4 are larger than the usual one.
+constexpr std::array kSizes{0.7, 0.8, 1.0, 1.2, 1.5, 2.0, 2.4};
+constexpr int kUsualSize = 2;
 
 struct ChipLook
 {
     PartKind kind;
     QLatin1StringView sign;
-    /// Mixed with paper and ink.
+    /// Mixed with the palette's base and text colours, so that it is right on light and on dark.
     Qt::GlobalColor tint;
 };
 
@@ -49,15 +55,12 @@ QColor mixed(const QColor &a, const QColor &b, qreal share)
                             part(a.blueF(), b.blueF()));
 }
 
-// How the rich-text layout itself reads sizes that are relative to the document's font, from -2 on.
-constexpr std::array kSizeFactors{0.7, 0.8, 1.0, 1.2, 1.5, 2.0, 2.4};
-
 QFont chipFont(QTextDocument *document, const QTextFormat &format)
 {
     QFont font = format.toCharFormat().font().resolve(document->defaultFont());
-    if (format.hasProperty(QTextFormat::FontSizeAdjustment) && font.pointSizeF() > 0) {
-        const int step = qBound(0, format.intProperty(QTextFormat::FontSizeAdjustment) + 2, 6);
-        font.setPointSizeF(font.pointSizeF() * kSizeFactors.at(size_t(step)));
+    const int size = kUsualSize + format.intProperty(QTextFormat::FontSizeAdjustment);
+    if (size != kUsualSize && font.pointSizeF() > 0) {
+        font.setPointSizeF(font.pointSizeF() * kSizes.at(size_t(qBound(0, size, int(kSizes.size()) - 1))));
     }
     return font;
 }
@@ -86,6 +89,9 @@ QTextCharFormat chipFormat(const TemplatePart &part, const QTextCharFormat &base
     format.setObjectType(kChipObject);
     format.setProperty(kKindProperty, int(part.kind));
     format.setProperty(kSourceProperty, part.source);
+    if (format.verticalAlignment() == QTextCharFormat::AlignNormal) {
+        format.setVerticalAlignment(kAlignment);
+    }
     return format;
 }
 
@@ -107,6 +113,9 @@ QTextCharFormat withoutChip(QTextCharFormat format)
     format.clearProperty(QTextFormat::ObjectType);
     format.clearProperty(kKindProperty);
     format.clearProperty(kSourceProperty);
+    if (format.verticalAlignment() == kAlignment) {
+        format.clearProperty(QTextFormat::TextVerticalAlignment);
+    }
     return format;
 }
 
@@ -128,8 +137,7 @@ QSizeF ChipPainter::intrinsicSize(QTextDocument *document, int, const QTextForma
 {
     const QFontMetricsF metrics(chipFont(document, format));
     const qreal width = metrics.horizontalAdvance(label(chipPart(format)));
-    // Objects stand on the line of the text; what hangs below it is painted beyond the object.
-    return {width + 2 * (kSideMargin + kGapToText), metrics.ascent() + 1};
+    return {width + 2 * (kSideMargin + kGapToText), metrics.height()};
 }
 
 void ChipPainter::drawObject(QPainter *painter, const QRectF &rect, QTextDocument *document, int,
@@ -137,19 +145,20 @@ void ChipPainter::drawObject(QPainter *painter, const QRectF &rect, QTextDocumen
 {
     const TemplatePart part = chipPart(format);
     const bool known = part.kind != PartKind::Code || isKnown(part.source);
+    const QPalette palette = QApplication::palette();
     const QColor tint = known ? QColor(lookOf(part.kind).tint) : QColor(Qt::red);
-    const QFont font = chipFont(document, format);
-    const QFontMetricsF metrics(font);
+    const QColor base = palette.color(QPalette::Base);
+    const QColor text = palette.color(QPalette::Text);
 
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    const QRectF outline = rect.adjusted(kGapToText, 0.5, -kGapToText, metrics.descent() - 0.5);
-    painter->setPen(QPen(mixed(kInk, tint, 0.6), 1, known ? Qt::SolidLine : Qt::DashLine));
-    painter->setBrush(mixed(kPaper, tint, 0.15));
+    const QRectF outline = rect.adjusted(kGapToText, 0.5, -kGapToText, -0.5);
+    painter->setPen(QPen(mixed(text, tint, 0.6), 1, known ? Qt::SolidLine : Qt::DashLine));
+    painter->setBrush(mixed(base, tint, 0.15));
     painter->drawRoundedRect(outline, kCornerRadius, kCornerRadius);
-    painter->setPen(mixed(kInk, tint, 0.3));
-    painter->setFont(font);
-    painter->drawText(QPointF(rect.left() + kGapToText + kSideMargin, rect.bottom()), label(part));
+    painter->setPen(mixed(text, tint, 0.3));
+    painter->setFont(chipFont(document, format));
+    painter->drawText(outline, Qt::AlignCenter | Qt::TextSingleLine, label(part));
     painter->restore();
 }
 
