@@ -86,7 +86,7 @@ bool AbstractTemplateEditor::openFile(const QString &path)
 
 void AbstractTemplateEditor::setMode(Mode mode)
 {
-    d->history->switchTo(mode);
+    d->setMode(mode);
 }
 
 void AbstractTemplateEditor::setReadOnly(bool readOnly)

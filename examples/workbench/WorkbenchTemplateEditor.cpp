@@ -26,8 +26,10 @@ QList<ShortCode> WorkbenchTemplateEditor::shortCodes() const
 {
     QList<ShortCode> codes;
     for (const QString &column : SampleTable::annotationColumns())
-        codes.append({u'[' + column + u']', ColumnFriendlyName::friendlyName(column),
-                      ColumnFriendlyName::toolTip(column), {}});
+        codes.append({u'[' + column + u']',
+                      ColumnFriendlyName::friendlyName(column),
+                      ColumnFriendlyName::toolTip(column),
+                      {}});
     return codes + extraDataShortCodes({ReportContext::staticMetaObject});
 }
 

@@ -86,6 +86,7 @@ public:
     bool setSourceText(const QString &wrapped);
     /// Shows the template in the file @p path. False, with a message, when it cannot be read.
     bool openFile(const QString &path);
+    /// A template of more than eight million characters is shown as its source only.
     void setMode(Mode mode);
     void setReadOnly(bool readOnly);
     /// Asks again for codes, rows and extra data.

@@ -65,11 +65,10 @@ void CodeEdit::showDocument(QTextDocument *document)
 
 void CodeEdit::setCompletion(CodeModel *codes)
 {
-    m_completer = new CodeCompleter(codes, {this, [this] { return textCursor(); },
-                                            [this] { return cursorRect().translated(marginWidth(), 0); },
-                                            [](QTextCursor cursor, const QString &code) {
-                                                cursor.insertText(code);
-                                            }});
+    m_completer =
+        new CodeCompleter(codes, {this, [this] { return textCursor(); },
+                                  [this] { return cursorRect().translated(marginWidth(), 0); },
+                                  [](QTextCursor cursor, const QString &code) { cursor.insertText(code); }});
 }
 
 void CodeEdit::markLine(int line)

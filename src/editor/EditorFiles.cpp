@@ -134,9 +134,9 @@ Result<TemplateFile::Loaded> EditorFiles::read(const QString &path)
     auto loaded = TemplateFile::read(path);
     if (loaded || loaded.error().errorCode() != ErrorCode::NotAllowed)
         return loaded;
-    const auto answer = OZMStyle::question(
-        m_editor, Signal::FileNotReadable, tr("Page without its reader"),
-        tr("%1\n\nOpen all of its text as it stands?").arg(loaded.error().errorMessage()));
+    const auto answer =
+        OZMStyle::question(m_editor, Signal::FileNotReadable, tr("Page without its reader"),
+                           tr("%1\n\nOpen all of its text as it stands?").arg(loaded.error().errorMessage()));
     return answer == QMessageBox::Yes ? TemplateFile::read(path, TemplateFile::Page::AsText) : loaded;
 }
 
@@ -188,8 +188,7 @@ bool EditorFiles::save()
 bool EditorFiles::askSaveAs()
 {
     const QString name = path().isEmpty() ? tr("template.ozt") : QFileInfo(path()).fileName();
-    const QString folder =
-        path().isEmpty() ? m_editor->storageDirectory() : QFileInfo(path()).absolutePath();
+    const QString folder = path().isEmpty() ? m_editor->storageDirectory() : QFileInfo(path()).absolutePath();
     const auto location = DefaultWidgetCreator::fileAccessor()->getSaveFileName(
         m_editor, tr("Save template"), folder, name, saveFilter(), nullptr, {}, templateLocation());
     return !location.isCanceled() && saveTo(location);
@@ -198,10 +197,8 @@ bool EditorFiles::askSaveAs()
 bool EditorFiles::saveTo(const IFileAccessor::DestinationFileLocation &location)
 {
     const QString path = location.toString();
-    const Error error =
-        DefaultWidgetCreator::fileAccessor()->saveFile(location, [this](const QString &local) {
-            return TemplateFile::write(local, m_shown.content());
-        });
+    const Error error = DefaultWidgetCreator::fileAccessor()->saveFile(
+        location, [this](const QString &local) { return TemplateFile::write(local, m_shown.content()); });
     if (error.hasError()) {
         OZMStyle::critical(m_editor, Signal::FileNotWritable, tr("Template not saved"),
                            tr("The template could not be saved. It is unchanged in the window."), error);
@@ -222,8 +219,7 @@ bool EditorFiles::mayReplaceChanged()
     return OZMStyle::warning(m_editor, Signal::FileExists, tr("File changed"),
                              tr("\"%1\" was changed by another program. Replace it by what is in the window?")
                                  .arg(QDir::toNativeSeparators(path())),
-                             QMessageBox::Yes | QMessageBox::Cancel,
-                             QMessageBox::Cancel) == QMessageBox::Yes;
+                             QMessageBox::Yes | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Yes;
 }
 
 bool EditorFiles::mayDiscard()
@@ -292,11 +288,11 @@ void EditorFiles::offerRescued()
     const QList<TemplateAutosave::Rescued> copies = TemplateAutosave::takeRescued(storageName(*m_editor));
     for (const TemplateAutosave::Rescued &copy : copies) {
         const QString name = copy.path.isEmpty() ? tr("a new template") : QDir::toNativeSeparators(copy.path);
-        const auto answer = OZMStyle::question(
-            m_editor, Signal::Unspecified, tr("Rescued template"),
-            tr("The program ended while %1 was not saved. Open what was kept of it at %2?")
-                .arg(name, QLocale().toString(copy.when, QLocale::ShortFormat)),
-            QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
+        const auto answer =
+            OZMStyle::question(m_editor, Signal::Unspecified, tr("Rescued template"),
+                               tr("The program ended while %1 was not saved. Open what was kept of it at %2?")
+                                   .arg(name, QLocale().toString(copy.when, QLocale::ShortFormat)),
+                               QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
         if (answer == QMessageBox::Yes && !openRescued(copy)) {
             // Never deleted, as that would delete the copy, which is to be offered at the next start again.
             (new TemplateAutosave(storageName(*m_editor)))->store(copy.path, copy.content);

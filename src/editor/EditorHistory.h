@@ -16,6 +16,9 @@ class EditorSession
 public:
     using Mode = AbstractTemplateEditor::Mode;
 
+    /// In characters, embedded images among them.
+    static constexpr qsizetype kLargestRich = 8'000'000;
+
     EditorSession(Mode mode, const QString &source);
     ~EditorSession();
     Q_DISABLE_COPY_MOVE(EditorSession)
@@ -29,6 +32,8 @@ public:
     [[nodiscard]] QString source() const;
     /// As the document's positions count, which for a session that is not edited may be another.
     [[nodiscard]] QString documentSource() const;
+    /// Too long for formatted text, which takes its time over each character.
+    [[nodiscard]] bool isLarge() const { return m_source.size() > kLargestRich; }
     [[nodiscard]] bool isEdited() const { return m_document->availableUndoSteps() > 0; }
 
 private:

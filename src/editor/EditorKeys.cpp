@@ -11,8 +11,11 @@ namespace {
 
 constexpr std::array kChangingKeys{Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backspace,
                                    Qt::Key_Delete};
-constexpr std::array kChangingShortcuts{QKeySequence::Cut, QKeySequence::Paste, QKeySequence::Delete,
-                                        QKeySequence::DeleteEndOfLine, QKeySequence::DeleteEndOfWord,
+constexpr std::array kChangingShortcuts{QKeySequence::Cut,
+                                        QKeySequence::Paste,
+                                        QKeySequence::Delete,
+                                        QKeySequence::DeleteEndOfLine,
+                                        QKeySequence::DeleteEndOfWord,
                                         QKeySequence::DeleteStartOfWord};
 
 } // namespace

@@ -37,8 +37,9 @@ ozm::Result<QString> readImage(const QString &path)
     QFile file(path);
     const QString name = QDir::toNativeSeparators(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return ozm::Error(ozm::ErrorCode::FileAccess,
-                          AbstractTemplateEditor::tr("\"%1\" cannot be read: %2").arg(name, file.errorString()));
+        return ozm::Error(
+            ozm::ErrorCode::FileAccess,
+            AbstractTemplateEditor::tr("\"%1\" cannot be read: %2").arg(name, file.errorString()));
     }
     if (file.size() > kLargestImage) {
         return ozm::Error(ozm::ErrorCode::BadParameter,
@@ -113,7 +114,8 @@ void AbstractTemplateEditor::Private::askLink()
 void AbstractTemplateEditor::Private::askPdf()
 {
     static const auto location = FileSystemSettings::addLocation(u"templatePdfs"_s);
-    const auto accessor = ozm::DefaultWidgetCreator::fileAccessor(ozm::IFileAccessor::FileAccessorType::Report);
+    const auto accessor =
+        ozm::DefaultWidgetCreator::fileAccessor(ozm::IFileAccessor::FileAccessorType::Report);
     const QString name = files->path().isEmpty() ? tr("report") : QFileInfo(files->path()).completeBaseName();
     const auto target =
         accessor->getSaveFileName(qptr, tr("Save as PDF"), {}, name + ".pdf"_L1,
@@ -124,7 +126,8 @@ void AbstractTemplateEditor::Private::askPdf()
         return printing.writePdf(path, decodedForPaper(), name);
     });
     if (error.hasError())
-        OZMStyle::critical(qptr, ozm::OzmMessageBoxSignal::FileNotWritable, tr("PDF not saved"), error.errorMessage());
+        OZMStyle::critical(qptr, ozm::OzmMessageBoxSignal::FileNotWritable, tr("PDF not saved"),
+                           error.errorMessage());
     else
         tell(tr("Saved to %1").arg(QDir::toNativeSeparators(target.toString())));
 }

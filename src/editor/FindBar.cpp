@@ -205,12 +205,11 @@ void FindBar::replaceAt(QTextCursor &cursor) const
 void FindBar::replace()
 {
     QTextCursor cursor = m_target.cursor();
-    const bool isMatch = cursor.hasSelection() &&
-                         (isChip(cursor) ? chipHolds(*qobject_cast<TemplateDocument *>(cursor.document()),
-                                                     cursor.selectionStart(), m_text->text(),
-                                                     Qt::CaseInsensitive)
-                                         : cursor.selectedText().compare(m_text->text(),
-                                                                         Qt::CaseInsensitive) == 0);
+    const bool isMatch =
+        cursor.hasSelection() &&
+        (isChip(cursor) ? chipHolds(*qobject_cast<TemplateDocument *>(cursor.document()),
+                                    cursor.selectionStart(), m_text->text(), Qt::CaseInsensitive)
+                        : cursor.selectedText().compare(m_text->text(), Qt::CaseInsensitive) == 0);
     if (isMatch && !m_target.isReadOnly() && m_target.mayRemove(cursor)) {
         replaceAt(cursor);
         m_target.setCursor(cursor);

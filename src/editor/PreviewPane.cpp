@@ -1,5 +1,7 @@
 #include "editor/PreviewPane.h"
 
+#include "editor/RichTextView.h"
+
 #include <ozm_widgets/AbstractTemplateEditor.h>
 #include <ozm_widgets/BlackSplitterHandle.h>
 #include <ozm_widgets/OZMStyle.h>
@@ -31,11 +33,7 @@ constexpr int kPartRole = Qt::UserRole + 2;
 
 void makePaper(QTextBrowser *browser)
 {
-    // Paper is white, whatever the desktop is.
-    QPalette paper = browser->palette();
-    paper.setColor(QPalette::Base, Qt::white);
-    paper.setColor(QPalette::Text, Qt::black);
-    browser->setPalette(paper);
+    setPaperColors(browser);
     auto *document = new TemplateDocument(browser);
     document->setDocumentMargin(kPaperMargin);
     document->setUndoRedoEnabled(false);
@@ -117,8 +115,17 @@ int PreviewPane::row() const
 void PreviewPane::updateSoon()
 {
     m_isStale = true;
-    if (isVisible())
+    if (m_isPaused)
+        m_count->setText(tr("The template is large: refresh the preview to see it."));
+    else if (isVisible())
         m_timer.start();
+}
+
+void PreviewPane::setPaused(bool paused)
+{
+    m_isPaused = paused;
+    if (paused)
+        m_timer.stop();
 }
 
 void PreviewPane::updateNow()
@@ -137,7 +144,7 @@ void PreviewPane::updateNow()
 void PreviewPane::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    if (m_isStale)
+    if (m_isStale && !m_isPaused)
         m_timer.start();
 }
 

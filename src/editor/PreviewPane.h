@@ -39,6 +39,8 @@ public:
     /// Decodes soon, when nobody asks again for a moment.
     void updateSoon();
     void updateNow();
+    /// Decodes only when updateNow() says so, as for a template that takes long.
+    void setPaused(bool paused);
 
 Q_SIGNALS:
     /// A place in the content that was decoded last, at which @p part begins.
@@ -61,6 +63,7 @@ private:
     QListWidget *m_troubles;
     QTimer m_timer;
     bool m_isStale = true;
+    bool m_isPaused = false;
 };
 
 } // namespace ozm::editor

@@ -57,6 +57,14 @@ QString plainText(const TemplateDocument &document, const QTextCursor &selection
 
 } // namespace
 
+void setPaperColors(QWidget *widget)
+{
+    QPalette paper = widget->palette();
+    paper.setColor(QPalette::Base, Qt::white);
+    paper.setColor(QPalette::Text, Qt::black);
+    widget->setPalette(paper);
+}
+
 RichTextView::RichTextView(CodeModel *codes, QWidget *parent)
     : QTextEdit(parent)
     , m_codes(codes)
@@ -66,6 +74,7 @@ RichTextView::RichTextView(CodeModel *codes, QWidget *parent)
     , m_nothing(new TemplateDocument(this))
 {
     setAcceptRichText(true);
+    setPaperColors(this);
     setDocument(m_nothing);
 }
 

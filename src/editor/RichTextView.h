@@ -9,6 +9,9 @@ namespace ozm::editor {
 class CodeCompleter;
 class CodeModel;
 
+/// Paper is white, whatever the desktop is.
+void setPaperColors(QWidget *widget);
+
 /// Shows a TemplateDocument for editing. What is copied carries its source along, so that codes and scripts
 /// come whole through the clipboard; codes that may not be removed stay.
 class RichTextView : public QTextEdit

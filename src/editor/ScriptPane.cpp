@@ -123,9 +123,10 @@ void ScriptPane::showOutcome(const TemplateReport &report)
 {
     const bool failed = !report.failed.isEmpty();
     m_code->markLine(failed ? report.failed.constFirst().line : 0);
-    m_error->setText(failed ? tr("Line %1: %2").arg(report.failed.constFirst().line)
-                                  .arg(report.failed.constFirst().message)
-                            : tr("Ran without an error."));
+    m_error->setText(
+        failed
+            ? tr("Line %1: %2").arg(report.failed.constFirst().line).arg(report.failed.constFirst().message)
+            : tr("Ran without an error."));
     m_result->setPlainText(failed ? QString() : AbstractTemplateEditor::withoutScriptTags(report.text));
 }
 

@@ -42,12 +42,10 @@ struct PieceColor
     QRgb onDark;
 };
 
-constexpr std::array kColors{PieceColor{Piece::Tag, 0xff1f5fa8, 0xff7db4f0},
-                             PieceColor{Piece::String, 0xff8a4b08, 0xffe0b070},
-                             PieceColor{Piece::Comment, 0xff6b7680, 0xff93a0ab},
-                             PieceColor{Piece::Keyword, 0xff7a2f94, 0xffd69cec},
-                             PieceColor{Piece::Number, 0xff0b6e5f, 0xff6fd0c0},
-                             PieceColor{Piece::Code, 0xff1a3fc4, 0xff9db8ff}};
+constexpr std::array kColors{
+    PieceColor{Piece::Tag, 0xff1f5fa8, 0xff7db4f0},     PieceColor{Piece::String, 0xff8a4b08, 0xffe0b070},
+    PieceColor{Piece::Comment, 0xff6b7680, 0xff93a0ab}, PieceColor{Piece::Keyword, 0xff7a2f94, 0xffd69cec},
+    PieceColor{Piece::Number, 0xff0b6e5f, 0xff6fd0c0},  PieceColor{Piece::Code, 0xff1a3fc4, 0xff9db8ff}};
 
 QColor colorOf(Piece piece)
 {
@@ -98,10 +96,10 @@ void SourceHighlighter::highlightTags(const QString &text)
                 break;
             const bool comment = match.captured() == "<!--"_L1;
             at = match.capturedEnd();
-            state = comment                                                           ? InComment
+            state = comment                                                             ? InComment
                     : match.captured().compare("<script>"_L1, Qt::CaseInsensitive) == 0 ? InScript
-                    : match.captured().endsWith(u'>')                                 ? InText
-                                                                                      : InTag;
+                    : match.captured().endsWith(u'>')                                   ? InText
+                                                                                        : InTag;
             setFormat(int(match.capturedStart()), int(match.capturedLength()),
                       colorOf(comment ? Piece::Comment : Piece::Tag));
             continue;

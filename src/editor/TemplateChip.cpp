@@ -1,9 +1,7 @@
 #include "editor/TemplateChip.h"
 
-#include <QApplication>
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPalette>
 #include <QTextDocument>
 
 #include <array>
@@ -35,7 +33,7 @@ struct ChipLook
 {
     PartKind kind;
     QLatin1StringView sign;
-    /// Mixed with the palette's base and text colours, so that it is right on light and on dark.
+    /// Mixed with the colours of the text, so that it is right on a selection, too.
     Qt::GlobalColor tint;
 };
 
@@ -145,10 +143,13 @@ void ChipPainter::drawObject(QPainter *painter, const QRectF &rect, QTextDocumen
 {
     const TemplatePart part = chipPart(format);
     const bool known = part.kind != PartKind::Code || isKnown(part.source);
-    const QPalette palette = QApplication::palette();
     const QColor tint = known ? QColor(lookOf(part.kind).tint) : QColor(Qt::red);
-    const QColor base = palette.color(QPalette::Base);
-    const QColor text = palette.color(QPalette::Text);
+    // Templates are shown on paper, which is white; a selection brings its own colours.
+    const QTextCharFormat look = format.toCharFormat();
+    const QColor base =
+        look.background().style() == Qt::NoBrush ? QColor(Qt::white) : look.background().color();
+    const QColor text =
+        look.foreground().style() == Qt::NoBrush ? QColor(Qt::black) : look.foreground().color();
 
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);

@@ -185,9 +185,10 @@ void AbstractTemplateEditor::Private::showSession()
         document->setDisplayNames(codes->displayNames());
     rich->showDocument(session.richDocument());
     plain->showDocument(formatted ? nullptr : session.document());
-    if (!formatted && !session.document()->findChild<SourceHighlighter *>())
+    if (!formatted && !session.isLarge() && !session.document()->findChild<SourceHighlighter *>())
         new SourceHighlighter(session.document(), codes, SourceHighlighter::Language::Template);
     views->setCurrentIndex(formatted ? 0 : 1);
+    preview->setPaused(session.isLarge());
     view()->setFocus();
     if (actions)
         updateState();
@@ -376,6 +377,8 @@ void AbstractTemplateEditor::Private::refresh()
         highlighter->rehighlight();
     }
     preview->setRows(names);
+    if (history->session().isLarge() && isShown)
+        preview->updateNow();
 }
 
 ozm::TemplateReport AbstractTemplateEditor::Private::decode(const QString &content) const
@@ -435,7 +438,21 @@ void AbstractTemplateEditor::Private::find(bool replacing)
 
 void AbstractTemplateEditor::Private::show(const QString &content)
 {
-    history->start(history->session().mode(), content);
+    const bool large = content.size() > EditorSession::kLargestRich;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    history->start(large ? Mode::Plain : history->session().mode(), content);
+    QApplication::restoreOverrideCursor();
+    updateState();
+    if (large)
+        tell(tr("The template is large, and shown as its source."));
+}
+
+void AbstractTemplateEditor::Private::setMode(Mode mode)
+{
+    if (mode == Mode::Rich && !isRich() && content().size() > EditorSession::kLargestRich)
+        tell(tr("The template is too large to be shown as formatted text."));
+    else
+        history->switchTo(mode);
     updateState();
 }
 

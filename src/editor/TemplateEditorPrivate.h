@@ -69,6 +69,7 @@ public:
 
     void find(bool replacing);
     void show(const QString &content);
+    void setMode(Mode mode);
     void tell(const QString &text);
     void setReadOnly(bool on);
     void updateState();

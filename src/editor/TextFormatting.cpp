@@ -146,9 +146,8 @@ void TextFormatting::setSize(const QString &points)
 void TextFormatting::askColor(const QString &title, QTextFormat::Property property)
 {
     const QBrush before = qvariant_cast<QBrush>(format().property(property));
-    const QColor color = QColorDialog::getColor(before.style() == Qt::NoBrush ? QColor(Qt::black)
-                                                                              : before.color(),
-                                                m_view->window(), title);
+    const QColor color = QColorDialog::getColor(
+        before.style() == Qt::NoBrush ? QColor(Qt::black) : before.color(), m_view->window(), title);
     if (!color.isValid())
         return;
     QTextCharFormat format;

@@ -2,6 +2,7 @@
 #include "editor/TemplateGenerator.h"
 #include "support/StrictTest.h"
 
+#include <ozm_widgets/TemplateAutosave.h>
 #include <ozm_widgets/TemplateDocument.h>
 
 #include <QAbstractItemView>
@@ -22,11 +23,15 @@
 #include <QTextBrowser>
 #include <QTextTable>
 
+#include <cstdlib>
+
 using namespace Qt::StringLiterals;
 using namespace ozm;
 using namespace ozm::test;
 
 namespace {
+
+const QString kLeaveCopy = u"--leave-copy"_s;
 
 void write(const QString &path, const QByteArray &bytes)
 {
@@ -72,6 +77,8 @@ private Q_SLOTS:
     void badInputChangesNothing();
     void failedSavesKeepTheWork();
     void changesOnDiskAreNoticed();
+    void crashesLoseNothing();
+    void largeTemplatesOpen();
     void markersAreNoHarm();
     void scriptsAreEditedInPlace();
     void readOnlyChangesNothing();
@@ -490,6 +497,38 @@ void TestTemplateEditor::changesOnDiskAreNoticed()
     QVERIFY(!f.editor.isModified());
 }
 
+void TestTemplateEditor::crashesLoseNothing()
+{
+    for (const auto answer : {QMessageBox::Yes, QMessageBox::No}) {
+        QCOMPARE(QProcess::execute(QCoreApplication::applicationFilePath(), {kLeaveCopy}), 0);
+        int shown = 0;
+        BoxDriver box([&shown, answer](OzmMessageBox *asked) {
+            ++shown;
+            press(asked, answer);
+        });
+        EditorFixture f;
+        QTRY_COMPARE(shown, 1);
+        QCOMPARE(f.content(), answer == QMessageBox::Yes ? u"<p>rescued</p>"_s : QString());
+        QCOMPARE(f.editor.isModified(), answer == QMessageBox::Yes);
+        QCOMPARE(f.editor.filePath(), answer == QMessageBox::Yes ? u"/somewhere/t.ozt"_s : QString());
+    }
+}
+
+void TestTemplateEditor::largeTemplatesOpen()
+{
+    EditorFixture f;
+    const QByteArray line = "<p>A line of a large template with [Lot].</p>\n";
+    write(f.path(u"large.ozt"_s),
+          "<ozm_template version=\"1.0\">" + line.repeated(10'000'000 / line.size()) + "</ozm_template>");
+    QVERIFY(f.editor.openFile(f.path(u"large.ozt"_s)));
+    QCOMPARE(f.editor.mode(), AbstractTemplateEditor::Mode::Plain);
+    f.trigger("richModeAction");
+    QCOMPARE(f.editor.mode(), AbstractTemplateEditor::Mode::Plain);
+    QVERIFY(f.child<QAction>("plainModeAction")->isChecked());
+    QTest::keyClick(f.child<QPlainTextEdit>("plainView"), Qt::Key_X);
+    QVERIFY(f.content().startsWith("x<p>A line"_L1));
+}
+
 // Wrapping substitutes, which eats such a marker.
 void TestTemplateEditor::markersAreNoHarm()
 {
@@ -568,14 +607,15 @@ void TestTemplateEditor::findsAndReplaces_data()
     QTest::addColumn<QString>("replacement");
     QTest::addColumn<QString>("after");
 
-    QTest::newRow("text") << true << u"<p>Mass and mass</p>"_s << u"mass"_s << u"m/z"_s << u"<p>m/z and m/z</p>"_s;
+    QTest::newRow("text") << true << u"<p>Mass and mass</p>"_s << u"mass"_s << u"m/z"_s
+                          << u"<p>m/z and m/z</p>"_s;
     QTest::newRow("into itself") << true << u"<p>a a</p>"_s << u"a"_s << u"aa"_s << u"<p>aa aa</p>"_s;
     QTest::newRow("codes") << true << u"<p>Lot: <b>[Lot]</b></p>"_s << u"Lot"_s << u"Sample"_s
                            << u"<p>Sample: <b>[Sample]</b></p>"_s;
     QTest::newRow("scripts") << true << u"<p><script>lot(1)</script></p>"_s << u"lot"_s << u"run"_s
                              << u"<p><script>run(1)</script></p>"_s;
-    QTest::newRow("codes that may not go") << true << u"<p>Signature [Signature]</p>"_s << u"Signature"_s
-                                           << u"x"_s << u"<p>x [Signature]</p>"_s;
+    QTest::newRow("codes that may not go")
+        << true << u"<p>Signature [Signature]</p>"_s << u"Signature"_s << u"x"_s << u"<p>x [Signature]</p>"_s;
     QTest::newRow("source") << false << u"<p>a</p><p>b</p>"_s << u"p>"_s << u"div>"_s
                             << u"<div>a</div><div>b</div>"_s;
 }
@@ -625,9 +665,10 @@ void TestTemplateEditor::tablesAreEdited()
     QCOMPARE(size(), QSize(4, 5));
     f.trigger("deleteColumnAction");
     QCOMPARE(size(), QSize(3, 5));
-    QTextTable *table = rich->document()->rootFrame()->childFrames().isEmpty()
-                            ? nullptr
-                            : qobject_cast<QTextTable *>(rich->document()->rootFrame()->childFrames().first());
+    QTextTable *table =
+        rich->document()->rootFrame()->childFrames().isEmpty()
+            ? nullptr
+            : qobject_cast<QTextTable *>(rich->document()->rootFrame()->childFrames().first());
     QVERIFY(table);
     QTextCursor cells = table->cellAt(0, 0).firstCursorPosition();
     cells.setPosition(table->cellAt(0, 1).lastPosition(), QTextCursor::KeepAnchor);
@@ -694,5 +735,18 @@ void TestTemplateEditor::everythingHasAName()
         QVERIFY2(!f.child<QWidget>(name)->accessibleName().isEmpty(), name);
 }
 
-QTEST_MAIN(TestTemplateEditor)
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    if (!application.arguments().contains(kLeaveCopy)) {
+        TestTemplateEditor test;
+        return QTest::qExec(&test, argc, argv);
+    }
+    // Ends as a program that crashes does: nothing is destroyed.
+    QStandardPaths::setTestModeEnabled(true);
+    auto *autosave = new TemplateAutosave(u"ozm-test-SampleTemplateEditor"_s);
+    autosave->store(u"/somewhere/t.ozt"_s, u"<p>rescued</p>"_s);
+    std::_Exit(0);
+}
+
 #include "tst_templateeditor.moc"
