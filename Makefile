@@ -5,12 +5,13 @@ PRESET ?= dev
 QT_TOOLS ?= $(addsuffix /,$(wildcard /usr/lib/qt6/bin))
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: help run test check bench install format translations clean
+.PHONY: help run test check tidy bench install format translations clean
 
 help:
 	@echo "make run      the workbench, or its batch mode where there is no display"
 	@echo "make test     build everything and run the tests"
 	@echo "make check    format, clang-tidy, headers, consumer, sanitizers"
+	@echo "make tidy     clang-tidy on every source, however long it takes"
 	@echo "make bench    the benchmarks, as ratios"
 	@echo "make translations  brings the texts to translate up to date"
 	@echo "make install  into PREFIX (default /usr/local)"
@@ -32,6 +33,12 @@ check:
 	@mkdir -p build
 	@JOBS=$(JOBS) .ci/check
 
+tidy:
+	@.ci/setup build check
+	@cmake --preset ci >/dev/null
+	cmake --build --preset ci -j $(JOBS)
+	@JOBS=$(JOBS) .ci/tidy
+
 bench:
 	@.ci/setup build bench
 	@cmake --preset bench >/dev/null
@@ -51,7 +58,7 @@ format:
 # Brings translations/*.ts up to date with the sources; what is new in them is then to be translated.
 translations:
 	@.ci/setup build
-	$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -I include -I src src include platform common \
+	$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -I include -I src src include platform common plugins \
 		-ts $(wildcard translations/ozm_widgets_*.ts)
 	$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -I include -I examples/workbench examples/workbench \
 		-ts $(wildcard translations/workbench_*.ts)

@@ -3,12 +3,12 @@
 #include "TemplateFileText.h"
 #include "WebReader.h"
 
+#include <ozm_common_core_mini/PathUtils.h>
 #include <ozm_widgets/TECWrapper.h>
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QSaveFile>
 
 using namespace Qt::StringLiterals;
@@ -44,13 +44,16 @@ QString tooLarge()
     return TemplateFile::tr("It is larger than %1 MB.").arg(TemplateFile::kLargest / 1024 / 1024);
 }
 
+/// A folder, or a pipe or device, which would be waited for.
+bool isNoFile(const QString &path)
+{
+    const PathUtils::Kind kind = PathUtils::kind(path);
+    return kind == PathUtils::Kind::Folder || kind == PathUtils::Kind::Other;
+}
+
 Result<QByteArray> bytesOf(const QString &path)
 {
-    const QFileInfo info(path);
-    if (!info.exists())
-        return notRead(path, TemplateFile::tr("There is no such file."));
-    // A pipe would be waited for.
-    if (!info.isFile())
+    if (isNoFile(path))
         return notRead(path, TemplateFile::tr("It is no file."));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -105,6 +108,18 @@ Result<QByteArray> bytesFor(const QString &content)
     return bytes;
 }
 
+/// Goes on after a part was written, since only the next try says why it was not all.
+bool writeAll(QSaveFile &file, const QByteArray &bytes)
+{
+    for (qint64 done = 0; done < bytes.size();) {
+        const qint64 written = file.write(bytes.constData() + done, bytes.size() - done);
+        if (written <= 0)
+            return false;
+        done += written;
+    }
+    return true;
+}
+
 } // namespace
 
 class TemplateFile::Private
@@ -141,13 +156,13 @@ Error TemplateFile::write(const QString &path, const QString &content)
     const Result<QByteArray> bytes = bytesFor(content);
     if (!bytes)
         return bytes.error();
-    const QFileInfo info(path);
-    if (info.exists() && !info.isFile())
+    if (isNoFile(path))
         return notWritten(path, tr("It is no file.")).ecatch(OZM_HERE);
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes.value()) != bytes.value().size() ||
-        !file.commit())
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeAll(file, bytes.value()) ||
+        !file.commit()) {
         return notWritten(path, file.errorString()).ecatch(OZM_HERE);
+    }
     return {};
 }
 

@@ -13,6 +13,10 @@
 #include <QThread>
 #include <QUuid>
 
+#include <algorithm>
+#include <array>
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace ozm {
@@ -50,18 +54,29 @@ QStringList pluginFolders()
     return folders;
 }
 
-/// Keeps one message of the engine out of the log: that it is started late, which is what is meant here.
-class LateStartUnsaid
+// What the engine says of being started late and without graphics, which is what is meant here.
+constexpr std::array kUnsaid{"Qt WebEngine seems to be initialized from a plugin"_L1,
+                             "No suitable graphics backend found"_L1};
+
+/// Keeps what need not be said out of the log, and passes on all else.
+class Unsaid
 {
 public:
-    LateStartUnsaid() { s_next = qInstallMessageHandler(&handle); }
-    ~LateStartUnsaid() { qInstallMessageHandler(s_next); }
-    Q_DISABLE_COPY_MOVE(LateStartUnsaid)
+    Unsaid() { s_next = qInstallMessageHandler(&handle); }
+    ~Unsaid()
+    {
+        // Another may have been put in meanwhile, which then stays.
+        const QtMessageHandler last = qInstallMessageHandler(s_next);
+        if (last != &handle)
+            qInstallMessageHandler(last);
+    }
+    Q_DISABLE_COPY_MOVE(Unsaid)
 
 private:
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &text)
     {
-        if (s_next && !text.startsWith("Qt WebEngine seems to be initialized from a plugin"_L1))
+        const auto begins = [&text](QLatin1StringView unsaid) { return text.startsWith(unsaid); };
+        if (s_next && !std::ranges::any_of(kUnsaid, begins))
             s_next(type, context, text);
     }
 
@@ -74,7 +89,6 @@ WebReaderInterface *load(const QString &file)
     // Asked of the file without loading it.
     if (loader.metaData().value("IID"_L1).toString() != QLatin1StringView(OZM_WEB_READER_IID))
         return nullptr;
-    const LateStartUnsaid unsaid;
     auto *reader = qobject_cast<WebReaderInterface *>(loader.instance());
     if (!reader)
         OZM_WIDGETS_WARNING() << "The web reader cannot be loaded:" << loader.errorString();
@@ -160,6 +174,7 @@ private:
 
 Result<QString> bodyOfPage(const QString &page)
 {
+    const Unsaid unsaid;
     const Result<WebReaderInterface *> reader = webReader();
     if (!reader)
         return reader.error();

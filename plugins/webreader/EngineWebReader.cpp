@@ -149,7 +149,7 @@ Result<QString> EngineWebReader::bodyOf(const QString &page, std::chrono::millis
                        [&] { finish(failed(tr("The web engine did not read the page in time."))); });
     view.load(QUrl(u"about:blank"_s));
     loop.exec(QEventLoop::ExcludeUserInputEvents);
-    return result.value_or(failed(tr("The program ended while the web engine read the page.")));
+    return result ? *result : failed(tr("The program ended while the web engine read the page."));
 }
 
 } // namespace ozm
