@@ -115,6 +115,13 @@ private:
     QString m_path;
 };
 
+inline void write(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), bytes.size());
+}
+
 /// A window on the screen, a folder for its files, and nothing left behind.
 struct EditorFixture
 {

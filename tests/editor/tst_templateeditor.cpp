@@ -2,7 +2,6 @@
 #include "editor/TemplateGenerator.h"
 #include "support/StrictTest.h"
 
-#include <ozm_widgets/TemplateAutosave.h>
 #include <ozm_widgets/TemplateDocument.h>
 
 #include <QAbstractItemView>
@@ -23,22 +22,11 @@
 #include <QTextBrowser>
 #include <QTextTable>
 
-#include <cstdlib>
-
 using namespace Qt::StringLiterals;
 using namespace ozm;
 using namespace ozm::test;
 
 namespace {
-
-const QString kLeaveCopy = u"--leave-copy"_s;
-
-void write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
-}
 
 void drop(QWidget *viewport, const QMimeData *data)
 {
@@ -55,56 +43,10 @@ QStringList words(const QString &text)
     return text.simplified().split(u' ', Qt::SkipEmptyParts);
 }
 
-} // namespace
-
-class TestTemplateEditor : public StrictTest
+/// Codes by each way that a user has.
+void insertCodes(const EditorFixture &f)
 {
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-    void aTemplateIsWrittenAndPrinted();
-    void codesAreInsertedInTheSource();
-    void previewFollowsTheData();
-    void modesKeepTheSource();
-    void undoGoesAcrossModes();
-    void undoAfterSavingIsAChange();
-    void keptCodesStay_data();
-    void keptCodesStay();
-    void copiesComeWhole();
-    void closingAsks_data();
-    void closingAsks();
-    void badInputChangesNothing_data();
-    void badInputChangesNothing();
-    void failedSavesKeepTheWork();
-    void changesOnDiskAreNoticed();
-    void crashesLoseNothing();
-    void largeTemplatesOpen();
-    void markersAreNoHarm();
-    void scriptsAreEditedInPlace();
-    void readOnlyChangesNothing();
-    void findsAndReplaces_data();
-    void findsAndReplaces();
-    void tablesAreEdited();
-    void imagesAndLinksAreInserted();
-    void everythingHasAName();
-};
-
-// One sitting, from an empty window to a printed page, by the ways that a user has.
-void TestTemplateEditor::aTemplateIsWrittenAndPrinted()
-{
-    EditorFixture f;
     auto *rich = f.child<QTextEdit>("richView");
-    f.trigger("newAction");
-    QCOMPARE(f.content(), QString());
-
-    // By typing, with bold letters around the code.
-    f.trigger("boldAction");
-    QTest::keyClicks(rich, u"Sample [Lot]"_s);
-    f.trigger("boldAction");
-    QTest::keyClick(rich, Qt::Key_Space);
-    QCOMPARE(f.content(), u"<div style=\"white-space:pre-wrap\"><b>Sample [Lot]</b> </div>"_s);
-
     // By completion.
     QTest::keyClicks(rich, u"[sam"_s);
     auto *completer = rich->findChild<QCompleter *>(u"codeCompleter"_s);
@@ -132,7 +74,10 @@ void TestTemplateEditor::aTemplateIsWrittenAndPrinted()
     drop(rich->viewport(), dragged.get());
     QVERIFY(f.content().endsWith("[Sample]</div>"_L1));
     QCOMPARE(f.content().count(u'['), 5);
+}
 
+void addScript(const EditorFixture &f)
+{
     // A script, tried out before it is inserted.
     f.trigger("newScriptAction");
     auto *script = f.child<QPlainTextEdit>("scriptCode");
@@ -145,7 +90,11 @@ void TestTemplateEditor::aTemplateIsWrittenAndPrinted()
     QCOMPARE(f.child<QPlainTextEdit>("scriptResult")->toPlainText(), u"A-7!"_s);
     QTest::mouseClick(f.child<QPushButton>("scriptApply"), Qt::LeftButton);
     QVERIFY(f.content().endsWith("<script>inputParameters['[Lot]'] + '!'</script></div>"_L1));
+}
 
+void followTrouble(const EditorFixture &f)
+{
+    auto *rich = f.child<QTextEdit>("richView");
     // The preview lists what cannot be filled, and leads there.
     QTest::keyClicks(rich, u" [Nobody knows]"_s);
     auto *troubles = f.child<QListWidget>("previewTroubles");
@@ -155,12 +104,10 @@ void TestTemplateEditor::aTemplateIsWrittenAndPrinted()
     Q_EMIT troubles->itemClicked(troubles->item(0));
     auto *document = qobject_cast<TemplateDocument *>(rich->document());
     QCOMPARE(document->chipAt(rich->textCursor().selectionStart()).source, u"[Nobody knows]"_s);
-    const QString decoded = AbstractTemplateEditor::withoutScriptTags(AbstractTemplateEditor::decodeTEC(
-        f.content(), f.editor.previewRows().constFirst(), f.editor.extraData(nullptr)));
-    QTextDocument expected;
-    expected.setHtml(decoded);
-    QCOMPARE(f.child<QTextBrowser>("previewText")->toPlainText(), expected.toPlainText());
+}
 
+void saveAndReopen(EditorFixture &f)
+{
     // Saved, and opened again.
     const QString saved = f.content();
     f.answerPath(f.path(u"t.ozt"_s));
@@ -173,17 +120,75 @@ void TestTemplateEditor::aTemplateIsWrittenAndPrinted()
     f.trigger("openAction");
     QCOMPARE(f.content(), saved);
     QCOMPARE(f.editor.filePath(), f.path(u"t.ozt"_s));
+}
 
+/// The words of the PDF that the window writes.
+QStringList printedWords(const EditorFixture &f)
+{
     f.answerPath(f.path(u"t.pdf"_s));
     f.trigger("pdfAction");
     QProcess reader;
     reader.start(u"pdftotext"_s, {u"-layout"_s, f.path(u"t.pdf"_s), u"-"_s});
-    QVERIFY(reader.waitForFinished());
+    if (!reader.waitForFinished())
+        return {};
     const QString printed = QString::fromUtf8(reader.readAllStandardOutput());
     QStringList readable = words(printed);
-    // The number of the page.
-    QCOMPARE(readable.takeLast(), u"1"_s);
-    QCOMPARE(readable, words(expected.toPlainText()));
+    return readable;
+}
+
+} // namespace
+
+class TestTemplateEditor : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void aTemplateIsWrittenAndPrinted();
+    void codesAreInsertedInTheSource();
+    void previewFollowsTheData();
+    void modesKeepTheSource();
+    void undoGoesAcrossModes();
+    void undoAfterSavingIsAChange();
+    void keptCodesStay_data();
+    void keptCodesStay();
+    void copiesComeWhole();
+    void scriptsAreEditedInPlace();
+    void readOnlyChangesNothing();
+    void findsAndReplaces_data();
+    void findsAndReplaces();
+    void tablesAreEdited();
+    void imagesAndLinksAreInserted();
+    void everythingHasAName();
+};
+
+// One sitting, from an empty window to a printed page, by the ways that a user has.
+void TestTemplateEditor::aTemplateIsWrittenAndPrinted()
+{
+    EditorFixture f;
+    auto *rich = f.child<QTextEdit>("richView");
+    f.trigger("newAction");
+    QCOMPARE(f.content(), QString());
+
+    // By typing, with bold letters around the code.
+    f.trigger("boldAction");
+    QTest::keyClicks(rich, u"Sample [Lot]"_s);
+    f.trigger("boldAction");
+    QTest::keyClick(rich, Qt::Key_Space);
+    QCOMPARE(f.content(), u"<div style=\"white-space:pre-wrap\"><b>Sample [Lot]</b> </div>"_s);
+    for (const auto step : {insertCodes, addScript, followTrouble}) {
+        step(f);
+        if (QTest::currentTestFailed())
+            return;
+    }
+    const QString decoded = AbstractTemplateEditor::withoutScriptTags(AbstractTemplateEditor::decodeTEC(
+        f.content(), f.editor.previewRows().constFirst(), f.editor.extraData(nullptr)));
+    QTextDocument expected;
+    expected.setHtml(decoded);
+    QCOMPARE(f.child<QTextBrowser>("previewText")->toPlainText(), expected.toPlainText());
+    saveAndReopen(f);
+    // And the number of the page.
+    QCOMPARE(printedWords(f), words(expected.toPlainText()) << u"1"_s);
 }
 
 void TestTemplateEditor::codesAreInsertedInTheSource()
@@ -390,175 +395,6 @@ void TestTemplateEditor::copiesComeWhole()
              qPrintable(f.content()));
 }
 
-void TestTemplateEditor::closingAsks_data()
-{
-    QTest::addColumn<QMessageBox::StandardButton>("answer");
-    QTest::addColumn<bool>("closed");
-    QTest::addColumn<bool>("written");
-
-    QTest::newRow("save") << QMessageBox::Save << true << true;
-    QTest::newRow("discard") << QMessageBox::Discard << true << false;
-    QTest::newRow("cancel") << QMessageBox::Cancel << false << false;
-}
-
-void TestTemplateEditor::closingAsks()
-{
-    QFETCH(const QMessageBox::StandardButton, answer);
-    QFETCH(const bool, closed);
-    QFETCH(const bool, written);
-
-    EditorFixture f;
-    f.answerPath(f.path(u"t.ozt"_s));
-    QTest::keyClick(f.child<QTextEdit>("richView"), Qt::Key_A);
-    {
-        BoxDriver box([answer](OzmMessageBox *shown) { press(shown, answer); });
-        QCOMPARE(f.editor.close(), closed);
-        QCOMPARE(box.shown(), 1);
-    }
-    QCOMPARE(QFile::exists(f.path(u"t.ozt"_s)), written);
-    QCOMPARE(f.content(), u"<div>a</div>"_s);
-    if (!closed) {
-        // The question is asked wherever work would go.
-        BoxDriver box([](OzmMessageBox *shown) { press(shown, QMessageBox::Cancel); });
-        f.trigger("newAction");
-        f.trigger("openAction");
-        QCOMPARE(box.shown(), 2);
-        QCOMPARE(f.content(), u"<div>a</div>"_s);
-    }
-}
-
-void TestTemplateEditor::badInputChangesNothing_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-
-    QTest::newRow("wrong version") << QByteArray("<ozm_template version=\"1.1\">a</ozm_template>");
-    QTest::newRow("truncated") << QByteArray("<ozm_template version=\"1.0\"><p>a");
-    QTest::newRow("binary") << QByteArray("\x7f\x45\x4c\x46\x00\x01\x02\xff\xfe\x00", 10);
-}
-
-void TestTemplateEditor::badInputChangesNothing()
-{
-    QFETCH(const QByteArray, bytes);
-
-    EditorFixture f;
-    f.setContent(u"<p>mine</p>"_s);
-    QTest::keyClick(f.child<QTextEdit>("richView"), Qt::Key_A);
-    const QString mine = f.content();
-    write(f.path(u"bad.ozt"_s), bytes);
-    QStringList texts;
-    BoxDriver box([&texts](OzmMessageBox *shown) {
-        texts.append(shown->text());
-        press(shown, QMessageBox::Ok);
-    });
-    QVERIFY(!f.editor.setSourceText(QString::fromUtf8(bytes)));
-    QCOMPARE(texts, QStringList{u"Wrong template editor content format."_s});
-    QVERIFY(!f.editor.openFile(f.path(u"bad.ozt"_s)));
-    QCOMPARE(texts.size(), 2);
-    QVERIFY2(texts.last().contains("Wrong template editor content format."_L1), qPrintable(texts.last()));
-    QVERIFY(!f.editor.openFile(f.path(u"none.ozt"_s)));
-    QCOMPARE(texts.size(), 3);
-    QCOMPARE(f.content(), mine);
-    QVERIFY(f.editor.isModified());
-}
-
-void TestTemplateEditor::failedSavesKeepTheWork()
-{
-    EditorFixture f;
-    QTest::keyClick(f.child<QTextEdit>("richView"), Qt::Key_A);
-    f.answerPath(f.path(u"no such folder/t.ozt"_s));
-    QString text;
-    BoxDriver box([&text](OzmMessageBox *shown) {
-        text = shown->text();
-        press(shown, QMessageBox::Ok);
-    });
-    f.trigger("saveAction");
-    QCOMPARE(box.shown(), 1);
-    QVERIFY2(text.contains("unchanged in the window"_L1), qPrintable(text));
-    QVERIFY(f.editor.isModified());
-    QVERIFY(f.editor.filePath().isEmpty());
-    QCOMPARE(f.content(), u"<div>a</div>"_s);
-    f.trigger("pdfAction");
-    QCOMPARE(box.shown(), 2);
-}
-
-void TestTemplateEditor::changesOnDiskAreNoticed()
-{
-    EditorFixture f;
-    f.answerPath(f.path(u"t.ozt"_s));
-    f.setContent(u"<p>one</p>"_s);
-    f.trigger("saveAction");
-    write(f.path(u"t.ozt"_s), "<ozm_template version=\"1.0\"><p>theirs, longer</p></ozm_template>");
-    QTest::keyClick(f.child<QTextEdit>("richView"), Qt::Key_A);
-    {
-        BoxDriver box([](OzmMessageBox *shown) { press(shown, QMessageBox::Cancel); });
-        f.trigger("saveAction");
-        QCOMPARE(box.shown(), 1);
-    }
-    QVERIFY(f.editor.isModified());
-    QFile theirs(f.path(u"t.ozt"_s));
-    QVERIFY(theirs.open(QIODevice::ReadOnly));
-    QVERIFY(theirs.readAll().contains("theirs"));
-    theirs.close();
-    int shown = 0;
-    {
-        BoxDriver box([&shown](OzmMessageBox *asked) {
-            ++shown;
-            press(asked, QMessageBox::Yes);
-        });
-        f.editor.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&f.editor));
-        QEvent activated(QEvent::ActivationChange);
-        QApplication::sendEvent(&f.editor, &activated);
-        QTRY_COMPARE(shown, 1);
-    }
-    QCOMPARE(f.content(), u"<p>theirs, longer</p>"_s);
-    QVERIFY(!f.editor.isModified());
-}
-
-void TestTemplateEditor::crashesLoseNothing()
-{
-    for (const auto answer : {QMessageBox::Yes, QMessageBox::No}) {
-        QCOMPARE(QProcess::execute(QCoreApplication::applicationFilePath(), {kLeaveCopy}), 0);
-        int shown = 0;
-        BoxDriver box([&shown, answer](OzmMessageBox *asked) {
-            ++shown;
-            press(asked, answer);
-        });
-        EditorFixture f(false);
-        QTRY_COMPARE(shown, 1);
-        QCOMPARE(f.content(), answer == QMessageBox::Yes ? u"<p>rescued</p>"_s : QString());
-        QCOMPARE(f.editor.isModified(), answer == QMessageBox::Yes);
-        QCOMPARE(f.editor.filePath(), answer == QMessageBox::Yes ? u"/somewhere/t.ozt"_s : QString());
-    }
-}
-
-void TestTemplateEditor::largeTemplatesOpen()
-{
-    EditorFixture f;
-    const QByteArray line = "<p>A line of a large template with [Lot].</p>\n";
-    write(f.path(u"large.ozt"_s),
-          "<ozm_template version=\"1.0\">" + line.repeated(10'000'000 / line.size()) + "</ozm_template>");
-    QVERIFY(f.editor.openFile(f.path(u"large.ozt"_s)));
-    QCOMPARE(f.editor.mode(), AbstractTemplateEditor::Mode::Plain);
-    f.trigger("richModeAction");
-    QCOMPARE(f.editor.mode(), AbstractTemplateEditor::Mode::Plain);
-    QVERIFY(f.child<QAction>("plainModeAction")->isChecked());
-    QTest::keyClick(f.child<QPlainTextEdit>("plainView"), Qt::Key_X);
-    QVERIFY(f.content().startsWith("x<p>A line"_L1));
-}
-
-// Wrapping substitutes, which eats such a marker.
-void TestTemplateEditor::markersAreNoHarm()
-{
-    EditorFixture f;
-    write(f.path(u"t.ozt"_s), "<ozm_template version=\"1.0\"><p>100%1 %5</p></ozm_template>");
-    QVERIFY(f.editor.openFile(f.path(u"t.ozt"_s)));
-    QCOMPARE(f.editor.sourceText(), u"<ozm_template version=\"1.0\"><p>100%1 %5</p></ozm_template>"_s);
-    f.trigger("saveAction");
-    QVERIFY(f.editor.openFile(f.path(u"t.ozt"_s)));
-    QCOMPARE(f.content(), u"<p>100%1 %5</p>"_s);
-}
-
 void TestTemplateEditor::scriptsAreEditedInPlace()
 {
     EditorFixture f;
@@ -753,18 +589,5 @@ void TestTemplateEditor::everythingHasAName()
         QVERIFY2(!f.child<QWidget>(name)->accessibleName().isEmpty(), name);
 }
 
-int main(int argc, char **argv)
-{
-    QApplication application(argc, argv);
-    if (!application.arguments().contains(kLeaveCopy)) {
-        TestTemplateEditor test;
-        return QTest::qExec(&test, argc, argv);
-    }
-    // Ends as a program that crashes does: nothing is destroyed.
-    QStandardPaths::setTestModeEnabled(true);
-    auto *autosave = new TemplateAutosave(u"ozm-test-SampleTemplateEditor"_s);
-    autosave->store(u"/somewhere/t.ozt"_s, u"<p>rescued</p>"_s);
-    std::_Exit(0);
-}
-
+QTEST_MAIN(TestTemplateEditor)
 #include "tst_templateeditor.moc"

@@ -1,0 +1,223 @@
+#include "editor/EditorFixture.h"
+#include "support/StrictTest.h"
+
+#include <ozm_widgets/TemplateAutosave.h>
+
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTextEdit>
+
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+using namespace ozm;
+using namespace ozm::test;
+
+namespace {
+
+const QString kLeaveCopy = u"--leave-copy"_s;
+
+} // namespace
+
+class TestTemplateEditorFiles : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void closingAsks_data();
+    void closingAsks();
+    void badInputChangesNothing_data();
+    void badInputChangesNothing();
+    void failedSavesKeepTheWork();
+    void changesOnDiskAreNoticed();
+    void crashesLoseNothing();
+    void largeTemplatesOpen();
+    void markersAreNoHarm();
+};
+
+void TestTemplateEditorFiles::closingAsks_data()
+{
+    QTest::addColumn<QMessageBox::StandardButton>("answer");
+    QTest::addColumn<bool>("closed");
+    QTest::addColumn<bool>("written");
+
+    QTest::newRow("save") << QMessageBox::Save << true << true;
+    QTest::newRow("discard") << QMessageBox::Discard << true << false;
+    QTest::newRow("cancel") << QMessageBox::Cancel << false << false;
+}
+
+void TestTemplateEditorFiles::closingAsks()
+{
+    QFETCH(const QMessageBox::StandardButton, answer);
+    QFETCH(const bool, closed);
+    QFETCH(const bool, written);
+
+    EditorFixture f;
+    f.answerPath(f.path(u"t.ozt"_s));
+    QTest::keyClick(f.child<QTextEdit>("richView"), Qt::Key_A);
+    {
+        BoxDriver box([answer](OzmMessageBox *shown) { press(shown, answer); });
+        QCOMPARE(f.editor.close(), closed);
+        QCOMPARE(box.shown(), 1);
+    }
+    QCOMPARE(QFile::exists(f.path(u"t.ozt"_s)), written);
+    QCOMPARE(f.content(), u"<div>a</div>"_s);
+    if (!closed) {
+        // The question is asked wherever work would go.
+        BoxDriver box([](OzmMessageBox *shown) { press(shown, QMessageBox::Cancel); });
+        f.trigger("newAction");
+        f.trigger("openAction");
+        QCOMPARE(box.shown(), 2);
+        QCOMPARE(f.content(), u"<div>a</div>"_s);
+    }
+}
+
+void TestTemplateEditorFiles::badInputChangesNothing_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+
+    QTest::newRow("wrong version") << QByteArray("<ozm_template version=\"1.1\">a</ozm_template>");
+    QTest::newRow("truncated") << QByteArray("<ozm_template version=\"1.0\"><p>a");
+    QTest::newRow("binary") << QByteArray("\x7f\x45\x4c\x46\x00\x01\x02\xff\xfe\x00", 10);
+}
+
+void TestTemplateEditorFiles::badInputChangesNothing()
+{
+    QFETCH(const QByteArray, bytes);
+
+    EditorFixture f;
+    f.setContent(u"<p>mine</p>"_s);
+    QTest::keyClick(f.child<QTextEdit>("richView"), Qt::Key_A);
+    const QString mine = f.content();
+    write(f.path(u"bad.ozt"_s), bytes);
+    QStringList texts;
+    BoxDriver box([&texts](OzmMessageBox *shown) {
+        texts.append(shown->text());
+        press(shown, QMessageBox::Ok);
+    });
+    QVERIFY(!f.editor.setSourceText(QString::fromUtf8(bytes)));
+    QCOMPARE(texts, QStringList{u"Wrong template editor content format."_s});
+    QVERIFY(!f.editor.openFile(f.path(u"bad.ozt"_s)));
+    QCOMPARE(texts.size(), 2);
+    QVERIFY2(texts.last().contains("Wrong template editor content format."_L1), qPrintable(texts.last()));
+    QVERIFY(!f.editor.openFile(f.path(u"none.ozt"_s)));
+    QCOMPARE(texts.size(), 3);
+    QCOMPARE(f.content(), mine);
+    QVERIFY(f.editor.isModified());
+}
+
+void TestTemplateEditorFiles::failedSavesKeepTheWork()
+{
+    EditorFixture f;
+    QTest::keyClick(f.child<QTextEdit>("richView"), Qt::Key_A);
+    f.answerPath(f.path(u"no such folder/t.ozt"_s));
+    QString text;
+    BoxDriver box([&text](OzmMessageBox *shown) {
+        text = shown->text();
+        press(shown, QMessageBox::Ok);
+    });
+    f.trigger("saveAction");
+    QCOMPARE(box.shown(), 1);
+    QVERIFY2(text.contains("unchanged in the window"_L1), qPrintable(text));
+    QVERIFY(f.editor.isModified());
+    QVERIFY(f.editor.filePath().isEmpty());
+    QCOMPARE(f.content(), u"<div>a</div>"_s);
+    f.trigger("pdfAction");
+    QCOMPARE(box.shown(), 2);
+}
+
+void TestTemplateEditorFiles::changesOnDiskAreNoticed()
+{
+    EditorFixture f;
+    f.answerPath(f.path(u"t.ozt"_s));
+    f.setContent(u"<p>one</p>"_s);
+    f.trigger("saveAction");
+    write(f.path(u"t.ozt"_s), "<ozm_template version=\"1.0\"><p>theirs, longer</p></ozm_template>");
+    QTest::keyClick(f.child<QTextEdit>("richView"), Qt::Key_A);
+    {
+        BoxDriver box([](OzmMessageBox *shown) { press(shown, QMessageBox::Cancel); });
+        f.trigger("saveAction");
+        QCOMPARE(box.shown(), 1);
+    }
+    QVERIFY(f.editor.isModified());
+    QFile theirs(f.path(u"t.ozt"_s));
+    QVERIFY(theirs.open(QIODevice::ReadOnly));
+    QVERIFY(theirs.readAll().contains("theirs"));
+    theirs.close();
+    int shown = 0;
+    {
+        BoxDriver box([&shown](OzmMessageBox *asked) {
+            ++shown;
+            press(asked, QMessageBox::Yes);
+        });
+        f.editor.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&f.editor));
+        QEvent activated(QEvent::ActivationChange);
+        QApplication::sendEvent(&f.editor, &activated);
+        QTRY_COMPARE(shown, 1);
+    }
+    QCOMPARE(f.content(), u"<p>theirs, longer</p>"_s);
+    QVERIFY(!f.editor.isModified());
+}
+
+void TestTemplateEditorFiles::crashesLoseNothing()
+{
+    for (const auto answer : {QMessageBox::Yes, QMessageBox::No}) {
+        QCOMPARE(QProcess::execute(QCoreApplication::applicationFilePath(), {kLeaveCopy}), 0);
+        int shown = 0;
+        BoxDriver box([&shown, answer](OzmMessageBox *asked) {
+            ++shown;
+            press(asked, answer);
+        });
+        EditorFixture f(false);
+        QTRY_COMPARE(shown, 1);
+        QCOMPARE(f.content(), answer == QMessageBox::Yes ? u"<p>rescued</p>"_s : QString());
+        QCOMPARE(f.editor.isModified(), answer == QMessageBox::Yes);
+        QCOMPARE(f.editor.filePath(), answer == QMessageBox::Yes ? u"/somewhere/t.ozt"_s : QString());
+    }
+}
+
+void TestTemplateEditorFiles::largeTemplatesOpen()
+{
+    EditorFixture f;
+    const QByteArray line = "<p>A line of a large template with [Lot].</p>\n";
+    write(f.path(u"large.ozt"_s),
+          "<ozm_template version=\"1.0\">" + line.repeated(10'000'000 / line.size()) + "</ozm_template>");
+    QVERIFY(f.editor.openFile(f.path(u"large.ozt"_s)));
+    QCOMPARE(f.editor.mode(), AbstractTemplateEditor::Mode::Plain);
+    f.trigger("richModeAction");
+    QCOMPARE(f.editor.mode(), AbstractTemplateEditor::Mode::Plain);
+    QVERIFY(f.child<QAction>("plainModeAction")->isChecked());
+    QTest::keyClick(f.child<QPlainTextEdit>("plainView"), Qt::Key_X);
+    QVERIFY(f.content().startsWith("x<p>A line"_L1));
+}
+
+// Wrapping substitutes, which eats such a marker.
+void TestTemplateEditorFiles::markersAreNoHarm()
+{
+    EditorFixture f;
+    write(f.path(u"t.ozt"_s), "<ozm_template version=\"1.0\"><p>100%1 %5</p></ozm_template>");
+    QVERIFY(f.editor.openFile(f.path(u"t.ozt"_s)));
+    QCOMPARE(f.editor.sourceText(), u"<ozm_template version=\"1.0\"><p>100%1 %5</p></ozm_template>"_s);
+    f.trigger("saveAction");
+    QVERIFY(f.editor.openFile(f.path(u"t.ozt"_s)));
+    QCOMPARE(f.content(), u"<p>100%1 %5</p>"_s);
+}
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    if (!application.arguments().contains(kLeaveCopy)) {
+        TestTemplateEditorFiles test;
+        return QTest::qExec(&test, argc, argv);
+    }
+    // Ends as a program that crashes does: nothing is destroyed.
+    QStandardPaths::setTestModeEnabled(true);
+    auto *autosave = new TemplateAutosave(u"ozm-test-SampleTemplateEditor"_s);
+    autosave->store(u"/somewhere/t.ozt"_s, u"<p>rescued</p>"_s);
+    std::_Exit(0);
+}
+
+#include "tst_templateeditorfiles.moc"
