@@ -39,10 +39,11 @@ private:
     void placeMargin();
     void paintMargin(QPaintEvent *event);
 
-    Margin *m_margin;
-    CodeCompleter *m_completer = nullptr;
-    int m_markedLine = 0;
+    // Before the margin, which sends this an event as soon as it is made.
     bool m_isUndoneOutside = false;
+    int m_markedLine = 0;
+    CodeCompleter *m_completer = nullptr;
+    Margin *m_margin;
 };
 
 } // namespace ozm::editor
