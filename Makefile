@@ -5,12 +5,13 @@ PRESET ?= dev
 QT_TOOLS ?= $(addsuffix /,$(wildcard /usr/lib/qt6/bin))
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: help run test check bench install format translations clean
+.PHONY: help run test check tidy bench install format translations clean
 
 help:
 	@echo "make run      the workbench, or its batch mode where there is no display"
 	@echo "make test     build everything and run the tests"
 	@echo "make check    format, clang-tidy, headers, consumer, sanitizers"
+	@echo "make tidy     clang-tidy on every source, however long it takes"
 	@echo "make bench    the benchmarks, as ratios"
 	@echo "make translations  brings the texts to translate up to date"
 	@echo "make install  into PREFIX (default /usr/local)"
@@ -31,6 +32,12 @@ check:
 	@.ci/setup build web check
 	@mkdir -p build
 	@JOBS=$(JOBS) .ci/check
+
+tidy:
+	@.ci/setup build check
+	@cmake --preset ci >/dev/null
+	cmake --build --preset ci -j $(JOBS)
+	@JOBS=$(JOBS) .ci/tidy
 
 bench:
 	@.ci/setup build bench

@@ -212,6 +212,7 @@ private:
     Error report()
     {
         std::vector<RowNode> all;
+        all.reserve(size_t(m_editor.table().rowCount()));
         for (int index = 0; index < m_editor.table().rowCount(); ++index)
             all.push_back(*m_editor.table().row(index));
         const std::vector<RowNode> first(all.begin(),

@@ -35,6 +35,7 @@ public:
     QAction *listData = nullptr;
     QAction *exportTrail = nullptr;
     QAction *report = nullptr;
+    QAction *editTemplate = nullptr;
     QAction *style = nullptr;
 
 private:

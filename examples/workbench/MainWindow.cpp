@@ -14,6 +14,7 @@
 #include "SampleTableView.h"
 #include "StyleDialog.h"
 #include "TrailView.h"
+#include "WorkbenchTemplateEditor.h"
 
 #include <ozm_widgets/BlackSplitterHandle.h>
 #include <ozm_widgets/FileCrawlerDialog.h>
@@ -99,6 +100,7 @@ void MainWindow::connectActions()
     connect(m_actions->redo, &QAction::triggered, &m_editor, &SampleEditor::redo);
     connect(m_actions->exportTrail, &QAction::triggered, this, &MainWindow::askExport);
     connect(m_actions->report, &QAction::triggered, this, &MainWindow::showReport);
+    connect(m_actions->editTemplate, &QAction::triggered, this, &MainWindow::editTemplate);
     connect(m_actions->style, &QAction::triggered, this, [this] { StyleDialog(this).exec(); });
 }
 
@@ -228,7 +230,7 @@ void MainWindow::askRename()
     dialog->open();
 }
 
-void MainWindow::showReport()
+std::vector<RowNode> MainWindow::reportedRows() const
 {
     const QList<qint64> ids = selectedIds();
     std::vector<RowNode> rows;
@@ -237,9 +239,28 @@ void MainWindow::showReport()
         if (ids.isEmpty() || ids.contains(SampleTable::idOf(row)))
             rows.push_back(row);
     }
+    return rows;
+}
+
+ReportContext MainWindow::reportContext(const std::vector<RowNode> &rows) const
+{
     const QString source = m_file.isEmpty() ? tr("the open table") : QFileInfo(m_file).fileName();
-    const ReportContext context(m_editor.user(), source, rows);
+    return {m_editor.user(), source, rows};
+}
+
+void MainWindow::showReport()
+{
+    std::vector<RowNode> rows = reportedRows();
+    const ReportContext context = reportContext(rows);
     ReportDialog(std::move(rows), context, this).exec();
+}
+
+void MainWindow::editTemplate()
+{
+    std::vector<RowNode> rows = reportedRows();
+    const ReportContext context = reportContext(rows);
+    // Without a parent, so that it may stand behind this window.
+    (new WorkbenchTemplateEditor(std::move(rows), context))->show();
 }
 
 void MainWindow::deleteSelected()

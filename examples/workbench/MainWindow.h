@@ -4,15 +4,19 @@
 
 #include <QMainWindow>
 
+#include <vector>
+
 class QDockWidget;
 class QLabel;
 class QStackedWidget;
+class RowNode;
 
 namespace workbench {
 
 class AuditTrailModel;
 class DataImport;
 class MainActions;
+class ReportContext;
 class SampleEditor;
 class SampleTableModel;
 class SampleTableView;
@@ -56,6 +60,9 @@ private:
     void askExport();
     void askRename();
     void showReport();
+    void editTemplate();
+    [[nodiscard]] std::vector<RowNode> reportedRows() const;
+    [[nodiscard]] ReportContext reportContext(const std::vector<RowNode> &rows) const;
     void deleteSelected();
     void showTrouble(const ozm::Error &error);
     void showImport(const QString &summary, const QStringList &refusals);

@@ -10,22 +10,90 @@
 #include <QMetaObject>
 #include <QString>
 
+#include <memory>
+
 class RowNode;
 
 /**
- * Report templates: texts with short codes such as "[Name]" and with pieces of script, filled with data.
+ * The window in which report templates are written, and the functions that fill them with data.
+ *
+ * A template is a text with short codes such as "[Name]" and with pieces of script. The window shows it as
+ * formatted text, in which codes and scripts are chips, or as its source; beside it what a report will look
+ * like. An application derives from it, and says which codes there are and what data the preview shows:
+ *
+ *     class CertificateEditor : public AbstractTemplateEditor
+ *     {
+ *     public:
+ *         QList<ShortCode> shortCodes() const override { return sampleCodes(); }
+ *         QList<RowNode *> previewRows() const override { return m_rows; }
+ *     };
+ *
+ *     editor->setSourceText(stored);
+ *     connect(editor, &AbstractTemplateEditor::saved, this, [editor] { store(editor->sourceText()); });
+ *
+ * What the window is given, and what it hands out, stands in its envelope (see TECWrapper). Decoding is for
+ * content, with and without window:
  *
  *     const QString line = AbstractTemplateEditor::decodeTEC(u"[Sequence], [Charge]+"_s, &row, {});
  *
  * Codes without a value stay in the text, and so does the code of a script that fails; decodeTECReport()
  * says which, and gives the very text that decodeTEC() gives. Script tags stay, too: a text for readers
- * goes through withoutScriptTags(). Decoding is for the GUI thread.
+ * goes through withoutScriptTags(). GUI thread.
  */
 class OZM_WIDGETS_EXPORT AbstractTemplateEditor : public QMainWindow
 {
     Q_OBJECT
 
 public:
+    class Private;
+
+    enum class Mode
+    {
+        Rich, ///< Formatted text with chips.
+        Plain ///< The source.
+    };
+    Q_ENUM(Mode)
+
+    explicit AbstractTemplateEditor(QWidget *parent = nullptr);
+    ~AbstractTemplateEditor() override;
+
+    // What an application says of its templates. Asked when the window is shown, and by refresh().
+
+    /// The codes that are offered. Others are marked as unknown, unless there are none at all.
+    [[nodiscard]] virtual QList<ShortCode> shortCodes() const = 0;
+    /// What the preview is filled with; must outlive the window, or the next refresh().
+    [[nodiscard]] virtual QList<RowNode *> previewRows() const;
+    /// What @p row is called in the preview; unless overridden, its first value.
+    [[nodiscard]] virtual QString previewName(const RowNode &row) const;
+    /// What fills codes that @p row does not know; null stands for all rows as a group, or for none.
+    [[nodiscard]] virtual QList<DecodeTecExtraData> extraData(const RowNode *row) const;
+    /// The folder in which questions for template files begin; empty leaves that to the accessor.
+    [[nodiscard]] virtual QString storageDirectory() const;
+
+    /// The template in its envelope; the very content that setSourceText() was given while nobody edited it.
+    [[nodiscard]] QString sourceText() const;
+    [[nodiscard]] Mode mode() const;
+    [[nodiscard]] bool isReadOnly() const;
+    [[nodiscard]] bool isModified() const;
+    /// Where the template was read from or saved to; empty for a new one.
+    [[nodiscard]] QString filePath() const;
+
+    /**
+     * Shows the template in the envelope @p wrapped in the place of the present one, without a question.
+     * False, with the message "Wrong template editor content format.", when it is in none or in one of
+     * another version: the window then keeps what it holds.
+     */
+    bool setSourceText(const QString &wrapped);
+    /// Shows the template in the file @p path. False, with a message, when it cannot be read.
+    bool openFile(const QString &path);
+    /// A template of more than eight million characters is shown as its source only.
+    void setMode(Mode mode);
+    void setReadOnly(bool readOnly);
+    /// Asks again for codes, rows and extra data.
+    void refresh();
+
+    // Decoding, with no window.
+
     /**
      * Decodes a template in its envelope against the properties of @p extraData. Codes are patterns here: the
      * first property of its own (not inherited) that the code matches as a regular expression, in any letter
@@ -60,4 +128,18 @@ public:
     /// The codes that decoding understands for extra data of these types; a code that two types share is
     /// listed twice.
     [[nodiscard]] static QList<ShortCode> extraDataShortCodes(const QList<QMetaObject> &metaObjects);
+
+Q_SIGNALS:
+    /// After every edit, undo and redo, and when another template is shown.
+    void sourceTextChanged();
+    void modeChanged(AbstractTemplateEditor::Mode mode);
+    void saved(const QString &path);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    const std::unique_ptr<Private> d;
 };

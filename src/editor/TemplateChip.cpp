@@ -1,9 +1,7 @@
 #include "editor/TemplateChip.h"
 
-#include <QApplication>
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPalette>
 #include <QTextDocument>
 
 #include <array>
@@ -23,11 +21,19 @@ constexpr qreal kSideMargin = 4.0;
 constexpr qreal kGapToText = 1.0;
 constexpr qreal kCornerRadius = 3.0;
 
+// Objects have no descent of their own: only at the bottom of the line, their text is level with the text
+// around them.
+constexpr auto kAlignment = QTextCharFormat::AlignBottom;
+
+// By how much HTML's sizes -2 to +4 are larger than the usual one.
+constexpr std::array kSizes{0.7, 0.8, 1.0, 1.2, 1.5, 2.0, 2.4};
+constexpr int kUsualSize = 2;
+
 struct ChipLook
 {
     PartKind kind;
     QLatin1StringView sign;
-    /// Mixed with the palette's base and text colours, so that it is right on light and on dark.
+    /// Mixed with the colours of the text, so that it is right on a selection, too.
     Qt::GlobalColor tint;
 };
 
@@ -49,7 +55,12 @@ QColor mixed(const QColor &a, const QColor &b, qreal share)
 
 QFont chipFont(QTextDocument *document, const QTextFormat &format)
 {
-    return format.toCharFormat().font().resolve(document->defaultFont());
+    QFont font = format.toCharFormat().font().resolve(document->defaultFont());
+    const int size = kUsualSize + format.intProperty(QTextFormat::FontSizeAdjustment);
+    if (size != kUsualSize && font.pointSizeF() > 0) {
+        font.setPointSizeF(font.pointSizeF() * kSizes.at(size_t(qBound(0, size, int(kSizes.size()) - 1))));
+    }
+    return font;
 }
 
 QString firstLine(const QString &text)
@@ -77,7 +88,7 @@ QTextCharFormat chipFormat(const TemplatePart &part, const QTextCharFormat &base
     format.setProperty(kKindProperty, int(part.kind));
     format.setProperty(kSourceProperty, part.source);
     if (format.verticalAlignment() == QTextCharFormat::AlignNormal) {
-        format.setVerticalAlignment(QTextCharFormat::AlignBaseline);
+        format.setVerticalAlignment(kAlignment);
     }
     return format;
 }
@@ -100,7 +111,7 @@ QTextCharFormat withoutChip(QTextCharFormat format)
     format.clearProperty(QTextFormat::ObjectType);
     format.clearProperty(kKindProperty);
     format.clearProperty(kSourceProperty);
-    if (format.verticalAlignment() == QTextCharFormat::AlignBaseline) {
+    if (format.verticalAlignment() == kAlignment) {
         format.clearProperty(QTextFormat::TextVerticalAlignment);
     }
     return format;
@@ -132,10 +143,13 @@ void ChipPainter::drawObject(QPainter *painter, const QRectF &rect, QTextDocumen
 {
     const TemplatePart part = chipPart(format);
     const bool known = part.kind != PartKind::Code || isKnown(part.source);
-    const QPalette palette = QApplication::palette();
     const QColor tint = known ? QColor(lookOf(part.kind).tint) : QColor(Qt::red);
-    const QColor base = palette.color(QPalette::Base);
-    const QColor text = palette.color(QPalette::Text);
+    // Templates are shown on paper, which is white; a selection brings its own colours.
+    const QTextCharFormat look = format.toCharFormat();
+    const QColor base =
+        look.background().style() == Qt::NoBrush ? QColor(Qt::white) : look.background().color();
+    const QColor text =
+        look.foreground().style() == Qt::NoBrush ? QColor(Qt::black) : look.foreground().color();
 
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);

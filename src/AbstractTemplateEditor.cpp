@@ -1,0 +1,124 @@
+#include <ozm_widgets/AbstractTemplateEditor.h>
+
+#include "editor/EditorFiles.h"
+#include "editor/TemplateEditorPrivate.h"
+
+#include <ozm_common_core_mini/RowNode.h>
+#include <ozm_widgets/TECWrapper.h>
+
+#include <QCloseEvent>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+AbstractTemplateEditor::AbstractTemplateEditor(QWidget *parent)
+    : QMainWindow(parent)
+    , d(std::make_unique<Private>(this))
+{
+    setObjectName(u"templateEditor"_s);
+}
+
+AbstractTemplateEditor::~AbstractTemplateEditor() = default;
+
+QList<RowNode *> AbstractTemplateEditor::previewRows() const
+{
+    return {};
+}
+
+QString AbstractTemplateEditor::previewName(const RowNode &row) const
+{
+    return row.columnCount() > 0 ? row.getDataAt(0).toString() : QString();
+}
+
+QList<DecodeTecExtraData> AbstractTemplateEditor::extraData(const RowNode *row) const
+{
+    Q_UNUSED(row);
+    return {};
+}
+
+QString AbstractTemplateEditor::storageDirectory() const
+{
+    return {};
+}
+
+QString AbstractTemplateEditor::sourceText() const
+{
+    return Private::wrap(d->content());
+}
+
+AbstractTemplateEditor::Mode AbstractTemplateEditor::mode() const
+{
+    return d->history->session().mode();
+}
+
+bool AbstractTemplateEditor::isReadOnly() const
+{
+    return d->isReadOnly;
+}
+
+bool AbstractTemplateEditor::isModified() const
+{
+    return d->isModified();
+}
+
+QString AbstractTemplateEditor::filePath() const
+{
+    return d->files->path();
+}
+
+bool AbstractTemplateEditor::setSourceText(const QString &wrapped)
+{
+    bool ok = false;
+    const QString content = TECWrapper::unwrapTEC(wrapped, &ok);
+    if (!ok) {
+        ozm::editor::tellWrongFormat(this);
+        return false;
+    }
+    d->show(content);
+    d->files->setNoFile();
+    return true;
+}
+
+bool AbstractTemplateEditor::openFile(const QString &path)
+{
+    return d->files->open(path);
+}
+
+void AbstractTemplateEditor::setMode(Mode mode)
+{
+    d->setMode(mode);
+}
+
+void AbstractTemplateEditor::setReadOnly(bool readOnly)
+{
+    d->setReadOnly(readOnly);
+}
+
+void AbstractTemplateEditor::refresh()
+{
+    d->refresh();
+}
+
+void AbstractTemplateEditor::closeEvent(QCloseEvent *event)
+{
+    event->setAccepted(d->files->mayDiscard());
+    if (event->isAccepted())
+        d->files->giveUp();
+}
+
+void AbstractTemplateEditor::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    if (std::exchange(d->isShown, true))
+        return;
+    refresh();
+    // Not before the window is there to be asked over.
+    QTimer::singleShot(0, this, [this] { d->files->offerRescued(); });
+}
+
+void AbstractTemplateEditor::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        QTimer::singleShot(0, this, [this] { d->files->checkDisk(); });
+}

@@ -1,0 +1,434 @@
+#include "editor/EditorActions.h"
+
+#include "editor/CodeEdit.h"
+#include "editor/CodeModel.h"
+#include "editor/CodePanel.h"
+#include "editor/EditorFiles.h"
+#include "editor/FindBar.h"
+#include "editor/RichTextView.h"
+#include "editor/ScriptPane.h"
+#include "editor/TableEditing.h"
+#include "editor/TemplateEditorPrivate.h"
+#include "editor/TextFormatting.h"
+
+#include <ozm_widgets/OZMStyle.h>
+
+#include <QAction>
+#include <QActionGroup>
+#include <QDockWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm::editor {
+
+namespace {
+
+using Editor = AbstractTemplateEditor::Private;
+using Side = TableEditing::Side;
+
+enum class Menu
+{
+    File,
+    Edit,
+    Insert,
+    Format,
+    Table,
+    View
+};
+
+struct MenuRow
+{
+    Menu menu;
+    const char *name;
+    const char *title;
+};
+
+constexpr std::array kMenus{
+    MenuRow{Menu::File, "fileMenu", QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&File")},
+    MenuRow{Menu::Edit, "editMenu", QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Edit")},
+    MenuRow{Menu::Insert, "insertMenu", QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Insert")},
+    MenuRow{Menu::Format, "formatMenu", QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "F&ormat")},
+    MenuRow{Menu::Table, "tableMenu", QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Table")},
+    MenuRow{Menu::View, "viewMenu", QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&View")},
+};
+
+enum Flag : unsigned
+{
+    None = 0,
+    Edits = 1,     ///< Not for a template that is read only.
+    Rich = 2,      ///< For formatted text only.
+    InTable = 4,   ///< Only where the cursor stands in a table.
+    Checked = 8,   ///< Shows whether it is in effect.
+    OnBar = 16,    ///< In the first tool bar.
+    OnFormat = 32, ///< In the tool bar of formats.
+    OnView = 64,   ///< In the context menu of the views.
+    Starts = 128   ///< Begins a group.
+};
+
+struct ActionRow
+{
+    const char *name;
+    Menu menu;
+    const char *icon;
+    const char *text;
+    const char *key;
+    void (*run)(Editor &editor);
+    unsigned flags;
+};
+
+#define OZM_TEXT(text) QT_TRANSLATE_NOOP("ozm::editor::EditorActions", text)
+
+bool isOn(const Editor &editor, const char *name)
+{
+    return editor.actions->action(name)->isChecked();
+}
+
+// Keys that the platform has a say in are in kPlatformKeys.
+constexpr std::array kActions{
+    ActionRow{"newAction", Menu::File, "document-new", OZM_TEXT("&New"), "",
+              [](Editor &e) { e.files->askNew(); }, OnBar},
+    ActionRow{"openAction", Menu::File, "document-open", OZM_TEXT("&Open…"), "",
+              [](Editor &e) { e.files->askOpen(); }, OnBar},
+    ActionRow{"saveAction", Menu::File, "document-save", OZM_TEXT("&Save"), "",
+              [](Editor &e) { e.files->save(); }, OnBar},
+    ActionRow{"saveAsAction", Menu::File, "document-save-as", OZM_TEXT("Save &as…"), "Ctrl+Shift+S",
+              [](Editor &e) { e.files->askSaveAs(); }, None},
+    ActionRow{"pageSetupAction", Menu::File, "", OZM_TEXT("Page set&up…"), "",
+              [](Editor &e) { e.printing.askPage(e.qptr); }, Starts},
+    ActionRow{"printPreviewAction", Menu::File, "document-print-preview", OZM_TEXT("Print pre&view…"), "",
+              [](Editor &e) { e.printing.preview(e.qptr, e.decodedForPaper()); }, None},
+    ActionRow{"printAction", Menu::File, "document-print", OZM_TEXT("&Print…"), "",
+              [](Editor &e) { e.printing.print(e.qptr, e.decodedForPaper()); }, OnBar | Starts},
+    ActionRow{"pdfAction", Menu::File, "document-pdf", OZM_TEXT("Save as P&DF…"), "Ctrl+Shift+D",
+              [](Editor &e) { e.askPdf(); }, OnBar},
+    ActionRow{"closeAction", Menu::File, "window-close", OZM_TEXT("&Close"), "",
+              [](Editor &e) { e.qptr->close(); }, Starts},
+
+    ActionRow{"undoAction", Menu::Edit, "edit-undo", OZM_TEXT("&Undo"), "",
+              [](Editor &e) { e.history->undo(); }, Edits | OnBar | OnView | Starts},
+    ActionRow{"redoAction", Menu::Edit, "edit-redo", OZM_TEXT("&Redo"), "",
+              [](Editor &e) { e.history->redo(); }, Edits | OnBar | OnView},
+    ActionRow{"cutAction", Menu::Edit, "edit-cut", OZM_TEXT("Cu&t"), "", [](Editor &e) { e.cut(); },
+              Edits | OnView | Starts},
+    ActionRow{"copyAction", Menu::Edit, "edit-copy", OZM_TEXT("&Copy"), "", [](Editor &e) { e.copy(); },
+              OnView},
+    ActionRow{"pasteAction", Menu::Edit, "edit-paste", OZM_TEXT("&Paste"), "", [](Editor &e) { e.paste(); },
+              Edits | OnView},
+    ActionRow{"pastePlainAction", Menu::Edit, "", OZM_TEXT("Paste as p&lain text"), "Ctrl+Shift+V",
+              [](Editor &e) { e.pastePlain(); }, Edits | OnView},
+    ActionRow{"selectAllAction", Menu::Edit, "edit-select-all", OZM_TEXT("Select &all"), "",
+              [](Editor &e) { e.selectAll(); }, OnView},
+    ActionRow{"findAction", Menu::Edit, "edit-find", OZM_TEXT("&Find…"), "", [](Editor &e) { e.find(false); },
+              OnBar | Starts},
+    ActionRow{"replaceAction", Menu::Edit, "edit-find-replace", OZM_TEXT("R&eplace…"), "Ctrl+H",
+              [](Editor &e) { e.find(true); }, Edits},
+    ActionRow{"findNextAction", Menu::Edit, "go-down", OZM_TEXT("Find &next"), "F3",
+              [](Editor &e) { e.findBar->findNext(); }, None},
+    ActionRow{"findPreviousAction", Menu::Edit, "go-up", OZM_TEXT("Find pre&vious"), "Shift+F3",
+              [](Editor &e) { e.findBar->findPrevious(); }, None},
+
+    ActionRow{"insertCodeAction", Menu::Insert, "insert-code", OZM_TEXT("&Code from the list…"),
+              "Ctrl+Shift+C",
+              [](Editor &e) {
+                  e.codeDock->show();
+                  e.codePanel->search();
+              },
+              Edits | OnBar | Starts},
+    ActionRow{"newScriptAction", Menu::Insert, "script", OZM_TEXT("&Script…"), "Ctrl+Shift+J",
+              [](Editor &e) { e.newScript(); }, Edits | OnBar},
+    ActionRow{"editScriptAction", Menu::Insert, "edit-rename", OZM_TEXT("&Edit the script at the cursor"),
+              "Ctrl+E", [](Editor &e) { e.editScript(); }, OnView | Starts},
+    ActionRow{"insertImageAction", Menu::Insert, "insert-image", OZM_TEXT("&Image…"), "Ctrl+Shift+I",
+              [](Editor &e) { e.askImage(); }, Edits | OnBar | Starts},
+    ActionRow{"insertLinkAction", Menu::Insert, "insert-link", OZM_TEXT("&Link…"), "Ctrl+K",
+              [](Editor &e) { e.askLink(); }, Edits | OnBar},
+    ActionRow{"insertTableAction", Menu::Insert, "insert-table", OZM_TEXT("&Table…"), "Ctrl+Shift+T",
+              [](Editor &e) { e.table.askInsert(); }, Edits | Rich | OnBar},
+
+    ActionRow{"boldAction", Menu::Format, "format-text-bold", OZM_TEXT("&Bold"), "Ctrl+B",
+              [](Editor &e) { e.format->setBold(isOn(e, "boldAction")); },
+              Edits | Rich | Checked | OnFormat | Starts},
+    ActionRow{"italicAction", Menu::Format, "format-text-italic", OZM_TEXT("&Italic"), "Ctrl+I",
+              [](Editor &e) { e.format->setItalic(isOn(e, "italicAction")); },
+              Edits | Rich | Checked | OnFormat},
+    ActionRow{"underlineAction", Menu::Format, "format-text-underline", OZM_TEXT("&Underline"), "Ctrl+U",
+              [](Editor &e) { e.format->setUnderline(isOn(e, "underlineAction")); },
+              Edits | Rich | Checked | OnFormat},
+    ActionRow{"strikeAction", Menu::Format, "format-text-strikethrough", OZM_TEXT("Stri&ke through"), "",
+              [](Editor &e) { e.format->setStrikeOut(isOn(e, "strikeAction")); },
+              Edits | Rich | Checked | OnFormat},
+    ActionRow{"superscriptAction", Menu::Format, "", OZM_TEXT("Su&perscript"), "Ctrl+.",
+              [](Editor &e) {
+                  e.format->setVerticalAlignment(QTextCharFormat::AlignSuperScript,
+                                                 isOn(e, "superscriptAction"));
+              },
+              Edits | Rich | Checked},
+    ActionRow{"subscriptAction", Menu::Format, "", OZM_TEXT("Subs&cript"), "Ctrl+,",
+              [](Editor &e) {
+                  e.format->setVerticalAlignment(QTextCharFormat::AlignSubScript, isOn(e, "subscriptAction"));
+              },
+              Edits | Rich | Checked},
+    ActionRow{"textColorAction", Menu::Format, "format-text-color", OZM_TEXT("&Colour of the text…"), "",
+              [](Editor &e) { e.format->askTextColor(); }, Edits | Rich | OnFormat | Starts},
+    ActionRow{"highlightAction", Menu::Format, "format-text-highlight", OZM_TEXT("Colour be&hind the text…"),
+              "", [](Editor &e) { e.format->askHighlight(); }, Edits | Rich | OnFormat},
+    ActionRow{"clearFormatAction", Menu::Format, "edit-clear", OZM_TEXT("Cl&ear formats"), "Ctrl+Space",
+              [](Editor &e) { e.format->clearFormat(); }, Edits | Rich},
+    ActionRow{"textAction", Menu::Format, "", OZM_TEXT("Te&xt"), "Ctrl+Alt+0",
+              [](Editor &e) { e.format->setHeading(0); }, Edits | Rich | Starts},
+    ActionRow{"heading1Action", Menu::Format, "", OZM_TEXT("Heading &1"), "Ctrl+Alt+1",
+              [](Editor &e) { e.format->setHeading(1); }, Edits | Rich},
+    ActionRow{"heading2Action", Menu::Format, "", OZM_TEXT("Heading &2"), "Ctrl+Alt+2",
+              [](Editor &e) { e.format->setHeading(2); }, Edits | Rich},
+    ActionRow{"heading3Action", Menu::Format, "", OZM_TEXT("Heading &3"), "Ctrl+Alt+3",
+              [](Editor &e) { e.format->setHeading(3); }, Edits | Rich},
+    ActionRow{"alignLeftAction", Menu::Format, "format-justify-left", OZM_TEXT("Align &left"), "Ctrl+L",
+              [](Editor &e) { e.format->setAlignment(Qt::AlignLeft); },
+              Edits | Rich | Checked | OnFormat | Starts},
+    ActionRow{"alignCenterAction", Menu::Format, "format-justify-center", OZM_TEXT("Ce&ntre"), "Ctrl+Alt+C",
+              [](Editor &e) { e.format->setAlignment(Qt::AlignHCenter); }, Edits | Rich | Checked | OnFormat},
+    ActionRow{"alignRightAction", Menu::Format, "format-justify-right", OZM_TEXT("Align &right"), "Ctrl+R",
+              [](Editor &e) { e.format->setAlignment(Qt::AlignRight); }, Edits | Rich | Checked | OnFormat},
+    ActionRow{"justifyAction", Menu::Format, "format-justify-fill", OZM_TEXT("&Justify"), "Ctrl+J",
+              [](Editor &e) { e.format->setAlignment(Qt::AlignJustify); }, Edits | Rich | Checked | OnFormat},
+    ActionRow{"bulletListAction", Menu::Format, "format-list-unordered", OZM_TEXT("&List"), "Ctrl+Shift+8",
+              [](Editor &e) { e.format->toggleList(QTextListFormat::ListDisc); },
+              Edits | Rich | Checked | OnFormat | Starts},
+    ActionRow{"numberListAction", Menu::Format, "format-list-ordered", OZM_TEXT("Nu&mbered list"),
+              "Ctrl+Shift+7", [](Editor &e) { e.format->toggleList(QTextListFormat::ListDecimal); },
+              Edits | Rich | Checked | OnFormat},
+    ActionRow{"indentLessAction", Menu::Format, "format-indent-less", OZM_TEXT("Indent l&ess"), "Ctrl+[",
+              [](Editor &e) { e.format->indent(-1); }, Edits | Rich | OnFormat},
+    ActionRow{"indentMoreAction", Menu::Format, "format-indent-more", OZM_TEXT("Ind&ent more"), "Ctrl+]",
+              [](Editor &e) { e.format->indent(1); }, Edits | Rich | OnFormat},
+
+    ActionRow{"rowAboveAction", Menu::Table, "table-row-insert", OZM_TEXT("Insert row &above"), "",
+              [](Editor &e) { e.table.insertRow(Side::Before); }, Edits | Rich | InTable | OnView | Starts},
+    ActionRow{"rowBelowAction", Menu::Table, "table-row-insert", OZM_TEXT("Insert row &below"),
+              "Ctrl+Alt+Down", [](Editor &e) { e.table.insertRow(Side::After); },
+              Edits | Rich | InTable | OnView},
+    ActionRow{"columnBeforeAction", Menu::Table, "table-column-insert", OZM_TEXT("Insert column be&fore"), "",
+              [](Editor &e) { e.table.insertColumn(Side::Before); }, Edits | Rich | InTable | OnView},
+    ActionRow{"columnAfterAction", Menu::Table, "table-column-insert", OZM_TEXT("Insert column af&ter"),
+              "Ctrl+Alt+Right", [](Editor &e) { e.table.insertColumn(Side::After); },
+              Edits | Rich | InTable | OnView},
+    ActionRow{"deleteRowAction", Menu::Table, "table-row-delete", OZM_TEXT("Delete &rows"), "",
+              [](Editor &e) { e.table.removeRows(); }, Edits | Rich | InTable | OnView | Starts},
+    ActionRow{"deleteColumnAction", Menu::Table, "table-column-delete", OZM_TEXT("Delete &columns"), "",
+              [](Editor &e) { e.table.removeColumns(); }, Edits | Rich | InTable | OnView},
+    ActionRow{"mergeCellsAction", Menu::Table, "table-cells-merge", OZM_TEXT("&Merge cells"), "",
+              [](Editor &e) { e.table.mergeCells(); }, Edits | Rich | InTable | OnView | Starts},
+    ActionRow{"splitCellAction", Menu::Table, "table-cells-split", OZM_TEXT("&Split cell"), "",
+              [](Editor &e) { e.table.splitCell(); }, Edits | Rich | InTable | OnView},
+
+    ActionRow{"richModeAction", Menu::View, "format-font", OZM_TEXT("&Formatted text"), "Ctrl+Shift+F",
+              [](Editor &e) { e.qptr->setMode(AbstractTemplateEditor::Mode::Rich); },
+              Checked | OnBar | Starts},
+    ActionRow{"plainModeAction", Menu::View, "view-source", OZM_TEXT("&Source"), "Ctrl+Shift+U",
+              [](Editor &e) { e.qptr->setMode(AbstractTemplateEditor::Mode::Plain); }, Checked | OnBar},
+    ActionRow{"refreshAction", Menu::View, "view-refresh", OZM_TEXT("&Refresh preview"), "F5",
+              [](Editor &e) { e.refresh(); }, Starts},
+    ActionRow{"runScriptAction", Menu::View, "run", OZM_TEXT("R&un the script"), "Ctrl+Return",
+              [](Editor &e) {
+                  e.scriptDock->show();
+                  e.scriptPane->run();
+              },
+              None},
+};
+
+struct PlatformKey
+{
+    const char *name;
+    QKeySequence::StandardKey key;
+};
+
+constexpr std::array kPlatformKeys{
+    PlatformKey{"newAction", QKeySequence::New},     PlatformKey{"openAction", QKeySequence::Open},
+    PlatformKey{"saveAction", QKeySequence::Save},   PlatformKey{"printAction", QKeySequence::Print},
+    PlatformKey{"closeAction", QKeySequence::Close}, PlatformKey{"undoAction", QKeySequence::Undo},
+    PlatformKey{"redoAction", QKeySequence::Redo},   PlatformKey{"cutAction", QKeySequence::Cut},
+    PlatformKey{"copyAction", QKeySequence::Copy},   PlatformKey{"pasteAction", QKeySequence::Paste},
+    PlatformKey{"findAction", QKeySequence::Find},   PlatformKey{"selectAllAction", QKeySequence::SelectAll},
+};
+
+QAction *makeAction(const ActionRow &row, QObject *parent)
+{
+    auto *action = new QAction(EditorActions::tr(row.text), parent);
+    action->setObjectName(QString::fromLatin1(row.name));
+    action->setCheckable(row.flags & Checked);
+    if (*row.icon)
+        action->setIcon(OZMStyle::icon(QString::fromLatin1(row.icon)));
+    if (*row.key)
+        action->setShortcut(QKeySequence(QString::fromLatin1(row.key)));
+    return action;
+}
+
+/// The key is nowhere else to be seen on a tool bar.
+void addKeyToTip(QAction *action)
+{
+    const QString key = action->shortcut().toString(QKeySequence::NativeText);
+    const QString text = action->toolTip();
+    action->setToolTip(key.isEmpty() ? text : u"%1 (%2)"_s.arg(text, key));
+}
+
+template <typename Menu>
+void addTo(Menu *menu, const ActionRow &row, QAction *action)
+{
+    if ((row.flags & Starts) && !menu->actions().isEmpty())
+        menu->addSeparator();
+    menu->addAction(action);
+}
+
+} // namespace
+
+EditorActions::EditorActions(Editor &editor)
+    : m_editor(editor)
+{
+    makeActions();
+    makeMenus();
+    makeToolBars();
+}
+
+void EditorActions::makeActions()
+{
+    for (const ActionRow &row : kActions) {
+        QAction *action = makeAction(row, m_editor.qptr);
+        m_actions.insert(row.name, action);
+        connect(action, &QAction::triggered, this, [this, run = row.run] {
+            run(m_editor);
+            update();
+        });
+    }
+    for (const PlatformKey &row : kPlatformKeys)
+        action(row.name)->setShortcuts(row.key);
+    for (QAction *action : std::as_const(m_actions))
+        addKeyToTip(action);
+    auto *modes = new QActionGroup(this);
+    modes->addAction(action("richModeAction"));
+    modes->addAction(action("plainModeAction"));
+}
+
+void EditorActions::makeMenus()
+{
+    for (const MenuRow &menuRow : kMenus) {
+        QMenu *menu = m_editor.qptr->menuBar()->addMenu(tr(menuRow.title));
+        menu->setObjectName(QString::fromLatin1(menuRow.name));
+        for (const ActionRow &row : kActions) {
+            if (row.menu == menuRow.menu)
+                addTo(menu, row, action(row.name));
+        }
+        if (menuRow.menu == Menu::View)
+            addViewEntries(menu);
+    }
+    auto *recent = new QMenu(tr("Recent &files"), m_editor.qptr);
+    recent->setObjectName(u"recentMenu"_s);
+    m_editor.qptr->findChild<QMenu *>(u"fileMenu"_s)->insertMenu(action("saveAction"), recent);
+    connect(m_editor.qptr->findChild<QMenu *>(u"fileMenu"_s), &QMenu::aboutToShow, this,
+            [this, recent] { m_editor.files->fillRecentMenu(recent); });
+    auto *codes = new QMenu(tr("C&ode"), m_editor.qptr);
+    codes->setObjectName(u"codeMenu"_s);
+    codes->setIcon(OZMStyle::icon(u"insert-code"_s));
+    m_editor.qptr->findChild<QMenu *>(u"insertMenu"_s)->insertMenu(action("newScriptAction"), codes);
+    connect(codes, &QMenu::aboutToShow, this, [this, codes] { fillCodeMenu(codes); });
+    for (QWidget *view : std::initializer_list<QWidget *>{m_editor.rich, m_editor.plain}) {
+        view->setContextMenuPolicy(Qt::ActionsContextMenu);
+        for (const ActionRow &row : kActions) {
+            if (row.flags & OnView)
+                view->addAction(action(row.name));
+        }
+    }
+}
+
+void EditorActions::addViewEntries(QMenu *menu)
+{
+    menu->addSeparator();
+    for (const QDockWidget *dock : {m_editor.codeDock, m_editor.scriptDock, m_editor.previewDock})
+        menu->addAction(dock->toggleViewAction());
+}
+
+void EditorActions::fillCodeMenu(QMenu *menu)
+{
+    menu->clear();
+    menu->setToolTipsVisible(true);
+    for (int row = 0; row < m_editor.codes->rowCount(); ++row) {
+        const QString code = m_editor.codes->codeAt(row);
+        QAction *action = menu->addAction(m_editor.codes->item(row)->text().replace(u'&', "&&"_L1));
+        action->setObjectName(u"codeAction"_s + code);
+        action->setToolTip(m_editor.codes->toolTip(code));
+        action->setDisabled(m_editor.isReadOnly);
+        connect(action, &QAction::triggered, this, [this, code] { m_editor.insertCode(code); });
+    }
+    menu->setDisabled(menu->isEmpty());
+}
+
+void EditorActions::makeToolBars()
+{
+    QToolBar *bar = m_editor.qptr->addToolBar(tr("Template"));
+    bar->setObjectName(u"mainToolBar"_s);
+    m_editor.qptr->addToolBarBreak();
+    QToolBar *format = m_editor.qptr->addToolBar(tr("Format"));
+    format->setObjectName(u"formatToolBar"_s);
+    m_editor.format->addChoices(format);
+    for (const ActionRow &row : kActions) {
+        if (row.flags & OnBar)
+            addTo(bar, row, action(row.name));
+        if (row.flags & OnFormat)
+            addTo(format, row, action(row.name));
+    }
+}
+
+QAction *EditorActions::action(const char *name) const
+{
+    QAction *action = m_actions.value(name);
+    Q_ASSERT_X(action, "EditorActions", name);
+    return action;
+}
+
+void EditorActions::check(const char *name, bool on) const
+{
+    action(name)->setChecked(on);
+}
+
+void EditorActions::update()
+{
+    const bool rich = m_editor.isRich();
+    const bool inTable = rich && m_editor.table.isInTable();
+    for (const ActionRow &row : kActions) {
+        action(row.name)->setEnabled((!(row.flags & Edits) || !m_editor.isReadOnly) &&
+                                     (!(row.flags & Rich) || rich) && (!(row.flags & InTable) || inTable));
+    }
+    if (!m_editor.isReadOnly) {
+        action("undoAction")->setEnabled(m_editor.history->stack().canUndo());
+        action("redoAction")->setEnabled(m_editor.history->stack().canRedo());
+        action("mergeCellsAction")->setEnabled(inTable && m_editor.table.canMerge());
+        action("splitCellAction")->setEnabled(inTable && m_editor.table.canSplit());
+    }
+    check("richModeAction", rich);
+    check("plainModeAction", !rich);
+    auto *bar = m_editor.qptr->findChild<QToolBar *>(u"formatToolBar"_s);
+    bar->setEnabled(rich && !m_editor.isReadOnly);
+    if (!rich)
+        return;
+    const QTextCharFormat format = m_editor.format->format();
+    check("boldAction", format.fontWeight() >= QFont::DemiBold);
+    check("italicAction", format.fontItalic());
+    check("underlineAction", format.fontUnderline());
+    check("strikeAction", format.fontStrikeOut());
+    check("superscriptAction", format.verticalAlignment() == QTextCharFormat::AlignSuperScript);
+    check("subscriptAction", format.verticalAlignment() == QTextCharFormat::AlignSubScript);
+    const Qt::Alignment alignment = m_editor.format->alignment();
+    check("alignCenterAction", alignment == Qt::AlignHCenter);
+    check("alignRightAction", alignment == Qt::AlignRight);
+    check("justifyAction", alignment == Qt::AlignJustify);
+    check("alignLeftAction", alignment == Qt::AlignLeft || alignment == Qt::Alignment());
+    const QTextListFormat::Style list = m_editor.format->listStyle();
+    check("bulletListAction", list == QTextListFormat::ListDisc);
+    check("numberListAction", list == QTextListFormat::ListDecimal);
+}
+
+} // namespace ozm::editor

@@ -1,0 +1,318 @@
+#include "editor/EditorFiles.h"
+
+#include <ozm_references/LocalResourceReference.h>
+#include <ozm_widgets/AbstractTemplateEditor.h>
+#include <ozm_widgets/DefaultWidgetCreator.h>
+#include <ozm_widgets/OZMStyle.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMenu>
+#include <QScopedValueRollback>
+#include <QSettings>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm::editor {
+
+namespace {
+
+using Signal = OzmMessageBoxSignal;
+
+constexpr int kStoreAfterMs = 2000;
+constexpr int kRecentFiles = 8;
+constexpr auto kRecentKey = "templateEditor/recentFiles"_L1;
+
+IFileAccessor::DirLocation templateLocation()
+{
+    static const auto location = FileSystemSettings::addLocation(u"templates"_s);
+    return location;
+}
+
+FileExtensionsNameFilter openFilter()
+{
+    return FileExtensionsNameFilter(
+        EditorFiles::tr("Templates and pages (*.ozt *.html *.htm *.txt);;All files (*)"));
+}
+
+FileExtensionsNameFilter saveFilter()
+{
+    return FileExtensionsNameFilter(EditorFiles::tr("Templates (*.ozt);;Templates as HTML (*.html)"));
+}
+
+IFileAccessor::DestinationFileLocation locationOf(const QString &path)
+{
+    auto reference = QSharedPointer<LocalResourceReference>::create();
+    // Refused, it stays the reference to nothing, which is then what cannot be written.
+    (void)reference->setPath(path);
+    return {reference, QFileInfo(path).fileName()};
+}
+
+QSettings settings()
+{
+    // An application without an organization is its own.
+    const QString organization = QCoreApplication::organizationName();
+    const QString application = QCoreApplication::applicationName();
+    return QSettings(organization.isEmpty() ? application : organization, application);
+}
+
+QString storageName(const QObject &editor)
+{
+    return QString::fromLatin1(editor.metaObject()->className()).replace("::"_L1, "-"_L1);
+}
+
+} // namespace
+
+void tellWrongFormat(QWidget *parent)
+{
+    OZMStyle::critical(parent, Signal::TemplateError,
+                       EditorFiles::tr("Wrong template editor content format."));
+}
+
+EditorFiles::EditorFiles(AbstractTemplateEditor *editor, const Template &shown)
+    : m_editor(editor)
+    , m_shown(shown)
+    , m_file(std::make_unique<TemplateFile>())
+{
+    m_storeTimer.setSingleShot(true);
+    m_storeTimer.setInterval(kStoreAfterMs);
+    connect(&m_storeTimer, &QTimer::timeout, this, &EditorFiles::storeNow);
+}
+
+EditorFiles::~EditorFiles() = default;
+
+void EditorFiles::fillRecentMenu(QMenu *menu)
+{
+    menu->clear();
+    const QStringList paths = settings().value(kRecentKey).toStringList();
+    for (const QString &path : paths) {
+        QAction *action = menu->addAction(QFileInfo(path).fileName());
+        action->setObjectName(u"recentAction"_s);
+        action->setToolTip(QDir::toNativeSeparators(path));
+        connect(action, &QAction::triggered, this, [this, path] { openChosen(path); });
+    }
+    menu->setToolTipsVisible(true);
+    menu->setDisabled(paths.isEmpty());
+}
+
+void EditorFiles::remember(const QString &path)
+{
+    QSettings store = settings();
+    QStringList paths = store.value(kRecentKey).toStringList();
+    paths.removeAll(path);
+    paths.prepend(path);
+    store.setValue(kRecentKey, QStringList(paths.mid(0, kRecentFiles)));
+}
+
+void EditorFiles::askNew()
+{
+    if (!mayDiscard())
+        return;
+    m_shown.show({});
+    setNoFile();
+}
+
+void EditorFiles::askOpen()
+{
+    const QString path = DefaultWidgetCreator::fileAccessor()->getOpenFileName(
+        m_editor, tr("Open template"), m_editor->storageDirectory(), openFilter(), templateLocation());
+    if (!path.isEmpty())
+        openChosen(path);
+}
+
+void EditorFiles::openChosen(const QString &path)
+{
+    if (mayDiscard())
+        open(path);
+}
+
+Result<TemplateFile::Loaded> EditorFiles::read(const QString &path)
+{
+    // Reading a page lets events through.
+    const QScopedValueRollback asking(m_isAsking, true);
+    auto loaded = TemplateFile::read(path);
+    if (loaded || loaded.error().errorCode() != ErrorCode::NotAllowed)
+        return loaded;
+    const auto answer =
+        OZMStyle::question(m_editor, Signal::FileNotReadable, tr("Page without its reader"),
+                           tr("%1\n\nOpen all of its text as it stands?").arg(loaded.error().errorMessage()));
+    return answer == QMessageBox::Yes ? TemplateFile::read(path, TemplateFile::Page::AsText) : loaded;
+}
+
+bool EditorFiles::open(const QString &path)
+{
+    const auto loaded = read(path);
+    if (!loaded) {
+        // Said already, as the question.
+        if (loaded.error().errorCode() != ErrorCode::NotAllowed) {
+            OZMStyle::critical(m_editor, Signal::FileNotReadable, tr("Template not opened"),
+                               QDir::toNativeSeparators(path), loaded.error());
+        }
+        return false;
+    }
+    m_shown.show(loaded.value().content);
+    if (!loaded.value().converted) {
+        setPath(path, loaded.value().digest);
+        return true;
+    }
+    // Saved over, the page would be gone for whoever wrote it.
+    setNoFile();
+    m_shown.setUnsaved();
+    Q_EMIT told(tr("The body of the page was taken over as a new template."));
+    return true;
+}
+
+void EditorFiles::setPath(const QString &path, const QByteArray &digest)
+{
+    m_file->opened(path, digest);
+    giveUp();
+    remember(path);
+    Q_EMIT pathChanged();
+}
+
+void EditorFiles::setNoFile()
+{
+    m_file = std::make_unique<TemplateFile>();
+    giveUp();
+    Q_EMIT pathChanged();
+}
+
+bool EditorFiles::save()
+{
+    if (path().isEmpty())
+        return askSaveAs();
+    return mayReplaceChanged() && saveTo(locationOf(path()));
+}
+
+bool EditorFiles::askSaveAs()
+{
+    const QString name = path().isEmpty() ? tr("template.ozt") : QFileInfo(path()).fileName();
+    const QString folder = path().isEmpty() ? m_editor->storageDirectory() : QFileInfo(path()).absolutePath();
+    const auto location = DefaultWidgetCreator::fileAccessor()->getSaveFileName(
+        m_editor, tr("Save template"), folder, name, saveFilter(), nullptr, {}, templateLocation());
+    return !location.isCanceled() && saveTo(location);
+}
+
+bool EditorFiles::saveTo(const IFileAccessor::DestinationFileLocation &location)
+{
+    const QString path = location.toString();
+    const Error error = DefaultWidgetCreator::fileAccessor()->saveFile(
+        location, [this](const QString &local) { return TemplateFile::write(local, m_shown.content()); });
+    if (error.hasError()) {
+        OZMStyle::critical(m_editor, Signal::FileNotWritable, tr("Template not saved"),
+                           tr("The template could not be saved. It is unchanged in the window."), error);
+        return false;
+    }
+    m_shown.setSaved();
+    setPath(path, {});
+    Q_EMIT told(tr("Saved to %1").arg(QDir::toNativeSeparators(path)));
+    Q_EMIT saved(path);
+    return true;
+}
+
+bool EditorFiles::mayReplaceChanged()
+{
+    if (!m_file->changedOnDisk() || !QFileInfo::exists(path()))
+        return true;
+    const QScopedValueRollback asking(m_isAsking, true);
+    return OZMStyle::warning(m_editor, Signal::FileExists, tr("File changed"),
+                             tr("\"%1\" was changed by another program. Replace it by what is in the window?")
+                                 .arg(QDir::toNativeSeparators(path())),
+                             QMessageBox::Yes | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Yes;
+}
+
+bool EditorFiles::mayDiscard()
+{
+    if (!m_shown.isModified())
+        return true;
+    const QScopedValueRollback asking(m_isAsking, true);
+    const auto answer =
+        OZMStyle::question(m_editor, Signal::UnsavedChanges, tr("Unsaved template"),
+                           tr("The template has changed. Save it first?"),
+                           QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    if (answer == QMessageBox::Save)
+        return save();
+    return answer == QMessageBox::Discard;
+}
+
+void EditorFiles::checkDisk()
+{
+    if (m_isAsking || !m_file->changedOnDisk())
+        return;
+    const QScopedValueRollback asking(m_isAsking, true);
+    const QString file = QDir::toNativeSeparators(path());
+    if (!QFileInfo::exists(path())) {
+        m_file->opened(path());
+        m_shown.setUnsaved();
+        Q_EMIT told(tr("\"%1\" is no longer there. The template is kept in the window.").arg(file));
+        return;
+    }
+    const auto answer = OZMStyle::question(
+        m_editor, Signal::Unspecified, tr("File changed"),
+        m_shown.isModified()
+            ? tr("\"%1\" was changed by another program. Read it again, and lose your own changes?").arg(file)
+            : tr("\"%1\" was changed by another program. Read it again?").arg(file),
+        QMessageBox::Yes | QMessageBox::No, m_shown.isModified() ? QMessageBox::No : QMessageBox::Yes);
+    if (answer == QMessageBox::Yes) {
+        open(path());
+        return;
+    }
+    // Asked once for each change.
+    m_file->opened(path());
+    m_shown.setUnsaved();
+}
+
+void EditorFiles::giveUp()
+{
+    m_storeTimer.stop();
+    m_autosave.reset();
+}
+
+void EditorFiles::storeSoon()
+{
+    if (m_shown.isModified())
+        m_storeTimer.start();
+}
+
+void EditorFiles::storeNow()
+{
+    if (!m_autosave)
+        m_autosave = std::make_unique<TemplateAutosave>(storageName(*m_editor));
+    m_autosave->store(path(), m_shown.content());
+}
+
+void EditorFiles::offerRescued()
+{
+    const QScopedValueRollback asking(m_isAsking, true);
+    const QList<TemplateAutosave::Rescued> copies = TemplateAutosave::takeRescued(storageName(*m_editor));
+    for (const TemplateAutosave::Rescued &copy : copies) {
+        const QString name = copy.path.isEmpty() ? tr("a new template") : QDir::toNativeSeparators(copy.path);
+        const auto answer =
+            OZMStyle::question(m_editor, Signal::Unspecified, tr("Rescued template"),
+                               tr("The program ended while %1 was not saved. Open what was kept of it at %2?")
+                                   .arg(name, QLocale().toString(copy.when, QLocale::ShortFormat)),
+                               QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
+        if (answer == QMessageBox::Yes && !openRescued(copy)) {
+            // Never deleted, as that would delete the copy, which is to be offered at the next start again.
+            (new TemplateAutosave(storageName(*m_editor)))->store(copy.path, copy.content);
+        }
+    }
+}
+
+bool EditorFiles::openRescued(const TemplateAutosave::Rescued &copy)
+{
+    // One window shows one template: the one before is saved, or given up, first.
+    if (!mayDiscard())
+        return false;
+    m_shown.show(copy.content);
+    m_file = std::make_unique<TemplateFile>();
+    if (!copy.path.isEmpty())
+        m_file->opened(copy.path);
+    m_shown.setUnsaved();
+    Q_EMIT pathChanged();
+    storeNow();
+    return true;
+}
+
+} // namespace ozm::editor

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QTextDocument>
+#include <QWidget>
+
+#include <functional>
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QToolButton;
+
+namespace ozm::editor {
+
+/// Finds and replaces in the view that is shown: text, and the text of chips.
+class FindBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    struct Target
+    {
+        std::function<QTextCursor()> cursor;
+        std::function<void(const QTextCursor &)> setCursor;
+        std::function<bool(const QTextCursor &)> mayRemove;
+        std::function<bool()> isReadOnly;
+    };
+
+    FindBar(const Target &target, QWidget *parent);
+
+    /// With the present selection as what is looked for, if it is of one line.
+    void open(bool replacing);
+    void findNext();
+    void findPrevious();
+    void replace();
+    void replaceAll();
+
+Q_SIGNALS:
+    void closed();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    [[nodiscard]] QTextDocument::FindFlags flags() const;
+    [[nodiscard]] QTextCursor found(const QTextCursor &from, bool backward) const;
+    void find(bool backward);
+    void replaceAt(QTextCursor &cursor) const;
+    [[nodiscard]] QToolButton *makeButton(const char *name, const char *icon, const QString &text,
+                                          void (FindBar::*slot)());
+    [[nodiscard]] QLineEdit *makeField(const char *name, const QString &text);
+    void arrange();
+
+    const Target m_target;
+    QLineEdit *m_text;
+    QLineEdit *m_replacement;
+    QCheckBox *m_case;
+    QCheckBox *m_words;
+    QLabel *m_outcome;
+    QWidget *m_replaceRow;
+};
+
+} // namespace ozm::editor

@@ -1,0 +1,310 @@
+#include "editor/RichTextView.h"
+
+#include "editor/CodeCompleter.h"
+#include "editor/CodeModel.h"
+#include "editor/EditorKeys.h"
+#include "editor/InlineHtml.h"
+#include "editor/TemplateParts.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QBuffer>
+#include <QHelpEvent>
+#include <QImage>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QToolTip>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm::editor {
+
+namespace {
+
+using ChipKind = TemplateDocument::ChipKind;
+
+constexpr int kLongestToolTip = 1200;
+
+struct Removal
+{
+    QKeySequence::StandardKey key;
+    QTextCursor::MoveOperation move;
+};
+
+// In this order: the plain keys are part of none of the others.
+constexpr std::array kRemovals{
+    Removal{QKeySequence::DeleteStartOfWord, QTextCursor::PreviousWord},
+    Removal{QKeySequence::DeleteEndOfWord, QTextCursor::NextWord},
+    Removal{QKeySequence::DeleteEndOfLine, QTextCursor::EndOfBlock},
+    Removal{QKeySequence::Delete, QTextCursor::NextCharacter},
+    Removal{QKeySequence::Backspace, QTextCursor::PreviousCharacter},
+};
+
+QString plainText(const TemplateDocument &document, const QTextCursor &selection)
+{
+    QString text;
+    for (int at = selection.selectionStart(); at < selection.selectionEnd(); ++at) {
+        const QChar character = document.characterAt(at);
+        if (character == QChar::ParagraphSeparator || character == QChar::LineSeparator)
+            text += u'\n';
+        else if (character == QChar::ObjectReplacementCharacter)
+            text += document.chipAt(at).source;
+        else
+            text += character;
+    }
+    return text;
+}
+
+} // namespace
+
+void setPaperColors(QWidget *widget)
+{
+    QPalette paper = widget->palette();
+    paper.setColor(QPalette::Base, Qt::white);
+    paper.setColor(QPalette::Text, Qt::black);
+    widget->setPalette(paper);
+}
+
+RichTextView::RichTextView(CodeModel *codes, QWidget *parent)
+    : QTextEdit(parent)
+    , m_codes(codes)
+    , m_completer(new CodeCompleter(
+          codes, {this, [this] { return textCursor(); }, [this] { return cursorRect(); },
+                  [this](const QTextCursor &cursor, const QString &code) { replace(cursor, code); }}))
+    , m_nothing(new TemplateDocument(this))
+{
+    setAcceptRichText(true);
+    setPaperColors(this);
+    setDocument(m_nothing);
+}
+
+void RichTextView::showDocument(TemplateDocument *document)
+{
+    setDocument(document ? document : m_nothing);
+}
+
+TemplateDocument *RichTextView::templateDocument() const
+{
+    return qobject_cast<TemplateDocument *>(document());
+}
+
+bool RichTextView::mayRemove(const QTextCursor &selection)
+{
+    for (int at = selection.selectionStart(); at < selection.selectionEnd(); ++at) {
+        const TemplateDocument::Chip chip = templateDocument()->chipAt(at);
+        if (chip.kind == ChipKind::Code && !m_codes->mayRemove(chip.source)) {
+            Q_EMIT removalRefused(chip.source);
+            return false;
+        }
+    }
+    return true;
+}
+
+void RichTextView::insertSource(const QString &source)
+{
+    if (isReadOnly() || source.isEmpty() || !mayRemove(textCursor()))
+        return;
+    QTextCursor cursor = textCursor();
+    templateDocument()->insertSource(cursor, source);
+    setTextCursor(cursor);
+    ensureCursorVisible();
+}
+
+void RichTextView::insertPlain(const QString &text)
+{
+    if (isReadOnly() || !mayRemove(textCursor()))
+        return;
+    QTextCursor cursor = textCursor();
+    cursor.beginEditBlock();
+    cursor.removeSelectedText();
+    qsizetype at = 0;
+    auto codes = codePattern().globalMatch(text);
+    while (codes.hasNext()) {
+        const QRegularExpressionMatch code = codes.next();
+        cursor.insertText(text.sliced(at, code.capturedStart() - at));
+        templateDocument()->insertSource(cursor, code.captured());
+        at = code.capturedEnd();
+    }
+    cursor.insertText(text.sliced(at));
+    cursor.endEditBlock();
+    setTextCursor(cursor);
+    ensureCursorVisible();
+}
+
+void RichTextView::insertImage(const QImage &image)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (buffer.open(QIODevice::WriteOnly) && image.save(&buffer, "PNG")) {
+        insertSource(u"<img src=\"data:image/png;base64,"_s + QString::fromLatin1(bytes.toBase64()) +
+                     u"\"/>"_s);
+    }
+}
+
+void RichTextView::cutSelection()
+{
+    if (!isReadOnly() && mayRemove(textCursor()))
+        cut();
+}
+
+void RichTextView::mergeFormat(const QTextCharFormat &format)
+{
+    if (!isReadOnly())
+        mergeCurrentCharFormat(format);
+}
+
+bool RichTextView::event(QEvent *event)
+{
+    if (isHistoryShortcut(event)) {
+        event->ignore();
+        return false;
+    }
+    if (event->type() == QEvent::ToolTip) {
+        const auto *help = static_cast<QHelpEvent *>(event);
+        const QPoint point = viewport()->mapFromGlobal(help->globalPos());
+        const QString text = toolTipOf(templateDocument()->chipAt(chipAtPoint(point)));
+        QToolTip::showText(help->globalPos(), text, viewport());
+        return true;
+    }
+    return QTextEdit::event(event);
+}
+
+void RichTextView::keyPressEvent(QKeyEvent *event)
+{
+    if (isHistoryKey(*event) || m_completer->takes(*event)) {
+        event->ignore();
+        return;
+    }
+    if (isReadOnly() || !changesText(*event)) {
+        QTextEdit::keyPressEvent(event);
+        return;
+    }
+    if (!mayRemove(removedBy(*event)))
+        return;
+    QTextEdit::keyPressEvent(event);
+    if (event->text() == "]"_L1)
+        closeCode();
+    m_completer->offer();
+}
+
+QTextCursor RichTextView::removedBy(const QKeyEvent &event) const
+{
+    QTextCursor cursor = textCursor();
+    if (cursor.hasSelection())
+        return cursor;
+    for (const Removal &removal : kRemovals) {
+        const bool plainBackspace =
+            removal.key == QKeySequence::Backspace && event.key() == Qt::Key_Backspace;
+        if (event.matches(removal.key) || plainBackspace) {
+            cursor.movePosition(removal.move, QTextCursor::KeepAnchor);
+            break;
+        }
+    }
+    return cursor;
+}
+
+// What the cursor stands behind becomes a chip when it is a code as a whole.
+void RichTextView::closeCode()
+{
+    QTextCursor cursor = textCursor();
+    const QString before = cursor.block().text().first(cursor.positionInBlock());
+    const qsizetype bracket = before.lastIndexOf(u'[');
+    if (bracket < 0)
+        return;
+    const QString code = before.sliced(bracket);
+    const bool whole = codePattern().match(code).capturedLength() == code.size();
+    if (!whole || code.contains(QChar::ObjectReplacementCharacter) || code.contains(QChar::LineSeparator))
+        return;
+    cursor.setPosition(cursor.block().position() + int(bracket), QTextCursor::KeepAnchor);
+    replace(cursor, code);
+}
+
+void RichTextView::replace(QTextCursor cursor, const QString &code)
+{
+    templateDocument()->insertSource(cursor, code);
+    setTextCursor(cursor);
+}
+
+int RichTextView::chipAtPoint(const QPoint &point) const
+{
+    const QPointF inDocument(point.x() + horizontalScrollBar()->value(),
+                             point.y() + verticalScrollBar()->value());
+    const int hit = document()->documentLayout()->hitTest(inDocument, Qt::ExactHit);
+    // The nearest gap between characters was hit, on either side of the chip.
+    for (const int position : {hit, hit - 1}) {
+        if (position < 0 || templateDocument()->chipAt(position).kind == ChipKind::None)
+            continue;
+        QTextCursor cursor(document());
+        cursor.setPosition(position);
+        const int left = cursorRect(cursor).left();
+        cursor.setPosition(position + 1);
+        const int right = cursorRect(cursor).left();
+        if (point.x() >= left && (point.x() <= right || right < left))
+            return position;
+    }
+    return -1;
+}
+
+QString RichTextView::toolTipOf(const TemplateDocument::Chip &chip) const
+{
+    if (chip.kind == ChipKind::None)
+        return {};
+    if (chip.kind == ChipKind::Code)
+        return m_codes->toolTip(chip.source);
+    const QString hint = chip.kind == ChipKind::Script ? tr("Double-click to edit this script.")
+                                                       : tr("Kept as it is; change it in the source.");
+    return u"<pre>"_s + escaped(chip.source.left(kLongestToolTip)) + u"</pre><p>"_s + hint + u"</p>"_s;
+}
+
+void RichTextView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    const int position = chipAtPoint(event->position().toPoint());
+    if (templateDocument()->chipAt(position).kind != ChipKind::Script) {
+        QTextEdit::mouseDoubleClickEvent(event);
+        return;
+    }
+    QTextCursor cursor(document());
+    cursor.setPosition(position);
+    cursor.setPosition(position + 1, QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    Q_EMIT scriptActivated(position);
+}
+
+void RichTextView::dropEvent(QDropEvent *event)
+{
+    const bool isOwn = event->source() == this || event->source() == viewport();
+    if (isOwn && event->dropAction() == Qt::MoveAction && !mayRemove(textCursor()))
+        event->setDropAction(Qt::CopyAction);
+    QTextEdit::dropEvent(event);
+}
+
+QMimeData *RichTextView::createMimeDataFromSelection() const
+{
+    const QString source = templateDocument()->source(textCursor());
+    auto *copied = new QMimeData;
+    copied->setData(QString::fromLatin1(kTemplateMimeType), source.toUtf8());
+    copied->setHtml(source);
+    copied->setText(plainText(*templateDocument(), textCursor()));
+    return copied;
+}
+
+bool RichTextView::canInsertFromMimeData(const QMimeData *source) const
+{
+    return !isReadOnly() && (source->hasFormat(QString::fromLatin1(kTemplateMimeType)) || source->hasHtml() ||
+                             source->hasText() || source->hasImage());
+}
+
+void RichTextView::insertFromMimeData(const QMimeData *source)
+{
+    const QString type = QString::fromLatin1(kTemplateMimeType);
+    if (source->hasFormat(type))
+        insertSource(QString::fromUtf8(source->data(type)));
+    else if (source->hasImage())
+        insertImage(qvariant_cast<QImage>(source->imageData()));
+    else if (source->hasHtml())
+        insertSource(source->html());
+    else
+        insertPlain(source->text());
+}
+
+} // namespace ozm::editor

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <ozm_widgets/TemplateDocument.h>
+
+#include <QTextEdit>
+
+namespace ozm::editor {
+
+class CodeCompleter;
+class CodeModel;
+
+/// Paper is white, whatever the desktop is.
+void setPaperColors(QWidget *widget);
+
+/// Shows a TemplateDocument for editing. What is copied carries its source along, so that codes and scripts
+/// come whole through the clipboard; codes that may not be removed stay.
+class RichTextView : public QTextEdit
+{
+    Q_OBJECT
+
+public:
+    RichTextView(CodeModel *codes, QWidget *parent);
+
+    /// Null shows nothing.
+    void showDocument(TemplateDocument *document);
+    [[nodiscard]] TemplateDocument *templateDocument() const;
+
+    /// All of these replace the selection; a code in it that may not go keeps them from it.
+    void insertSource(const QString &source);
+    /// Codes in it become chips, tags stay text.
+    void insertPlain(const QString &text);
+    void insertImage(const QImage &image);
+    void cutSelection();
+
+    /// False, said by removalRefused(), when the selection holds a code that may not be removed.
+    [[nodiscard]] bool mayRemove(const QTextCursor &selection);
+
+    /// Merges, as chips would not outlive a format that is set.
+    void mergeFormat(const QTextCharFormat &format);
+
+Q_SIGNALS:
+    void scriptActivated(int position);
+    void removalRefused(const QString &code);
+
+protected:
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    [[nodiscard]] QMimeData *createMimeDataFromSelection() const override;
+    [[nodiscard]] bool canInsertFromMimeData(const QMimeData *source) const override;
+    void insertFromMimeData(const QMimeData *source) override;
+
+private:
+    [[nodiscard]] int chipAtPoint(const QPoint &point) const;
+    [[nodiscard]] QString toolTipOf(const TemplateDocument::Chip &chip) const;
+    [[nodiscard]] QTextCursor removedBy(const QKeyEvent &event) const;
+    void closeCode();
+    void replace(QTextCursor cursor, const QString &code);
+
+    CodeModel *m_codes;
+    CodeCompleter *m_completer;
+    TemplateDocument *m_nothing;
+};
+
+} // namespace ozm::editor

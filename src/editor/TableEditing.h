@@ -1,0 +1,52 @@
+#pragma once
+
+class QTextTable;
+
+namespace ozm::editor {
+
+class RichTextView;
+
+/// Inserts a table and changes the one that the cursor stands in. Cells that hold codes which may not be
+/// removed stay.
+class TableEditing
+{
+public:
+    enum class Side
+    {
+        Before,
+        After
+    };
+
+    explicit TableEditing(RichTextView *view)
+        : m_view(view)
+    {}
+
+    [[nodiscard]] bool isInTable() const;
+    [[nodiscard]] bool canMerge() const;
+    [[nodiscard]] bool canSplit() const;
+
+    void askInsert();
+    void insert(int rows, int columns);
+    void insertRow(Side side);
+    void insertColumn(Side side);
+    void removeRows();
+    void removeColumns();
+    void mergeCells();
+    void splitCell();
+
+private:
+    struct Range
+    {
+        QTextTable *table = nullptr;
+        int row = 0;
+        int rows = 0;
+        int column = 0;
+        int columns = 0;
+    };
+    [[nodiscard]] Range selected() const;
+    [[nodiscard]] bool mayRemove(const Range &cells) const;
+
+    RichTextView *m_view;
+};
+
+} // namespace ozm::editor

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <ozm_common_stable/Error.h>
+
+#include <QString>
+
+#include <memory>
+
+class QPrinter;
+class QTextDocument;
+class QWidget;
+
+namespace ozm::editor {
+
+/// Brings a filled template onto paper: by a printer, in a preview of that, and as PDF.
+class TemplatePrinting
+{
+public:
+    TemplatePrinting();
+    ~TemplatePrinting();
+
+    /// @p decoded, as decoding gives it, without script tags.
+    [[nodiscard]] static std::unique_ptr<QTextDocument> document(const QString &decoded);
+
+    void askPage(QWidget *parent);
+    void preview(QWidget *parent, const QString &decoded);
+    void print(QWidget *parent, const QString &decoded);
+    /// Replaces the file only when all of it is written; code 4 otherwise.
+    [[nodiscard]] Error writePdf(const QString &path, const QString &decoded, const QString &title);
+
+private:
+    /// Made on first use, as looking for printers takes its time.
+    [[nodiscard]] QPrinter &printer();
+
+    std::unique_ptr<QPrinter> m_printer;
+};
+
+} // namespace ozm::editor

@@ -1,0 +1,752 @@
+#include "editor/EditorFixture.h"
+#include "editor/TemplateGenerator.h"
+#include "support/StrictTest.h"
+
+#include <ozm_widgets/TemplateAutosave.h>
+#include <ozm_widgets/TemplateDocument.h>
+
+#include <QAbstractItemView>
+#include <QClipboard>
+#include <QComboBox>
+#include <QCompleter>
+#include <QDropEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTextBrowser>
+#include <QTextTable>
+
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+using namespace ozm;
+using namespace ozm::test;
+
+namespace {
+
+const QString kLeaveCopy = u"--leave-copy"_s;
+
+void write(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), bytes.size());
+}
+
+void drop(QWidget *viewport, const QMimeData *data)
+{
+    const QPoint place(viewport->width() - 20, viewport->height() - 20);
+    QDragEnterEvent enter(place, Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(viewport, &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent event(place, Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(viewport, &event);
+}
+
+QStringList words(const QString &text)
+{
+    return text.simplified().split(u' ', Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+class TestTemplateEditor : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void aTemplateIsWrittenAndPrinted();
+    void codesAreInsertedInTheSource();
+    void modesKeepTheSource();
+    void undoGoesAcrossModes();
+    void undoAfterSavingIsAChange();
+    void keptCodesStay_data();
+    void keptCodesStay();
+    void copiesComeWhole();
+    void closingAsks_data();
+    void closingAsks();
+    void badInputChangesNothing_data();
+    void badInputChangesNothing();
+    void failedSavesKeepTheWork();
+    void changesOnDiskAreNoticed();
+    void crashesLoseNothing();
+    void largeTemplatesOpen();
+    void markersAreNoHarm();
+    void scriptsAreEditedInPlace();
+    void readOnlyChangesNothing();
+    void findsAndReplaces_data();
+    void findsAndReplaces();
+    void tablesAreEdited();
+    void imagesAndLinksAreInserted();
+    void everythingHasAName();
+};
+
+// One sitting, from an empty window to a printed page, by the ways that a user has.
+void TestTemplateEditor::aTemplateIsWrittenAndPrinted()
+{
+    EditorFixture f;
+    auto *rich = f.child<QTextEdit>("richView");
+    f.trigger("newAction");
+    QCOMPARE(f.content(), QString());
+
+    // By typing, with bold letters around the code.
+    f.trigger("boldAction");
+    QTest::keyClicks(rich, u"Sample [Lot]"_s);
+    f.trigger("boldAction");
+    QTest::keyClick(rich, Qt::Key_Space);
+    QCOMPARE(f.content(), u"<div style=\"white-space:pre-wrap\"><b>Sample [Lot]</b> </div>"_s);
+
+    // By completion.
+    QTest::keyClicks(rich, u"[sam"_s);
+    auto *completer = rich->findChild<QCompleter *>(u"codeCompleter"_s);
+    QVERIFY(completer->popup()->isVisible());
+    QTest::keyClick(completer->popup(), Qt::Key_Return);
+    QVERIFY(f.content().endsWith("</b> [Sample]</div>"_L1));
+
+    // From the panel.
+    auto *search = f.child<QLineEdit>("codeSearch");
+    QTest::keyClicks(search, u"batch"_s);
+    QTest::keyClick(search, Qt::Key_Return);
+    QVERIFY(f.content().endsWith("[Sample][Lot]</div>"_L1));
+    search->clear();
+
+    // From the menu.
+    auto *menu = f.child<QMenu>("codeMenu");
+    Q_EMIT menu->aboutToShow();
+    QCOMPARE(menu->actions().size(), 3);
+    f.trigger("codeAction[Sample]");
+    QVERIFY(f.content().endsWith("[Sample][Lot][Sample]</div>"_L1));
+
+    // By drag and drop.
+    auto *list = f.child<QAbstractItemView>("codeList");
+    const std::unique_ptr<QMimeData> dragged(list->model()->mimeData({list->model()->index(2, 0)}));
+    drop(rich->viewport(), dragged.get());
+    QVERIFY(f.content().endsWith("[Sample]</div>"_L1));
+    QCOMPARE(f.content().count(u'['), 5);
+
+    // A script, tried out before it is inserted.
+    f.trigger("newScriptAction");
+    auto *script = f.child<QPlainTextEdit>("scriptCode");
+    script->setPlainText(u"6 *\n oops"_s);
+    QTest::mouseClick(f.child<QPushButton>("scriptRun"), Qt::LeftButton);
+    QVERIFY2(f.child<QLabel>("scriptError")->text().startsWith("Line 2: "_L1),
+             qPrintable(f.child<QLabel>("scriptError")->text()));
+    script->setPlainText(u"inputParameters['[Lot]'] + '!'"_s);
+    QTest::mouseClick(f.child<QPushButton>("scriptRun"), Qt::LeftButton);
+    QCOMPARE(f.child<QPlainTextEdit>("scriptResult")->toPlainText(), u"A-7!"_s);
+    QTest::mouseClick(f.child<QPushButton>("scriptApply"), Qt::LeftButton);
+    QVERIFY(f.content().endsWith("<script>inputParameters['[Lot]'] + '!'</script></div>"_L1));
+
+    // The preview lists what cannot be filled, and leads there.
+    QTest::keyClicks(rich, u" [Nobody knows]"_s);
+    auto *troubles = f.child<QListWidget>("previewTroubles");
+    QTRY_COMPARE(troubles->count(), 1);
+    QCOMPARE(troubles->item(0)->text(), u"[Nobody knows] has no value."_s);
+    rich->moveCursor(QTextCursor::Start);
+    Q_EMIT troubles->itemClicked(troubles->item(0));
+    auto *document = qobject_cast<TemplateDocument *>(rich->document());
+    QCOMPARE(document->chipAt(rich->textCursor().selectionStart()).source, u"[Nobody knows]"_s);
+    const QString decoded = AbstractTemplateEditor::withoutScriptTags(AbstractTemplateEditor::decodeTEC(
+        f.content(), f.editor.previewRows().constFirst(), f.editor.extraData(nullptr)));
+    QTextDocument expected;
+    expected.setHtml(decoded);
+    QCOMPARE(f.child<QTextBrowser>("previewText")->toPlainText(), expected.toPlainText());
+
+    // Saved, and opened again.
+    const QString saved = f.content();
+    f.answerPath(f.path(u"t.ozt"_s));
+    QSignalSpy signal(&f.editor, &AbstractTemplateEditor::saved);
+    f.trigger("saveAction");
+    QCOMPARE(signal.count(), 1);
+    QVERIFY(!f.editor.isModified());
+    f.trigger("newAction");
+    QCOMPARE(f.content(), QString());
+    f.trigger("openAction");
+    QCOMPARE(f.content(), saved);
+    QCOMPARE(f.editor.filePath(), f.path(u"t.ozt"_s));
+
+    f.answerPath(f.path(u"t.pdf"_s));
+    f.trigger("pdfAction");
+    QProcess reader;
+    reader.start(u"pdftotext"_s, {u"-layout"_s, f.path(u"t.pdf"_s), u"-"_s});
+    QVERIFY(reader.waitForFinished());
+    const QString printed = QString::fromUtf8(reader.readAllStandardOutput());
+    QStringList readable = words(printed);
+    // The number of the page.
+    QCOMPARE(readable.takeLast(), u"1"_s);
+    QCOMPARE(readable, words(expected.toPlainText()));
+}
+
+void TestTemplateEditor::codesAreInsertedInTheSource()
+{
+    EditorFixture f;
+    f.setContent(u"<p>x</p>"_s);
+    f.editor.setMode(AbstractTemplateEditor::Mode::Plain);
+    auto *plain = f.child<QPlainTextEdit>("plainView");
+    plain->moveCursor(QTextCursor::Start);
+    QTest::keyClicks(plain, u"[sam"_s);
+    auto *completer = plain->findChild<QCompleter *>(u"codeCompleter"_s);
+    QVERIFY(completer->popup()->isVisible());
+    QTest::keyClick(completer->popup(), Qt::Key_Return);
+    QCOMPARE(f.content(), u"[Sample]<p>x</p>"_s);
+    QTest::keyClick(f.child<QLineEdit>("codeSearch"), Qt::Key_L);
+    QTest::keyClick(f.child<QLineEdit>("codeSearch"), Qt::Key_O);
+    QTest::keyClick(f.child<QLineEdit>("codeSearch"), Qt::Key_Return);
+    QCOMPARE(f.content(), u"[Sample][Lot]<p>x</p>"_s);
+
+    // A trouble leads to its place here, too.
+    plain->moveCursor(QTextCursor::End);
+    plain->insertPlainText(u"\n<script>nowhere</script>"_s);
+    auto *troubles = f.child<QListWidget>("previewTroubles");
+    QTRY_COMPARE(troubles->count(), 1);
+    Q_EMIT troubles->itemActivated(troubles->item(0));
+    QCOMPARE(plain->textCursor().selectedText(), u"nowhere"_s);
+}
+
+void TestTemplateEditor::modesKeepTheSource()
+{
+    EditorFixture f;
+    TemplateGenerator generator(7);
+    for (int i = 0; i < 40; ++i) {
+        const QString source = generator.next();
+        f.setContent(source);
+        for (int pass = 0; pass < 3; ++pass) {
+            f.editor.setMode(AbstractTemplateEditor::Mode::Plain);
+            QCOMPARE(f.content(), source);
+            f.editor.setMode(AbstractTemplateEditor::Mode::Rich);
+            QCOMPARE(f.content(), source);
+        }
+        // Edited in between, it is written anew; from then on it stays the same.
+        auto *rich = f.child<QTextEdit>("richView");
+        rich->textCursor().insertText(u"x"_s);
+        const QString edited = f.content();
+        QVERIFY(edited != source);
+        for (int pass = 0; pass < 3; ++pass) {
+            f.editor.setMode(AbstractTemplateEditor::Mode::Plain);
+            auto *plain = f.child<QPlainTextEdit>("plainView");
+            plain->textCursor().insertText(u"y"_s);
+            plain->textCursor().deletePreviousChar();
+            f.editor.setMode(AbstractTemplateEditor::Mode::Rich);
+            rich->textCursor().insertText(u"y"_s);
+            rich->textCursor().deletePreviousChar();
+            QCOMPARE(f.content(), edited);
+        }
+    }
+}
+
+void TestTemplateEditor::undoGoesAcrossModes()
+{
+    EditorFixture f;
+    const QString source = u"<p class=\"odd\">a [Lot]</p>"_s;
+    f.setContent(source);
+    auto *rich = f.child<QTextEdit>("richView");
+    auto *plain = f.child<QPlainTextEdit>("plainView");
+    rich->moveCursor(QTextCursor::End);
+    QTest::keyClick(rich, Qt::Key_B);
+    const QString typed = f.content();
+    f.trigger("plainModeAction");
+    plain->moveCursor(QTextCursor::Start);
+    QTest::keyClicks(plain, u"c"_s);
+    const QString inSource = f.content();
+    f.trigger("richModeAction");
+    rich->moveCursor(QTextCursor::End);
+    QTest::keyClick(rich, Qt::Key_D);
+    const QString last = f.content();
+
+    struct Step
+    {
+        QString content;
+        AbstractTemplateEditor::Mode mode;
+    };
+    using Mode = AbstractTemplateEditor::Mode;
+    const QList<Step> steps{{source, Mode::Rich},    {typed, Mode::Rich},    {typed, Mode::Plain},
+                            {inSource, Mode::Plain}, {inSource, Mode::Rich}, {last, Mode::Rich}};
+    for (int round = 0; round < 2; ++round) {
+        for (qsizetype at = steps.size() - 2; at >= 0; --at) {
+            f.trigger("undoAction");
+            QCOMPARE(f.content(), steps.at(at).content);
+            QCOMPARE(f.editor.mode(), steps.at(at).mode);
+        }
+        QVERIFY(!f.child<QAction>("undoAction")->isEnabled());
+        QVERIFY(!f.editor.isModified());
+        for (qsizetype at = 1; at < steps.size(); ++at) {
+            f.trigger("redoAction");
+            QCOMPARE(f.content(), steps.at(at).content);
+            QCOMPARE(f.editor.mode(), steps.at(at).mode);
+        }
+    }
+    // The keys of the views lead to the same history.
+    QTest::keyClick(rich, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(f.content(), inSource);
+    // What is typed after an undo is a step of its own, and ends what could be done again.
+    QTest::keyClick(rich, Qt::Key_E);
+    QVERIFY(!f.child<QAction>("redoAction")->isEnabled());
+    f.trigger("undoAction");
+    QCOMPARE(f.content(), inSource);
+}
+
+// A document merges letters typed one after the other into one step, over a save as well unless stopped.
+void TestTemplateEditor::undoAfterSavingIsAChange()
+{
+    EditorFixture f;
+    auto *rich = f.child<QTextEdit>("richView");
+    QTest::keyClick(rich, Qt::Key_A);
+    f.answerPath(f.path(u"t.ozt"_s));
+    f.trigger("saveAction");
+    QVERIFY(!f.editor.isModified());
+    QTest::keyClick(rich, Qt::Key_B);
+    QVERIFY(f.editor.isModified());
+    f.trigger("undoAction");
+    QVERIFY(!f.editor.isModified());
+    QCOMPARE(f.content(), u"<div>a</div>"_s);
+    // Another mode is no change.
+    f.trigger("plainModeAction");
+    QVERIFY(!f.editor.isModified());
+}
+
+void TestTemplateEditor::keptCodesStay_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+
+    const Qt::KeyboardModifiers none;
+    QTest::newRow("backspace") << int(Qt::Key_Backspace) << none << 2 << 2;
+    QTest::newRow("delete") << int(Qt::Key_Delete) << none << 1 << 1;
+    QTest::newRow("delete a selection") << int(Qt::Key_Delete) << none << 0 << 3;
+    QTest::newRow("type over it") << int(Qt::Key_X) << none << 0 << 3;
+    QTest::newRow("cut") << int(Qt::Key_X) << Qt::KeyboardModifiers(Qt::ControlModifier) << 0 << 3;
+    QTest::newRow("delete a word") << int(Qt::Key_Backspace) << Qt::KeyboardModifiers(Qt::ControlModifier)
+                                   << 2 << 2;
+    QTest::newRow("line break over it") << int(Qt::Key_Return) << none << 0 << 3;
+}
+
+void TestTemplateEditor::keptCodesStay()
+{
+    QFETCH(const int, key);
+    QFETCH(const Qt::KeyboardModifiers, modifiers);
+    QFETCH(const int, from);
+    QFETCH(const int, to);
+
+    EditorFixture f;
+    f.setContent(u"<p>a[Signature]b[Lot]</p>"_s);
+    auto *rich = f.child<QTextEdit>("richView");
+    QTextCursor cursor = rich->textCursor();
+    cursor.setPosition(from);
+    cursor.setPosition(to, QTextCursor::KeepAnchor);
+    rich->setTextCursor(cursor);
+    QTest::keyClick(rich, Qt::Key(key), modifiers);
+    QCOMPARE(f.content(), u"<p>a[Signature]b[Lot]</p>"_s);
+    QVERIFY(!f.editor.isModified());
+    // Others go.
+    rich->moveCursor(QTextCursor::End);
+    QTest::keyClick(rich, Qt::Key_Backspace);
+    QCOMPARE(f.content(), u"<p>a[Signature]b</p>"_s);
+}
+
+void TestTemplateEditor::copiesComeWhole()
+{
+    EditorFixture f;
+    f.setContent(u"<p>a <b>[Lot]</b><script>1 &lt; 2</script></p>"_s);
+    auto *rich = f.child<QTextEdit>("richView");
+    f.trigger("selectAllAction");
+    f.trigger("copyAction");
+    rich->moveCursor(QTextCursor::End);
+    f.trigger("pasteAction");
+    QCOMPARE(f.content(), u"<p>a <b>[Lot]</b><script>1 &lt; 2</script>a <b>[Lot]</b>"
+                          "<script>1 &lt; 2</script></p>"_s);
+    f.trigger("undoAction");
+    rich->moveCursor(QTextCursor::End);
+    QApplication::clipboard()->setText(u"<i>[Lot]</i> [Sample]"_s);
+    f.trigger("pastePlainAction");
+    QVERIFY2(f.content().endsWith("</script>&lt;i&gt;[Lot]&lt;/i&gt; [Sample]</p>"_L1),
+             qPrintable(f.content()));
+}
+
+void TestTemplateEditor::closingAsks_data()
+{
+    QTest::addColumn<QMessageBox::StandardButton>("answer");
+    QTest::addColumn<bool>("closed");
+    QTest::addColumn<bool>("written");
+
+    QTest::newRow("save") << QMessageBox::Save << true << true;
+    QTest::newRow("discard") << QMessageBox::Discard << true << false;
+    QTest::newRow("cancel") << QMessageBox::Cancel << false << false;
+}
+
+void TestTemplateEditor::closingAsks()
+{
+    QFETCH(const QMessageBox::StandardButton, answer);
+    QFETCH(const bool, closed);
+    QFETCH(const bool, written);
+
+    EditorFixture f;
+    f.answerPath(f.path(u"t.ozt"_s));
+    QTest::keyClick(f.child<QTextEdit>("richView"), Qt::Key_A);
+    {
+        BoxDriver box([answer](OzmMessageBox *shown) { press(shown, answer); });
+        QCOMPARE(f.editor.close(), closed);
+        QCOMPARE(box.shown(), 1);
+    }
+    QCOMPARE(QFile::exists(f.path(u"t.ozt"_s)), written);
+    QCOMPARE(f.content(), u"<div>a</div>"_s);
+    if (!closed) {
+        // The question is asked wherever work would go.
+        BoxDriver box([](OzmMessageBox *shown) { press(shown, QMessageBox::Cancel); });
+        f.trigger("newAction");
+        f.trigger("openAction");
+        QCOMPARE(box.shown(), 2);
+        QCOMPARE(f.content(), u"<div>a</div>"_s);
+    }
+}
+
+void TestTemplateEditor::badInputChangesNothing_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+
+    QTest::newRow("wrong version") << QByteArray("<ozm_template version=\"1.1\">a</ozm_template>");
+    QTest::newRow("truncated") << QByteArray("<ozm_template version=\"1.0\"><p>a");
+    QTest::newRow("binary") << QByteArray("\x7f\x45\x4c\x46\x00\x01\x02\xff\xfe\x00", 10);
+}
+
+void TestTemplateEditor::badInputChangesNothing()
+{
+    QFETCH(const QByteArray, bytes);
+
+    EditorFixture f;
+    f.setContent(u"<p>mine</p>"_s);
+    QTest::keyClick(f.child<QTextEdit>("richView"), Qt::Key_A);
+    const QString mine = f.content();
+    write(f.path(u"bad.ozt"_s), bytes);
+    QStringList texts;
+    BoxDriver box([&texts](OzmMessageBox *shown) {
+        texts.append(shown->text());
+        press(shown, QMessageBox::Ok);
+    });
+    QVERIFY(!f.editor.setSourceText(QString::fromUtf8(bytes)));
+    QCOMPARE(texts, QStringList{u"Wrong template editor content format."_s});
+    QVERIFY(!f.editor.openFile(f.path(u"bad.ozt"_s)));
+    QCOMPARE(texts.size(), 2);
+    QVERIFY2(texts.last().contains("Wrong template editor content format."_L1), qPrintable(texts.last()));
+    QVERIFY(!f.editor.openFile(f.path(u"none.ozt"_s)));
+    QCOMPARE(texts.size(), 3);
+    QCOMPARE(f.content(), mine);
+    QVERIFY(f.editor.isModified());
+}
+
+void TestTemplateEditor::failedSavesKeepTheWork()
+{
+    EditorFixture f;
+    QTest::keyClick(f.child<QTextEdit>("richView"), Qt::Key_A);
+    f.answerPath(f.path(u"no such folder/t.ozt"_s));
+    QString text;
+    BoxDriver box([&text](OzmMessageBox *shown) {
+        text = shown->text();
+        press(shown, QMessageBox::Ok);
+    });
+    f.trigger("saveAction");
+    QCOMPARE(box.shown(), 1);
+    QVERIFY2(text.contains("unchanged in the window"_L1), qPrintable(text));
+    QVERIFY(f.editor.isModified());
+    QVERIFY(f.editor.filePath().isEmpty());
+    QCOMPARE(f.content(), u"<div>a</div>"_s);
+    f.trigger("pdfAction");
+    QCOMPARE(box.shown(), 2);
+}
+
+void TestTemplateEditor::changesOnDiskAreNoticed()
+{
+    EditorFixture f;
+    f.answerPath(f.path(u"t.ozt"_s));
+    f.setContent(u"<p>one</p>"_s);
+    f.trigger("saveAction");
+    write(f.path(u"t.ozt"_s), "<ozm_template version=\"1.0\"><p>theirs, longer</p></ozm_template>");
+    QTest::keyClick(f.child<QTextEdit>("richView"), Qt::Key_A);
+    {
+        BoxDriver box([](OzmMessageBox *shown) { press(shown, QMessageBox::Cancel); });
+        f.trigger("saveAction");
+        QCOMPARE(box.shown(), 1);
+    }
+    QVERIFY(f.editor.isModified());
+    QFile theirs(f.path(u"t.ozt"_s));
+    QVERIFY(theirs.open(QIODevice::ReadOnly));
+    QVERIFY(theirs.readAll().contains("theirs"));
+    theirs.close();
+    int shown = 0;
+    {
+        BoxDriver box([&shown](OzmMessageBox *asked) {
+            ++shown;
+            press(asked, QMessageBox::Yes);
+        });
+        f.editor.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&f.editor));
+        QEvent activated(QEvent::ActivationChange);
+        QApplication::sendEvent(&f.editor, &activated);
+        QTRY_COMPARE(shown, 1);
+    }
+    QCOMPARE(f.content(), u"<p>theirs, longer</p>"_s);
+    QVERIFY(!f.editor.isModified());
+}
+
+void TestTemplateEditor::crashesLoseNothing()
+{
+    for (const auto answer : {QMessageBox::Yes, QMessageBox::No}) {
+        QCOMPARE(QProcess::execute(QCoreApplication::applicationFilePath(), {kLeaveCopy}), 0);
+        int shown = 0;
+        BoxDriver box([&shown, answer](OzmMessageBox *asked) {
+            ++shown;
+            press(asked, answer);
+        });
+        EditorFixture f;
+        QTRY_COMPARE(shown, 1);
+        QCOMPARE(f.content(), answer == QMessageBox::Yes ? u"<p>rescued</p>"_s : QString());
+        QCOMPARE(f.editor.isModified(), answer == QMessageBox::Yes);
+        QCOMPARE(f.editor.filePath(), answer == QMessageBox::Yes ? u"/somewhere/t.ozt"_s : QString());
+    }
+}
+
+void TestTemplateEditor::largeTemplatesOpen()
+{
+    EditorFixture f;
+    const QByteArray line = "<p>A line of a large template with [Lot].</p>\n";
+    write(f.path(u"large.ozt"_s),
+          "<ozm_template version=\"1.0\">" + line.repeated(10'000'000 / line.size()) + "</ozm_template>");
+    QVERIFY(f.editor.openFile(f.path(u"large.ozt"_s)));
+    QCOMPARE(f.editor.mode(), AbstractTemplateEditor::Mode::Plain);
+    f.trigger("richModeAction");
+    QCOMPARE(f.editor.mode(), AbstractTemplateEditor::Mode::Plain);
+    QVERIFY(f.child<QAction>("plainModeAction")->isChecked());
+    QTest::keyClick(f.child<QPlainTextEdit>("plainView"), Qt::Key_X);
+    QVERIFY(f.content().startsWith("x<p>A line"_L1));
+}
+
+// Wrapping substitutes, which eats such a marker.
+void TestTemplateEditor::markersAreNoHarm()
+{
+    EditorFixture f;
+    write(f.path(u"t.ozt"_s), "<ozm_template version=\"1.0\"><p>100%1 %5</p></ozm_template>");
+    QVERIFY(f.editor.openFile(f.path(u"t.ozt"_s)));
+    QCOMPARE(f.editor.sourceText(), u"<ozm_template version=\"1.0\"><p>100%1 %5</p></ozm_template>"_s);
+    f.trigger("saveAction");
+    QVERIFY(f.editor.openFile(f.path(u"t.ozt"_s)));
+    QCOMPARE(f.content(), u"<p>100%1 %5</p>"_s);
+}
+
+void TestTemplateEditor::scriptsAreEditedInPlace()
+{
+    EditorFixture f;
+    f.setContent(u"<p>ab<script>1</script>c</p>"_s);
+    auto *rich = f.child<QTextEdit>("richView");
+    auto *code = f.child<QPlainTextEdit>("scriptCode");
+    QTextCursor at = rich->textCursor();
+    at.setPosition(2);
+    rich->setTextCursor(at);
+    f.trigger("editScriptAction");
+    QCOMPARE(code->toPlainText(), u"1"_s);
+    // The template may change meanwhile: the script keeps its place.
+    at.setPosition(0);
+    at.insertText(u"Lot "_s);
+    code->setPlainText(u"2"_s);
+    QTest::mouseClick(f.child<QPushButton>("scriptApply"), Qt::LeftButton);
+    QCOMPARE(f.content(), u"<p>Lot ab<script>2</script>c</p>"_s);
+    f.trigger("plainModeAction");
+    auto *plain = f.child<QPlainTextEdit>("plainView");
+    at = plain->textCursor();
+    at.setPosition(int(f.content().indexOf("2</script>"_L1)));
+    plain->setTextCursor(at);
+    f.trigger("editScriptAction");
+    for (const QString &next : {u"3\n+ 4"_s, u"5"_s}) {
+        code->setPlainText(next);
+        QTest::mouseClick(f.child<QPushButton>("scriptApply"), Qt::LeftButton);
+        QCOMPARE(f.content(), u"<p>Lot ab<script>%1</script>c</p>"_s.arg(next));
+    }
+}
+
+void TestTemplateEditor::readOnlyChangesNothing()
+{
+    EditorFixture f;
+    f.setContent(u"<p>a[Lot]<script>1</script></p>"_s);
+    f.editor.setReadOnly(true);
+    for (const auto mode : {AbstractTemplateEditor::Mode::Plain, AbstractTemplateEditor::Mode::Rich}) {
+        f.editor.setMode(mode);
+        auto *view = mode == AbstractTemplateEditor::Mode::Rich
+                         ? static_cast<QWidget *>(f.child<QTextEdit>("richView"))
+                         : f.child<QPlainTextEdit>("plainView");
+        QTest::keyClicks(view, u"x[Lot]"_s);
+        QTest::keyClick(view, Qt::Key_Delete);
+        QTest::keyClick(view, Qt::Key_V, Qt::ControlModifier);
+        QTest::keyClick(view, Qt::Key_Z, Qt::ControlModifier);
+        for (QAction *action : f.editor.findChildren<QAction *>()) {
+            // What opens dialogs, or closes the window, is for other tests.
+            if (!action->text().contains(u'…') && action->objectName() != "closeAction"_L1 &&
+                action->objectName().endsWith("Action"_L1) && !action->objectName().contains("ode"_L1) &&
+                action->objectName() != "newAction"_L1 && action->objectName() != "saveAction"_L1)
+                action->trigger();
+        }
+        QTest::mouseClick(f.child<QPushButton>("scriptApply"), Qt::LeftButton);
+        QTest::keyClick(f.child<QLineEdit>("codeSearch"), Qt::Key_Return);
+        QCOMPARE(f.content(), u"<p>a[Lot]<script>1</script></p>"_s);
+    }
+    QVERIFY(!f.editor.isModified());
+}
+
+void TestTemplateEditor::findsAndReplaces_data()
+{
+    QTest::addColumn<bool>("rich");
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("find");
+    QTest::addColumn<QString>("replacement");
+    QTest::addColumn<QString>("after");
+
+    QTest::newRow("text") << true << u"<p>Mass and mass</p>"_s << u"mass"_s << u"m/z"_s
+                          << u"<p>m/z and m/z</p>"_s;
+    QTest::newRow("into itself") << true << u"<p>a a</p>"_s << u"a"_s << u"aa"_s << u"<p>aa aa</p>"_s;
+    QTest::newRow("codes") << true << u"<p>Lot: <b>[Lot]</b></p>"_s << u"Lot"_s << u"Sample"_s
+                           << u"<p>Sample: <b>[Sample]</b></p>"_s;
+    QTest::newRow("scripts") << true << u"<p><script>lot(1)</script></p>"_s << u"lot"_s << u"run"_s
+                             << u"<p><script>run(1)</script></p>"_s;
+    QTest::newRow("codes that may not go")
+        << true << u"<p>Signature [Signature]</p>"_s << u"Signature"_s << u"x"_s << u"<p>x [Signature]</p>"_s;
+    QTest::newRow("source") << false << u"<p>a</p><p>b</p>"_s << u"p>"_s << u"div>"_s
+                            << u"<div>a</div><div>b</div>"_s;
+}
+
+void TestTemplateEditor::findsAndReplaces()
+{
+    QFETCH(const bool, rich);
+    QFETCH(const QString, before);
+    QFETCH(const QString, find);
+    QFETCH(const QString, replacement);
+    QFETCH(const QString, after);
+
+    EditorFixture f;
+    f.setContent(before);
+    f.editor.setMode(rich ? AbstractTemplateEditor::Mode::Rich : AbstractTemplateEditor::Mode::Plain);
+    f.trigger("replaceAction");
+    f.child<QLineEdit>("findText")->setText(find);
+    f.child<QLineEdit>("replaceText")->setText(replacement);
+    f.child<QAbstractButton>("replaceAll")->click();
+    QCOMPARE(f.content(), after);
+    // All of it is one step.
+    f.trigger("undoAction");
+    QCOMPARE(f.content(), before);
+    f.child<QAbstractButton>("findNext")->click();
+    const QTextCursor found = rich ? f.child<QTextEdit>("richView")->textCursor()
+                                   : f.child<QPlainTextEdit>("plainView")->textCursor();
+    QVERIFY(found.hasSelection());
+}
+
+void TestTemplateEditor::tablesAreEdited()
+{
+    EditorFixture f;
+    auto *rich = f.child<QTextEdit>("richView");
+    DialogDriver driver({[](QDialog *dialog) { dialog->accept(); }});
+    f.trigger("insertTableAction");
+    QCOMPARE(driver.opened(), 1);
+    const auto size = [rich] {
+        const QTextTable *table = rich->textCursor().currentTable();
+        return table ? QSize(table->columns(), table->rows()) : QSize();
+    };
+    QCOMPARE(size(), QSize(2, 3));
+    QTest::keyClicks(rich, u"[Lot]"_s);
+    f.trigger("rowAboveAction");
+    f.trigger("rowBelowAction");
+    f.trigger("columnBeforeAction");
+    f.trigger("columnAfterAction");
+    QCOMPARE(size(), QSize(4, 5));
+    f.trigger("deleteColumnAction");
+    QCOMPARE(size(), QSize(3, 5));
+    QTextTable *table =
+        rich->document()->rootFrame()->childFrames().isEmpty()
+            ? nullptr
+            : qobject_cast<QTextTable *>(rich->document()->rootFrame()->childFrames().first());
+    QVERIFY(table);
+    QTextCursor cells = table->cellAt(0, 0).firstCursorPosition();
+    cells.setPosition(table->cellAt(0, 1).lastPosition(), QTextCursor::KeepAnchor);
+    rich->setTextCursor(cells);
+    f.trigger("mergeCellsAction");
+    QVERIFY(f.content().contains("colspan=\"2\""_L1));
+    f.trigger("splitCellAction");
+    QVERIFY(!f.content().contains("colspan"_L1));
+    f.trigger("undoAction");
+    QVERIFY(f.content().contains("colspan=\"2\""_L1));
+    const QString source = f.content();
+    f.trigger("plainModeAction");
+    f.trigger("richModeAction");
+    QCOMPARE(f.content(), source);
+}
+
+void TestTemplateEditor::imagesAndLinksAreInserted()
+{
+    EditorFixture f;
+    QImage image(3, 2, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(f.path(u"red.png"_s)));
+    f.answerPath(f.path(u"red.png"_s));
+    f.trigger("insertImageAction");
+    QFile file(f.path(u"red.png"_s));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString embedded = QString::fromLatin1(file.readAll().toBase64());
+    QVERIFY2(f.content().contains("data:image/png;base64,"_L1 + embedded), qPrintable(f.content()));
+    const QString before = f.content();
+    write(f.path(u"no.png"_s), "no image");
+    f.answerPath(f.path(u"no.png"_s));
+    BoxDriver box([](OzmMessageBox *shown) { press(shown, QMessageBox::Ok); });
+    f.trigger("insertImageAction");
+    QCOMPARE(box.shown(), 1);
+    QCOMPARE(f.content(), before);
+
+    f.setContent({});
+    DialogDriver driver({[](QDialog *dialog) {
+        dialog->findChild<QLineEdit *>(u"linkAddress"_s)->setText(u"https://example.org/?a=1&b=2"_s);
+        dialog->findChild<QLineEdit *>(u"linkText"_s)->setText(u"R&D"_s);
+        dialog->accept();
+    }});
+    f.trigger("insertLinkAction");
+    QVERIFY2(f.content().contains("href=\"https://example.org/?a=1&amp;b=2\""_L1) &&
+                 f.content().contains("R&amp;D"_L1),
+             qPrintable(f.content()));
+}
+
+void TestTemplateEditor::everythingHasAName()
+{
+    EditorFixture f;
+    QSet<QString> keys;
+    for (const QAction *action : f.editor.findChildren<QAction *>(Qt::FindDirectChildrenOnly)) {
+        if (action->isSeparator() || action->menu())
+            continue;
+        QVERIFY2(!action->objectName().isEmpty(), qPrintable(action->text()));
+        const QString key = action->shortcut().toString();
+        QVERIFY2(key.isEmpty() || !keys.contains(key), qPrintable(action->objectName() + u' ' + key));
+        keys.insert(key);
+    }
+    for (const char *name : {"richView", "plainView", "codeSearch", "codeList", "scriptCode", "scriptResult",
+                             "previewRow", "previewText", "previewTroubles", "findText", "replaceText",
+                             "fontChoice", "sizeChoice", "paragraphChoice"})
+        QVERIFY2(!f.child<QWidget>(name)->accessibleName().isEmpty(), name);
+}
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    if (!application.arguments().contains(kLeaveCopy)) {
+        TestTemplateEditor test;
+        return QTest::qExec(&test, argc, argv);
+    }
+    // Ends as a program that crashes does: nothing is destroyed.
+    QStandardPaths::setTestModeEnabled(true);
+    auto *autosave = new TemplateAutosave(u"ozm-test-SampleTemplateEditor"_s);
+    autosave->store(u"/somewhere/t.ozt"_s, u"<p>rescued</p>"_s);
+    std::_Exit(0);
+}
+
+#include "tst_templateeditor.moc"
