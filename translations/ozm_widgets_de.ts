@@ -2,6 +2,129 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>AbstractTemplateEditor</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation type="unfinished">„%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large for a template.</source>
+        <translation>„%1“ ist zu groß für eine Vorlage.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no image that can be shown.</source>
+        <translation>„%1“ ist kein Bild, das gezeigt werden kann.</translation>
+    </message>
+    <message>
+        <source>Insert image</source>
+        <translation>Bild einfügen</translation>
+    </message>
+    <message>
+        <source>Images (*.png *.jpg *.jpeg *.gif *.bmp *.svg);;All files (*)</source>
+        <translation>Bilder (*.png *.jpg *.jpeg *.gif *.bmp *.svg);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Image not inserted</source>
+        <translation>Bild nicht eingefügt</translation>
+    </message>
+    <message>
+        <source>Insert link</source>
+        <translation>Verweis einfügen</translation>
+    </message>
+    <message>
+        <source>As selected</source>
+        <translation>Wie ausgewählt</translation>
+    </message>
+    <message>
+        <source>As the address</source>
+        <translation>Wie die Adresse</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>&amp;Adresse:</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation>&amp;Text:</translation>
+    </message>
+    <message>
+        <source>report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Als PDF speichern</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>PDF not saved</source>
+        <translation>PDF nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Saved to %1</source>
+        <translation>Gespeichert unter %1</translation>
+    </message>
+    <message>
+        <source>Formatted template</source>
+        <translation>Formatierte Vorlage</translation>
+    </message>
+    <message>
+        <source>Source of the template</source>
+        <translation>Quelltext der Vorlage</translation>
+    </message>
+    <message>
+        <source>Codes</source>
+        <translation>Platzhalter</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Skript</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>%1 may not be removed from this template.</source>
+        <translation>%1 darf aus dieser Vorlage nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>There is no script at the cursor.</source>
+        <translation>An der Schreibmarke steht kein Skript.</translation>
+    </message>
+    <message>
+        <source>The script is in the template.</source>
+        <translation>Das Skript steht in der Vorlage.</translation>
+    </message>
+    <message>
+        <source>This place is no longer in the template.</source>
+        <translation>Diese Stelle gibt es in der Vorlage nicht mehr.</translation>
+    </message>
+    <message>
+        <source>The template is large, and shown as its source.</source>
+        <translation>Die Vorlage ist groß und wird als Quelltext gezeigt.</translation>
+    </message>
+    <message>
+        <source>The template is too large to be shown as formatted text.</source>
+        <translation>Die Vorlage ist zu groß, um als formatierter Text gezeigt zu werden.</translation>
+    </message>
+    <message>
+        <source>New template</source>
+        <translation>Neue Vorlage</translation>
+    </message>
+    <message>
+        <source>%1[*] (read only) - Template editor</source>
+        <translation>%1[*] (schreibgeschützt) - Vorlagen</translation>
+    </message>
+    <message>
+        <source>%1[*] - Template editor</source>
+        <translation>%1[*] - Vorlagen</translation>
+    </message>
+</context>
+<context>
     <name>FileCrawlerDialog</name>
     <message>
         <source>These folders could not be searched:
@@ -186,6 +309,14 @@ Der berichtigte Pfad ist:
 </context>
 <context>
     <name>SpectrumFileDialog</name>
+    <message>
+        <source>%1
+File not found.
+Please verify the correct file name was given.</source>
+        <translation>%1
+Datei nicht gefunden.
+Bitte prüfen Sie, ob der Dateiname stimmt.</translation>
+    </message>
 </context>
 <context>
     <name>openfilefolderdialog</name>
@@ -232,29 +363,6 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
 </context>
 <context>
-    <name>ozm::EngineWebReader</name>
-    <message>
-        <source>This file is a whole web page. The web engine that reads its body does not run for the system&apos;s administrator. The file can be opened as plain text instead.</source>
-        <translation>Diese Datei ist eine ganze Webseite. Die Web-Engine, die ihren Inhalt liest, läuft nicht für den Administrator des Systems. Die Datei kann stattdessen als reiner Text geöffnet werden.</translation>
-    </message>
-    <message>
-        <source>The web engine failed on the page.</source>
-        <translation>Die Web-Engine ist an der Seite gescheitert.</translation>
-    </message>
-    <message>
-        <source>The web engine found no body in the page.</source>
-        <translation>Die Web-Engine hat in der Seite keinen Inhalt gefunden.</translation>
-    </message>
-    <message>
-        <source>The web engine did not read the page in time.</source>
-        <translation>Die Web-Engine hat die Seite nicht rechtzeitig gelesen.</translation>
-    </message>
-    <message>
-        <source>The program ended while the web engine read the page.</source>
-        <translation>Das Programm wurde beendet, während die Web-Engine die Seite las.</translation>
-    </message>
-</context>
-<context>
     <name>ozm::PickRecognition</name>
     <message>
         <source>%1: %2</source>
@@ -275,6 +383,10 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     <message>
         <source>What is highlighted</source>
         <translation>Was hervorgehoben ist</translation>
+    </message>
+    <message>
+        <source>Highlight files and folders to see what data they hold.</source>
+        <translation>Wählen Sie Dateien und Ordner, um zu sehen, welche Daten sie enthalten.</translation>
     </message>
 </context>
 <context>
@@ -357,6 +469,650 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     <message>
         <source>A new edit cannot be made while another is being undone or redone.</source>
         <translation>Solange eine Änderung rückgängig gemacht oder wiederholt wird, ist keine neue möglich.</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::CodeModel</name>
+    <message>
+        <source>%1 is no code that can be filled.</source>
+        <translation>%1 ist kein Platzhalter, der gefüllt werden kann.</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::CodePanel</name>
+    <message>
+        <source>Search codes</source>
+        <translation>Platzhalter suchen</translation>
+    </message>
+    <message>
+        <source>Codes</source>
+        <translation>Platzhalter</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::EditorActions</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Insert</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>F&amp;ormat</source>
+        <translation>F&amp;ormat</translation>
+    </message>
+    <message>
+        <source>&amp;Table</source>
+        <translation>&amp;Tabelle</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>Ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <translation>Speichern &amp;unter…</translation>
+    </message>
+    <message>
+        <source>Page set&amp;up…</source>
+        <translation>Seite ein&amp;richten…</translation>
+    </message>
+    <message>
+        <source>Print pre&amp;view…</source>
+        <translation>Druck&amp;vorschau…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Drucken…</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;DF…</source>
+        <translation>Als &amp;PDF speichern…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation type="unfinished">&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Paste as p&amp;lain text</source>
+        <translation>Als &amp;reinen Text einfügen</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>A&amp;lles auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>&amp;Suchen…</translation>
+    </message>
+    <message>
+        <source>R&amp;eplace…</source>
+        <translation>E&amp;rsetzen…</translation>
+    </message>
+    <message>
+        <source>Find &amp;next</source>
+        <translation>&amp;Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Find pre&amp;vious</source>
+        <translation>Rück&amp;wärts suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Code from the list…</source>
+        <translation>&amp;Platzhalter aus der Liste…</translation>
+    </message>
+    <message>
+        <source>&amp;Script…</source>
+        <translation>&amp;Skript…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit the script at the cursor</source>
+        <translation>Skript an der Schreibmarke &amp;bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Image…</source>
+        <translation>B&amp;ild…</translation>
+    </message>
+    <message>
+        <source>&amp;Link…</source>
+        <translation>&amp;Verweis…</translation>
+    </message>
+    <message>
+        <source>&amp;Table…</source>
+        <translation>&amp;Tabelle…</translation>
+    </message>
+    <message>
+        <source>&amp;Bold</source>
+        <translation>&amp;Fett</translation>
+    </message>
+    <message>
+        <source>&amp;Italic</source>
+        <translation>&amp;Kursiv</translation>
+    </message>
+    <message>
+        <source>&amp;Underline</source>
+        <translation>&amp;Unterstrichen</translation>
+    </message>
+    <message>
+        <source>Stri&amp;ke through</source>
+        <translation>&amp;Durchgestrichen</translation>
+    </message>
+    <message>
+        <source>Su&amp;perscript</source>
+        <translation>&amp;Hochgestellt</translation>
+    </message>
+    <message>
+        <source>Subs&amp;cript</source>
+        <translation>&amp;Tiefgestellt</translation>
+    </message>
+    <message>
+        <source>&amp;Colour of the text…</source>
+        <translation>F&amp;arbe des Textes…</translation>
+    </message>
+    <message>
+        <source>Colour be&amp;hind the text…</source>
+        <translation>Farbe &amp;hinter dem Text…</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ear formats</source>
+        <translation>Formate &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>Te&amp;xt</source>
+        <translation>Te&amp;xt</translation>
+    </message>
+    <message>
+        <source>Heading &amp;1</source>
+        <translation>Überschrift &amp;1</translation>
+    </message>
+    <message>
+        <source>Heading &amp;2</source>
+        <translation>Überschrift &amp;2</translation>
+    </message>
+    <message>
+        <source>Heading &amp;3</source>
+        <translation>Überschrift &amp;3</translation>
+    </message>
+    <message>
+        <source>Align &amp;left</source>
+        <translation>&amp;Linksbündig</translation>
+    </message>
+    <message>
+        <source>Ce&amp;ntre</source>
+        <translation>&amp;Zentriert</translation>
+    </message>
+    <message>
+        <source>Align &amp;right</source>
+        <translation>&amp;Rechtsbündig</translation>
+    </message>
+    <message>
+        <source>&amp;Justify</source>
+        <translation>&amp;Blocksatz</translation>
+    </message>
+    <message>
+        <source>&amp;List</source>
+        <translation>&amp;Liste</translation>
+    </message>
+    <message>
+        <source>Nu&amp;mbered list</source>
+        <translation>&amp;Nummerierte Liste</translation>
+    </message>
+    <message>
+        <source>Indent l&amp;ess</source>
+        <translation>Einzug &amp;verkleinern</translation>
+    </message>
+    <message>
+        <source>Ind&amp;ent more</source>
+        <translation>Einzug ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Insert row &amp;above</source>
+        <translation>Zeile &amp;darüber einfügen</translation>
+    </message>
+    <message>
+        <source>Insert row &amp;below</source>
+        <translation>Zeile d&amp;arunter einfügen</translation>
+    </message>
+    <message>
+        <source>Insert column be&amp;fore</source>
+        <translation>Spalte da&amp;vor einfügen</translation>
+    </message>
+    <message>
+        <source>Insert column af&amp;ter</source>
+        <translation>Spalte da&amp;nach einfügen</translation>
+    </message>
+    <message>
+        <source>Delete &amp;rows</source>
+        <translation>&amp;Zeilen löschen</translation>
+    </message>
+    <message>
+        <source>Delete &amp;columns</source>
+        <translation>&amp;Spalten löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Merge cells</source>
+        <translation>Zellen &amp;verbinden</translation>
+    </message>
+    <message>
+        <source>&amp;Split cell</source>
+        <translation>Zelle &amp;teilen</translation>
+    </message>
+    <message>
+        <source>&amp;Formatted text</source>
+        <translation>&amp;Formatierter Text</translation>
+    </message>
+    <message>
+        <source>&amp;Source</source>
+        <translation>&amp;Quelltext</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh preview</source>
+        <translation>&amp;Vorschau auffrischen</translation>
+    </message>
+    <message>
+        <source>R&amp;un the script</source>
+        <translation>Skript &amp;ausführen</translation>
+    </message>
+    <message>
+        <source>Recent &amp;files</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>C&amp;ode</source>
+        <translation>&amp;Platzhalter</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Vorlage</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::EditorFiles</name>
+    <message>
+        <source>Templates and pages (*.ozt *.html *.htm *.txt);;All files (*)</source>
+        <translation>Vorlagen und Seiten (*.ozt *.html *.htm *.txt);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Templates (*.ozt);;Templates as HTML (*.html)</source>
+        <translation>Vorlagen (*.ozt);;Vorlagen als HTML (*.html)</translation>
+    </message>
+    <message>
+        <source>Wrong template editor content format.</source>
+        <translation type="unfinished">Falsches Format des Vorlageninhalts.</translation>
+    </message>
+    <message>
+        <source>Open template</source>
+        <translation>Vorlage öffnen</translation>
+    </message>
+    <message>
+        <source>Page without its reader</source>
+        <translation>Seite ohne Leseprogramm</translation>
+    </message>
+    <message>
+        <source>%1
+
+Open all of its text as it stands?</source>
+        <translation>%1
+
+Den ganzen Text öffnen, wie er dasteht?</translation>
+    </message>
+    <message>
+        <source>Template not opened</source>
+        <translation>Vorlage nicht geöffnet</translation>
+    </message>
+    <message>
+        <source>The body of the page was taken over as a new template.</source>
+        <translation>Der Inhalt der Seite wurde als neue Vorlage übernommen.</translation>
+    </message>
+    <message>
+        <source>template.ozt</source>
+        <translation>Vorlage.ozt</translation>
+    </message>
+    <message>
+        <source>Save template</source>
+        <translation>Vorlage speichern</translation>
+    </message>
+    <message>
+        <source>Template not saved</source>
+        <translation>Vorlage nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>The template could not be saved. It is unchanged in the window.</source>
+        <translation>Die Vorlage konnte nicht gespeichert werden. Sie steht unverändert im Fenster.</translation>
+    </message>
+    <message>
+        <source>Saved to %1</source>
+        <translation>Gespeichert unter %1</translation>
+    </message>
+    <message>
+        <source>File changed</source>
+        <translation>Datei geändert</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed by another program. Replace it by what is in the window?</source>
+        <translation>„%1“ wurde von einem anderen Programm geändert. Durch den Inhalt des Fensters ersetzen?</translation>
+    </message>
+    <message>
+        <source>Unsaved template</source>
+        <translation>Vorlage nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>The template has changed. Save it first?</source>
+        <translation>Die Vorlage wurde geändert. Zuerst speichern?</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no longer there. The template is kept in the window.</source>
+        <translation>„%1“ ist nicht mehr da. Die Vorlage bleibt im Fenster erhalten.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed by another program. Read it again, and lose your own changes?</source>
+        <translation>„%1“ wurde von einem anderen Programm geändert. Neu lesen und die eigenen Änderungen verlieren?</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed by another program. Read it again?</source>
+        <translation>„%1“ wurde von einem anderen Programm geändert. Neu lesen?</translation>
+    </message>
+    <message>
+        <source>a new template</source>
+        <translation>eine neue Vorlage</translation>
+    </message>
+    <message>
+        <source>Rescued template</source>
+        <translation>Gerettete Vorlage</translation>
+    </message>
+    <message>
+        <source>The program ended while %1 was not saved. Open what was kept of it at %2?</source>
+        <translation>Das Programm endete, während %1 nicht gespeichert war. Den Stand von %2 öffnen?</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::EditorHistory</name>
+    <message>
+        <source>Editing</source>
+        <translation>Bearbeitung</translation>
+    </message>
+    <message>
+        <source>Change of mode</source>
+        <translation>Wechsel der Ansicht</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::FindBar</name>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Replace by</source>
+        <translation>Ersetzen durch</translation>
+    </message>
+    <message>
+        <source>&amp;Match case</source>
+        <translation>&amp;Groß/klein beachten</translation>
+    </message>
+    <message>
+        <source>&amp;Whole words</source>
+        <translation>Ganze &amp;Wörter</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Replace all</source>
+        <translation>Alle ersetzen</translation>
+    </message>
+    <message>
+        <source>Find previous</source>
+        <translation>Rückwärts suchen</translation>
+    </message>
+    <message>
+        <source>Find next</source>
+        <translation>Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Schließen</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Went on from the other end</source>
+        <translation>Vom anderen Ende aus fortgesetzt</translation>
+    </message>
+    <message>
+        <source>1 replaced</source>
+        <translation>1 ersetzt</translation>
+    </message>
+    <message>
+        <source>%1 replaced</source>
+        <translation>%1 ersetzt</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::PreviewPane</name>
+    <message>
+        <source>Data of the preview</source>
+        <translation>Daten der Vorschau</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>What could not be filled</source>
+        <translation>Was nicht gefüllt werden konnte</translation>
+    </message>
+    <message>
+        <source>&amp;Data:</source>
+        <translation>&amp;Daten:</translation>
+    </message>
+    <message>
+        <source>All %1 as a group</source>
+        <translation>Alle %1 als Gruppe</translation>
+    </message>
+    <message>
+        <source>No data</source>
+        <translation>Keine Daten</translation>
+    </message>
+    <message>
+        <source>The template is large: refresh the preview to see it.</source>
+        <translation>Die Vorlage ist groß: Frischen Sie die Vorschau auf, um sie zu sehen.</translation>
+    </message>
+    <message>
+        <source>%1 has no value.</source>
+        <translation>%1 hat keinen Wert.</translation>
+    </message>
+    <message>
+        <source>A script failed in its line %1: %2</source>
+        <translation>Ein Skript ist in seiner Zeile %1 gescheitert: %2</translation>
+    </message>
+    <message>
+        <source>Everything was filled.</source>
+        <translation>Alles wurde gefüllt.</translation>
+    </message>
+    <message>
+        <source>1 place could not be filled:</source>
+        <translation>1 Stelle konnte nicht gefüllt werden:</translation>
+    </message>
+    <message>
+        <source>%1 places could not be filled:</source>
+        <translation>%1 Stellen konnten nicht gefüllt werden:</translation>
+    </message>
+    <message>
+        <source>Go to this place in the template</source>
+        <translation>Zu dieser Stelle der Vorlage gehen</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::RichTextView</name>
+    <message>
+        <source>Double-click to edit this script.</source>
+        <translation>Doppelklick bearbeitet dieses Skript.</translation>
+    </message>
+    <message>
+        <source>Kept as it is; change it in the source.</source>
+        <translation>Bleibt, wie es ist; im Quelltext zu ändern.</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::ScriptPane</name>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Ausführen</translation>
+    </message>
+    <message>
+        <source>Inser&amp;t</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Skript</translation>
+    </message>
+    <message>
+        <source>templateEditorCore.number(inputParameters[&quot;[Mass]&quot;], 2)</source>
+        <translation>templateEditorCore.number(inputParameters["[Mass]"], 2)</translation>
+    </message>
+    <message>
+        <source>Error of the script</source>
+        <translation>Fehler des Skripts</translation>
+    </message>
+    <message>
+        <source>Result of the script</source>
+        <translation>Ergebnis des Skripts</translation>
+    </message>
+    <message>
+        <source>What the script gives</source>
+        <translation>Was das Skript ergibt</translation>
+    </message>
+    <message>
+        <source>Run the script with the data of the preview</source>
+        <translation>Das Skript mit den Daten der Vorschau ausführen</translation>
+    </message>
+    <message>
+        <source>Begin a new script</source>
+        <translation>Ein neues Skript beginnen</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>Ü&amp;bernehmen</translation>
+    </message>
+    <message>
+        <source>Insert the script at the cursor</source>
+        <translation>Das Skript an der Schreibmarke einfügen</translation>
+    </message>
+    <message>
+        <source>Put the script back where it stands</source>
+        <translation>Das Skript dorthin zurücklegen, wo es steht</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Ran without an error.</source>
+        <translation>Ohne Fehler ausgeführt.</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::TableEditing</name>
+    <message>
+        <source>Insert table</source>
+        <translation>Tabelle einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Rows:</source>
+        <translation>&amp;Zeilen:</translation>
+    </message>
+    <message>
+        <source>&amp;Columns:</source>
+        <translation>&amp;Spalten:</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::TemplatePrinting</name>
+    <message>
+        <source>&quot;%1&quot; cannot be written.</source>
+        <translation>„%1“ kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::TextFormatting</name>
+    <message>
+        <source>Kind of paragraph</source>
+        <translation>Art des Absatzes</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Heading %1</source>
+        <translation>Überschrift %1</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Size in points</source>
+        <translation>Größe in Punkt</translation>
+    </message>
+    <message>
+        <source>Colour of the text</source>
+        <translation>Farbe des Textes</translation>
+    </message>
+    <message>
+        <source>Colour behind the text</source>
+        <translation>Farbe hinter dem Text</translation>
     </message>
 </context>
 </TS>

@@ -398,6 +398,14 @@
 <context>
     <name>workbench::MainActions</name>
     <message>
+        <source>Edit report template…</source>
+        <translation>Berichtsvorlage bearbeiten…</translation>
+    </message>
+    <message>
+        <source>Write the template of a report, with the chosen samples as its preview</source>
+        <translation>Die Vorlage eines Berichts schreiben, mit den gewählten Proben als Vorschau</translation>
+    </message>
+    <message>
         <source>Open</source>
         <translation>Öffnen</translation>
     </message>

@@ -19,11 +19,6 @@ constexpr int kMostRows = 500;
 constexpr int kMostColumns = 50;
 constexpr int kPadding = 4;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("TableEditing", text);
-}
-
 QSpinBox *makeCount(const char *name, int value, int most, const QString &text, QFormLayout *form)
 {
     auto *count = new QSpinBox(form->parentWidget());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCoreApplication>
+
 class QTextTable;
 
 namespace ozm::editor {
@@ -10,6 +12,8 @@ class RichTextView;
 /// removed stay.
 class TableEditing
 {
+    Q_DECLARE_TR_FUNCTIONS(ozm::editor::TableEditing)
+
 public:
     enum class Side
     {

@@ -7,6 +7,8 @@
 
 #include <ozm_widgets/AbstractTemplateEditor.h>
 
+#include <QCoreApplication>
+
 #include <memory>
 
 class QDockWidget;
@@ -28,6 +30,8 @@ class TextFormatting;
 /// The parts of the window, and what goes on between them. The widgets belong to the window.
 class AbstractTemplateEditor::Private : public QObject
 {
+    Q_DECLARE_TR_FUNCTIONS(AbstractTemplateEditor)
+
 public:
     explicit Private(AbstractTemplateEditor *editor);
     ~Private() override;

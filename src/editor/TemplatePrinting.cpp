@@ -20,11 +20,6 @@ namespace {
 
 constexpr int kDotsPerInch = 300;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("TemplatePrinting", text);
-}
-
 } // namespace
 
 TemplatePrinting::TemplatePrinting() = default;

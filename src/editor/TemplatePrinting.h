@@ -2,6 +2,7 @@
 
 #include <ozm_common_stable/Error.h>
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <memory>
@@ -15,6 +16,8 @@ namespace ozm::editor {
 /// Brings a filled template onto paper: by a printer, in a preview of that, and as PDF.
 class TemplatePrinting
 {
+    Q_DECLARE_TR_FUNCTIONS(ozm::editor::TemplatePrinting)
+
 public:
     TemplatePrinting();
     ~TemplatePrinting();

@@ -118,12 +118,14 @@ private:
 /// A window on the screen, a folder for its files, and nothing left behind.
 struct EditorFixture
 {
-    EditorFixture()
+    /// Without @p isActive, something is expected to open in front of the window at once.
+    explicit EditorFixture(bool isActive = true)
     {
         answerPath({});
         editor.show();
         editor.activateWindow();
-        (void)QTest::qWaitForWindowActive(&editor);
+        if (isActive)
+            (void)QTest::qWaitForWindowActive(&editor);
     }
     ~EditorFixture() { WidgetCreatorBase::setCustomCreator({}); }
     Q_DISABLE_COPY_MOVE(EditorFixture)

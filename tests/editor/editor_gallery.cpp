@@ -55,7 +55,9 @@ struct Gallery
     void take(QWidget &window, const QString &name) const
     {
         QTest::qWait(500);
-        window.grab().save(folder + u'/' + name + suffix + u".png"_s);
+        // Small, as one of them is in the documentation.
+        const QImage picture = window.grab().toImage().convertToFormat(QImage::Format_RGB888);
+        picture.save(folder + u'/' + name + suffix + u".png"_s, "PNG", 0);
     }
 
     void takeAll() const

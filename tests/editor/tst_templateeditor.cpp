@@ -506,7 +506,7 @@ void TestTemplateEditor::crashesLoseNothing()
             ++shown;
             press(asked, answer);
         });
-        EditorFixture f;
+        EditorFixture f(false);
         QTRY_COMPARE(shown, 1);
         QCOMPARE(f.content(), answer == QMessageBox::Yes ? u"<p>rescued</p>"_s : QString());
         QCOMPARE(f.editor.isModified(), answer == QMessageBox::Yes);
