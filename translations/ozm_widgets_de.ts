@@ -5,7 +5,7 @@
     <name>AbstractTemplateEditor</name>
     <message>
         <source>&quot;%1&quot; cannot be read: %2</source>
-        <translation type="unfinished">„%1“ kann nicht gelesen werden: %2</translation>
+        <translation>„%1“ kann nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is too large for a template.</source>
@@ -572,7 +572,7 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished">&amp;Schließen</translation>
+        <translation>&amp;Schließen</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -803,7 +803,7 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
     <message>
         <source>Wrong template editor content format.</source>
-        <translation type="unfinished">Falsches Format des Vorlageninhalts.</translation>
+        <translation>Falsches Format des Vorlageninhalts.</translation>
     </message>
     <message>
         <source>Open template</source>
@@ -937,7 +937,7 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Schließen</translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Not found</source>

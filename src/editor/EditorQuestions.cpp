@@ -23,7 +23,7 @@ using namespace ozm::editor;
 namespace {
 
 // Embedded, an image is a third larger, in every report that is made.
-constexpr qint64 kLargestImage = 16 * 1024 * 1024;
+constexpr qint64 kLargestImage = qint64(16) * 1024 * 1024;
 
 QString imageSource(const QByteArray &bytes, const QByteArray &format)
 {
