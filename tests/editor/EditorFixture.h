@@ -30,7 +30,7 @@ class SampleTemplateEditor : public AbstractTemplateEditor
 
 public:
     SampleTemplateEditor()
-        : m_root({QStringLiteral("Sample"), QStringLiteral("Lot"), QStringLiteral("Owner")})
+        : m_root({QStringLiteral("Name"), QStringLiteral("Batch")})
     {
         add(QStringLiteral("T12"), QStringLiteral("A-7"));
         add(QStringLiteral("BSA"), QStringLiteral("B-1"));

@@ -65,6 +65,7 @@ private Q_SLOTS:
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
     void aTemplateIsWrittenAndPrinted();
     void codesAreInsertedInTheSource();
+    void previewFollowsTheData();
     void modesKeepTheSource();
     void undoGoesAcrossModes();
     void undoAfterSavingIsAChange();
@@ -209,6 +210,23 @@ void TestTemplateEditor::codesAreInsertedInTheSource()
     QTRY_COMPARE(troubles->count(), 1);
     Q_EMIT troubles->itemActivated(troubles->item(0));
     QCOMPARE(plain->textCursor().selectedText(), u"nowhere"_s);
+}
+
+void TestTemplateEditor::previewFollowsTheData()
+{
+    EditorFixture f;
+    f.setContent(u"<p>[Name] of [Lot]<img src=\"file:///etc/hostname\"/></p>"_s);
+    auto *rows = f.child<QComboBox>("previewRow");
+    auto *text = f.child<QTextBrowser>("previewText");
+    const QStringList shown{u"T12 of A-7"_s, u"BSA of A-7"_s, u"T12; BSA of A-7"_s};
+    QCOMPARE(rows->count(), shown.size());
+    for (int row = 0; row < rows->count(); ++row) {
+        rows->setCurrentIndex(row);
+        QTRY_COMPARE(text->toPlainText().remove(QChar::ObjectReplacementCharacter), shown.at(row));
+    }
+    // Nothing that a template refers to is loaded.
+    QVERIFY(
+        !text->document()->resource(QTextDocument::ImageResource, QUrl(u"file:///etc/hostname"_s)).isValid());
 }
 
 void TestTemplateEditor::modesKeepTheSource()
