@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <ranges>
 
 using namespace Qt::StringLiterals;
 
@@ -127,7 +126,9 @@ QString TemplateEditorJSCodeReader::Private::runPieces(const ozm::TemplateText &
     ozm::ScriptRealm &realm = own ? *own : engine.d->realm();
 
     QList<QString> texts;
-    for (const ozm::ScriptPiece &piece : parsed.pieces() | std::views::reverse) {
+    const QList<ozm::ScriptPiece> &pieces = parsed.pieces();
+    for (auto at = pieces.crbegin(); at != pieces.crend(); ++at) {
+        const ozm::ScriptPiece &piece = *at;
         const ozm::ScriptOutcome outcome =
             piece.readsParameters ? realm.run(piece.code, parameters) : realm.run(piece.code);
         texts.append(outcome.text);

@@ -59,7 +59,7 @@ Result<QByteArray> bytesOf(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         return notRead(path, file.errorString());
     // Not by the size that the system gives, which is 0 for some files.
-    const QByteArray bytes = file.read(TemplateFile::kLargest + 1);
+    QByteArray bytes = file.read(TemplateFile::kLargest + 1);
     if (file.error() != QFileDevice::NoError)
         return notRead(path, file.errorString());
     if (bytes.size() > TemplateFile::kLargest)
@@ -71,7 +71,7 @@ Result<QString> contentOf(const QString &text, TemplateFile::Page page, bool &co
 {
     if (text.contains("<ozm_template"_L1)) {
         bool ok = false;
-        const QString content = TECWrapper::unwrapTEC(text, &ok);
+        QString content = TECWrapper::unwrapTEC(text, &ok);
         if (ok)
             return content;
         return wrongTemplateFormat(
@@ -92,7 +92,7 @@ QString enveloped(const QString &content)
 Result<QByteArray> bytesFor(const QString &content)
 {
     const QString text = enveloped(content);
-    const QByteArray bytes = text.toUtf8();
+    QByteArray bytes = text.toUtf8();
     if (bytes.size() > TemplateFile::kLargest)
         return refused(TemplateFile::tr("The template cannot be saved.") + u' ' + tooLarge());
     if (content.contains(QChar::Null))

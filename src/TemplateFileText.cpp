@@ -17,7 +17,7 @@ namespace ozm {
 namespace {
 
 // Browsers look for a declaration in the first 1024 bytes, and later where there is none.
-constexpr qsizetype kDeclarationWithin = 16 * 1024;
+constexpr qsizetype kDeclarationWithin = 16384;
 
 struct CharsetAlias
 {

@@ -179,7 +179,7 @@ Result<QString> bodyOfPage(const QString &page)
     if (!reader)
         return reader.error();
     const StandIns standIns(page);
-    const Result<QString> body = reader.value()->bodyOf(standIns.page(), kDeadline);
+    Result<QString> body = reader.value()->bodyOf(standIns.page(), kDeadline);
     if (!body)
         return body;
     if (const std::optional<QString> restored = standIns.restored(body.value()))

@@ -363,6 +363,29 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::EngineWebReader</name>
+    <message>
+        <source>This file is a whole web page. The web engine that reads its body does not run for the system&apos;s administrator. The file can be opened as plain text instead.</source>
+        <translation>Diese Datei ist eine ganze Webseite. Die Webkomponente, die ihren Inhalt liest, läuft nicht für den Systemverwalter. Die Datei kann stattdessen als einfacher Text geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The web engine failed on the page.</source>
+        <translation>Die Webkomponente scheiterte an der Seite.</translation>
+    </message>
+    <message>
+        <source>The web engine found no body in the page.</source>
+        <translation>Die Webkomponente fand in der Seite keinen Inhalt.</translation>
+    </message>
+    <message>
+        <source>The web engine did not read the page in time.</source>
+        <translation>Die Webkomponente hat die Seite nicht rechtzeitig gelesen.</translation>
+    </message>
+    <message>
+        <source>The program ended while the web engine read the page.</source>
+        <translation>Das Programm endete, während die Webkomponente die Seite las.</translation>
+    </message>
+</context>
+<context>
     <name>ozm::PickRecognition</name>
     <message>
         <source>%1: %2</source>
@@ -1019,7 +1042,7 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     </message>
     <message>
         <source>templateEditorCore.number(inputParameters[&quot;[Mass]&quot;], 2)</source>
-        <translation>templateEditorCore.number(inputParameters["[Mass]"], 2)</translation>
+        <translation>templateEditorCore.number(inputParameters[&quot;[Mass]&quot;], 2)</translation>
     </message>
     <message>
         <source>Error of the script</source>

@@ -513,6 +513,14 @@
         <source>Export the audit trail as JSON or CSV</source>
         <translation>Den Audit-Trail als JSON oder CSV exportieren</translation>
     </message>
+    <message>
+        <source>Report…</source>
+        <translation>Bericht …</translation>
+    </message>
+    <message>
+        <source>Make a report on the chosen samples, or on all when none is chosen</source>
+        <translation>Einen Bericht über die gewählten Proben erstellen, oder über alle, wenn keine gewählt ist</translation>
+    </message>
 </context>
 <context>
     <name>workbench::MainWindow</name>
@@ -586,13 +594,13 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
         <source>The samples have changed. Save them first?</source>
         <translation>Die Proben wurden geändert. Zuerst speichern?</translation>
     </message>
+    <message>
+        <source>the open table</source>
+        <translation>die geöffnete Tabelle</translation>
+    </message>
 </context>
 <context>
     <name>workbench::ReportDialog</name>
-    <message>
-        <source>Save report</source>
-        <translation>Bericht speichern</translation>
-    </message>
     <message>
         <source>&amp;One by one</source>
         <translation>&amp;Einzeln</translation>
@@ -600,14 +608,6 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
     <message>
         <source>As a &amp;group</source>
         <translation>Als &amp;Gruppe</translation>
-    </message>
-    <message>
-        <source>Save as &amp;HTML…</source>
-        <translation>Als &amp;HTML speichern …</translation>
-    </message>
-    <message>
-        <source>Save as &amp;PDF…</source>
-        <translation>Als &amp;PDF speichern …</translation>
     </message>
     <message>
         <source>Report on 1 sample</source>
@@ -622,16 +622,12 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
         <translation>&amp;Vorlage:</translation>
     </message>
     <message>
-        <source>HTML (*.html)</source>
-        <translation>HTML (*.html)</translation>
-    </message>
-    <message>
-        <source>PDF (*.pdf)</source>
-        <translation>PDF (*.pdf)</translation>
-    </message>
-    <message>
         <source>Saved to %1</source>
         <translation>Gespeichert in %1</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>&amp;Speichern …</translation>
     </message>
 </context>
 <context>
@@ -935,6 +931,14 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
     <message>
         <source>JSON (*.json);;Table (*.csv)</source>
         <translation>JSON (*.json);;Tabelle (*.csv)</translation>
+    </message>
+    <message>
+        <source>Save report</source>
+        <translation type="unfinished">Bericht speichern</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf);;HTML (*.html)</source>
+        <translation>PDF (*.pdf);;HTML (*.html)</translation>
     </message>
 </context>
 <context>

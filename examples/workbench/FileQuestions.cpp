@@ -23,7 +23,7 @@ constexpr auto kSetting = "toolkitFileDialogs"_L1;
 
 QString tr(const char *text)
 {
-    return QCoreApplication::translate("FileQuestions", text);
+    return QCoreApplication::translate("workbench::files", text);
 }
 
 DirLocation samplesLocation()

@@ -37,7 +37,7 @@ const QString kStyle =
 
 QString tr(const char *text)
 {
-    return QCoreApplication::translate("Report", text);
+    return QCoreApplication::translate("workbench", text);
 }
 
 Error fileError(const QString &text, const QString &path)
@@ -52,7 +52,7 @@ ozm::Result<QString> loadTemplate(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         return fileError(tr("The template \"%1\" cannot be read."), path);
     bool ok = false;
-    const QString content = TECWrapper::unwrapTEC(QString::fromUtf8(file.readAll()), &ok);
+    QString content = TECWrapper::unwrapTEC(QString::fromUtf8(file.readAll()), &ok);
     if (!ok)
         return fileError(tr("\"%1\" is no template of this version."), path);
     return content;

@@ -31,7 +31,7 @@ constexpr int kFooterPoints = 7;
 
 QString tr(const char *text)
 {
-    return QCoreApplication::translate("Report", text);
+    return QCoreApplication::translate("workbench", text);
 }
 
 void preparePaper(QPdfWriter &writer)

@@ -27,7 +27,7 @@ using Samples = std::vector<RowNode>;
 
 QString tr(const char *text)
 {
-    return QCoreApplication::translate("SampleFile", text);
+    return QCoreApplication::translate("workbench::samplefile", text);
 }
 
 Error bad(const QString &text)

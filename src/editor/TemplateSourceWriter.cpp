@@ -10,6 +10,7 @@
 #include <QTextList>
 #include <QTextTable>
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -68,38 +69,28 @@ QString px(qreal value)
     return QString::number(value) + "px"_L1;
 }
 
-QString listTag(const QTextListFormat &format)
+struct ListRow
 {
-    switch (format.style()) {
-    case QTextListFormat::ListDecimal:
-    case QTextListFormat::ListLowerAlpha:
-    case QTextListFormat::ListUpperAlpha:
-    case QTextListFormat::ListLowerRoman:
-    case QTextListFormat::ListUpperRoman:
-        return u"ol"_s;
-    default:
-        return u"ul"_s;
-    }
-}
+    QTextListFormat::Style style;
+    QLatin1StringView tag;
+    QLatin1StringView type;
+};
 
-QString listType(const QTextListFormat &format)
+constexpr std::array kLists{
+    ListRow{QTextListFormat::ListDisc, "ul"_L1, ""_L1},
+    ListRow{QTextListFormat::ListCircle, "ul"_L1, " type=\"circle\""_L1},
+    ListRow{QTextListFormat::ListSquare, "ul"_L1, " type=\"square\""_L1},
+    ListRow{QTextListFormat::ListDecimal, "ol"_L1, ""_L1},
+    ListRow{QTextListFormat::ListLowerAlpha, "ol"_L1, " type=\"a\""_L1},
+    ListRow{QTextListFormat::ListUpperAlpha, "ol"_L1, " type=\"A\""_L1},
+    ListRow{QTextListFormat::ListLowerRoman, "ol"_L1, " type=\"i\""_L1},
+    ListRow{QTextListFormat::ListUpperRoman, "ol"_L1, " type=\"I\""_L1},
+};
+
+const ListRow &listRow(const QTextListFormat &format)
 {
-    switch (format.style()) {
-    case QTextListFormat::ListLowerAlpha:
-        return u" type=\"a\""_s;
-    case QTextListFormat::ListUpperAlpha:
-        return u" type=\"A\""_s;
-    case QTextListFormat::ListLowerRoman:
-        return u" type=\"i\""_s;
-    case QTextListFormat::ListUpperRoman:
-        return u" type=\"I\""_s;
-    case QTextListFormat::ListCircle:
-        return u" type=\"circle\""_s;
-    case QTextListFormat::ListSquare:
-        return u" type=\"square\""_s;
-    default:
-        return {};
-    }
+    const auto *found = std::ranges::find(kLists, format.style(), &ListRow::style);
+    return found == kLists.end() ? kLists.front() : *found;
 }
 
 // Reading HTML folds blanks; where that would change the text the block says that they count.
@@ -347,14 +338,15 @@ private:
         while (m_lists.size() > listsOutside && m_lists.last()->format().indent() >= indent) {
             closeLists(m_lists.size() - 1);
         }
-        add(u'<' + listTag(list->format()) + listType(list->format()) + ">\n"_L1);
+        const ListRow &row = listRow(list->format());
+        add(u'<' + row.tag + row.type + ">\n"_L1);
         m_lists.append(list);
     }
 
     void closeLists(qsizetype keep)
     {
         while (m_lists.size() > keep) {
-            add("</li>\n</"_L1 + listTag(m_lists.last()->format()) + ">\n"_L1);
+            add("</li>\n</"_L1 + listRow(m_lists.last()->format()).tag + ">\n"_L1);
             m_lists.removeLast();
         }
     }
