@@ -934,7 +934,7 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
     </message>
     <message>
         <source>Save report</source>
-        <translation type="unfinished">Bericht speichern</translation>
+        <translation>Bericht speichern</translation>
     </message>
     <message>
         <source>PDF (*.pdf);;HTML (*.html)</source>
