@@ -111,3 +111,26 @@ function(ozm_install_library name packages)
     install(FILES "${CMAKE_CURRENT_BINARY_DIR}/${name}Config.cmake"
         "${CMAKE_CURRENT_BINARY_DIR}/${name}ConfigVersion.cmake" DESTINATION ${package_dir})
 endfunction()
+
+# ozm_add_plugin(<name> SOURCES <file>... LIBRARIES <target>...): a module that ozm_widgets finds at run time,
+# below its own folder in the build tree as after an install.
+function(ozm_add_plugin name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
+    if(WIN32)
+        set(library_folder "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+        set(install_folder ${CMAKE_INSTALL_BINDIR})
+    else()
+        set(library_folder "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
+        set(install_folder ${CMAKE_INSTALL_LIBDIR})
+    endif()
+    add_library(${name} MODULE ${arg_SOURCES})
+    ozm_configure_target(${name})
+    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/src")
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
+    set_target_properties(${name} PROPERTIES
+        AUTOMOC ON
+        PREFIX ""
+        LIBRARY_OUTPUT_DIRECTORY "${library_folder}/ozm_widgets/plugins"
+        INSTALL_RPATH "$<$<NOT:$<PLATFORM_ID:Windows,Darwin>>:$ORIGIN/../..>$<$<PLATFORM_ID:Darwin>:@loader_path/../..>")
+    install(TARGETS ${name} LIBRARY DESTINATION ${install_folder}/ozm_widgets/plugins)
+endfunction()

@@ -1,5 +1,7 @@
 #include "LibraryFolder.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -9,6 +11,8 @@
 #else
 #include <dlfcn.h>
 #endif
+
+using namespace Qt::StringLiterals;
 
 namespace ozm {
 
@@ -45,6 +49,17 @@ QString libraryFolder()
 {
     const QString file = libraryFile();
     return file.isEmpty() ? QString() : QFileInfo(file).absolutePath();
+}
+
+QStringList pluginFolders()
+{
+    QStringList folders;
+    if (const QString folder = libraryFolder(); !folder.isEmpty())
+        folders.append(QDir::cleanPath(folder + "/ozm_widgets/plugins"_L1));
+    const QStringList paths = QCoreApplication::libraryPaths();
+    for (const QString &path : paths)
+        folders.append(QDir::cleanPath(path + "/ozm_widgets"_L1));
+    return folders;
 }
 
 } // namespace ozm

@@ -1,8 +1,12 @@
-#include "ScriptWatchdog.h"
-#include "TemplateEditorJSEngine_p.h"
+#include "ScriptRealm.h"
 
-#include <QHash>
-#include <QPointer>
+#include "LibraryFolder.h"
+#include "Logging.h"
+
+#include <ozm_widgets/TemplateEditorJSEngine.h>
+
+#include <QDir>
+#include <QLibrary>
 
 using namespace Qt::StringLiterals;
 
@@ -10,133 +14,39 @@ namespace ozm {
 
 namespace {
 
-const QString kParameters = u"inputParameters"_s;
-const QString kLibrary = u"templateEditorCore"_s;
-
-// String is taken when the realm is made, before a script can change it.
-const QString kToText = u"(function (toText) {"
-                        "  return function (value) {"
-                        "    try { return { text: toText(value) } }"
-                        "    catch (error) { return { error: error } }"
-                        "  }"
-                        "})(String)"_s;
-
-QString messageOf(const QJSValue &thrown)
+class NoScripts : public ScriptRealm
 {
-    // Only errors are asked for their text: that of another object may be a script that throws again.
-    if (thrown.isError() || !thrown.isObject())
-        return thrown.toString();
-    return u"An object was thrown."_s;
-}
+public:
+    ScriptOutcome run(const QString &code, const QMap<QString, QVariant> &) override { return run(code); }
+    ScriptOutcome run(const QString &code) override { return {code, true, 1, text()}; }
 
-int lineOf(const QJSValue &result, const QStringList &stack)
+    static QString text() { return u"The script engine \"ozm_scripts\" is not installed."_s; }
+};
+
+ScriptRealmFactory findFactory()
 {
-    if (result.isError()) {
-        if (const int line = result.property(u"lineNumber"_s).toInt(); line > 0)
-            return line;
+    const QStringList folders = pluginFolders();
+    for (const QString &folder : folders) {
+        const QStringList names = QDir(folder).entryList({u"*ozm_scripts*"_s}, QDir::Files);
+        for (const QString &name : names) {
+            if (auto *found = QLibrary::resolve(folder + u'/' + name, kScriptRealmFactory))
+                return reinterpret_cast<ScriptRealmFactory>(found);
+        }
     }
-    // Of "function:line:column:file", the outermost frame.
-    return stack.isEmpty() ? 1 : qMax(1, stack.constLast().section(u':', 1, 1).toInt());
-}
-
-template <typename Visit>
-void visitObjects(const QVariant &value, Visit visit)
-{
-    if (value.metaType().flags() & QMetaType::PointerToQObject) {
-        if (QObject *object = value.value<QObject *>())
-            visit(object);
-    } else if (value.typeId() == QMetaType::QVariantMap) {
-        for (const QVariant &each : value.toMap())
-            visitObjects(each, visit);
-    } else if (value.typeId() == QMetaType::QVariantList) {
-        for (const QVariant &each : value.toList())
-            visitObjects(each, visit);
-    }
+    OZM_WIDGETS_WARNING() << "Scripts cannot run: \"ozm_scripts\" was not found in" << folders;
+    return nullptr;
 }
 
 } // namespace
 
-/// Keeps the engine from taking the objects it is shown for its own, for as long as it lives.
-class ScriptRealm::GuardedObjects
+std::unique_ptr<ScriptRealm> ScriptRealm::create(const ScriptLibrary &library, QString *trouble)
 {
-public:
-    ~GuardedObjects()
-    {
-        for (const auto &[object, ownership] : std::as_const(m_objects)) {
-            if (object)
-                QJSEngine::setObjectOwnership(object, ownership);
-        }
-    }
-
-    void guard(const QVariant &value)
-    {
-        visitObjects(value, [this](QObject *object) {
-            const auto ownership = QJSEngine::objectOwnership(object);
-            m_objects.append({object, ownership});
-            QJSEngine::setObjectOwnership(object, QJSEngine::CppOwnership);
-        });
-    }
-
-private:
-    QList<std::pair<QPointer<QObject>, QJSEngine::ObjectOwnership>> m_objects;
-};
-
-ScriptRealm::ScriptRealm(const ScriptLibrary &library, QString *trouble)
-    : m_objects(std::make_unique<GuardedObjects>())
-    , m_toText(m_engine.evaluate(kToText))
-{
-    if (library.content.isEmpty())
-        return;
-    if (const auto failure = load(library); failure && trouble)
-        *trouble = *failure;
-}
-
-ScriptRealm::~ScriptRealm() = default;
-
-std::optional<QString> ScriptRealm::load(const ScriptLibrary &library)
-{
-    const ScriptWatch watch(m_engine, TemplateEditorJSEngine::deadline());
-    QStringList stack;
-    const QJSValue result = m_engine.evaluate(library.content, library.path, 1, &stack);
-    if (result.isError() || !stack.isEmpty() || watch.barked())
-        return messageOf(result);
-    m_engine.globalObject().setProperty(kLibrary, result);
-    return std::nullopt;
-}
-
-ScriptOutcome ScriptRealm::run(const QString &code)
-{
-    return evaluate(code);
-}
-
-ScriptOutcome ScriptRealm::run(const QString &code, const QMap<QString, QVariant> &parameters)
-{
-    for (const QVariant &value : parameters)
-        m_objects->guard(value);
-    QJSValue global = m_engine.globalObject();
-    global.setProperty(kParameters, m_engine.toScriptValue(parameters));
-    ScriptOutcome outcome = evaluate(code);
-    global.deleteProperty(kParameters);
-    return outcome;
-}
-
-ScriptOutcome ScriptRealm::evaluate(const QString &code)
-{
-    const ScriptWatch watch(m_engine, TemplateEditorJSEngine::deadline());
-    QStringList stack;
-    const QJSValue result = m_engine.evaluate(code, {}, 1, &stack);
-    if (watch.barked())
-        return {code, true, lineOf(result, stack), u"The script did not end in time."_s};
-    if (result.isError() || !stack.isEmpty())
-        return {code, true, lineOf(result, stack), messageOf(result)};
-    if (!result.isObject())
-        return {result.toString()};
-    const QJSValue text = m_toText.call({result});
-    if (watch.barked())
-        return {code, true, 1, u"The script did not end in time."_s};
-    if (!text.hasProperty(u"text"_s))
-        return {code, true, 1, messageOf(text.isError() ? text : text.property(u"error"_s))};
-    return {text.property(u"text"_s).toString()};
+    static const ScriptRealmFactory factory = findFactory();
+    if (factory)
+        return std::unique_ptr<ScriptRealm>(factory(library, &TemplateEditorJSEngine::deadline, trouble));
+    if (trouble)
+        *trouble = NoScripts::text();
+    return std::make_unique<NoScripts>();
 }
 
 } // namespace ozm

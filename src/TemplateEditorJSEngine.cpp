@@ -53,7 +53,7 @@ void TemplateEditorJSEnginePrivate::initJSEngine(const QString &path)
     if (read)
         m_library = {path, reader.fileContent()};
     QString trouble;
-    m_realm = std::make_unique<ozm::ScriptRealm>(m_library, &trouble);
+    m_realm = ozm::ScriptRealm::create(m_library, &trouble);
     m_valid = read && trouble.isNull();
     if (m_valid)
         return;
@@ -65,7 +65,7 @@ void TemplateEditorJSEnginePrivate::initJSEngine(const QString &path)
 
 std::unique_ptr<ozm::ScriptRealm> TemplateEditorJSEnginePrivate::freshRealm() const
 {
-    return std::make_unique<ozm::ScriptRealm>(m_library, nullptr);
+    return ozm::ScriptRealm::create(m_library, nullptr);
 }
 
 TemplateEditorJSEngine::TemplateEditorJSEngine(QObject *parent)

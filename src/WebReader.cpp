@@ -41,17 +41,13 @@ QString notThereText(const QStringList &folders)
 #endif
 }
 
-QStringList pluginFolders()
+QStringList readerFolders()
 {
-    QStringList folders;
 #ifdef OZM_WEB_READER
-    if (const QString folder = libraryFolder(); !folder.isEmpty())
-        folders.append(QDir::cleanPath(folder + "/ozm_widgets/plugins"_L1));
-    const QStringList paths = QCoreApplication::libraryPaths();
-    for (const QString &path : paths)
-        folders.append(QDir::cleanPath(path + "/ozm_widgets"_L1));
+    return pluginFolders();
+#else
+    return {};
 #endif
-    return folders;
 }
 
 // What the engine says of being started late and without graphics, which is what is meant here.
@@ -118,7 +114,7 @@ Result<WebReaderInterface *> webReader()
     }
     // Only success is remembered: what is missing may be installed while the program runs.
     static WebReaderInterface *reader = nullptr;
-    const QStringList folders = reader ? QStringList() : pluginFolders();
+    const QStringList folders = reader ? QStringList() : readerFolders();
     if (!reader)
         reader = findReader(folders);
     if (!reader)
