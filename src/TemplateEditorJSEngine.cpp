@@ -127,8 +127,8 @@ QString TemplateEditorJSCodeReader::Private::runPieces(const ozm::TemplateText &
 
     QList<QString> texts;
     const QList<ozm::ScriptPiece> &pieces = parsed.pieces();
-    for (auto at = pieces.crbegin(); at != pieces.crend(); ++at) {
-        const ozm::ScriptPiece &piece = *at;
+    for (qsizetype i = pieces.size() - 1; i >= 0; --i) {
+        const ozm::ScriptPiece &piece = pieces.at(i);
         const ozm::ScriptOutcome outcome =
             piece.readsParameters ? realm.run(piece.code, parameters) : realm.run(piece.code);
         texts.append(outcome.text);
