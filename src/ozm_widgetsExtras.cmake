@@ -21,5 +21,5 @@ endfunction()
 get_property(known GLOBAL PROPERTY OZM_SCRIPT_LIBRARY SET)
 if(NOT known)
     set_property(GLOBAL PROPERTY OZM_SCRIPT_LIBRARY
-        "${PACKAGE_PREFIX_DIR}/share/ozm_widgets/templateEditorJSLib/TemplateEditorJSUtils.js")
+        "${ozm_widgets_PREFIX}/share/ozm_widgets/templateEditorJSLib/TemplateEditorJSUtils.js")
 endif()
