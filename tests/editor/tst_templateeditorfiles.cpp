@@ -1,7 +1,9 @@
 #include "editor/EditorFixture.h"
+#include "support/FullDisk.h"
 #include "support/StrictTest.h"
 
 #include <ozm_widgets/TemplateAutosave.h>
+#include <ozm_widgets/TemplateFile.h>
 
 #include <QPlainTextEdit>
 #include <QProcess>
@@ -31,6 +33,9 @@ private Q_SLOTS:
     void badInputChangesNothing_data();
     void badInputChangesNothing();
     void failedSavesKeepTheWork();
+#ifdef Q_OS_UNIX
+    void fullDiskKeepsBoth();
+#endif
     void changesOnDiskAreNoticed();
     void crashesLoseNothing();
     void largeTemplatesOpen();
@@ -127,6 +132,36 @@ void TestTemplateEditorFiles::failedSavesKeepTheWork()
     f.trigger("pdfAction");
     QCOMPARE(box.shown(), 2);
 }
+
+#ifdef Q_OS_UNIX
+void TestTemplateEditorFiles::fullDiskKeepsBoth()
+{
+    EditorFixture f;
+    f.answerPath(f.path(u"t.ozt"_s));
+    QTest::keyClick(f.child<QTextEdit>("richView"), Qt::Key_A);
+    f.trigger("saveAction");
+    QVERIFY(!f.editor.isModified());
+    f.child<QTextEdit>("richView")->insertPlainText(u"b"_s.repeated(100'000));
+    const QString mine = f.content();
+
+    QString text;
+    BoxDriver box([&text](OzmMessageBox *shown) {
+        text = shown->text();
+        press(shown, QMessageBox::Ok);
+    });
+    {
+        const FullDisk disk(4096);
+        f.trigger("saveAction");
+    }
+    QCOMPARE(box.shown(), 1);
+    QVERIFY2(text.contains("unchanged in the window"_L1), qPrintable(text));
+    QVERIFY(f.editor.isModified());
+    QCOMPARE(f.content(), mine);
+    const auto onDisk = TemplateFile::read(f.path(u"t.ozt"_s));
+    QVERIFY(onDisk);
+    QCOMPARE(onDisk.value().content, u"<div>a</div>"_s);
+}
+#endif
 
 void TestTemplateEditorFiles::changesOnDiskAreNoticed()
 {
