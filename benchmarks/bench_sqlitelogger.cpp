@@ -3,8 +3,8 @@
 
 #include "AuditedEdit.h"
 
-#include "AuditDatabase.h"
-#include "AuditLogger.h"
+#include "audit/AuditDatabase.h"
+#include "audit/AuditLogger.h"
 
 #include <ozm_widgets/db/common/UndoStack.h>
 

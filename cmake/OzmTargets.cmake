@@ -70,7 +70,8 @@ endfunction()
 function(ozm_add_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "HEADERS_BASE" "HEADERS;SOURCES;PUBLIC;PRIVATE;PACKAGES")
 
-    add_library(${name} SHARED ${arg_SOURCES})
+    # The headers are named here for moc as well, which otherwise looks beside the sources only.
+    add_library(${name} SHARED ${arg_SOURCES} ${arg_HEADERS})
     add_library(ozm::${name} ALIAS ${name})
     ozm_configure_target(${name})
     target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})

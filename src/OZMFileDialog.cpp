@@ -1,8 +1,8 @@
 #include <ozm_widgets/OZMFileDialog.h>
 
-#include "GuardedDialog.h"
-#include "Logging.h"
-#include "MsFileTypes.h"
+#include "dialogs/GuardedDialog.h"
+#include "dialogs/MsFileTypes.h"
+#include "support/Logging.h"
 
 #include <ozm_common_core/AutomationKeys.h>
 #include <ozm_common_core_mini/AutomationStore.h>

@@ -1,8 +1,8 @@
 #include <ozm_widgets/OZMStyle.h>
 
-#include "Logging.h"
-#include "StyleIconEngine.h"
-#include "StylePalette.h"
+#include "style/StyleIconEngine.h"
+#include "style/StylePalette.h"
+#include "support/Logging.h"
 
 #include <QApplication>
 #include <QDir>

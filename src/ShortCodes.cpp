@@ -1,7 +1,7 @@
 #include <ozm_widgets/ShortCodes.h>
 
-#include "Logging.h"
 #include "ShortCodes_p.h"
+#include "support/Logging.h"
 
 #include <ozm_widgets/TECWrapper.h>
 

@@ -1,10 +1,10 @@
 #include <ozm_widgets/SpectrumFileDialog.h>
 
-#include "DialogParts.h"
-#include "GuardedDialog.h"
-#include "Logging.h"
-#include "MsFileTypes.h"
-#include "PickRecognition.h"
+#include "dialogs/DialogParts.h"
+#include "dialogs/GuardedDialog.h"
+#include "dialogs/MsFileTypes.h"
+#include "dialogs/PickRecognition.h"
+#include "support/Logging.h"
 
 #include <FormatDetection.h>
 

@@ -1,7 +1,7 @@
 #include <ozm_widgets/TemplateEditorJSEngine.h>
 
-#include "Logging.h"
 #include "TemplateEditorJSEngine_p.h"
+#include "support/Logging.h"
 
 #include <ozm_widgets/TemplateEditorJSFileReader.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ScriptRealm.h"
-#include "TemplateText.h"
+#include "templates/decoding/TemplateText.h"
+#include "templates/scripts/ScriptRealm.h"
 
 #include <ozm_widgets/TemplateDiagnostics.h>
 #include <ozm_widgets/TemplateEditorJSEngine.h>

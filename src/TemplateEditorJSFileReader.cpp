@@ -1,6 +1,6 @@
 #include <ozm_widgets/TemplateEditorJSFileReader.h>
 
-#include "Logging.h"
+#include "support/Logging.h"
 
 #include <QFile>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ScriptRealm.h"
+#include "templates/scripts/ScriptRealm.h"
 
 #include <QJSEngine>
 

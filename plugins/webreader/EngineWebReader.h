@@ -1,6 +1,6 @@
 #pragma once
 
-#include "WebReaderInterface.h"
+#include "templates/files/WebReaderInterface.h"
 
 #include <QObject>
 

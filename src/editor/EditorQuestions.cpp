@@ -2,7 +2,7 @@
 #include "editor/TemplateEditorPrivate.h"
 
 #include "editor/EditorFiles.h"
-#include "editor/InlineHtml.h"
+#include "templates/document/InlineHtml.h"
 
 #include <ozm_widgets/DefaultWidgetCreator.h>
 #include <ozm_widgets/OZMStyle.h>

@@ -3,8 +3,8 @@
 #include "editor/CodeCompleter.h"
 #include "editor/CodeModel.h"
 #include "editor/EditorKeys.h"
-#include "editor/InlineHtml.h"
-#include "editor/TemplateParts.h"
+#include "templates/document/InlineHtml.h"
+#include "templates/document/TemplateParts.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>

@@ -1,7 +1,7 @@
 #include "editor/SourceHighlighter.h"
 
 #include "editor/CodeModel.h"
-#include "editor/TemplateParts.h"
+#include "templates/document/TemplateParts.h"
 
 #include <ozm_widgets/OZMStyle.h>
 

@@ -3,7 +3,7 @@
 #include "editor/EditorHistory.h"
 #include "editor/PreviewPane.h"
 #include "editor/TableEditing.h"
-#include "editor/TemplatePrinting.h"
+#include "templates/paper/TemplatePrinting.h"
 
 #include <ozm_widgets/AbstractTemplateEditor.h>
 

@@ -1,7 +1,7 @@
 #include "editor/TextFormatting.h"
 
 #include "editor/RichTextView.h"
-#include "editor/TemplateChip.h"
+#include "templates/document/TemplateChip.h"
 
 #include <QColorDialog>
 #include <QDoubleValidator>

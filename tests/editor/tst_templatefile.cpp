@@ -1,7 +1,7 @@
-#include "WebReaderInterface.h"
 #include "support/FullDisk.h"
 #include "support/StrictTest.h"
 #include "support/WithoutRights.h"
+#include "templates/files/WebReaderInterface.h"
 
 #include <ozm_widgets/TECWrapper.h>
 #include <ozm_widgets/TemplateAutosave.h>

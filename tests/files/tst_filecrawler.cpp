@@ -197,7 +197,7 @@ void TestFileCrawler::errorsNameTheirPlace()
     QCOMPARE(found.error().errorMessage(), u"Search path does not exist"_s);
     const QList<ErrorPlace> places = found.error().places();
     QCOMPARE(places.size(), 1);
-    QVERIFY(places.constFirst().path.endsWith("src/FileCrawlerDialog.cpp"_L1));
+    QVERIFY(places.constFirst().path.endsWith("/FileCrawlerDialog.cpp"_L1));
     QVERIFY(places.constFirst().function.contains("retrieveMsReferences"_L1));
 }
 

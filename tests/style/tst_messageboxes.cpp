@@ -317,7 +317,8 @@ void TestMessageBoxes::warningOffScreenIsLogged()
     QWidget parent;
     parent.setAttribute(Qt::WA_DontShowOnScreen);
     const BoxDriver driver([](OzmMessageBox *box) { box->done(0); });
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"src/OZmStyleMessageBoxes\\.cpp:\\d+ x$"_s));
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(u"src/style/boxes/OZmStyleMessageBoxes\\.cpp:\\d+ x$"_s));
     QCOMPARE(OZMStyle::warning(&parent, kSignal, kTitle, kRich, kYesNo, Box::No), Box::Ok);
     QCOMPARE(driver.shown(), 0);
 }

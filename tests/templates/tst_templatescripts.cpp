@@ -1,6 +1,6 @@
 #include "support/StrictTest.h"
 
-#include "ScriptContainment.h"
+#include "templates/scripts/ScriptContainment.h"
 
 #include <ozm_widgets/TemplateEditorJSEngine.h>
 #include <ozm_widgets/TemplateEditorJSFileReader.h>

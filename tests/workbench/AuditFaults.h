@@ -1,7 +1,7 @@
 #pragma once
 
-#include "AuditDatabase.h"
-#include "SqlConnection.h"
+#include "audit/AuditDatabase.h"
+#include "audit/SqlConnection.h"
 
 #include <QFile>
 #include <QSqlDatabase>

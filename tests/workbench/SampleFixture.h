@@ -1,8 +1,8 @@
 #pragma once
 
-#include "AuditDatabase.h"
-#include "SampleEditor.h"
-#include "SampleRules.h"
+#include "audit/AuditDatabase.h"
+#include "samples/SampleEditor.h"
+#include "samples/SampleRules.h"
 
 #include <ozm_common_core_mini/ColumnNames.h>
 

@@ -1,7 +1,7 @@
 #include "AuditFaults.h"
-#include "AuditTrail.h"
-#include "AuditTrailJson.h"
 #include "SampleFixture.h"
+#include "audit/AuditTrail.h"
+#include "audit/AuditTrailJson.h"
 #include "support/StrictTest.h"
 
 #include <QJsonArray>

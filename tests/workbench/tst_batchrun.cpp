@@ -1,9 +1,9 @@
-#include "AuditTrail.h"
-#include "CsvReader.h"
-#include "DataColumns.h"
-#include "SampleFile.h"
 #include "SampleFixture.h"
+#include "audit/AuditTrail.h"
 #include "core_ms/SampleTree.h"
+#include "data/DataColumns.h"
+#include "samples/CsvReader.h"
+#include "samples/SampleFile.h"
 #include "support/StrictTest.h"
 
 #include <QImage>

@@ -1,13 +1,13 @@
-#include "CsvReader.h"
-#include "DataImport.h"
-#include "FileQuestions.h"
-#include "MainWindow.h"
-#include "ReportDialog.h"
 #include "SampleFixture.h"
-#include "StyleDialog.h"
 #include "core_ms/SampleTree.h"
+#include "data/DataImport.h"
 #include "files/DialogDriver.h"
+#include "reports/ReportDialog.h"
+#include "samples/CsvReader.h"
 #include "support/StrictTest.h"
+#include "window/FileQuestions.h"
+#include "window/MainWindow.h"
+#include "window/StyleDialog.h"
 
 #include <ozm_common_ms/MsDataFileUtils.h>
 #include <ozm_widgets/DefaultFileAccessor.h>

@@ -1,11 +1,11 @@
 #include "AuditFaults.h"
-#include "DataImport.h"
-#include "DataSamples.h"
-#include "MainWindow.h"
 #include "SampleFixture.h"
 #include "core_ms/SampleTree.h"
+#include "data/DataImport.h"
+#include "data/DataSamples.h"
 #include "support/StrictTest.h"
 #include "support/WithoutRights.h"
+#include "window/MainWindow.h"
 
 #include <ozm_widgets/OzmMessageBox.h>
 

@@ -1,9 +1,9 @@
-#include "AddSampleDialog.h"
 #include "AuditFaults.h"
-#include "AuditTrailModel.h"
-#include "MainWindow.h"
 #include "SampleFixture.h"
+#include "audit/AuditTrailModel.h"
+#include "samples/AddSampleDialog.h"
 #include "support/StrictTest.h"
+#include "window/MainWindow.h"
 
 #include <ozm_widgets/OzmMessageBox.h>
 

@@ -1,6 +1,6 @@
-#include "Report.h"
-#include "ReportDialog.h"
-#include "SampleTable.h"
+#include "reports/Report.h"
+#include "reports/ReportDialog.h"
+#include "samples/SampleTable.h"
 #include "support/StrictTest.h"
 
 #include <ozm_common_core_mini/ColumnNames.h>

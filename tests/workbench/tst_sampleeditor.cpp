@@ -1,6 +1,6 @@
 #include "AuditFaults.h"
-#include "SampleCommands.h"
 #include "SampleFixture.h"
+#include "samples/SampleCommands.h"
 #include "support/StrictTest.h"
 
 #include <QSignalSpy>

@@ -1,6 +1,6 @@
-#include "CsvReader.h"
-#include "SampleFile.h"
 #include "SampleFixture.h"
+#include "samples/CsvReader.h"
+#include "samples/SampleFile.h"
 #include "support/StrictTest.h"
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
 #include "LogValue.h"
 
-#include "Logging.h"
+#include "support/Logging.h"
 
 #include <ozm_common_core_mini/VariantItems.h>
 

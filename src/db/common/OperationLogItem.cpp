@@ -1,6 +1,6 @@
 #include <ozm_widgets/db/common/OperationLogItem.h>
 
-#include "Logging.h"
+#include "support/Logging.h"
 
 #include <QJsonArray>
 #include <QLocale>

@@ -1,7 +1,7 @@
 #include "UndoCommand_p.h"
 
-#include "Logging.h"
 #include "UndoStack_p.h"
+#include "support/Logging.h"
 
 #include <QScopedValueRollback>
 

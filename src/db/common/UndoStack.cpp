@@ -1,7 +1,7 @@
 #include "UndoStack_p.h"
 
-#include "Logging.h"
 #include "UndoCommand_p.h"
+#include "support/Logging.h"
 
 #include <ozm_widgets/db/common/AuditTrailLoggingInterface.h>
 

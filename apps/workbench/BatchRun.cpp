@@ -1,0 +1,286 @@
+#include "BatchRun.h"
+
+#include "audit/AuditDatabase.h"
+#include "data/DataSamples.h"
+#include "reports/Report.h"
+#include "samples/SampleEditor.h"
+#include "window/MainWindow.h"
+
+#include <ozm_common_core_mini/ColumnNames.h>
+#include <ozm_common_ms/MsDataFileUtils.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QPixmap>
+#include <QTemporaryFile>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+using ozm::Error;
+using ozm::ErrorCode;
+using ozm::msreader::MsDataFileInfo;
+
+namespace workbench {
+
+namespace {
+
+// As many as the window shows at a glance.
+constexpr int kRenamed = 3;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("BatchRun", text);
+}
+
+/// One line, out at once: who reads it may rely on what it says even if the program dies.
+void tell(const QString &line)
+{
+    const QByteArray bytes = line.simplified().toUtf8() + '\n';
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout);
+    std::fflush(stdout);
+}
+
+void tellRecord(const AuditEntry &entry)
+{
+    QString line = tr("recorded %1: ").arg(entry.record.sequence) + entry.text;
+    if (entry.record.outcome.hasError())
+        line += tr(" - refused: ") + entry.record.outcome.errorMessage();
+    tell(line);
+}
+
+void tellData(const MsDataFileInfo &info, const QDir &folder)
+{
+    const QString size = info.size < 0 ? tr("size unknown") : tr("%1 bytes").arg(info.size);
+    tell(tr("found %1: %2 (%3), %4, %5")
+             .arg(folder.relativeFilePath(info.path), info.formatName, info.description, kindText(info.kind),
+                  size));
+}
+
+/// All data in @p folder, in the order in which it is listed.
+ozm::Result<QList<MsDataFileInfo>> findData(const QString &folder)
+{
+    QList<MsDataFileInfo> samples;
+    ozm::msreader::MsDataSearchOptions options;
+    options.measureFolders = true;
+    ozm::msreader::MsDataSearchCallbacks callbacks;
+    callbacks.found = [&samples](const MsDataFileInfo &sample) { samples.append(sample); };
+    callbacks.passedOver = [](const QString &path, const QString &reason) {
+        tell(tr("passed over %1: %2").arg(QDir::toNativeSeparators(path), reason));
+    };
+    Error error = ozm::msreader::MsDataFileUtils::search(folder, options, callbacks);
+    if (error.hasError())
+        return error;
+    return sortedBelow(folder, samples);
+}
+
+Error prepareDirectory(const QString &path)
+{
+    const QDir directory(path);
+    QTemporaryFile probe(directory.filePath(u"writable-XXXXXX"_s));
+    if (directory.mkpath(u"."_s) && probe.open())
+        return {};
+    return Error(ErrorCode::FileAccess,
+                 tr("The folder \"%1\" cannot be written to. Choose another with --out.")
+                     .arg(QDir::toNativeSeparators(path)))
+        .ecatch(OZM_HERE);
+}
+
+/// The run itself: each function is a step, and a step that fails ends the run.
+class Run
+{
+public:
+    Run(SampleEditor &editor, const BatchOptions &options)
+        : m_editor(editor)
+        , m_options(options)
+        , m_out(options.outDirectory)
+        , m_isFolder(QFileInfo(options.input).isDir())
+        , m_window(editor, options.database)
+    {
+        m_window.setMessagesShown(false);
+        m_window.show();
+    }
+
+    Error all()
+    {
+        for (const auto step : {&Run::load, &Run::edit, &Run::add, &Run::rename, &Run::tryInvalid,
+                                &Run::undoAndRedo, &Run::repeat, &Run::save, &Run::report, &Run::grab}) {
+            if (Error error = (this->*step)(); error.hasError())
+                return error;
+        }
+        return {};
+    }
+
+private:
+    [[nodiscard]] qint64 idAt(int index) const
+    {
+        const RowNode *row = m_editor.table().row(index);
+        return row ? SampleTable::idOf(*row) : 0;
+    }
+
+    Error load()
+    {
+        Error error = m_isFolder ? loadFolder() : m_editor.load(m_options.input);
+        if (error.hasError() || m_editor.table().rowCount() > 0)
+            return error;
+        return Error(ErrorCode::BadParameter,
+                     tr("\"%1\" holds no samples.").arg(QDir::toNativeSeparators(m_options.input)));
+    }
+
+    Error loadFolder()
+    {
+        const QString folder = QDir::cleanPath(QFileInfo(m_options.input).absoluteFilePath());
+        const auto found = findData(folder);
+        if (!found)
+            return found.error();
+        for (const MsDataFileInfo &info : found.value())
+            tellData(info, QDir(folder));
+        Error error = writeFormats(found.value(), folder, m_out.filePath(u"formats.csv"_s));
+        return error.hasError() ? error : m_editor.addData(found.value(), folder);
+    }
+
+    Error edit()
+    {
+        // Data has no charge.
+        if (m_isFolder)
+            return m_editor.setCell(idAt(0), kComment, tr("Checked by the batch run"));
+        // The two charges become one step of the history, and stay two records of the trail.
+        for (const auto &charge : {u"3"_s, u"4"_s}) {
+            if (Error error = m_editor.setCell(idAt(0), kCharge, charge); error.hasError())
+                return error;
+        }
+        return m_editor.setCell(idAt(0), kComment, tr("Charge checked against the isotope pattern"));
+    }
+
+    Error add()
+    {
+        if (m_isFolder)
+            return {};
+        QString name = tr("Batch control");
+        for (int number = 2; m_editor.table().hasName(name); ++number)
+            name = tr("Batch control %1").arg(number);
+        return m_editor.addSample({{kName, name},
+                                   {kSequence, u"PEPTIDEK"_s},
+                                   {kCharge, u"2"_s},
+                                   {kMass, u"927.4549"_s},
+                                   {kComment, tr("Added by the batch run")}});
+    }
+
+    Error rename()
+    {
+        QList<qint64> ids;
+        for (int index = 0; index < qMin(kRenamed, m_editor.table().rowCount()); ++index)
+            ids.append(idAt(index));
+        return m_editor.renameSamples(ids, tr("* (checked)"));
+    }
+
+    Error tryInvalid()
+    {
+        Error refusal = m_editor.setCell(idAt(0), kCharge, u"0"_s);
+        if (!refusal.hasError())
+            return Error(ErrorCode::Failed, tr("An invalid charge was taken.")).ecatch(OZM_HERE);
+        // A warning says that the refusal itself is not recorded.
+        const bool recorded = refusal.errorCode() == ErrorCode::BadParameter && refusal.warnings().isEmpty();
+        return recorded ? Error() : refusal;
+    }
+
+    Error undoAndRedo()
+    {
+        Error error = m_editor.undo();
+        return error.hasError() ? error : m_editor.redo();
+    }
+
+    Error repeat()
+    {
+        for (int step = 1; step <= m_options.steps; ++step) {
+            const qint64 id = idAt(step % m_editor.table().rowCount());
+            Error error = m_editor.setCell(id, kComment, tr("Step %1").arg(step));
+            if (error.hasError())
+                return error;
+        }
+        return {};
+    }
+
+    Error save()
+    {
+        Error error = m_editor.save(m_out.filePath(u"samples.csv"_s));
+        return error.hasError() ? error : m_editor.exportTrail(m_out.filePath(u"audit.json"_s));
+    }
+
+    /// A certificate for each of the renamed samples, and a list of all.
+    Error report()
+    {
+        std::vector<RowNode> all;
+        all.reserve(size_t(m_editor.table().rowCount()));
+        for (int index = 0; index < m_editor.table().rowCount(); ++index)
+            all.push_back(*m_editor.table().row(index));
+        const std::vector<RowNode> first(all.begin(),
+                                         all.begin() + qMin<qsizetype>(kRenamed, std::ssize(all)));
+        const ReportContext context(m_options.user, QFileInfo(m_options.input).fileName(), all);
+        ReportPages pages;
+        for (const ReportTemplate &each : reportTemplates()) {
+            const auto filled = fillReport(each.path, each.forGroup, each.forGroup ? all : first, context);
+            if (!filled)
+                return filled.error();
+            pages.append(filled.value());
+        }
+        for (const QString &trouble : std::as_const(pages.troubles))
+            tell(tr("report: ") + trouble);
+        Error error = saveReportHtml(pages, m_out.filePath(u"report.html"_s));
+        return error.hasError() ? error : saveReportPdf(pages, m_out.filePath(u"report.pdf"_s));
+    }
+
+    Error grab()
+    {
+        QApplication::processEvents();
+        const QString path = m_out.filePath(u"window.png"_s);
+        if (m_window.grab().save(path))
+            return {};
+        return Error(ErrorCode::FileAccess,
+                     tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(path)))
+            .ecatch(OZM_HERE);
+    }
+
+    SampleEditor &m_editor;
+    const BatchOptions &m_options;
+    const QDir m_out;
+    const bool m_isFolder;
+    MainWindow m_window;
+};
+
+void tellResults(const BatchOptions &options)
+{
+    const QDir out(options.outDirectory);
+    tell(QFileInfo(options.database).absoluteFilePath());
+    for (const auto &name :
+         {u"audit.json"_s, u"samples.csv"_s, u"report.html"_s, u"report.pdf"_s, u"window.png"_s})
+        tell(QFileInfo(out.filePath(name)).absoluteFilePath());
+    if (QFileInfo(options.input).isDir())
+        tell(QFileInfo(out.filePath(u"formats.csv"_s)).absoluteFilePath());
+}
+
+} // namespace
+
+Error runBatch(const BatchOptions &given)
+{
+    BatchOptions options = given;
+    if (options.database.isEmpty())
+        options.database = QDir(options.outDirectory).filePath(u"audit.sqlite"_s);
+    if (Error error = prepareDirectory(options.outDirectory); error.hasError())
+        return error;
+    const auto database = AuditDatabase::open(options.database);
+    if (!database)
+        return database.error();
+
+    SampleEditor editor(*database.value(), options.user);
+    if (Error error = editor.start(); error.hasError())
+        return error;
+    QObject::connect(&editor.trail(), &AuditTrail::recorded, &editor, &tellRecord);
+    if (Error error = Run(editor, options).all(); error.hasError())
+        return error;
+    tellResults(options);
+    return {};
+}
+
+} // namespace workbench

@@ -1,0 +1,91 @@
+#include "audit/AuditTrailJson.h"
+
+#include "audit/AuditTrail.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+
+using namespace Qt::StringLiterals;
+using ozm::Error;
+using ozm::ErrorCode;
+
+namespace workbench {
+
+namespace {
+
+QByteArray listOf(const std::vector<AuditEntry *> &entries);
+
+/// Whether the bytes may stand inside a JSON document. A byte-order mark is let pass by readers at the
+/// beginning of a document only.
+bool isEmbeddableJson(const QByteArray &bytes)
+{
+    return !bytes.startsWith("\xEF\xBB\xBF") && !QJsonDocument::fromJson(bytes).isNull();
+}
+
+QJsonObject errorJson(const Error &error)
+{
+    return {{u"code"_s, static_cast<int>(error.errorCode())}, {u"message"_s, error.errorMessage()}};
+}
+
+/// All of an entry that can be put together as objects: known records have nothing that would be lost.
+QJsonObject headOf(const AuditEntry &entry)
+{
+    QJsonObject head;
+    if (entry.known)
+        head = QJsonDocument::fromJson(entry.record.json).object();
+    head.insert("id"_L1, entry.record.item);
+    head.insert("time"_L1, entry.record.dateTime().toString(Qt::ISODateWithMs));
+    head.insert("user"_L1, entry.record.user);
+    if (entry.record.outcome.hasError())
+        head.insert("error"_L1, errorJson(entry.record.outcome));
+    if (entry.isUnfinished())
+        head.insert("finished"_L1, false);
+    if (!entry.known && !isEmbeddableJson(entry.record.json))
+        head.insert("recordBase64"_L1, QString::fromLatin1(entry.record.json.toBase64()));
+    return head;
+}
+
+QByteArray entryJson(const AuditEntry &entry)
+{
+    QByteArray json = QJsonDocument(headOf(entry)).toJson(QJsonDocument::Compact);
+    json.chop(1);
+    if (!entry.known && isEmbeddableJson(entry.record.json))
+        json += ",\"record\":" + entry.record.json;
+    if (!entry.children.empty())
+        json += ",\"children\":" + listOf(entry.children);
+    return json + '}';
+}
+
+QByteArray listOf(const std::vector<AuditEntry *> &entries)
+{
+    QByteArray json = "[";
+    for (const AuditEntry *entry : entries) {
+        json += json.size() > 1 ? ",\n" : "\n";
+        json += entryJson(*entry);
+    }
+    return json + "\n]";
+}
+
+} // namespace
+
+QByteArray auditTrailJson(const AuditTrail &trail)
+{
+    return listOf(trail.entries()) + '\n';
+}
+
+Error writeAuditTrailJson(const AuditTrail &trail, const QString &path)
+{
+    const QByteArray json = auditTrailJson(trail);
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit())
+        return {};
+    return Error(ErrorCode::FileAccess,
+                 QCoreApplication::translate("AuditTrailJson", "\"%1\" cannot be written: %2.")
+                     .arg(QDir::toNativeSeparators(path), file.errorString()))
+        .ecatch(OZM_HERE);
+}
+
+} // namespace workbench

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "reports/ReportContext.h"
+
+#include <ozm_common_core_mini/RowNode.h>
+#include <ozm_widgets/AbstractTemplateEditor.h>
+
+#include <vector>
+
+namespace workbench {
+
+/// Edits templates of reports on samples: it offers the samples' columns and what a report can say beside
+/// them, and previews the samples that it was given.
+class WorkbenchTemplateEditor : public AbstractTemplateEditor
+{
+    Q_OBJECT
+
+public:
+    WorkbenchTemplateEditor(std::vector<RowNode> rows, const ReportContext &context,
+                            QWidget *parent = nullptr);
+    ~WorkbenchTemplateEditor() override;
+
+    [[nodiscard]] QList<ShortCode> shortCodes() const override;
+    [[nodiscard]] QList<RowNode *> previewRows() const override;
+    [[nodiscard]] QString previewName(const RowNode &row) const override;
+    [[nodiscard]] QList<DecodeTecExtraData> extraData(const RowNode *row) const override;
+
+private:
+    std::vector<RowNode> m_rows;
+    const ReportContext m_context;
+    /// What was handed out last is read after extraData() has returned.
+    mutable ReportContext m_current;
+};
+
+} // namespace workbench

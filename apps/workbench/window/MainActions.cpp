@@ -1,0 +1,149 @@
+#include "window/MainActions.h"
+
+#include <ozm_widgets/OZMStyle.h>
+
+#include <QAction>
+#include <QKeySequence>
+#include <QMainWindow>
+#include <QToolBar>
+#include <QUndoStack>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace workbench {
+
+namespace {
+
+enum class Group
+{
+    File,
+    Samples,
+    History,
+    Tools
+};
+
+struct ActionRow
+{
+    QAction *MainActions::*action;
+    Group group;
+    const char *name;
+    const char *icon;
+    const char *text;
+    const char *tip;
+    QKeySequence::StandardKey key;
+    const char *ownKey = "";
+};
+
+constexpr std::array kActions{
+    ActionRow{&MainActions::open, Group::File, "openAction", "document-open",
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Open"),
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Open samples from a CSV file"),
+              QKeySequence::Open},
+    ActionRow{&MainActions::save, Group::File, "saveAction", "document-save",
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Save"),
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Save the samples to a CSV file"),
+              QKeySequence::Save},
+    ActionRow{&MainActions::openData, Group::Samples, "openDataAction", "spectrum",
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Open MS data…"),
+              QT_TRANSLATE_NOOP("workbench::MainActions",
+                                "Choose mass-spectrometry data, files and folders, and add it as samples"),
+              QKeySequence::UnknownKey, "Ctrl+Shift+O"},
+    ActionRow{&MainActions::findData, Group::Samples, "findDataAction", "folder-data",
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Find MS data…"),
+              QT_TRANSLATE_NOOP("workbench::MainActions",
+                                "Find the mass-spectrometry data in a folder, and add it as samples"),
+              QKeySequence::Find},
+    ActionRow{&MainActions::addSample, Group::Samples, "addSampleAction", "list-add",
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Add"),
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Add a sample"), QKeySequence::New},
+    ActionRow{&MainActions::deleteSamples, Group::Samples, "deleteAction", "edit-delete",
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Delete"),
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Delete the chosen samples"), QKeySequence::Delete},
+    ActionRow{&MainActions::rename, Group::Samples, "renameAction", "edit-rename",
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Rename"),
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Rename the chosen samples in one step"),
+              QKeySequence::UnknownKey, "Ctrl+R"},
+    ActionRow{&MainActions::undo, Group::History, "undoAction", "edit-undo",
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Undo"), "", QKeySequence::Undo},
+    ActionRow{&MainActions::redo, Group::History, "redoAction", "edit-redo",
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Redo"), "", QKeySequence::Redo},
+    ActionRow{&MainActions::listData, Group::Tools, "listDataAction", "view-list",
+              QT_TRANSLATE_NOOP("workbench::MainActions", "List MS data…"),
+              QT_TRANSLATE_NOOP("workbench::MainActions",
+                                "Save a CSV file that lists the mass-spectrometry data in a folder"),
+              QKeySequence::UnknownKey},
+    ActionRow{&MainActions::exportTrail, Group::Tools, "exportAction", "document-export",
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Export trail"),
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Export the audit trail as JSON or CSV"),
+              QKeySequence::UnknownKey, "Ctrl+E"},
+    ActionRow{&MainActions::report, Group::Tools, "reportAction", "document-print-preview",
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Report…"),
+              QT_TRANSLATE_NOOP("workbench::MainActions",
+                                "Make a report on the chosen samples, or on all when none is chosen"),
+              QKeySequence::Print},
+    ActionRow{&MainActions::editTemplate, Group::Tools, "editTemplateAction", "report",
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Edit report template…"),
+              QT_TRANSLATE_NOOP("workbench::MainActions",
+                                "Write the template of a report, with the chosen samples as its preview"),
+              QKeySequence::UnknownKey, "Ctrl+T"},
+    ActionRow{&MainActions::style, Group::Tools, "styleAction", "view-style",
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Style"),
+              QT_TRANSLATE_NOOP("workbench::MainActions", "Look at icons and messages, in light and dark"),
+              QKeySequence::UnknownKey},
+};
+
+QAction *makeAction(const ActionRow &row, QObject *parent)
+{
+    auto *action =
+        new QAction(OZMStyle::icon(QString::fromLatin1(row.icon)), MainActions::tr(row.text), parent);
+    action->setObjectName(QString::fromLatin1(row.name));
+    if (*row.tip) {
+        action->setToolTip(MainActions::tr(row.tip));
+        action->setStatusTip(MainActions::tr(row.tip));
+    }
+    if (row.key != QKeySequence::UnknownKey)
+        action->setShortcut(row.key);
+    else
+        action->setShortcut(QKeySequence(QString::fromLatin1(row.ownKey)));
+    return action;
+}
+
+} // namespace
+
+MainActions::MainActions(QMainWindow *window)
+    : QObject(window)
+{
+    for (const ActionRow &row : kActions)
+        this->*row.action = makeAction(row, window);
+    QToolBar *bar = window->addToolBar(tr("Edit samples"));
+    bar->setObjectName(u"toolBar"_s);
+    bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    fill(bar);
+}
+
+void MainActions::fill(QToolBar *bar)
+{
+    Group group = kActions.front().group;
+    for (const ActionRow &row : kActions) {
+        if (row.group != group)
+            bar->addSeparator();
+        group = row.group;
+        bar->addAction(this->*row.action);
+    }
+}
+
+void MainActions::update(const QUndoStack &history, bool hasSamples, bool hasSelection) const
+{
+    undo->setEnabled(history.canUndo());
+    undo->setToolTip(history.canUndo() ? tr("Undo: %1").arg(history.undoText()) : tr("Nothing to undo"));
+    redo->setEnabled(history.canRedo());
+    redo->setToolTip(history.canRedo() ? tr("Redo: %1").arg(history.redoText()) : tr("Nothing to redo"));
+    deleteSamples->setEnabled(hasSelection);
+    rename->setEnabled(hasSelection);
+    save->setEnabled(hasSamples);
+    report->setEnabled(hasSamples);
+}
+
+} // namespace workbench

@@ -1,0 +1,178 @@
+#include <ozm_widgets/FileDialog.h>
+
+#include "dialogs/DialogParts.h"
+#include "dialogs/GuardedDialog.h"
+#include "dialogs/SaveProbe.h"
+
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+using ozm::GuardedDialog;
+using ozm::SaveProbe;
+
+namespace {
+
+QString warningTitle()
+{
+    return FileDialog::tr("Warning");
+}
+
+QString lockedText()
+{
+    return FileDialog::tr(
+        "The file is locked and cannot be overwritten, which is likely opened by another application. Please "
+        "close the other application or choose a different file name.");
+}
+
+QString notCreatableText()
+{
+    return FileDialog::tr("The file cannot be created at this location (no permission). Please choose a "
+                          "different file path.");
+}
+
+} // namespace
+
+FileDialog::FileDialog(QWidget *parent, const QString &caption, const QString &directory,
+                       const QString &filter)
+    : RestrictedFileDialog(parent, caption, directory, filter)
+{
+    setFileMode(QFileDialog::AnyFile);
+    setOption(QFileDialog::DontUseNativeDialog, true);
+
+    auto *notice = new QLabel(this);
+    notice->setObjectName(u"replaceNotice"_s);
+    notice->setTextFormat(Qt::PlainText);
+    notice->hide();
+    ozm::addToFileDialog(*this, notice);
+    if (const QLineEdit *name = ozm::nameBox(*this))
+        connect(name, &QLineEdit::textChanged, this, &FileDialog::updateNotice);
+    connect(this, &QFileDialog::filterSelected, this, &FileDialog::updateNotice);
+    connect(this, &QFileDialog::currentChanged, this, &FileDialog::updateNotice);
+}
+
+FileDialog::~FileDialog() = default;
+
+QString FileDialog::getOpenFileName(QWidget *parent, const QString &caption, const QString &dir,
+                                    const QString &filter, QString *selectedFilter,
+                                    QFileDialog::Options options)
+{
+    Q_UNUSED(selectedFilter);
+    Q_UNUSED(options);
+    GuardedDialog dialog(new FileDialog(parent, caption, dir, filter));
+    dialog->setAcceptMode(QFileDialog::AcceptOpen);
+    // Callers create what does not exist: any name will do.
+    dialog->setFileMode(QFileDialog::AnyFile);
+    return dialog.exec() ? dialog->selectedFiles().value(0) : QString();
+}
+
+QString FileDialog::getSaveFileName(QWidget *parent, const QString &caption, const QString &dir,
+                                    const QString &filter, QString *selectedFilter,
+                                    QFileDialog::Options options)
+{
+    Q_UNUSED(selectedFilter);
+    Q_UNUSED(options);
+    GuardedDialog dialog(new FileDialog(parent, caption, dir, filter));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->updateNotice();
+    return dialog.exec() ? dialog->pathToSave() : QString();
+}
+
+QString FileDialog::getExistingDirectory(QWidget *parent, const QString &caption, const QString &dir,
+                                         QFileDialog::Options options)
+{
+    GuardedDialog dialog(new FileDialog(parent, caption, dir));
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOptions(options);
+    dialog->setAcceptMode(QFileDialog::AcceptOpen);
+    return dialog.exec() ? dialog->selectedFiles().value(0) : QString();
+}
+
+void FileDialog::accept()
+{
+    // What a plain dialog does on acceptance, and nothing of what QFileDialog adds.
+    if (acceptMode() == QFileDialog::AcceptSave)
+        acceptSave();
+    else
+        done(Accepted);
+}
+
+void FileDialog::acceptSave()
+{
+    const QString chosen = selectedFiles().value(0);
+    if (QFileInfo(chosen).isDir()) {
+        enterFolder(chosen);
+        return;
+    }
+    if (ozm::probeSave(pathToSave()) == SaveProbe::Writable) {
+        done(Accepted);
+        return;
+    }
+    // Not under the key press that led here: the name box does not expect to be gone when that returns, and
+    // this dialog's parent may go while the user reads the warning.
+    const auto warn = [this] {
+        const QString path = pathToSave();
+        const QPointer<FileDialog> self(this);
+        if (checkIfFileCanBeOpenToWrite(this, path) && self)
+            self->done(Accepted);
+    };
+    QMetaObject::invokeMethod(this, warn, Qt::QueuedConnection);
+}
+
+void FileDialog::enterFolder(const QString &folder)
+{
+    QLineEdit *name = ozm::nameBox(*this);
+    const QString typed = name ? name->text() : QString();
+    // With an empty name the toolkit answers with the folder one is in: there is nothing to save then, and
+    // nothing to enter.
+    if (typed.isEmpty() && QDir(folder) == directory())
+        return;
+    // A name that was typed for the file is kept for the folder that was highlighted.
+    if (name && QFileInfo(directory(), typed).isDir())
+        name->clear();
+    setDirectory(folder);
+}
+
+QString FileDialog::pathToSave() const
+{
+    return fileNameWithExtension(selectedFiles().value(0), selectedNameFilter());
+}
+
+void FileDialog::updateNotice()
+{
+    auto *notice = findChild<QLabel *>(u"replaceNotice"_s);
+    const QFileInfo target(acceptMode() == QFileDialog::AcceptSave ? pathToSave() : QString());
+    notice->setText(tr("\"%1\" exists and will be replaced.").arg(target.fileName()));
+    notice->setVisible(target.isFile());
+}
+
+bool FileDialog::checkIfFileCanBeOpenToWrite(QWidget *parent, const QString &path)
+{
+    const SaveProbe answer = ozm::probeSave(path);
+    if (answer == SaveProbe::Writable)
+        return true;
+    ozm::showWarning(parent, warningTitle(), answer == SaveProbe::Locked ? lockedText() : notCreatableText());
+    return false;
+}
+
+QString FileDialog::fileNameWithExtension(const QString &fileName, const QString &filter)
+{
+    static const QRegularExpression endsWithExtension(u"\\*\\.[a-zA-Z0-9]+\\)$"_s);
+    if (!endsWithExtension.match(filter).hasMatch())
+        return fileName;
+    const QStringList parts = filter.split("*."_L1);
+    if (parts.size() < 2)
+        return fileName;
+    // Only the first pattern counts; what follows it is a blank, a semicolon or the closing parenthesis.
+    QString extension = parts.at(1);
+    extension.chop(1);
+    extension.remove(u';');
+    if (extension.isEmpty())
+        return fileName;
+    const QString suffix = QFileInfo(fileName).suffix();
+    if (suffix.compare(extension, Qt::CaseInsensitive) == 0)
+        return fileName;
+    return u"%1.%2"_s.arg(fileName, extension);
+}

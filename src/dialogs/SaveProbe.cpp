@@ -1,0 +1,85 @@
+#include "dialogs/SaveProbe.h"
+
+#include <ozm_common_core_mini/PathUtils.h>
+
+#include <QFile>
+#include <QFileInfo>
+
+#ifdef Q_OS_LINUX
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace ozm {
+
+namespace {
+
+// As many as Linux follows.
+constexpr int kMostLinks = 40;
+
+/// What a write to @p path would make: a link that leads nowhere is followed to where it leads.
+QString targetOf(const QString &path)
+{
+    QString target = path;
+    for (int i = 0; i < kMostLinks; ++i) {
+        const QFileInfo info(target);
+        if (!info.isSymbolicLink())
+            return target;
+        target = info.symLinkTarget();
+    }
+    return {};
+}
+
+bool canBeOpened(const QString &path)
+{
+    QFile file(path);
+    return PathUtils::isExistingFile(path) && file.open(QIODevice::Append | QIODevice::ExistingOnly);
+}
+
+#ifdef Q_OS_LINUX
+/// A file without a name shows that one can be made, and leaves no trace even in the folder's times. False
+/// where the file system has no such files; that is then asked the long way.
+bool canMakeUnnamed(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    struct stat entry = {};
+    // The name is not part of that trial: it may still be too long.
+    if (::lstat(name.constData(), &entry) == 0 || errno != ENOENT)
+        return false;
+    const QByteArray folder = QFile::encodeName(QFileInfo(path).absolutePath());
+    const int file = ::open(folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600);
+    if (file < 0)
+        return false;
+    ::close(file);
+    return true;
+}
+#else
+bool canMakeUnnamed(const QString &)
+{
+    return false;
+}
+#endif
+
+bool canBeMade(const QString &path)
+{
+    if (path.isEmpty())
+        return false;
+    if (canMakeUnnamed(path))
+        return true;
+    QFile file(path);
+    // Only what was not there is opened, so that only what this made is removed.
+    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.remove();
+}
+
+} // namespace
+
+SaveProbe probeSave(const QString &path)
+{
+    if (QFile::exists(path))
+        return canBeOpened(path) ? SaveProbe::Writable : SaveProbe::Locked;
+    return canBeMade(targetOf(path)) ? SaveProbe::Writable : SaveProbe::NotCreatable;
+}
+
+} // namespace ozm

@@ -1,0 +1,101 @@
+#include "style/StyleIconEngine.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmapCache>
+#include <QSvgRenderer>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm {
+
+namespace {
+
+QColor colorOf(QIcon::Mode mode)
+{
+    const QPalette palette = QGuiApplication::palette();
+    switch (mode) {
+    case QIcon::Disabled:
+        return palette.color(QPalette::Disabled, QPalette::WindowText);
+    case QIcon::Selected:
+        return palette.color(QPalette::Active, QPalette::HighlightedText);
+    case QIcon::Normal:
+    case QIcon::Active:
+        break;
+    }
+    return palette.color(QPalette::Active, QPalette::WindowText);
+}
+
+} // namespace
+
+StyleIconEngine::StyleIconEngine(QString name, QByteArray svg)
+    : m_name(std::move(name))
+    , m_svg(std::move(svg))
+{}
+
+void StyleIconEngine::paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state)
+{
+    const qreal ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
+    painter->drawPixmap(rect, scaledPixmap(rect.size() * ratio, mode, state, ratio));
+}
+
+QPixmap StyleIconEngine::pixmap(const QSize &size, QIcon::Mode mode, QIcon::State)
+{
+    return render(size, colorOf(mode));
+}
+
+QPixmap StyleIconEngine::scaledPixmap(const QSize &size, QIcon::Mode mode, QIcon::State state, qreal)
+{
+    // The size is in device pixels already.
+    return pixmap(size, mode, state);
+}
+
+QPixmap StyleIconEngine::render(const QSize &pixels, const QColor &color) const
+{
+    if (pixels.isEmpty())
+        return {};
+    const QString id = u"ozm-icon/%1/%2x%3/%4"_s.arg(m_name)
+                           .arg(pixels.width())
+                           .arg(pixels.height())
+                           .arg(color.rgba(), 0, 16);
+    QPixmap pixmap;
+    if (QPixmapCache::find(id, &pixmap))
+        return pixmap;
+    QByteArray svg = m_svg;
+    svg.replace("currentColor", color.name().toLatin1());
+    QSvgRenderer renderer(svg);
+    renderer.setAspectRatioMode(Qt::KeepAspectRatio);
+    pixmap = QPixmap(pixels);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setOpacity(color.alphaF());
+    renderer.render(&painter);
+    painter.end();
+    QPixmapCache::insert(id, pixmap);
+    return pixmap;
+}
+
+QIconEngine *StyleIconEngine::clone() const
+{
+    return new StyleIconEngine(m_name, m_svg);
+}
+
+QString StyleIconEngine::key() const
+{
+    return u"ozm-style"_s;
+}
+
+QString StyleIconEngine::iconName()
+{
+    return m_name;
+}
+
+bool StyleIconEngine::isNull()
+{
+    return m_svg.isEmpty();
+}
+
+} // namespace ozm

@@ -1,0 +1,208 @@
+#include "style/boxes/MessageBoxDescription.h"
+
+#include "support/Logging.h"
+
+#include <ozm_common_core_mini/AsyncUtils.h>
+#include <ozm_widgets/OzmMessageBox.h>
+
+#include <QApplication>
+#include <QMutex>
+#include <QPointer>
+#include <QPushButton>
+#include <QStyle>
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+
+namespace ozm {
+
+namespace {
+
+using Button = QMessageBox::StandardButton;
+
+bool isGuiThread()
+{
+    return qApp && qApp->thread() == QThread::currentThread();
+}
+
+/// A pointer that came from another thread may be dead; only its value is looked at.
+bool isLivingWidget(const QWidget *widget)
+{
+    const QWidgetList all = QApplication::allWidgets();
+    return std::ranges::find(all, widget) != all.cend();
+}
+
+bool canShowWidgets()
+{
+    if (qobject_cast<QApplication *>(QCoreApplication::instance()))
+        return true;
+    OZM_WIDGETS_WARNING() << "A message box needs a QApplication.";
+    return false;
+}
+
+void setAboutIcon(OzmMessageBox &box)
+{
+    QIcon icon = QApplication::windowIcon();
+    if (icon.isNull() && box.parentWidget())
+        icon = box.parentWidget()->window()->windowIcon();
+    const int size = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
+    if (icon.isNull())
+        box.setIcon(QMessageBox::Information);
+    else
+        box.setIconPixmap(icon.pixmap(QSize(size, size), box.devicePixelRatioF()));
+    box.setTextInteractionFlags(Qt::TextBrowserInteraction);
+}
+
+void setButtons(OzmMessageBox &box, const MessageBoxDescription &description)
+{
+    // A box without any could not be closed.
+    box.setStandardButtons(description.buttons ? description.buttons : QMessageBox::Ok);
+    box.setDefaultButton(description.defaultButton);
+    if (description.escapeButton != QMessageBox::NoButton)
+        box.setEscapeButton(description.escapeButton);
+    for (auto text = description.buttonTexts.cbegin(); text != description.buttonTexts.cend(); ++text) {
+        QAbstractButton *button = box.button(text.key());
+        if (button && !text->isEmpty())
+            button->setText(*text);
+    }
+}
+
+OzmMessageBox *buildMessageBox(const MessageBoxDescription &description, QWidget *parent)
+{
+    auto *box = new OzmMessageBox(description.signal, parent);
+    box->setObjectName(QStringLiteral("ozmMessageBox"));
+    box->setIcon(description.icon);
+    box->setWindowTitle(description.title);
+    box->setText(description.text.data());
+    box->setTextFormat(description.text.format());
+    // Texts of errors are for handing on.
+    box->setTextInteractionFlags(box->textInteractionFlags() | Qt::TextSelectableByMouse);
+    if (!description.detailedText.isEmpty())
+        box->setDetailedText(description.detailedText);
+    setButtons(*box, description);
+    if (description.isAbout)
+        setAboutIcon(*box);
+    return box;
+}
+
+/// Where the answer of a box that nobody waits for goes: to a context that may live on any thread, and die.
+class Reply
+{
+public:
+    using Answered = std::function<void(Button)>;
+
+    static std::shared_ptr<Reply> create(QObject *context, const Answered &answered)
+    {
+        auto reply = std::make_shared<Reply>();
+        reply->m_context = context;
+        reply->m_answered = answered;
+        QObject::connect(context, &QObject::destroyed, [reply] { reply->forget(); });
+        return reply;
+    }
+
+    void give(Button button)
+    {
+        // The context cannot be gone before this is through: forget() would have to be through first.
+        const QMutexLocker lock(&m_mutex);
+        if (m_context && m_answered)
+            QMetaObject::invokeMethod(
+                m_context, [answered = m_answered, button] { answered(button); }, Qt::QueuedConnection);
+        m_context = nullptr;
+    }
+
+private:
+    void forget()
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_context = nullptr;
+    }
+
+    QMutex m_mutex;
+    QObject *m_context = nullptr;
+    Answered m_answered;
+};
+
+void openOnGuiThread(const MessageBoxDescription &description, QWidget *parent,
+                     const std::shared_ptr<Reply> &reply)
+{
+    if (!canShowWidgets() || (parent && !isLivingWidget(parent))) {
+        reply->give(description.answerUnshown());
+        return;
+    }
+    OzmMessageBox *box = buildMessageBox(description, parent);
+    QObject::connect(box, &QDialog::finished, box, [box, reply](int code) {
+        if (code != 0)
+            reply->give(answerOf(code));
+        // A window that is closed has ended before it says which button that stands for.
+        QMetaObject::invokeMethod(
+            box,
+            [box, reply] {
+                reply->give(answerOf(box->result()));
+                box->deleteLater();
+            },
+            Qt::QueuedConnection);
+    });
+    QObject::connect(box, &QObject::destroyed, [reply] { reply->give(QMessageBox::Cancel); });
+    box->open();
+}
+
+} // namespace
+
+Button MessageBoxDescription::answerUnshown() const
+{
+    return icon == QMessageBox::Question ? QMessageBox::Cancel : defaultButton;
+}
+
+Button answerOf(int code)
+{
+    return code == 0 ? QMessageBox::Cancel : static_cast<Button>(code);
+}
+
+Button runMessageBox(const MessageBoxDescription &description, QWidget *parent)
+{
+    if (!canShowWidgets())
+        return description.answerUnshown();
+    if (!isGuiThread()) {
+        const auto answer =
+            AsyncUtils::executeInThread<Button>(qApp, [&] { return runMessageBox(description, parent); });
+        return answer.valueOr(description.answerUnshown());
+    }
+    // The parent may go, and the box with it, while its event loop runs.
+    const QPointer<OzmMessageBox> box = buildMessageBox(description, parent);
+    // It may also go when it is answered already, but boxes opened over it keep it from returning.
+    int pressed = 0;
+    QObject::connect(box, &QDialog::finished, [&pressed](int code) { pressed = code; });
+    const int code = box->exec();
+    if (!box)
+        return answerOf(pressed);
+    delete box;
+    return answerOf(code);
+}
+
+Button askOnThreadOf(QWidget *parent, const MessageBoxDescription &description,
+                     const std::function<Button()> &work)
+{
+    if (isGuiThread())
+        return AsyncUtils::executeInThread<Button>(parent, work).valueOr(description.answerUnshown());
+    // Widgets live on the GUI thread, so that is where to go; the parent itself cannot be asked from here,
+    // as it may be deleted in the middle of that.
+    const auto answer = AsyncUtils::executeInThread<std::optional<Button>>(
+        qApp, [&] { return isLivingWidget(parent) ? std::optional(work()) : std::nullopt; });
+    return answer.valueOr(std::nullopt).value_or(description.answerUnshown());
+}
+
+void openMessageBox(const MessageBoxDescription &description, QWidget *parent, QObject *context,
+                    const std::function<void(Button)> &answered)
+{
+    const auto reply = Reply::create(context, answered);
+    if (!canShowWidgets())
+        reply->give(description.answerUnshown());
+    else if (isGuiThread())
+        openOnGuiThread(description, parent, reply);
+    else
+        QMetaObject::invokeMethod(
+            qApp, [=] { openOnGuiThread(description, parent, reply); }, Qt::QueuedConnection);
+}
+
+} // namespace ozm

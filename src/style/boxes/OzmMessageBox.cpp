@@ -1,0 +1,105 @@
+#include <ozm_widgets/OzmMessageBox.h>
+
+#include <ozm_widgets/OZMStyle.h>
+#include <ozm_widgets/OzmCoreApplication.h>
+
+#include "style/StyleIconEngine.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QShowEvent>
+#include <QStyle>
+#include <QTextEdit>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm {
+
+namespace {
+
+struct IconRow
+{
+    QMessageBox::Icon kind;
+    QLatin1StringView icon;
+    QRgb onLight;
+    QRgb onDark;
+};
+
+constexpr std::array kIcons{
+    IconRow{QMessageBox::Information, "dialog-information"_L1, 0xff2a6fb8, 0xff6cb2f5},
+    IconRow{QMessageBox::Warning, "dialog-warning"_L1, 0xffb26a00, 0xfff0b429},
+    IconRow{QMessageBox::Critical, "dialog-error"_L1, 0xffc62f2b, 0xffff7670},
+    IconRow{QMessageBox::Question, "dialog-question"_L1, 0xff2a6fb8, 0xff6cb2f5},
+};
+
+} // namespace
+
+OzmMessageBox::OzmMessageBox(QWidget *parent)
+    : OzmMessageBox(OzmMessageBoxSignal::Unspecified, parent)
+{}
+
+OzmMessageBox::OzmMessageBox(OzmMessageBoxSignal signal, QWidget *parent)
+    : QMessageBox(parent)
+    , m_signal(signal)
+{}
+
+void OzmMessageBox::showDetailsIfPresent()
+{
+    const auto *details = findChild<QTextEdit *>();
+    // The button shows and hides by turns, and must not hide what is open.
+    if (detailedText().isEmpty() || (details && details->isVisibleTo(this)))
+        return;
+    const QList<QAbstractButton *> all = buttons();
+    const auto found = std::ranges::find_if(all, [this](QAbstractButton *button) {
+        return buttonRole(button) == ActionRole && button->text().contains("details"_L1, Qt::CaseInsensitive);
+    });
+    if (found != all.cend())
+        (*found)->click();
+}
+
+void OzmMessageBox::showEvent(QShowEvent *event)
+{
+    drawIcon();
+    QMessageBox::showEvent(event);
+    if (event->spontaneous())
+        return;
+    // Not at once: a box that is answered before its event loop runs would wait in it for good.
+    QMetaObject::invokeMethod(
+        this, [this, show = ++m_shows] { announce(show); }, Qt::QueuedConnection);
+}
+
+void OzmMessageBox::changeEvent(QEvent *event)
+{
+    QMessageBox::changeEvent(event);
+    if (event->type() == QEvent::StyleChange || event->type() == QEvent::PaletteChange)
+        drawIcon();
+}
+
+void OzmMessageBox::drawIcon()
+{
+    // Only in place of what the box shows of itself, so that icon() stays what it is.
+    auto *label = findChild<QLabel *>(u"qt_msgboxex_icon_label"_s);
+    const auto *row = std::ranges::find(kIcons, icon(), &IconRow::kind);
+    if (!label || row == kIcons.cend() || !isStyleApplied())
+        return;
+    const auto engine = loadStyleIcon(row->icon);
+    if (!engine)
+        return;
+    const bool dark = OZMStyle::scheme(palette()) == OZMStyle::Scheme::Dark;
+    const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
+    QPixmap pixmap = engine->render(QSize(size, size) * devicePixelRatioF(),
+                                    QColor::fromRgb(dark ? row->onDark : row->onLight));
+    pixmap.setDevicePixelRatio(devicePixelRatioF());
+    label->setPixmap(pixmap);
+}
+
+void OzmMessageBox::announce(int show)
+{
+    if (isVisible() && show == m_shows)
+        Q_EMIT OzmCoreApplication::instance()->ozmMessageBoxShown(this);
+}
+
+} // namespace ozm

@@ -1,0 +1,190 @@
+#include <ozm_widgets/AbstractTemplateEditor.h>
+
+#include "support/Logging.h"
+#include "templates/decoding/TemplateDecoder.h"
+#include "templates/syntax/NamePattern.h"
+
+#include <ozm_common_core_mini/ColumnFriendlyName.h>
+#include <ozm_common_core_mini/RowNode.h>
+#include <ozm_common_core_mini/TextUtils.h>
+#include <ozm_widgets/TECWrapper.h>
+#include <ozm_widgets/TemplateEditorJSEngine.h>
+
+#include <QCoreApplication>
+#include <QMetaProperty>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+DecodeTecExtraData::DecodeTecExtraData(const QMetaObject &type, const QObject *source)
+    : metaObject(type)
+    , object(source)
+{}
+
+DecodeTecExtraData::DecodeTecExtraData(const QMetaObject &type, const void *source)
+    : metaObject(type)
+    , gadget(source)
+{}
+
+QVariant DecodeTecExtraData::read(int index) const
+{
+    const QMetaProperty property = metaObject.property(index);
+    return object ? property.read(object) : property.readOnGadget(gadget);
+}
+
+namespace {
+
+using KeptReader = std::unique_ptr<TemplateEditorJSCodeReader>;
+
+/// The decoder whose reader @p kept holds from its first use to the end of the application object, which
+/// engines must not outlive. A later application in the same process begins anew.
+template <KeptReader &(*kept)()>
+TemplateDecoder keptDecoder()
+{
+    if (!kept()) {
+        kept() = std::make_unique<TemplateEditorJSCodeReader>();
+        qAddPostRoutine([] { kept().reset(); });
+    }
+    return TemplateDecoder(*kept());
+}
+
+KeptReader &rowReader()
+{
+    static KeptReader reader;
+    return reader;
+}
+
+KeptReader &extraDataReader()
+{
+    static KeptReader reader;
+    return reader;
+}
+
+TemplateDecoder rowDecoder()
+{
+    return keptDecoder<rowReader>();
+}
+
+TemplateDecoder extraDataDecoder()
+{
+    return keptDecoder<extraDataReader>();
+}
+
+QString decodeWrapped(const QString &text, const QList<DecodeTecExtraData> &extraData,
+                      ozm::TemplateReport *report)
+{
+    bool ok = false;
+    const QString content = TECWrapper::unwrapTEC(text, &ok);
+    if (!ok) {
+        qCWarning(lcOzmWidgets) << "Cannot decode template " << content;
+        return {};
+    }
+    return extraDataDecoder().decode(content, extraData, report);
+}
+
+QString decodeRow(const QString &text, const RowNode *row, const QList<DecodeTecExtraData> &extraData,
+                  ozm::TemplateReport *report)
+{
+    return row ? rowDecoder().decode(text, *row, extraData, report) : QString();
+}
+
+QString decodeRows(const QString &text, QList<RowNode *> rows, const QList<DecodeTecExtraData> &extraData,
+                   ozm::TemplateReport *report)
+{
+    rows.removeAll(nullptr);
+    if (rows.isEmpty())
+        return {};
+    if (rows.size() == 1)
+        return decodeRow(text, rows.constFirst(), extraData, report);
+    const SummaryRow summary(rows);
+    return decodeRow(text, &summary.row(), extraData, report);
+}
+
+/// Where the content of the envelope begins; it runs to the last closing tag.
+qsizetype contentPosition(const QString &text)
+{
+    return text.lastIndexOf("</ozm_template>"_L1) - TECWrapper::unwrapTEC(text).size();
+}
+
+/// Codes are found in the content, but their places are wanted in the text that holds it.
+void movePositions(ozm::TemplateReport &report, qsizetype by)
+{
+    for (ozm::UnresolvedCode &code : report.unresolved)
+        code.position += by;
+    for (ozm::FailedScript &script : report.failed)
+        script.position += by;
+}
+
+} // namespace
+
+QString AbstractTemplateEditor::decodeTEC(const QString &text, const QList<DecodeTecExtraData> &extraData)
+{
+    return decodeWrapped(text, extraData, nullptr);
+}
+
+QString AbstractTemplateEditor::decodeTEC(const QString &text, const RowNode *row,
+                                          const QList<DecodeTecExtraData> &extraData)
+{
+    return decodeRow(text, row, extraData, nullptr);
+}
+
+QString AbstractTemplateEditor::decodeTEC(const QString &text, const QList<RowNode *> &rows,
+                                          const QList<DecodeTecExtraData> &extraData)
+{
+    return decodeRows(text, rows, extraData, nullptr);
+}
+
+ozm::TemplateReport AbstractTemplateEditor::decodeTECReport(const QString &text,
+                                                            const QList<DecodeTecExtraData> &extraData)
+{
+    ozm::TemplateReport report;
+    (void)decodeWrapped(text, extraData, &report);
+    movePositions(report, contentPosition(text));
+    return report;
+}
+
+ozm::TemplateReport AbstractTemplateEditor::decodeTECReport(const QString &text, const RowNode *row,
+                                                            const QList<DecodeTecExtraData> &extraData)
+{
+    ozm::TemplateReport report;
+    (void)decodeRow(text, row, extraData, &report);
+    return report;
+}
+
+ozm::TemplateReport AbstractTemplateEditor::decodeTECReport(const QString &text, const QList<RowNode *> &rows,
+                                                            const QList<DecodeTecExtraData> &extraData)
+{
+    ozm::TemplateReport report;
+    (void)decodeRows(text, rows, extraData, &report);
+    return report;
+}
+
+QString AbstractTemplateEditor::withoutScriptTags(const QString &decodedText)
+{
+    QString result;
+    qsizetype settled = 0;
+    for (const ozm::ScriptTag &tag : ozm::scriptTags(decodedText)) {
+        result.append(QStringView(decodedText).sliced(settled, tag.position - settled));
+        settled = tag.position + tag.length;
+    }
+    return result.append(QStringView(decodedText).sliced(settled));
+}
+
+QList<ShortCode> AbstractTemplateEditor::extraDataShortCodes(const QList<QMetaObject> &metaObjects)
+{
+    QList<ShortCode> codes;
+    for (const QMetaObject &type : metaObjects) {
+        for (int index = type.propertyOffset(); index < type.propertyCount(); ++index) {
+            const QMetaProperty property = type.property(index);
+            if (!property.isDesignable())
+                continue;
+            const QString own = QString::fromLatin1(property.name());
+            const QString column = ozm::columnMatching(own);
+            const QString name = column.isNull() ? ozm::TextUtils::toUpperFirstChar(own) : column;
+            codes.append(
+                {SQUARE_BRACKETS_PATTERN.arg(name), name, ColumnFriendlyName::toolTip(name), QString()});
+        }
+    }
+    return codes;
+}

@@ -1,0 +1,140 @@
+#include "templates/decoding/TemplateText.h"
+
+#include "templates/scripts/ScriptContainment.h"
+
+#include <ozm_widgets/ShortCodes.h>
+
+#include <QHash>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm {
+
+namespace {
+
+constexpr auto kOpeningTag = "<script>"_L1;
+constexpr auto kClosingTag = "</script>"_L1;
+
+// Some 30 MB with what is kept beside the text: the templates of a suite of applications many times over.
+constexpr qsizetype kCachedCharacters = 8'000'000;
+// What an entry takes beside its text, so that many small ones are bounded, too.
+constexpr qsizetype kEntryCost = 200;
+
+ScriptPiece scriptPiece(const QString &text, qsizetype start, qsizetype length)
+{
+    const QString code = text.sliced(start, length);
+    const bool contained = isContainedScript(code);
+    return {static_cast<qint32>(start), code, contained, !contained || code.contains("inputParameters"_L1)};
+}
+
+QList<ScriptPiece> scriptPieces(const QString &text)
+{
+    const QList<ScriptTag> tags = scriptTags(text);
+    QList<ScriptPiece> pieces;
+    int depth = 0;
+    for (qsizetype index = 0; index + 1 < tags.size(); ++index) {
+        const ScriptTag &tag = tags.at(index);
+        if (!tag.opening && depth < 1)
+            continue;
+        depth += tag.opening ? 1 : -1;
+        const qsizetype start = tag.position + tag.length;
+        const qsizetype length = tags.at(index + 1).position - start;
+        if (depth >= 1 && length > 0)
+            pieces.append(scriptPiece(text, start, length));
+    }
+    return pieces;
+}
+
+} // namespace
+
+QList<ScriptTag> scriptTags(QStringView text)
+{
+    QList<ScriptTag> tags;
+    for (qsizetype at = text.indexOf(u'<'); at >= 0; at = text.indexOf(u'<', at + 1)) {
+        const QStringView rest = text.sliced(at);
+        for (const auto &tag : {kOpeningTag, kClosingTag}) {
+            if (rest.startsWith(tag, Qt::CaseInsensitive))
+                tags.append({at, tag.size(), tag == kOpeningTag});
+        }
+    }
+    return tags;
+}
+
+TemplateText::TemplateText(const QString &text)
+    : m_text(text)
+    , m_pieces(scriptPieces(text))
+    , m_contained(std::ranges::all_of(m_pieces, &ScriptPiece::contained))
+    , m_marks(tokens::marked(text))
+{
+    collectNames();
+}
+
+void TemplateText::collectNames()
+{
+    const QList<QString> codes = getCodes(m_text, false);
+    QHash<QString, int> indexes;
+    m_sequence.reserve(codes.size());
+    for (const QString &code : codes) {
+        const auto known = indexes.constFind(code);
+        if (known != indexes.constEnd()) {
+            m_sequence.append(*known);
+            continue;
+        }
+        const int index = static_cast<int>(m_names.size());
+        indexes.insert(code, index);
+        m_names.append(code);
+        m_sequence.append(index);
+    }
+}
+
+qsizetype TemplateText::cost() const
+{
+    qsizetype characters = kEntryCost + m_text.size();
+    characters += m_marks.marks.size() * static_cast<qsizetype>(sizeof(tokens::Mark) / sizeof(QChar));
+    characters += m_sequence.size() * static_cast<qsizetype>(sizeof(int) / sizeof(QChar));
+    for (const QList<QString> *names : {&m_marks.names, &m_names}) {
+        for (const QString &name : *names)
+            characters += name.size() + 20;
+    }
+    for (const ScriptPiece &piece : m_pieces)
+        characters += piece.code.size() + 20;
+    return characters;
+}
+
+TemplateCache::TemplateCache()
+    : m_templates(kCachedCharacters)
+{}
+
+std::shared_ptr<const TemplateText> TemplateCache::parsed(const QString &text)
+{
+    if (const auto *known = m_templates.object({text}))
+        return *known;
+    auto fresh = std::make_shared<const TemplateText>(text);
+    // One that is larger than the bound by itself is not kept.
+    m_templates.insert({text}, new std::shared_ptr<const TemplateText>(fresh), fresh->cost());
+    return fresh;
+}
+
+bool TemplateCache::Key::operator==(const Key &other) const
+{
+    // The same data, as when a template is decoded over and over, needs no comparison of a million letters.
+    return text.constData() == other.text.constData() ? text.size() == other.text.size() : text == other.text;
+}
+
+size_t TemplateCache::Key::hash(size_t seed) const
+{
+    // A sample of a long text is enough, as the cache holds few long ones.
+    constexpr qsizetype kSamples = 8;
+    constexpr qsizetype kSampleSize = 64;
+    if (text.size() <= kSamples * kSampleSize)
+        return ::qHash(text, seed);
+    size_t hash = qHashMulti(seed, text.size());
+    const qsizetype step = (text.size() - kSampleSize) / (kSamples - 1);
+    for (qsizetype sample = 0; sample < kSamples; ++sample)
+        hash = ::qHash(QStringView(text).sliced(sample * step, kSampleSize), hash);
+    return hash;
+}
+
+} // namespace ozm

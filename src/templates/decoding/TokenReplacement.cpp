@@ -1,0 +1,251 @@
+#include "templates/decoding/TokenReplacement.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm::tokens {
+
+namespace {
+
+bool isBracket(QChar character)
+{
+    return character == u'[' || character == u']';
+}
+
+bool hasBracket(QStringView text)
+{
+    return text.contains(u'[') || text.contains(u']');
+}
+
+/// A bracket at either end and none between: two such keys can neither overlap nor hold one another.
+bool isBracketed(QStringView key)
+{
+    return key.size() >= 2 && key.front() == u'[' && key.back() == u']' &&
+           !hasBracket(key.sliced(1, key.size() - 2));
+}
+
+class Marker
+{
+public:
+    explicit Marker(QStringView text)
+        : m_text(text)
+    {}
+
+    MarkedText all()
+    {
+        for (qsizetype at = nextBracket(0); at >= 0; at = nextBracket(at + 1))
+            take(at);
+        if (m_open >= 0)
+            m_result.marks.append({m_open, Mark::Opening});
+        return std::move(m_result);
+    }
+
+private:
+    [[nodiscard]] qsizetype nextBracket(qsizetype from)
+    {
+        // Both searches are quick only when each place is looked at once.
+        if (m_nextOpening >= 0 && m_nextOpening < from)
+            m_nextOpening = m_text.indexOf(u'[', from);
+        if (m_nextClosing >= 0 && m_nextClosing < from)
+            m_nextClosing = m_text.indexOf(u']', from);
+        if (m_nextOpening < 0 || m_nextClosing < 0)
+            return std::max(m_nextOpening, m_nextClosing);
+        return std::min(m_nextOpening, m_nextClosing);
+    }
+
+    void take(qsizetype at)
+    {
+        if (m_text[at] == u'[') {
+            if (m_open >= 0)
+                m_result.marks.append({m_open, Mark::Opening});
+            m_open = at;
+        } else if (m_open < 0) {
+            m_result.marks.append({at, Mark::Closing});
+        } else {
+            m_result.marks.append({m_open, nameIndex(m_text.sliced(m_open, at + 1 - m_open))});
+            m_open = -1;
+        }
+    }
+
+    [[nodiscard]] int nameIndex(QStringView name)
+    {
+        const auto known = m_indexes.constFind(name);
+        if (known != m_indexes.constEnd())
+            return *known;
+        const int index = static_cast<int>(m_result.names.size());
+        m_result.names.append(name.toString());
+        m_indexes.insert(name, index);
+        return index;
+    }
+
+    const QStringView m_text;
+    qsizetype m_nextOpening = m_text.indexOf(u'[');
+    qsizetype m_nextClosing = m_text.indexOf(u']');
+    qsizetype m_open = -1;
+    QHash<QStringView, int> m_indexes;
+    MarkedText m_result;
+};
+
+/// What stands in the place of a name of the text, if its key has a value.
+struct Replacement
+{
+    bool known = false;
+    bool brackets = false;
+    QString text;
+};
+
+std::vector<Replacement> replacements(const QList<QString> &names, const QMap<QString, QVariant> &values)
+{
+    std::vector<Replacement> all;
+    all.reserve(static_cast<std::size_t>(names.size()));
+    for (const QString &name : names) {
+        const auto value = values.constFind(name);
+        Replacement &replacement = all.emplace_back();
+        if (value == values.constEnd())
+            continue;
+        replacement.known = true;
+        replacement.text = textOf(*value);
+        replacement.brackets = hasBracket(replacement.text);
+    }
+    return all;
+}
+
+/**
+ * All keys replaced at once, unless the outcome holds a key.
+ *
+ * Where it holds none, turn by turn gives the same text: a key that arises in some turn has nothing but
+ * settled text between its brackets, and its brackets are settled, too, since those of a key still to be
+ * replaced belong together. So the first that arose would stand in the outcome still.
+ */
+class SinglePass
+{
+public:
+    SinglePass(QStringView text, const MarkedText &marks, const QMap<QString, QVariant> &values)
+        : m_text(text)
+        , m_marks(marks)
+        , m_values(values)
+        , m_replacements(replacements(marks.names, values))
+    {}
+
+    std::optional<QString> run()
+    {
+        m_out.reserve(outcomeSize());
+        for (const Mark &mark : m_marks.marks) {
+            if (mark.name >= 0)
+                takePair(mark);
+            else if (!takeBracket(mark))
+                return std::nullopt;
+            if (m_keyArose)
+                return std::nullopt;
+        }
+        settle(m_text.size());
+        return std::move(m_out);
+    }
+
+private:
+    [[nodiscard]] qsizetype outcomeSize() const
+    {
+        qsizetype size = m_text.size();
+        for (const Mark &mark : m_marks.marks) {
+            if (mark.name >= 0 && at(mark.name).known)
+                size += at(mark.name).text.size() - m_marks.names.at(mark.name).size();
+        }
+        return size;
+    }
+
+    [[nodiscard]] const Replacement &at(int name) const
+    {
+        return m_replacements[static_cast<std::size_t>(name)];
+    }
+
+    void settle(qsizetype end)
+    {
+        m_out.append(m_text.sliced(m_settled, end - m_settled));
+        m_settled = end;
+    }
+
+    void takePair(const Mark &mark)
+    {
+        const Replacement &replacement = at(mark.name);
+        if (!replacement.known) {
+            m_open = -1;
+            return;
+        }
+        settle(mark.position);
+        m_settled = mark.position + m_marks.names.at(mark.name).size();
+        const qsizetype start = m_out.size();
+        m_out.append(replacement.text);
+        if (!replacement.brackets)
+            return;
+        for (qsizetype each = start; each < m_out.size() && !m_keyArose; ++each) {
+            if (isBracket(m_out.at(each)))
+                noteBracket(each);
+        }
+    }
+
+    bool takeBracket(const Mark &mark)
+    {
+        settle(mark.position + 1);
+        noteBracket(m_out.size() - 1);
+        return !m_keyArose;
+    }
+
+    void noteBracket(qsizetype position)
+    {
+        if (m_out.at(position) == u'[') {
+            m_open = position;
+        } else if (m_open >= 0) {
+            m_keyArose = m_values.contains(m_out.sliced(m_open, position + 1 - m_open));
+            m_open = -1;
+        }
+    }
+
+    const QStringView m_text;
+    const MarkedText &m_marks;
+    const QMap<QString, QVariant> &m_values;
+    const std::vector<Replacement> m_replacements;
+    QString m_out;
+    qsizetype m_settled = 0; ///< Up to where the text is in the outcome, or replaced there.
+    qsizetype m_open = -1;   ///< The last bracket of the outcome, if it is an opening one.
+    bool m_keyArose = false;
+};
+
+} // namespace
+
+MarkedText marked(QStringView text)
+{
+    return Marker(text).all();
+}
+
+QString textOf(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QStringList ? value.toStringList().join("; "_L1) : value.toString();
+}
+
+QString replaceInTurn(const QString &text, const QMap<QString, QVariant> &values)
+{
+    QString result = text;
+    for (auto value = values.cbegin(); value != values.cend(); ++value)
+        result.replace(value.key(), textOf(*value));
+    return result;
+}
+
+QString replace(const QString &text, const MarkedText &marks, const QMap<QString, QVariant> &values)
+{
+    if (values.isEmpty())
+        return text;
+    const bool bracketed =
+        std::all_of(values.keyBegin(), values.keyEnd(), [](const QString &key) { return isBracketed(key); });
+    if (bracketed) {
+        if (auto outcome = SinglePass(text, marks, values).run())
+            return *std::move(outcome);
+    }
+    return replaceInTurn(text, values);
+}
+
+} // namespace ozm::tokens

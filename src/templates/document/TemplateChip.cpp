@@ -1,0 +1,166 @@
+#include "templates/document/TemplateChip.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QTextDocument>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm::editor {
+
+namespace {
+
+constexpr int kKindProperty = QTextFormat::UserProperty + 1;
+constexpr int kSourceProperty = QTextFormat::UserProperty + 2;
+
+// A longer label would take the line apart in which it stands.
+constexpr int kLongestLabel = 32;
+constexpr qreal kSideMargin = 4.0;
+constexpr qreal kGapToText = 1.0;
+constexpr qreal kCornerRadius = 3.0;
+
+// Objects have no descent of their own: only at the bottom of the line, their text is level with the text
+// around them.
+constexpr auto kAlignment = QTextCharFormat::AlignBottom;
+
+// By how much HTML's sizes -2 to +4 are larger than the usual one.
+constexpr std::array kSizes{0.7, 0.8, 1.0, 1.2, 1.5, 2.0, 2.4};
+constexpr int kUsualSize = 2;
+
+struct ChipLook
+{
+    PartKind kind;
+    QLatin1StringView sign;
+    /// Mixed with the colours of the text, so that it is right on a selection, too.
+    Qt::GlobalColor tint;
+};
+
+constexpr std::array kLooks{ChipLook{PartKind::Code, ""_L1, Qt::blue},
+                            ChipLook{PartKind::Script, "JS "_L1, Qt::darkGreen},
+                            ChipLook{PartKind::Markup, "< > "_L1, Qt::gray}};
+
+const ChipLook &lookOf(PartKind kind)
+{
+    return kLooks.at(size_t(kind));
+}
+
+QColor mixed(const QColor &a, const QColor &b, qreal share)
+{
+    const auto part = [share](float x, float y) { return float(x * (1 - share) + y * share); };
+    return QColor::fromRgbF(part(a.redF(), b.redF()), part(a.greenF(), b.greenF()),
+                            part(a.blueF(), b.blueF()));
+}
+
+QFont chipFont(QTextDocument *document, const QTextFormat &format)
+{
+    QFont font = format.toCharFormat().font().resolve(document->defaultFont());
+    const int size = kUsualSize + format.intProperty(QTextFormat::FontSizeAdjustment);
+    if (size != kUsualSize && font.pointSizeF() > 0) {
+        font.setPointSizeF(font.pointSizeF() * kSizes.at(size_t(qBound(0, size, int(kSizes.size()) - 1))));
+    }
+    return font;
+}
+
+QString firstLine(const QString &text)
+{
+    QString line = text.trimmed().section(u'\n', 0, 0).trimmed();
+    if (line.size() > kLongestLabel) {
+        line = line.first(kLongestLabel - 1) + u'…';
+    }
+    return line;
+}
+
+QString withoutScriptTag(const QString &script)
+{
+    const qsizetype open = script.indexOf(u'>') + 1;
+    const qsizetype close = script.lastIndexOf(u'<');
+    return close > open ? script.sliced(open, close - open) : QString();
+}
+
+} // namespace
+
+QTextCharFormat chipFormat(const TemplatePart &part, const QTextCharFormat &base)
+{
+    QTextCharFormat format = base;
+    format.setObjectType(kChipObject);
+    format.setProperty(kKindProperty, int(part.kind));
+    format.setProperty(kSourceProperty, part.source);
+    if (format.verticalAlignment() == QTextCharFormat::AlignNormal) {
+        format.setVerticalAlignment(kAlignment);
+    }
+    return format;
+}
+
+bool isChip(const QTextFormat &format)
+{
+    return format.objectType() == kChipObject;
+}
+
+TemplatePart chipPart(const QTextFormat &format)
+{
+    if (!isChip(format)) {
+        return {};
+    }
+    return {PartKind(format.intProperty(kKindProperty)), format.stringProperty(kSourceProperty)};
+}
+
+QTextCharFormat withoutChip(QTextCharFormat format)
+{
+    format.clearProperty(QTextFormat::ObjectType);
+    format.clearProperty(kKindProperty);
+    format.clearProperty(kSourceProperty);
+    if (format.verticalAlignment() == kAlignment) {
+        format.clearProperty(QTextFormat::TextVerticalAlignment);
+    }
+    return format;
+}
+
+bool ChipPainter::isKnown(const QString &code) const
+{
+    return displayNames.isEmpty() || displayNames.contains(code);
+}
+
+QString ChipPainter::label(const TemplatePart &part) const
+{
+    const QLatin1StringView sign = lookOf(part.kind).sign;
+    if (part.kind == PartKind::Code) {
+        return displayNames.value(part.source, part.source.sliced(1, part.source.size() - 2));
+    }
+    return sign + firstLine(part.kind == PartKind::Script ? withoutScriptTag(part.source) : part.source);
+}
+
+QSizeF ChipPainter::intrinsicSize(QTextDocument *document, int, const QTextFormat &format)
+{
+    const QFontMetricsF metrics(chipFont(document, format));
+    const qreal width = metrics.horizontalAdvance(label(chipPart(format)));
+    return {width + 2 * (kSideMargin + kGapToText), metrics.height()};
+}
+
+void ChipPainter::drawObject(QPainter *painter, const QRectF &rect, QTextDocument *document, int,
+                             const QTextFormat &format)
+{
+    const TemplatePart part = chipPart(format);
+    const bool known = part.kind != PartKind::Code || isKnown(part.source);
+    const QColor tint = known ? QColor(lookOf(part.kind).tint) : QColor(Qt::red);
+    // Templates are shown on paper, which is white; a selection brings its own colours.
+    const QTextCharFormat look = format.toCharFormat();
+    const QColor base =
+        look.background().style() == Qt::NoBrush ? QColor(Qt::white) : look.background().color();
+    const QColor text =
+        look.foreground().style() == Qt::NoBrush ? QColor(Qt::black) : look.foreground().color();
+
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    const QRectF outline = rect.adjusted(kGapToText, 0.5, -kGapToText, -0.5);
+    painter->setPen(QPen(mixed(text, tint, 0.6), 1, known ? Qt::SolidLine : Qt::DashLine));
+    painter->setBrush(mixed(base, tint, 0.15));
+    painter->drawRoundedRect(outline, kCornerRadius, kCornerRadius);
+    painter->setPen(mixed(text, tint, 0.3));
+    painter->setFont(chipFont(document, format));
+    painter->drawText(outline, Qt::AlignCenter | Qt::TextSingleLine, label(part));
+    painter->restore();
+}
+
+} // namespace ozm::editor

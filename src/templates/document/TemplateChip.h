@@ -1,0 +1,50 @@
+#pragma once
+
+#include "templates/document/TemplateParts.h"
+
+#include <QHash>
+#include <QObject>
+#include <QTextCharFormat>
+#include <QTextObjectInterface>
+
+namespace ozm::editor {
+
+/// The one character that stands in a document for a whole part.
+inline constexpr int kChipObject = QTextFormat::UserObject + 1;
+
+/// Set on the format of an empty block that somebody wrote, which some others are not: a document needs
+/// blocks at the edges of a table.
+inline constexpr int kWrittenLine = QTextFormat::UserProperty + 3;
+
+/// @p base with what makes one object replacement character the chip of @p part.
+[[nodiscard]] QTextCharFormat chipFormat(const TemplatePart &part, const QTextCharFormat &base);
+
+[[nodiscard]] bool isChip(const QTextFormat &format);
+
+/// The part of a chip; of any other format an empty one.
+[[nodiscard]] TemplatePart chipPart(const QTextFormat &format);
+
+/// @p format for the text around a chip: its look, without being one.
+[[nodiscard]] QTextCharFormat withoutChip(QTextCharFormat format);
+
+/// Paints chips: codes by their display names, scripts by their first line, markup by its first tag.
+class ChipPainter : public QObject, public QTextObjectInterface
+{
+    Q_OBJECT
+    Q_INTERFACES(QTextObjectInterface)
+
+public:
+    using QObject::QObject;
+
+    QSizeF intrinsicSize(QTextDocument *document, int position, const QTextFormat &format) override;
+    void drawObject(QPainter *painter, const QRectF &rect, QTextDocument *document, int position,
+                    const QTextFormat &format) override;
+
+    [[nodiscard]] bool isKnown(const QString &code) const;
+    [[nodiscard]] QString label(const TemplatePart &part) const;
+
+    /// Display names by code; while there is none at all, no code counts as unknown.
+    QHash<QString, QString> displayNames;
+};
+
+} // namespace ozm::editor

@@ -1,0 +1,282 @@
+#include <ozm_widgets/TemplateDocument.h>
+
+#include "templates/document/TemplateChip.h"
+#include "templates/document/TemplateParts.h"
+#include "templates/document/TemplateSourceWriter.h"
+#include "templates/syntax/HtmlScanner.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QRegularExpression>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocumentFragment>
+#include <QTextFrame>
+#include <QTextList>
+#include <QUrl>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm {
+
+using editor::PartKind;
+using editor::TemplatePart;
+
+class TemplateDocument::Private
+{
+public:
+    editor::ChipPainter painter;
+};
+
+namespace {
+
+// Scripts and comments may have lines of their own, which are none of the text's.
+QStringList linesOf(const QString &text)
+{
+    // Codes are cut out before the rest is read as HTML, so only the rest may be escaped.
+    static const QRegularExpression ampersand(u"&(?![^\\[\\]\\n]*\\])"_s);
+    QStringList lines{QString()};
+    for (const editor::HtmlToken &token : editor::scanHtml(text)) {
+        QString part = text.sliced(token.start, token.end - token.start);
+        if (token.kind != editor::HtmlTokenKind::Text) {
+            lines.last() += part + editor::missingEnd(text, token);
+            continue;
+        }
+        const QStringList parts = part.replace(ampersand, u"&amp;"_s).split(u'\n');
+        lines.last() += parts.first();
+        lines += parts.sliced(1);
+    }
+    return lines;
+}
+
+QString linesAsParagraphs(const QString &text)
+{
+    if (text.trimmed().isEmpty()) {
+        return {};
+    }
+    QString html;
+    for (const QString &line : linesOf(text)) {
+        html += line.trimmed().isEmpty() ? u"<div><br/></div>"_s
+                                         : u"<div style=\"white-space:pre-wrap\">"_s + line + "</div>"_L1;
+    }
+    return html;
+}
+
+TemplateDocument::ChipKind chipKind(PartKind kind)
+{
+    return TemplateDocument::ChipKind(int(kind) + 1);
+}
+
+void replaceMarker(const QTextCursor &found, const editor::SplitTemplate &split)
+{
+    QTextCursor cursor(found);
+    const QString marker = cursor.selectedText();
+    const qsizetype index = QStringView(marker).sliced(1, marker.size() - 2).toInt();
+    if (split.parts.at(index).source.isEmpty()) {
+        QTextBlockFormat line;
+        line.setProperty(editor::kWrittenLine, true);
+        cursor.removeSelectedText();
+        cursor.mergeBlockFormat(line);
+        return;
+    }
+    const QTextCharFormat base = cursor.charFormat();
+    cursor.insertText(QString(QChar::ObjectReplacementCharacter),
+                      editor::chipFormat(split.parts.at(index), base));
+}
+
+// From the end on, so that positions found before stay true.
+void replaceMarkers(QTextDocument &document, const editor::SplitTemplate &split)
+{
+    const QString text = document.toRawText();
+    QTextCursor edit(&document);
+    edit.beginEditBlock();
+    qsizetype end = text.lastIndexOf(split.markerEnd);
+    while (end >= 0 && !split.parts.isEmpty()) {
+        const qsizetype start = text.lastIndexOf(split.markerStart, end);
+        edit.setPosition(int(start));
+        edit.setPosition(int(end) + 1, QTextCursor::KeepAnchor);
+        replaceMarker(edit, split);
+        end = start > 0 ? text.lastIndexOf(split.markerEnd, start - 1) : -1;
+    }
+    edit.endEditBlock();
+}
+
+void collectLinesAfterTables(QTextFrame *frame, QList<QTextCursor> &lines)
+{
+    for (auto at = frame->begin(); at != frame->end();) {
+        QTextFrame *child = at.currentFrame();
+        ++at;
+        if (!child || at == frame->end()) {
+            continue;
+        }
+        collectLinesAfterTables(child, lines);
+        auto next = at;
+        ++next;
+        if (at.currentBlock().isValid() && at.currentBlock().length() <= 1 && next.currentBlock().isValid()) {
+            lines.append(QTextCursor(at.currentBlock()));
+        }
+    }
+}
+
+// Reading HTML leaves an empty line behind each table that more text follows.
+void removeLinesAfterTables(QTextDocument &document)
+{
+    QList<QTextCursor> lines;
+    collectLinesAfterTables(document.rootFrame(), lines);
+    for (QTextCursor &line : lines) {
+        const QTextBlock next = line.block().next();
+        const QTextBlockFormat format = next.blockFormat();
+        QTextList *list = next.textList();
+        line.deleteChar();
+        line.setBlockFormat(format);
+        if (list) {
+            list->add(line.block());
+        }
+    }
+}
+
+void read(QTextDocument &document, const QString &source)
+{
+    const QString html = TemplateDocument::isHtml(source) ? source : linesAsParagraphs(source);
+    const editor::SplitTemplate split = editor::splitTemplate(html);
+    const bool undo = document.isUndoRedoEnabled();
+    document.setUndoRedoEnabled(false);
+    document.setHtml(split.html);
+    removeLinesAfterTables(document);
+    replaceMarkers(document, split);
+    document.setUndoRedoEnabled(undo);
+}
+
+} // namespace
+
+TemplateDocument::TemplateDocument(QObject *parent)
+    : QTextDocument(parent)
+    , d(std::make_unique<Private>())
+{
+    documentLayout()->registerHandler(editor::kChipObject, &d->painter);
+}
+
+TemplateDocument::~TemplateDocument() = default;
+
+bool TemplateDocument::isHtml(const QString &source)
+{
+    const QList<editor::HtmlToken> tokens = editor::scanHtml(source);
+    return std::any_of(tokens.begin(), tokens.end(), [](const editor::HtmlToken &token) {
+        return token.kind == editor::HtmlTokenKind::StartTag || token.kind == editor::HtmlTokenKind::EndTag ||
+               token.kind == editor::HtmlTokenKind::RawElement;
+    });
+}
+
+void TemplateDocument::setSource(const QString &source)
+{
+    read(*this, source);
+    setModified(false);
+}
+
+QString TemplateDocument::source() const
+{
+    return editor::writeSource(*this).text;
+}
+
+QString TemplateDocument::source(const QTextCursor &selection) const
+{
+    QTextDocument part;
+    QTextCursor cursor(&part);
+    cursor.insertFragment(selection.selection());
+    if (part.blockCount() > 1 || part.begin().textList()) {
+        QTextCursor(&part).setBlockFormat(
+            QTextCursor(selection.document()->findBlock(selection.selectionStart())).blockFormat());
+        return editor::writeSource(part).text;
+    }
+    cursor.setBlockFormat({});
+    const QString line = editor::writeSource(part).text;
+    const qsizetype start = line.indexOf(u'>') + 1;
+    return line.sliced(start, qMax(qsizetype(0), line.lastIndexOf(u'<') - start));
+}
+
+void TemplateDocument::insertSource(QTextCursor &cursor, const QString &source)
+{
+    const TemplatePart part = editor::partOf(source);
+    const QTextCharFormat around = editor::withoutChip(cursor.charFormat());
+    cursor.beginEditBlock();
+    if (part.kind == PartKind::Markup) {
+        QTextDocument parsed;
+        read(parsed, source);
+        cursor.insertFragment(QTextDocumentFragment(&parsed));
+    } else {
+        cursor.insertText(QString(QChar::ObjectReplacementCharacter), editor::chipFormat(part, around));
+    }
+    cursor.setCharFormat(around);
+    cursor.endEditBlock();
+}
+
+TemplateDocument::Chip TemplateDocument::chipAt(int position) const
+{
+    if (position < 0 || characterAt(position) != QChar::ObjectReplacementCharacter) {
+        return {};
+    }
+    QTextCursor cursor(const_cast<TemplateDocument *>(this));
+    cursor.setPosition(position + 1);
+    const QTextCharFormat format = cursor.charFormat();
+    if (!editor::isChip(format)) {
+        return {};
+    }
+    const TemplatePart part = editor::chipPart(format);
+    return {chipKind(part.kind), part.source};
+}
+
+bool TemplateDocument::setChipSource(int position, const QString &source)
+{
+    if (chipAt(position).kind == ChipKind::None) {
+        return false;
+    }
+    QTextCursor cursor(this);
+    cursor.setPosition(position);
+    cursor.setPosition(position + 1, QTextCursor::KeepAnchor);
+    const QTextCharFormat base = editor::withoutChip(cursor.charFormat());
+    cursor.insertText(QString(QChar::ObjectReplacementCharacter),
+                      editor::chipFormat(editor::partOf(source), base));
+    return true;
+}
+
+int TemplateDocument::positionOf(qsizetype offset) const
+{
+    int position = -1;
+    for (const editor::ChipPlace &chip : editor::writeSource(*this).chips) {
+        if (chip.start > offset) {
+            break;
+        }
+        position = chip.position;
+    }
+    return position;
+}
+
+qsizetype TemplateDocument::offsetOf(int position) const
+{
+    for (const editor::ChipPlace &chip : editor::writeSource(*this).chips) {
+        if (chip.position == position) {
+            return chip.start;
+        }
+    }
+    return -1;
+}
+
+void TemplateDocument::setDisplayNames(const QHash<QString, QString> &names)
+{
+    d->painter.displayNames = names;
+    markContentsDirty(0, characterCount());
+}
+
+bool TemplateDocument::isKnownCode(const QString &code) const
+{
+    return d->painter.isKnown(code);
+}
+
+QVariant TemplateDocument::loadResource(int type, const QUrl &name)
+{
+    // A template may come from anywhere: only what it carries itself is shown.
+    return name.scheme() == "data"_L1 ? QTextDocument::loadResource(type, name) : QVariant();
+}
+
+} // namespace ozm

@@ -1,0 +1,360 @@
+#include "templates/document/TemplateParts.h"
+
+#include "templates/syntax/HtmlScanner.h"
+
+#include <QRegularExpression>
+#include <QSet>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm::editor {
+
+namespace {
+
+constexpr char16_t kPrivateUseFirst = 0xE000;
+constexpr char16_t kPrivateUseLast = 0xF8FF;
+
+// Rich text shows nothing of these, or shows their inner text as if it were the page's.
+constexpr std::array kMarkupElements{"area"_L1,   "audio"_L1, "base"_L1,     "button"_L1, "canvas"_L1,
+                                     "embed"_L1,  "form"_L1,  "head"_L1,     "iframe"_L1, "input"_L1,
+                                     "link"_L1,   "map"_L1,   "math"_L1,     "object"_L1, "picture"_L1,
+                                     "select"_L1, "svg"_L1,   "template"_L1, "video"_L1};
+
+// Only their own kind of children may stand in these: anything else is moved out when the page is read.
+constexpr std::array kStructureElements{"colgroup"_L1, "dl"_L1,    "ol"_L1, "table"_L1, "tbody"_L1,
+                                        "tfoot"_L1,    "thead"_L1, "tr"_L1, "ul"_L1};
+
+// A table or list that holds these is kept as it is: rich text would lose them.
+constexpr std::array kKeepWholeElements{"caption"_L1, "col"_L1, "colgroup"_L1, "tfoot"_L1};
+
+constexpr std::array kTableParts{"tbody"_L1, "td"_L1,      "tfoot"_L1, "th"_L1,      "thead"_L1,
+                                 "tr"_L1,    "caption"_L1, "col"_L1,   "colgroup"_L1};
+
+// Blanks at the edges of these are nobody's: the reader would keep one after a marker.
+constexpr std::array kBlockElements{"blockquote"_L1, "body"_L1,  "br"_L1,    "div"_L1,   "dd"_L1, "dl"_L1,
+                                    "dt"_L1,         "h1"_L1,    "h2"_L1,    "h3"_L1,    "h4"_L1, "h5"_L1,
+                                    "h6"_L1,         "head"_L1,  "hr"_L1,    "html"_L1,  "li"_L1, "ol"_L1,
+                                    "p"_L1,          "pre"_L1,   "table"_L1, "tbody"_L1, "td"_L1, "tfoot"_L1,
+                                    "th"_L1,         "thead"_L1, "tr"_L1,    "ul"_L1};
+
+constexpr std::array kLineElements{"div"_L1, "h1"_L1, "h2"_L1, "h3"_L1, "h4"_L1, "h5"_L1, "h6"_L1, "p"_L1};
+
+template <typename Table>
+bool contains(const Table &table, const QString &name)
+{
+    return std::any_of(table.begin(), table.end(), [&](QLatin1StringView row) { return name == row; });
+}
+
+struct Range
+{
+    qsizetype start;
+    qsizetype end;
+    bool dropped = false;
+};
+
+class Splitter
+{
+public:
+    explicit Splitter(const QString &source)
+        : m_source(source)
+        , m_tokens(scanHtml(source))
+        , m_tree(treeOf(m_tokens))
+    {
+        chooseMarkers();
+        findKeptBlanks();
+        findKeptRanges();
+    }
+
+    SplitTemplate run()
+    {
+        qsizetype kept = 0;
+        for (m_index = 0; m_index < m_tokens.size(); ++m_index) {
+            const HtmlToken &token = m_tokens.at(m_index);
+            while (kept < m_kept.size() && m_kept.at(kept).end <= token.start) {
+                ++kept;
+            }
+            if (kept < m_kept.size() && token.start >= m_kept.at(kept).start) {
+                if (token.start == m_kept.at(kept).start && !m_kept.at(kept).dropped) {
+                    appendPart(PartKind::Markup, m_kept.at(kept).start, m_kept.at(kept).end);
+                }
+                continue;
+            }
+            append(token);
+        }
+        return m_result;
+    }
+
+private:
+    void chooseMarkers()
+    {
+        char16_t candidate = kPrivateUseFirst;
+        const auto next = [&] {
+            while (candidate < kPrivateUseLast && m_source.contains(QChar(candidate))) {
+                ++candidate;
+            }
+            return QChar(candidate++);
+        };
+        m_result.markerStart = next();
+        m_result.markerEnd = next();
+    }
+
+    void append(const HtmlToken &token)
+    {
+        switch (token.kind) {
+        case HtmlTokenKind::Text:
+            appendText(token);
+            break;
+        case HtmlTokenKind::Script:
+            appendPart(PartKind::Script, token.start, token.end);
+            break;
+        case HtmlTokenKind::RawElement:
+            appendPart(PartKind::Markup, token.start, token.end);
+            m_result.parts.last().source += missingEnd(m_source, token);
+            break;
+        case HtmlTokenKind::Opaque:
+            // The page's own document type says nothing about a part of a page.
+            if (!text(token).startsWith("<!doctype"_L1, Qt::CaseInsensitive)) {
+                appendPart(PartKind::Markup, token.start, token.end);
+                m_result.parts.last().source += missingEnd(m_source, token);
+            }
+            break;
+        case HtmlTokenKind::StartTag:
+        case HtmlTokenKind::EndTag:
+            m_result.html += text(token);
+            if (isEmptyLine()) {
+                appendPart(PartKind::Markup, token.end, token.end);
+                ++m_index;
+            }
+            break;
+        }
+    }
+
+    // "<p><br/></p>": the reader keeps such lines or drops them depending on what stands around them.
+    bool isEmptyLine() const
+    {
+        if (m_index + 2 >= m_tokens.size() || m_tokens.at(m_index).kind != HtmlTokenKind::StartTag) {
+            return false;
+        }
+        const HtmlToken &inner = m_tokens.at(m_index + 1);
+        const HtmlToken &end = m_tokens.at(m_index + 2);
+        return contains(kLineElements, m_tokens.at(m_index).name) && inner.kind == HtmlTokenKind::StartTag &&
+               inner.name == "br"_L1 && end.kind == HtmlTokenKind::EndTag &&
+               end.name == m_tokens.at(m_index).name;
+    }
+
+    QStringView text(const HtmlToken &token) const
+    {
+        return QStringView(m_source).sliced(token.start, token.end - token.start);
+    }
+
+    bool isBlockEdge(qsizetype index) const
+    {
+        if (index < 0 || index >= m_tokens.size()) {
+            return true;
+        }
+        const HtmlToken &token = m_tokens.at(index);
+        return (token.kind == HtmlTokenKind::StartTag || token.kind == HtmlTokenKind::EndTag) &&
+               contains(kBlockElements, token.name);
+    }
+
+    // Parents stand before their children.
+    void findKeptBlanks()
+    {
+        for (const HtmlElement &element : m_tree.elements) {
+            const QStringView tag =
+                QStringView(m_source).sliced(element.start, element.startTagEnd - element.start);
+            m_keepsBlanks.append(element.name == "pre"_L1 || tag.contains("white-space"_L1) ||
+                                 keepsBlanks(element.parent));
+        }
+    }
+
+    bool keepsBlanks(int element) const { return element >= 0 && m_keepsBlanks.at(element); }
+
+    void appendText(const HtmlToken &token)
+    {
+        qsizetype at = token.start;
+        qsizetype end = token.end;
+        if (!keepsBlanks(m_tree.innermost.at(m_index))) {
+            while (isBlockEdge(m_index + 1) && end > at && m_source.at(end - 1).isSpace()) {
+                --end;
+            }
+            while (isBlockEdge(m_index - 1) && at < end && m_source.at(at).isSpace()) {
+                ++at;
+            }
+        }
+        const QStringView trimmed = QStringView(m_source).sliced(at, end - at);
+        const qsizetype offset = at;
+        auto codes = codePattern().globalMatch(trimmed);
+        while (codes.hasNext()) {
+            const QRegularExpressionMatch code = codes.next();
+            appendPlain(at, offset + code.capturedStart());
+            at = offset + code.capturedEnd();
+            appendPart(PartKind::Code, offset + code.capturedStart(), at);
+        }
+        appendPlain(at, end);
+    }
+
+    // A "<" that opens no tag would still be taken for one by the rich-text reader.
+    void appendPlain(qsizetype start, qsizetype end)
+    {
+        m_result.html += m_source.sliced(start, end - start).replace(u'<', "&lt;"_L1);
+    }
+
+    void appendPart(PartKind kind, qsizetype start, qsizetype end)
+    {
+        m_result.html += m_result.markerStart + QString::number(m_result.parts.size()) + m_result.markerEnd;
+        m_result.parts.append({kind, m_source.sliced(start, end - start)});
+    }
+
+    void findKeptRanges()
+    {
+        findKeptElements();
+        findMisplacedParts();
+        std::sort(m_kept.begin(), m_kept.end(), [](const Range &a, const Range &b) {
+            return a.start != b.start ? a.start < b.start : a.end > b.end;
+        });
+        QList<Range> outermost;
+        for (const Range &range : std::as_const(m_kept)) {
+            if (outermost.isEmpty() || range.start >= outermost.last().end) {
+                outermost.append(range);
+            }
+        }
+        m_kept = outermost;
+    }
+
+    void findKeptElements()
+    {
+        QSet<int> tablesWithCells;
+        for (const HtmlElement &element : m_tree.elements) {
+            for (int at = element.name == "td"_L1 || element.name == "th"_L1 ? element.parent : -1;
+                 at >= 0 && contains(kStructureElements, m_tree.elements.at(at).name);
+                 at = m_tree.elements.at(at).parent) {
+                tablesWithCells.insert(at);
+            }
+        }
+        for (int i = 0; i < m_tree.elements.size(); ++i) {
+            const HtmlElement &element = m_tree.elements.at(i);
+            if (element.name == "head"_L1) {
+                keepHead(element);
+            } else if (contains(kMarkupElements, element.name) ||
+                       contains(kKeepWholeElements, element.name) || losesAttributes(element) ||
+                       (element.name == "table"_L1 && !tablesWithCells.contains(i))) {
+                keep(i);
+            }
+        }
+    }
+
+    // A head without anything that the reader of the report would miss is left out, as for any page.
+    void keepHead(const HtmlElement &head)
+    {
+        const bool matters = std::any_of(m_tokens.begin(), m_tokens.end(), [&](const HtmlToken &token) {
+            const bool raw = token.kind == HtmlTokenKind::RawElement && token.name != "title"_L1;
+            return token.start >= head.start && token.end <= head.end &&
+                   (raw || token.kind == HtmlTokenKind::Script || text(token).contains(codePattern()));
+        });
+        m_kept.append({head.start, head.end, !matters});
+    }
+
+    // Which attributes survive rich text as they are written; codes in any other would be lost.
+    bool losesAttributes(const HtmlElement &element) const
+    {
+        const QStringView tag =
+            QStringView(m_source).sliced(element.start, element.startTagEnd - element.start);
+        if (element.name == "html"_L1 || element.name == "body"_L1) {
+            return false;
+        }
+        if (element.name == "img"_L1) {
+            static const QRegularExpression floats(u"\\balign\\s*=|float\\s*:|\\bclass\\s*=|\\busemap\\b"_s,
+                                                   QRegularExpression::CaseInsensitiveOption);
+            return tag.contains(floats) || hasCode(tag, u"src|alt"_s);
+        }
+        return hasCode(tag, element.name == "a"_L1 ? u"href"_s : QString());
+    }
+
+    static bool hasCode(QStringView tag, const QString &allowedAttributes)
+    {
+        if (!tag.contains(codePattern())) {
+            return tag.contains("<script>"_L1, Qt::CaseInsensitive);
+        }
+        if (allowedAttributes.isEmpty()) {
+            return true;
+        }
+        QString rest = tag.toString();
+        rest.remove(QRegularExpression(u"\\b(%1)\\s*=\\s*(\"[^\"]*\"|'[^']*')"_s.arg(allowedAttributes),
+                                       QRegularExpression::CaseInsensitiveOption));
+        return rest.contains(codePattern());
+    }
+
+    void findMisplacedParts()
+    {
+        for (int i = 0; i < m_tokens.size(); ++i) {
+            const HtmlToken &token = m_tokens.at(i);
+            const int parent = m_tree.innermost.at(i);
+            if (parent >= 0 && contains(kStructureElements, m_tree.elements.at(parent).name) &&
+                isPart(token)) {
+                keep(parent);
+            }
+        }
+    }
+
+    bool isPart(const HtmlToken &token) const
+    {
+        if (token.kind == HtmlTokenKind::Text) {
+            return !text(token).trimmed().isEmpty();
+        }
+        return token.kind != HtmlTokenKind::StartTag && token.kind != HtmlTokenKind::EndTag;
+    }
+
+    // Parts of a table or list are kept with the whole of it.
+    void keep(int index)
+    {
+        for (;;) {
+            const HtmlElement &element = m_tree.elements.at(index);
+            const bool cell = contains(kTableParts, element.name);
+            if (element.parent < 0 || !(cell || element.name == "li"_L1)) {
+                break;
+            }
+            const QString &parent = m_tree.elements.at(element.parent).name;
+            if (!contains(kStructureElements, parent)) {
+                break;
+            }
+            index = element.parent;
+        }
+        m_kept.append({m_tree.elements.at(index).start, m_tree.elements.at(index).end});
+    }
+
+    const QString &m_source;
+    const QList<HtmlToken> m_tokens;
+    const HtmlTree m_tree;
+    QList<Range> m_kept;
+    QList<bool> m_keepsBlanks;
+    qsizetype m_index = 0;
+    SplitTemplate m_result;
+};
+
+} // namespace
+
+const QRegularExpression &codePattern()
+{
+    static const QRegularExpression pattern(u"\\[[^\\[\\]\\r\\n]+\\]"_s);
+    return pattern;
+}
+
+SplitTemplate splitTemplate(const QString &source)
+{
+    return Splitter(source).run();
+}
+
+TemplatePart partOf(const QString &text)
+{
+    if (codePattern().match(text).capturedLength() == text.size() && !text.isEmpty()) {
+        return {PartKind::Code, text};
+    }
+    const bool script = text.startsWith("<script>"_L1, Qt::CaseInsensitive);
+    return {script ? PartKind::Script : PartKind::Markup, text};
+}
+
+} // namespace ozm::editor

@@ -1,0 +1,485 @@
+#include "templates/document/TemplateSourceWriter.h"
+
+#include "templates/document/InlineHtml.h"
+#include "templates/document/TemplateChip.h"
+
+#include <QSet>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextFrame>
+#include <QTextList>
+#include <QTextTable>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm::editor {
+
+namespace {
+
+/// What the rich-text reader itself makes of a tag without attributes.
+struct TagDefaults
+{
+    QTextBlockFormat block;
+    QTextCharFormat text;
+};
+
+TagDefaults readDefaults(const QString &html)
+{
+    QTextDocument document;
+    document.setHtml(html);
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (block.text() == "x"_L1) {
+            return {block.blockFormat(), block.begin().fragment().charFormat()};
+        }
+    }
+    return {};
+}
+
+const TagDefaults &headingDefaults(int level)
+{
+    static const auto table = [] {
+        std::array<TagDefaults, 6> headings;
+        for (size_t i = 0; i < headings.size(); ++i) {
+            headings[i] = readDefaults(u"<div>a</div><h%1>x</h%1><div>b</div>"_s.arg(i + 1));
+        }
+        return headings;
+    }();
+    return table.at(size_t(qBound(1, level, 6) - 1));
+}
+
+const TagDefaults &paragraphDefaults()
+{
+    static const TagDefaults defaults = readDefaults(u"<div>a</div><p>x</p><div>b</div>"_s);
+    return defaults;
+}
+
+QTextCharFormat headerCellText()
+{
+    QTextCharFormat format;
+    format.setFontWeight(QFont::Bold);
+    return format;
+}
+
+QString px(qreal value)
+{
+    return QString::number(value) + "px"_L1;
+}
+
+struct ListRow
+{
+    QTextListFormat::Style style;
+    QLatin1StringView tag;
+    QLatin1StringView type;
+};
+
+constexpr std::array kLists{
+    ListRow{QTextListFormat::ListDisc, "ul"_L1, ""_L1},
+    ListRow{QTextListFormat::ListCircle, "ul"_L1, " type=\"circle\""_L1},
+    ListRow{QTextListFormat::ListSquare, "ul"_L1, " type=\"square\""_L1},
+    ListRow{QTextListFormat::ListDecimal, "ol"_L1, ""_L1},
+    ListRow{QTextListFormat::ListLowerAlpha, "ol"_L1, " type=\"a\""_L1},
+    ListRow{QTextListFormat::ListUpperAlpha, "ol"_L1, " type=\"A\""_L1},
+    ListRow{QTextListFormat::ListLowerRoman, "ol"_L1, " type=\"i\""_L1},
+    ListRow{QTextListFormat::ListUpperRoman, "ol"_L1, " type=\"I\""_L1},
+};
+
+const ListRow &listRow(const QTextListFormat &format)
+{
+    const auto *found = std::ranges::find(kLists, format.style(), &ListRow::style);
+    return found == kLists.end() ? kLists.front() : *found;
+}
+
+// Reading HTML folds blanks; where that would change the text the block says that they count.
+bool needsBlanksKept(const QString &text)
+{
+    return text.startsWith(u' ') || text.endsWith(u' ') || text.contains(u'\t') || text.contains("  "_L1) ||
+           text.contains(u" \u2028"_s) || text.contains(u"\u2028 "_s);
+}
+
+bool isRuler(const QTextBlock &block)
+{
+    return block.blockFormat().hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth);
+}
+
+/// What the surrounding cell already says of its blocks.
+struct Surroundings
+{
+    QTextCharFormat text;
+    Qt::Alignment alignment = Qt::AlignLeft;
+};
+
+QStringList blockDeclarations(const QTextBlock &block, const Surroundings &around)
+{
+    const QTextBlockFormat format = block.blockFormat();
+    QStringList css;
+    const Qt::Alignment alignment = format.alignment() & Qt::AlignHorizontal_Mask;
+    if ((format.hasProperty(QTextFormat::BlockAlignment) ? alignment : around.alignment) !=
+        around.alignment) {
+        css.append(alignment & Qt::AlignHCenter   ? u"text-align:center"_s
+                   : alignment & Qt::AlignRight   ? u"text-align:right"_s
+                   : alignment & Qt::AlignJustify ? u"text-align:justify"_s
+                                                  : u"text-align:left"_s);
+    }
+    const qreal left = format.leftMargin() + 40.0 * (block.textList() ? 0 : format.indent());
+    if (left != 0) {
+        css.append("margin-left:"_L1 + px(left));
+    }
+    if (format.rightMargin() != 0) {
+        css.append("margin-right:"_L1 + px(format.rightMargin()));
+    }
+    if (format.textIndent() != 0) {
+        css.append("text-indent:"_L1 + px(format.textIndent()));
+    }
+    if (format.lineHeightType() == QTextBlockFormat::ProportionalHeight && format.lineHeight() != 100) {
+        css.append(u"line-height:%1%"_s.arg(format.lineHeight()));
+    }
+    if (format.background().style() == Qt::SolidPattern) {
+        css.append("background-color:"_L1 + cssColor(format.background().color()));
+    }
+    if (format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore) {
+        css.append(u"page-break-before:always"_s);
+    }
+    if (format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysAfter) {
+        css.append(u"page-break-after:always"_s);
+    }
+    if (needsBlanksKept(block.text())) {
+        css.append(u"white-space:pre-wrap"_s);
+    }
+    return css;
+}
+
+class Writer
+{
+public:
+    WrittenSource run(const QTextDocument &document)
+    {
+        writeBlocks(document.rootFrame()->begin(), document.rootFrame()->end(), {});
+        if (m_out.text.endsWith(u'\n')) {
+            m_out.text.chop(1);
+        }
+        return m_out;
+    }
+
+private:
+    void add(const QString &text) { m_out.text += text; }
+
+    void writeBlocks(QTextFrame::iterator at, const QTextFrame::iterator &end, const Surroundings &around)
+    {
+        const qsizetype listsOutside = m_lists.size();
+        bool afterFrame = true;
+        while (at != end) {
+            QTextFrame *child = at.currentFrame();
+            const QTextBlock block = at.currentBlock();
+            ++at;
+            const bool beforeFrame = at == end || at.currentFrame();
+            if (child) {
+                closeLists(listsOutside);
+                writeFrame(child, around);
+            } else if (!(afterFrame && beforeFrame && isEmpty(block))) {
+                // An empty block alone between frames is there because a frame needs one at its edges.
+                writeBlock(block, around, listsOutside);
+            }
+            afterFrame = child;
+        }
+        closeLists(listsOutside);
+    }
+
+    static bool isEmpty(const QTextBlock &block)
+    {
+        return block.length() <= 1 && !isRuler(block) && !block.textList() &&
+               !block.blockFormat().boolProperty(kWrittenLine);
+    }
+
+    void writeFrame(QTextFrame *frame, const Surroundings &around)
+    {
+        if (auto *table = qobject_cast<QTextTable *>(frame)) {
+            writeTable(*table);
+        } else {
+            writeBlocks(frame->begin(), frame->end(), around);
+        }
+    }
+
+    void writeBlock(const QTextBlock &block, const Surroundings &around, qsizetype listsOutside)
+    {
+        if (QTextList *list = block.textList()) {
+            enterList(list, listsOutside);
+            const QStringList css = blockDeclarations(block, around);
+            add("<li"_L1 + styleAttribute(css) + u'>');
+            writeText(block, around.text);
+            return;
+        }
+        closeLists(listsOutside);
+        if (isRuler(block)) {
+            writeRuler(block);
+        } else {
+            writeParagraph(block, around);
+        }
+    }
+
+    void writeRuler(const QTextBlock &block)
+    {
+        const QTextLength width =
+            block.blockFormat().lengthProperty(QTextFormat::BlockTrailingHorizontalRulerWidth);
+        add("<hr"_L1 + widthAttribute(width) + "/>\n"_L1);
+    }
+
+    void writeParagraph(const QTextBlock &block, const Surroundings &around)
+    {
+        const QTextBlockFormat format = block.blockFormat();
+        const int level = format.headingLevel();
+        const TagDefaults &defaults = level > 0 ? headingDefaults(level) : paragraphDefaults();
+        QString tag = level > 0 ? u"h%1"_s.arg(level) : u"p"_s;
+        QStringList css = blockDeclarations(block, around);
+        if (format.topMargin() == 0 && format.bottomMargin() == 0 && level == 0) {
+            tag = u"div"_s;
+        } else if (format.topMargin() != defaults.block.topMargin() ||
+                   format.bottomMargin() != defaults.block.bottomMargin()) {
+            css.append("margin-top:"_L1 + px(format.topMargin()));
+            css.append("margin-bottom:"_L1 + px(format.bottomMargin()));
+        }
+        const bool empty = block.length() <= 1;
+        add(u'<' + tag + styleAttribute(css) + u'>');
+        if (empty) {
+            add(u"<br/>"_s);
+        }
+        QTextCharFormat base = around.text;
+        if (level > 0) {
+            base.merge(defaults.text);
+        }
+        writeText(block, base);
+        add("</"_L1 + tag + ">\n"_L1);
+    }
+
+    // The reader hands a block's colour down to its text.
+    static QTextCharFormat withBackground(QTextCharFormat base, const QTextFormat &outer)
+    {
+        if (outer.background().style() != Qt::NoBrush) {
+            base.setBackground(outer.background());
+        }
+        return base;
+    }
+
+    void writeText(const QTextBlock &block, const QTextCharFormat &around)
+    {
+        const QTextCharFormat base = withBackground(around, block.blockFormat());
+        findLooseBrackets(block);
+        InlineTags open;
+        for (auto at = block.begin(); !at.atEnd(); ++at) {
+            const QTextFragment fragment = at.fragment();
+            const InlineTags tags = inlineTags(fragment.charFormat(), base);
+            if (!(tags == open)) {
+                add(open.close + tags.open);
+                open = tags;
+            }
+            writeFragment(fragment);
+        }
+        add(open.close);
+    }
+
+    // Brackets that are no chip would become a code once they are written side by side.
+    void findLooseBrackets(const QTextBlock &block)
+    {
+        m_looseBrackets.clear();
+        auto all = codePattern().globalMatch(block.text());
+        while (all.hasNext()) {
+            const QRegularExpressionMatch match = all.next();
+            if (!match.capturedView().contains(QChar::ObjectReplacementCharacter)) {
+                m_looseBrackets.insert(block.position() + int(match.capturedStart()));
+            }
+        }
+    }
+
+    void addText(const QString &text, int position)
+    {
+        if (m_looseBrackets.isEmpty() || !text.contains(u'[')) {
+            add(escaped(text));
+            return;
+        }
+        for (int i = 0; i < text.size(); ++i) {
+            add(m_looseBrackets.contains(position + i) ? u"&#91;"_s : escaped(text.at(i)));
+        }
+    }
+
+    void writeFragment(const QTextFragment &fragment)
+    {
+        const QTextCharFormat format = fragment.charFormat();
+        const QString text = fragment.text();
+        if (!text.contains(QChar::ObjectReplacementCharacter)) {
+            addText(text, fragment.position());
+            return;
+        }
+        // Neighbours of the same format, as two of the same code are, come as one fragment.
+        for (int i = 0; i < text.size(); ++i) {
+            if (text.at(i) != QChar::ObjectReplacementCharacter) {
+                add(escaped(text.at(i)));
+            } else if (isChip(format)) {
+                const qsizetype start = m_out.text.size();
+                add(chipPart(format).source);
+                m_out.chips.append({start, m_out.text.size(), fragment.position() + i});
+            } else if (format.isImageFormat()) {
+                add(imageTag(format.toImageFormat()));
+            }
+        }
+    }
+
+    void enterList(QTextList *list, qsizetype listsOutside)
+    {
+        const qsizetype known = m_lists.indexOf(list);
+        if (known >= listsOutside) {
+            closeLists(known + 1);
+            add(u"</li>\n"_s);
+            return;
+        }
+        const int indent = list->format().indent();
+        while (m_lists.size() > listsOutside && m_lists.last()->format().indent() >= indent) {
+            closeLists(m_lists.size() - 1);
+        }
+        const ListRow &row = listRow(list->format());
+        add(u'<' + row.tag + row.type + ">\n"_L1);
+        m_lists.append(list);
+    }
+
+    void closeLists(qsizetype keep)
+    {
+        while (m_lists.size() > keep) {
+            add("</li>\n</"_L1 + listRow(m_lists.last()->format()).tag + ">\n"_L1);
+            m_lists.removeLast();
+        }
+    }
+
+    static QString widthAttribute(const QTextLength &width)
+    {
+        if (width.type() == QTextLength::FixedLength && width.rawValue() > 0) {
+            return u" width=\"%1\""_s.arg(width.rawValue());
+        }
+        return width.type() == QTextLength::PercentageLength ? u" width=\"%1%\""_s.arg(width.rawValue())
+                                                             : QString();
+    }
+
+    void writeTable(QTextTable &table)
+    {
+        const QTextTableFormat format = table.format();
+        QStringList css;
+        if (format.borderCollapse()) {
+            css.append(u"border-collapse:collapse"_s);
+        }
+        if (format.background().style() == Qt::SolidPattern) {
+            css.append("background-color:"_L1 + cssColor(format.background().color()));
+        }
+        const Qt::Alignment alignment = format.alignment() & Qt::AlignHorizontal_Mask;
+        add(u"<table border=\"%1\" cellspacing=\"%2\" cellpadding=\"%3\""_s.arg(
+                QString::number(format.border()), QString::number(format.cellSpacing()),
+                QString::number(format.cellPadding())) +
+            widthAttribute(format.width()) +
+            (alignment & Qt::AlignHCenter ? u" align=\"center\""_s
+             : alignment & Qt::AlignRight ? u" align=\"right\""_s
+                                          : QString()) +
+            styleAttribute(css) + ">\n"_L1);
+        writeRows(table);
+        add(u"</table>\n"_s);
+    }
+
+    void writeRows(QTextTable &table)
+    {
+        const int headers = qMin(table.format().headerRowCount(), table.rows());
+        for (int row = 0; row < table.rows(); ++row) {
+            add(row == 0 && headers > 0 ? u"<thead><tr>"_s : u"<tr>"_s);
+            for (int column = 0; column < table.columns(); ++column) {
+                const QTextTableCell cell = table.cellAt(row, column);
+                if (cell.row() == row && cell.column() == column) {
+                    writeCell(table, cell, row < headers);
+                }
+            }
+            add(row + 1 == headers ? u"</tr></thead>\n"_s : u"</tr>\n"_s);
+        }
+    }
+
+    void writeCell(const QTextTable &table, const QTextTableCell &cell, bool header)
+    {
+        const QString tag = header ? u"th"_s : u"td"_s;
+        add(u'<' + tag + cellAttributes(table, cell));
+        Surroundings around;
+        if (header) {
+            around = {headerCellText(), Qt::AlignHCenter};
+        }
+        around.text = withBackground(around.text, cell.format());
+        const QTextBlock first = cell.firstCursorPosition().block();
+        const bool single = first == cell.lastCursorPosition().block() && !first.textList() &&
+                            !isRuler(first) && cell.begin().currentFrame() == nullptr;
+        if (single && isPlain(first)) {
+            add(styleAttribute(blockDeclarations(first, around) + cellDeclarations(cell)) + u'>');
+            writeText(first, around.text);
+        } else {
+            add(styleAttribute(cellDeclarations(cell)) + u'>');
+            writeBlocks(cell.begin(), cell.end(), around);
+        }
+        add("</"_L1 + tag + u'>');
+    }
+
+    // Nothing but an alignment, which the cell can carry, and blanks that count.
+    static bool isPlain(const QTextBlock &block)
+    {
+        QTextBlockFormat rest = block.blockFormat();
+        return rest.headingLevel() == 0 && rest.topMargin() == 0 && rest.bottomMargin() == 0 &&
+               rest.leftMargin() == 0 && rest.rightMargin() == 0 && rest.textIndent() == 0 &&
+               rest.indent() == 0 && rest.background().style() == Qt::NoBrush &&
+               rest.pageBreakPolicy() == QTextFormat::PageBreak_Auto &&
+               (rest.lineHeightType() == QTextBlockFormat::SingleHeight || rest.lineHeight() == 100);
+    }
+
+    static QString cellAttributes(const QTextTable &table, const QTextTableCell &cell)
+    {
+        QString attributes;
+        if (cell.columnSpan() > 1) {
+            attributes += u" colspan=\"%1\""_s.arg(cell.columnSpan());
+        }
+        if (cell.rowSpan() > 1) {
+            attributes += u" rowspan=\"%1\""_s.arg(cell.rowSpan());
+        }
+        const QList<QTextLength> widths = table.format().columnWidthConstraints();
+        if (cell.row() == 0 && cell.columnSpan() == 1 && cell.column() < widths.size()) {
+            attributes += widthAttribute(widths.at(cell.column()));
+        }
+        return attributes;
+    }
+
+    static QStringList cellDeclarations(const QTextTableCell &cell)
+    {
+        const QTextCharFormat format = cell.format();
+        QStringList css;
+        if (format.background().style() == Qt::SolidPattern) {
+            css.append("background-color:"_L1 + cssColor(format.background().color()));
+        }
+        switch (format.verticalAlignment()) {
+        case QTextCharFormat::AlignMiddle:
+            css.append(u"vertical-align:middle"_s);
+            break;
+        case QTextCharFormat::AlignBottom:
+            css.append(u"vertical-align:bottom"_s);
+            break;
+        case QTextCharFormat::AlignTop:
+            css.append(u"vertical-align:top"_s);
+            break;
+        default:
+            break;
+        }
+        return css;
+    }
+
+    WrittenSource m_out;
+    QSet<int> m_looseBrackets;
+    QList<QTextList *> m_lists;
+};
+
+} // namespace
+
+WrittenSource writeSource(const QTextDocument &document)
+{
+    return Writer().run(document);
+}
+
+} // namespace ozm::editor

@@ -1,0 +1,193 @@
+#include <ozm_widgets/TemplateFile.h>
+
+#include "templates/files/TemplateFileText.h"
+#include "templates/files/WebReader.h"
+
+#include <ozm_common_core_mini/PathUtils.h>
+#include <ozm_widgets/TECWrapper.h>
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm {
+
+namespace {
+
+QByteArray digestOf(const QByteArray &bytes)
+{
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
+}
+
+Error notRead(const QString &path, const QString &why)
+{
+    return Error(ErrorCode::FileAccess,
+                 TemplateFile::tr("\"%1\" cannot be read: %2").arg(QDir::toNativeSeparators(path), why));
+}
+
+Error notWritten(const QString &path, const QString &why)
+{
+    return Error(ErrorCode::FileAccess,
+                 TemplateFile::tr("\"%1\" cannot be written: %2").arg(QDir::toNativeSeparators(path), why));
+}
+
+Error refused(const QString &why)
+{
+    return Error(ErrorCode::BadParameter, why);
+}
+
+QString tooLarge()
+{
+    return TemplateFile::tr("It is larger than %1 MB.").arg(TemplateFile::kLargest / 1024 / 1024);
+}
+
+/// A folder, or a pipe or device, which would be waited for.
+bool isNoFile(const QString &path)
+{
+    const PathUtils::Kind kind = PathUtils::kind(path);
+    return kind == PathUtils::Kind::Folder || kind == PathUtils::Kind::Other;
+}
+
+Result<QByteArray> bytesOf(const QString &path)
+{
+    if (isNoFile(path))
+        return notRead(path, TemplateFile::tr("It is no file."));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return notRead(path, file.errorString());
+    // Not by the size that the system gives, which is 0 for some files.
+    QByteArray bytes = file.read(TemplateFile::kLargest + 1);
+    if (file.error() != QFileDevice::NoError)
+        return notRead(path, file.errorString());
+    if (bytes.size() > TemplateFile::kLargest)
+        return notRead(path, tooLarge());
+    return bytes;
+}
+
+Result<QString> contentOf(const QString &text, TemplateFile::Page page, bool &converted)
+{
+    if (text.contains("<ozm_template"_L1)) {
+        bool ok = false;
+        QString content = TECWrapper::unwrapTEC(text, &ok);
+        if (ok)
+            return content;
+        return wrongTemplateFormat(
+            TemplateFile::tr("The file begins as a template, but is cut short or of another version."));
+    }
+    converted = page == TemplateFile::Page::Body && isHtmlPage(text);
+    return converted ? bodyOfPage(text) : Result<QString>(text);
+}
+
+/// The envelope of nothing with the content put in: unlike wrapping, which substitutes markers such as "%1"
+/// also in the content, this comes back from unwrapping to the letter.
+QString enveloped(const QString &content)
+{
+    QString text = TECWrapper::wrapTEC({});
+    return text.insert(text.lastIndexOf("</"_L1), content);
+}
+
+Result<QByteArray> bytesFor(const QString &content)
+{
+    const QString text = enveloped(content);
+    QByteArray bytes = text.toUtf8();
+    if (bytes.size() > TemplateFile::kLargest)
+        return refused(TemplateFile::tr("The template cannot be saved.") + u' ' + tooLarge());
+    if (content.contains(QChar::Null))
+        return refused(
+            TemplateFile::tr("The template holds a zero character, which cannot be saved. Remove it."));
+    if (QString::fromUtf8(bytes) != text) {
+        return refused(
+            TemplateFile::tr("The template holds half of a character pair, which cannot be saved. Remove "
+                             "what is shown as a question mark or an empty box."));
+    }
+    if (TECWrapper::unwrapTEC(text) != content)
+        return refused(TemplateFile::tr("The template could not be read back once saved, so it was not."));
+    return bytes;
+}
+
+/// Goes on after a part was written, since only the next try says why it was not all.
+bool writeAll(QSaveFile &file, const QByteArray &bytes)
+{
+    for (qint64 done = 0; done < bytes.size();) {
+        const qint64 written = file.write(bytes.constData() + done, bytes.size() - done);
+        if (written <= 0)
+            return false;
+        done += written;
+    }
+    return true;
+}
+
+} // namespace
+
+class TemplateFile::Private
+{
+public:
+    QString path;
+    QByteArray digest;
+};
+
+TemplateFile::TemplateFile()
+    : d(std::make_unique<Private>())
+{}
+
+TemplateFile::~TemplateFile() = default;
+
+Result<TemplateFile::Loaded> TemplateFile::read(const QString &path, Page page)
+{
+    const Result<QByteArray> bytes = bytesOf(path);
+    if (!bytes)
+        return bytes.error();
+    const Result<DecodedText> decoded = decodeTemplateFile(bytes.value());
+    if (!decoded)
+        return decoded.error();
+    Loaded loaded{{}, decoded.value().charset, false, digestOf(bytes.value())};
+    Result<QString> content = contentOf(decoded.value().text, page, loaded.converted);
+    if (!content)
+        return content.error();
+    loaded.content = std::move(content).value();
+    return loaded;
+}
+
+Error TemplateFile::write(const QString &path, const QString &content)
+{
+    const Result<QByteArray> bytes = bytesFor(content);
+    if (!bytes)
+        return bytes.error();
+    if (isNoFile(path))
+        return notWritten(path, tr("It is no file.")).ecatch(OZM_HERE);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeAll(file, bytes.value()) ||
+        !file.commit()) {
+        return notWritten(path, file.errorString()).ecatch(OZM_HERE);
+    }
+    return {};
+}
+
+bool TemplateFile::changedOnDisk() const
+{
+    if (d->path.isEmpty())
+        return false;
+    // The content decides: a file may change within the clock's tick, and its time without any change.
+    const Result<QByteArray> bytes = bytesOf(d->path);
+    return !bytes || digestOf(bytes.value()) != d->digest;
+}
+
+QString TemplateFile::path() const
+{
+    return d->path;
+}
+
+void TemplateFile::opened(const QString &path, const QByteArray &digest)
+{
+    d->path = path;
+    d->digest = digest;
+    if (!digest.isEmpty())
+        return;
+    const Result<QByteArray> bytes = bytesOf(path);
+    d->digest = bytes ? digestOf(bytes.value()) : QByteArray();
+}
+
+} // namespace ozm

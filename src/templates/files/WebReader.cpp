@@ -1,0 +1,187 @@
+#include "templates/files/WebReader.h"
+
+#include "support/LibraryFolder.h"
+#include "support/Logging.h"
+#include "templates/files/WebReaderInterface.h"
+#include "templates/syntax/HtmlScanner.h"
+
+#include <ozm_widgets/TemplateFile.h>
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QPluginLoader>
+#include <QThread>
+#include <QUuid>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm {
+
+namespace {
+
+// A page as large as a template may be takes ten seconds on an office machine.
+constexpr std::chrono::seconds kDeadline{60};
+
+QString notThereText(const QStringList &folders)
+{
+#ifdef OZM_WEB_READER
+    return TemplateFile::tr(
+               "This file is a whole web page. Its body is read by the plug-in \"ozm_webreader\", which is "
+               "not installed here (looked for in %1). The file can be opened as plain text instead.")
+        .arg(folders.join(u", "_s));
+#else
+    Q_UNUSED(folders)
+    return TemplateFile::tr(
+        "This file is a whole web page. This program was built without the part that reads "
+        "the body of web pages. The file can be opened as plain text instead.");
+#endif
+}
+
+QStringList readerFolders()
+{
+#ifdef OZM_WEB_READER
+    return pluginFolders();
+#else
+    return {};
+#endif
+}
+
+// What the engine says of being started late and without graphics, which is what is meant here.
+constexpr std::array kUnsaid{"Qt WebEngine seems to be initialized from a plugin"_L1,
+                             "No suitable graphics backend found"_L1};
+
+/// Keeps what need not be said out of the log, and passes on all else.
+class Unsaid
+{
+public:
+    Unsaid() { s_next = qInstallMessageHandler(&handle); }
+    ~Unsaid()
+    {
+        // Another may have been put in meanwhile, which then stays.
+        const QtMessageHandler last = qInstallMessageHandler(s_next);
+        if (last != &handle)
+            qInstallMessageHandler(last);
+    }
+    Q_DISABLE_COPY_MOVE(Unsaid)
+
+private:
+    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &text)
+    {
+        const auto begins = [&text](QLatin1StringView unsaid) { return text.startsWith(unsaid); };
+        if (s_next && !std::ranges::any_of(kUnsaid, begins))
+            s_next(type, context, text);
+    }
+
+    inline static QtMessageHandler s_next = nullptr;
+};
+
+WebReaderInterface *load(const QString &file)
+{
+    QPluginLoader loader(file);
+    // Asked of the file without loading it.
+    if (loader.metaData().value("IID"_L1).toString() != QLatin1StringView(OZM_WEB_READER_IID))
+        return nullptr;
+    auto *reader = qobject_cast<WebReaderInterface *>(loader.instance());
+    if (!reader)
+        OZM_WIDGETS_WARNING() << "The web reader cannot be loaded:" << loader.errorString();
+    return reader;
+}
+
+WebReaderInterface *findReader(const QStringList &folders)
+{
+    for (const QString &folder : folders) {
+        const QStringList names = QDir(folder).entryList({u"*ozm_webreader*"_s}, QDir::Files);
+        for (const QString &name : names) {
+            if (WebReaderInterface *reader = load(folder + u'/' + name))
+                return reader;
+        }
+    }
+    return nullptr;
+}
+
+Result<WebReaderInterface *> webReader()
+{
+    auto *application = qobject_cast<QGuiApplication *>(QCoreApplication::instance());
+    if (!application || QThread::currentThread() != application->thread()) {
+        return Error(
+            ErrorCode::NotAllowed,
+            TemplateFile::tr("The body of a web page can only be read on the main thread of a program with "
+                             "windows."));
+    }
+    // Only success is remembered: what is missing may be installed while the program runs.
+    static WebReaderInterface *reader = nullptr;
+    const QStringList folders = reader ? QStringList() : readerFolders();
+    if (!reader)
+        reader = findReader(folders);
+    if (!reader)
+        return Error(ErrorCode::NotAllowed, notThereText(folders));
+    return reader;
+}
+
+/// A page whose template scripts are stood in for, since the engine would end some of them earlier than
+/// decoding does, and would write their line ends anew.
+class StandIns
+{
+public:
+    explicit StandIns(const QString &page)
+    {
+        qsizetype done = 0;
+        for (const editor::HtmlToken &token : editor::scanHtml(page)) {
+            if (token.kind != editor::HtmlTokenKind::Script)
+                continue;
+            m_page += QStringView(page).sliced(done, token.start - done);
+            m_page += m_opening + QString::number(m_scripts.size()) + "</script>"_L1;
+            m_scripts.append(page.sliced(token.start, token.end - token.start));
+            done = token.end;
+        }
+        m_page += QStringView(page).sliced(done);
+    }
+
+    [[nodiscard]] const QString &page() const { return m_page; }
+
+    /// The scripts back in @p body; nothing when some did not come through as elements.
+    [[nodiscard]] std::optional<QString> restored(const QString &body) const
+    {
+        QString all;
+        qsizetype done = 0;
+        for (qsizetype at = body.indexOf(m_opening); at >= 0; at = body.indexOf(m_opening, done)) {
+            const qsizetype number = at + m_opening.size();
+            const qsizetype end = body.indexOf(u'<', number);
+            all += QStringView(body).sliced(done, at - done);
+            all += m_scripts.value(QStringView(body).sliced(number, end - number).toInt());
+            done = end + "</script>"_L1.size();
+        }
+        all += QStringView(body).sliced(done);
+        return all.contains(m_mark) ? std::nullopt : std::optional(all);
+    }
+
+private:
+    const QString m_mark = QUuid::createUuid().toString(QUuid::Id128);
+    const QString m_opening = "<script>"_L1 + m_mark + u'-';
+    QString m_page;
+    QStringList m_scripts;
+};
+
+} // namespace
+
+Result<QString> bodyOfPage(const QString &page)
+{
+    const Unsaid unsaid;
+    const Result<WebReaderInterface *> reader = webReader();
+    if (!reader)
+        return reader.error();
+    const StandIns standIns(page);
+    Result<QString> body = reader.value()->bodyOf(standIns.page(), kDeadline);
+    if (!body)
+        return body;
+    if (const std::optional<QString> restored = standIns.restored(body.value()))
+        return *restored;
+    // A tag stood where it is none to the engine, as in a text field.
+    return reader.value()->bodyOf(page, kDeadline);
+}
+
+} // namespace ozm

@@ -1,0 +1,306 @@
+#include "templates/syntax/HtmlScanner.h"
+
+#include <QStringView>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm::editor {
+
+namespace {
+
+constexpr QLatin1StringView kScriptOpen("<script>");
+constexpr QLatin1StringView kScriptClose("</script>");
+
+constexpr std::array kVoidElements{"area"_L1,  "base"_L1,   "br"_L1,    "col"_L1,  "embed"_L1,
+                                   "hr"_L1,    "img"_L1,    "input"_L1, "link"_L1, "meta"_L1,
+                                   "param"_L1, "source"_L1, "track"_L1, "wbr"_L1};
+
+constexpr std::array kRawElements{"script"_L1, "style"_L1, "textarea"_L1, "title"_L1, "noscript"_L1};
+
+// What a new element of the first name closes when the second is still open, as browsers read it.
+struct ImpliedEnd
+{
+    QLatin1StringView opened;
+    QLatin1StringView closed;
+};
+constexpr std::array kImpliedEnds{
+    ImpliedEnd{"li"_L1, "li"_L1},    ImpliedEnd{"td"_L1, "td"_L1}, ImpliedEnd{"td"_L1, "th"_L1},
+    ImpliedEnd{"th"_L1, "td"_L1},    ImpliedEnd{"th"_L1, "th"_L1}, ImpliedEnd{"tr"_L1, "td"_L1},
+    ImpliedEnd{"tr"_L1, "th"_L1},    ImpliedEnd{"tr"_L1, "tr"_L1}, ImpliedEnd{"p"_L1, "p"_L1},
+    ImpliedEnd{"dt"_L1, "dd"_L1},    ImpliedEnd{"dd"_L1, "dt"_L1}, ImpliedEnd{"table"_L1, "p"_L1},
+    ImpliedEnd{"div"_L1, "p"_L1},    ImpliedEnd{"ul"_L1, "p"_L1},  ImpliedEnd{"ol"_L1, "p"_L1},
+    ImpliedEnd{"body"_L1, "head"_L1}};
+
+template <typename Table>
+bool contains(const Table &table, const QString &name)
+{
+    return std::any_of(table.begin(), table.end(), [&](QLatin1StringView row) { return name == row; });
+}
+
+bool isNameStart(QChar c)
+{
+    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
+}
+
+class Scanner
+{
+public:
+    explicit Scanner(const QString &source)
+        : m_source(source)
+    {}
+
+    QList<HtmlToken> run()
+    {
+        while (m_at < m_source.size()) {
+            const qsizetype next = m_source.indexOf(u'<', m_at);
+            if (next < 0) {
+                break;
+            }
+            m_at = next;
+            if (!takeMarkup()) {
+                ++m_at;
+            }
+        }
+        flushText(m_source.size());
+        return m_tokens;
+    }
+
+private:
+    bool startsWith(QLatin1StringView text) const
+    {
+        return QStringView(m_source).sliced(m_at).startsWith(text, Qt::CaseInsensitive);
+    }
+
+    void flushText(qsizetype end)
+    {
+        if (end > m_textStart) {
+            m_tokens.append({HtmlTokenKind::Text, m_textStart, end, {}});
+        }
+    }
+
+    bool take(HtmlTokenKind kind, qsizetype end, const QString &name = {})
+    {
+        flushText(m_at);
+        m_tokens.append({kind, m_at, end, name});
+        m_at = end;
+        m_textStart = end;
+        return true;
+    }
+
+    qsizetype after(QStringView text, qsizetype from) const
+    {
+        const qsizetype found = m_source.indexOf(text, from, Qt::CaseInsensitive);
+        return found < 0 ? m_source.size() : found + text.size();
+    }
+
+    bool takeMarkup()
+    {
+        if (startsWith(kScriptOpen)) {
+            return takeScript();
+        }
+        if (startsWith(kScriptClose)) {
+            return take(HtmlTokenKind::Opaque, m_at + kScriptClose.size());
+        }
+        if (startsWith("<!--"_L1)) {
+            return take(HtmlTokenKind::Opaque, after(u"-->", m_at + 4));
+        }
+        if (startsWith("<!"_L1) || startsWith("<?"_L1)) {
+            return take(HtmlTokenKind::Opaque, after(u">", m_at));
+        }
+        const bool closing = startsWith("</"_L1);
+        const qsizetype nameStart = m_at + (closing ? 2 : 1);
+        if (nameStart >= m_source.size() || !isNameStart(m_source.at(nameStart))) {
+            return false;
+        }
+        return takeTag(closing, nameStart);
+    }
+
+    // Depth counts as it does when scripts are run: what is left open runs up to the last tag of all.
+    bool takeScript()
+    {
+        int depth = 0;
+        qsizetype lastTagEnd = m_at;
+        for (qsizetype at = m_at; at >= 0; at = m_source.indexOf(u'<', at + 1)) {
+            const QStringView rest = QStringView(m_source).sliced(at);
+            if (rest.startsWith(kScriptOpen, Qt::CaseInsensitive)) {
+                ++depth;
+                lastTagEnd = at + kScriptOpen.size();
+            } else if (rest.startsWith(kScriptClose, Qt::CaseInsensitive)) {
+                lastTagEnd = at + kScriptClose.size();
+                if (--depth == 0) {
+                    break;
+                }
+            }
+        }
+        const bool runs = lastTagEnd > m_at + kScriptOpen.size();
+        return take(runs ? HtmlTokenKind::Script : HtmlTokenKind::Opaque, lastTagEnd);
+    }
+
+    qsizetype tagEnd(qsizetype from) const
+    {
+        QChar quote;
+        for (qsizetype at = from; at < m_source.size(); ++at) {
+            const QChar c = m_source.at(at);
+            if (!quote.isNull()) {
+                quote = c == quote ? QChar() : quote;
+            } else if ((c == u'"' || c == u'\'') && m_source.at(at - 1) == u'=') {
+                quote = c;
+            } else if (c == u'>') {
+                return at + 1;
+            }
+        }
+        return -1;
+    }
+
+    bool takeTag(bool closing, qsizetype nameStart)
+    {
+        const qsizetype end = tagEnd(nameStart);
+        if (end < 0) {
+            return false;
+        }
+        qsizetype nameEnd = nameStart;
+        while (m_source.at(nameEnd).isLetterOrNumber() || m_source.at(nameEnd) == u'-' ||
+               m_source.at(nameEnd) == u':') {
+            ++nameEnd;
+        }
+        // "[a<b]" is a code, though browsers would see a tag of the name "b]" in it.
+        if (const QChar after = m_source.at(nameEnd); !after.isSpace() && after != u'>' && after != u'/') {
+            return false;
+        }
+        const QString name = m_source.sliced(nameStart, nameEnd - nameStart).toLower();
+        if (closing) {
+            return take(HtmlTokenKind::EndTag, end, name);
+        }
+        if (contains(kRawElements, name)) {
+            const qsizetype close = m_source.indexOf(u"</"_s + name, end, Qt::CaseInsensitive);
+            return take(HtmlTokenKind::RawElement, close < 0 ? m_source.size() : after(u">", close), name);
+        }
+        return take(HtmlTokenKind::StartTag, end, name);
+    }
+
+    const QString &m_source;
+    QList<HtmlToken> m_tokens;
+    qsizetype m_at = 0;
+    qsizetype m_textStart = 0;
+};
+
+class ElementStack
+{
+public:
+    void open(const HtmlToken &token)
+    {
+        closeImplied(token);
+        m_elements.append({token.name, token.start, token.end, -1, m_open.isEmpty() ? -1 : m_open.last()});
+        if (isVoidElement(token.name)) {
+            m_elements.last().end = token.end;
+        } else {
+            m_open.append(int(m_elements.size()) - 1);
+        }
+    }
+
+    void close(const HtmlToken &token)
+    {
+        for (qsizetype i = m_open.size() - 1; i >= 0; --i) {
+            const QString &name = m_elements.at(m_open.at(i)).name;
+            if (name == token.name) {
+                endFrom(i, token.start);
+                m_elements[m_lastEnded].end = token.end;
+                return;
+            }
+            // An end tag in a cell closes nothing outside of it.
+            if (isCell(name) && !isTablePart(token.name)) {
+                return;
+            }
+        }
+    }
+
+    int innermost() const { return m_open.isEmpty() ? -1 : m_open.last(); }
+
+    QList<HtmlElement> finish(qsizetype end)
+    {
+        endFrom(0, end);
+        return m_elements;
+    }
+
+private:
+    static bool isCell(const QString &name) { return name == "td"_L1 || name == "th"_L1; }
+    static bool isTablePart(const QString &name)
+    {
+        return name == "tr"_L1 || name == "table"_L1 || name == "tbody"_L1 || name == "thead"_L1 ||
+               name == "tfoot"_L1;
+    }
+
+    void closeImplied(const HtmlToken &token)
+    {
+        for (bool again = true; again && !m_open.isEmpty();) {
+            const QString &innermost = m_elements.at(m_open.last()).name;
+            again = std::any_of(kImpliedEnds.begin(), kImpliedEnds.end(), [&](const ImpliedEnd &rule) {
+                return token.name == rule.opened && innermost == rule.closed;
+            });
+            if (again) {
+                endFrom(m_open.size() - 1, token.start);
+            }
+        }
+    }
+
+    void endFrom(qsizetype first, qsizetype end)
+    {
+        for (qsizetype i = first; i < m_open.size(); ++i) {
+            m_elements[m_open.at(i)].end = end;
+        }
+        if (first < m_open.size()) {
+            m_lastEnded = m_open.at(first);
+            m_open.resize(first);
+        }
+    }
+
+    QList<HtmlElement> m_elements;
+    QList<int> m_open;
+    int m_lastEnded = 0;
+};
+
+} // namespace
+
+QList<HtmlToken> scanHtml(const QString &source)
+{
+    return Scanner(source).run();
+}
+
+QString missingEnd(const QString &source, const HtmlToken &token)
+{
+    const QStringView text = QStringView(source).sliced(token.start, token.end - token.start);
+    if (token.kind == HtmlTokenKind::RawElement) {
+        return text.endsWith(u'>') ? QString() : "</"_L1 + token.name + u'>';
+    }
+    if (token.kind != HtmlTokenKind::Opaque) {
+        return {};
+    }
+    const QString end = text.startsWith("<!--"_L1) ? u"-->"_s : u">"_s;
+    return text.endsWith(end) ? QString() : end;
+}
+
+bool isVoidElement(const QString &name)
+{
+    return contains(kVoidElements, name);
+}
+
+HtmlTree treeOf(const QList<HtmlToken> &tokens)
+{
+    HtmlTree tree;
+    ElementStack stack;
+    for (const HtmlToken &token : tokens) {
+        if (token.kind == HtmlTokenKind::EndTag) {
+            stack.close(token);
+        } else if (token.kind == HtmlTokenKind::StartTag) {
+            stack.open(token);
+        }
+        tree.innermost.append(stack.innermost());
+    }
+    tree.elements = stack.finish(tokens.isEmpty() ? 0 : tokens.last().end);
+    return tree;
+}
+
+} // namespace ozm::editor
