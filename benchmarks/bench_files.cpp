@@ -62,10 +62,9 @@ const QList<QByteArray> &tableBytes()
 {
     static const auto bytes = [] {
         QList<QByteArray> made;
-        for (const QList<QString> &row : table()) {
+        for (const QList<QString> &row : table())
             for (int column = 0; column < kColumns; ++column)
                 made.append(row.at(column).toUtf8() + (column + 1 < kColumns ? "," : "\r\n"));
-        }
         return made;
     }();
     return bytes;
@@ -75,10 +74,9 @@ void csv_million_cells(benchmark::State &state)
 {
     const QTemporaryDir folder;
     const QList<QList<QString>> &rows = table();
-    for (auto _ : state) {
+    for (auto _ : state)
         if (!ozm::CsvWriter::writeFile(folder.filePath(u"table.csv"_s), rows))
             state.SkipWithError("not written");
-    }
     state.SetItemsProcessed(state.iterations() * kRows * kColumns);
 }
 

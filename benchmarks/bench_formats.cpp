@@ -39,10 +39,9 @@ void byName(benchmark::State &state)
     std::vector<DataSourceLocation> locations;
     for (const QString &path : manyPaths())
         locations.push_back(DataSourceLocation::fromLocalPath(path));
-    for (auto _ : state) {
+    for (auto _ : state)
         for (const DataSourceLocation &location : locations)
             benchmark::DoNotOptimize(detectFormats(location, true, false));
-    }
     state.SetItemsProcessed(state.iterations() * kPaths);
 }
 
@@ -51,10 +50,9 @@ void anyByName(benchmark::State &state)
     std::vector<DataSourceLocation> locations;
     for (const QString &path : manyPaths())
         locations.push_back(DataSourceLocation::fromLocalPath(path));
-    for (auto _ : state) {
+    for (auto _ : state)
         for (const DataSourceLocation &location : locations)
             benchmark::DoNotOptimize(hasDetectableFormat(location, true));
-    }
     state.SetItemsProcessed(state.iterations() * kPaths);
 }
 
@@ -113,10 +111,9 @@ template <typename Ask>
 void askMixed(benchmark::State &state, Ask ask)
 {
     const auto &samples = MixedSamples::instance().samples();
-    for (auto _ : state) {
+    for (auto _ : state)
         for (const DataSourceLocation &sample : samples)
             benchmark::DoNotOptimize(ask(sample));
-    }
     state.SetItemsProcessed(state.iterations() * kSamples);
 }
 
@@ -159,12 +156,11 @@ void largeFolder(benchmark::State &state)
     const QTemporaryDir dir;
     ozm::bench::make(dir.path(), layout(u"Run.d"_s, int(state.range(0))));
     const auto location = DataSourceLocation::fromLocalPath(dir.filePath(u"Run.d"_s));
-    for (auto _ : state) {
+    for (auto _ : state)
         if constexpr (wantsAll)
             benchmark::DoNotOptimize(detectFormats(location, false, false));
         else
             benchmark::DoNotOptimize(nearestFormat(location));
-    }
 }
 
 /// A study folder of ten thousand samples, files and folders by turns.

@@ -20,10 +20,9 @@ QByteArray run(const char *program)
 
 void start(benchmark::State &state, const char *program)
 {
-    for (auto _ : state) {
+    for (auto _ : state)
         if (run(program).isEmpty())
             state.SkipWithError("the program failed");
-    }
 }
 
 void start_memory(benchmark::State &state, const char *program)

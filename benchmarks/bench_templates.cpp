@@ -161,10 +161,9 @@ const QString kShort = u"<tr><td>[Name]</td><td>[Sequence]</td><td>[Charge]</td>
 void short_over_rows(benchmark::State &state)
 {
     const std::vector<RowNode> rows = peptides(10000);
-    for (auto _ : state) {
+    for (auto _ : state)
         for (const RowNode &row : rows)
             benchmark::DoNotOptimize(AbstractTemplateEditor::decodeTEC(kShort, &row, {}));
-    }
 }
 
 /// What a programmer would write for this one template.
@@ -228,10 +227,9 @@ void several_rows(benchmark::State &state)
 
 void sizes(benchmark::internal::Benchmark *benchmark)
 {
-    for (const int codes : {10, 100, 1000}) {
+    for (const int codes : {10, 100, 1000})
         for (const int characters : {10000, 100000, 1000000})
             benchmark->Args({codes, characters});
-    }
     benchmark->Unit(benchmark::kMicrosecond);
 }
 

@@ -18,11 +18,10 @@ int main(int argc, char **argv)
         std::fputs("files_probe make <folder> <count> | spectrum|plain <folder> <times>\n", stderr);
         return 2;
     }
-    for (int i = 0; i < arguments.at(3).toInt(); ++i) {
+    for (int i = 0; i < arguments.at(3).toInt(); ++i)
         if (arguments.at(1) == QLatin1String("spectrum"))
             openedOn<SpectrumFileDialog>(arguments.at(2));
         else
             openedOn<PlainFileDialog>(arguments.at(2));
-    }
     return 0;
 }

@@ -85,10 +85,9 @@ void make(const QString &folder, const QStringList &entries)
 QStringList largeFidFolder(const QString &name, int files)
 {
     QStringList entries;
-    for (int spot = 0; spot < files / 4; ++spot) {
+    for (int spot = 0; spot < files / 4; ++spot)
         for (const char *file : {"fid", "acqu", "acqus", "sptype"})
             entries.append(u"%1/0_R%2/1/1SRef/%3"_s.arg(name).arg(spot).arg(QLatin1StringView(file)));
-    }
     return entries;
 }
 

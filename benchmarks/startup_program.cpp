@@ -17,10 +17,9 @@ QByteArray memory()
     QFile sums(QStringLiteral("/proc/self/smaps_rollup"));
     if (!sums.open(QIODevice::ReadOnly))
         return "0";
-    for (const QByteArray &line : sums.readAll().split('\n')) {
+    for (const QByteArray &line : sums.readAll().split('\n'))
         if (line.startsWith("Rss:"))
             return line.simplified().split(' ').value(1);
-    }
     return "0";
 }
 

@@ -2,9 +2,9 @@
 
 #include "editor/EditorFiles.h"
 #include "editor/TemplateEditorPrivate.h"
+#include "templates/syntax/Envelope.h"
 
 #include <ozm_common_core_mini/RowNode.h>
-#include <ozm_widgets/TECWrapper.h>
 
 #include <QCloseEvent>
 #include <QTimer>
@@ -43,7 +43,7 @@ QString AbstractTemplateEditor::storageDirectory() const
 
 QString AbstractTemplateEditor::sourceText() const
 {
-    return Private::wrap(d->content());
+    return ozm::syntax::wrapped(d->content());
 }
 
 AbstractTemplateEditor::Mode AbstractTemplateEditor::mode() const
@@ -68,13 +68,12 @@ QString AbstractTemplateEditor::filePath() const
 
 bool AbstractTemplateEditor::setSourceText(const QString &wrapped)
 {
-    bool ok = false;
-    const QString content = TECWrapper::unwrapTEC(wrapped, &ok);
-    if (!ok) {
+    const auto content = ozm::syntax::unwrapped(wrapped);
+    if (!content) {
         ozm::editor::tellWrongFormat(this);
         return false;
     }
-    d->show(content);
+    d->show(content->text);
     d->files->setNoFile();
     return true;
 }

@@ -2,10 +2,10 @@
 
 #include "ShortCodes_p.h"
 #include "support/Logging.h"
+#include "templates/syntax/Codes.h"
+#include "templates/syntax/Envelope.h"
 
 #include <ozm_widgets/TECWrapper.h>
-
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
@@ -137,7 +137,7 @@ ShortCode findValue(const QString &key, const QList<ShortCode> &codes)
 
 namespace {
 
-// What was called after oligonucleotides first is known by the protein; old templates say the old names.
+// Columns once named after oligonucleotides are now named after the protein; old templates use the old names.
 constexpr std::array kLegacyNames{"OligoAliasName"_L1, "OligoAccessionName"_L1};
 
 void renameLegacyCodes(QList<QString> &codes)
@@ -150,67 +150,24 @@ void renameLegacyCodes(QList<QString> &codes)
     }
 }
 
-qsizetype findCodeEnd(QStringView text, qsizetype from)
-{
-    while (from < text.size() && text[from] != u']' && text[from] != u'\n')
-        ++from;
-    return from;
-}
-
 } // namespace
 
 QList<QString> getCodes(const QString &text, bool withBrackets)
 {
-    // The matches of \[(.*?)\], found without starting anew at each of many brackets left open.
-    QList<QString> codes;
-    for (qsizetype open = text.indexOf(u'['); open >= 0;) {
-        const qsizetype end = findCodeEnd(text, open + 1);
-        if (end == text.size())
-            break;
-        if (text.at(end) == u']') {
-            const QStringView inner = QStringView(text).sliced(open + 1, end - open - 1);
-            if (withBrackets)
-                codes.append(text.sliced(open, end - open + 1));
-            else
-                codes.append(inner.sliced(inner.lastIndexOf(u'[') + 1).toString());
-        }
-        open = text.indexOf(u'[', end + 1);
-    }
+    QList<QString> codes = ozm::syntax::codesIn(text, withBrackets);
     renameLegacyCodes(codes);
     return codes;
 }
 
-namespace {
-
-const QString kEnvelopeTag = u"ozm_template"_s;
-const QString kVersionAttribute = u"version"_s;
-const QString kVersion = u"1.0"_s;
-
-const QRegularExpression &envelopePattern()
-{
-    static const QRegularExpression pattern(
-        u"<%1 %2=\"(\\d.\\d)\">(.*)</%3>"_s.arg(kEnvelopeTag, kVersionAttribute, kEnvelopeTag),
-        QRegularExpression::DotMatchesEverythingOption);
-    return pattern;
-}
-
-} // namespace
-
 QString TECWrapper::wrapTEC(const QString &content)
 {
-    // One argument at a time: stored templates rely on markers in the content taking part.
-    return u"<%1 %2=\"%3\">%4</%5>"_s.arg(kEnvelopeTag)
-        .arg(kVersionAttribute)
-        .arg(kVersion)
-        .arg(content)
-        .arg(kEnvelopeTag);
+    return ozm::syntax::wrappedBySubstitution(content);
 }
 
 QString TECWrapper::unwrapTEC(const QString &text, bool *ok)
 {
-    const QRegularExpressionMatch match = envelopePattern().match(text);
-    const bool known = match.hasMatch() && match.capturedView(1) == kVersion;
+    auto content = ozm::syntax::unwrapped(text);
     if (ok)
-        *ok = known;
-    return known ? match.captured(2) : QString();
+        *ok = content.has_value();
+    return content ? std::move(content->text) : QString();
 }

@@ -2,6 +2,7 @@
 
 #include "TemplateEditorJSEngine_p.h"
 #include "support/Logging.h"
+#include "templates/decoding/TokenReplacement.h"
 
 #include <ozm_widgets/TemplateEditorJSFileReader.h>
 
@@ -113,7 +114,7 @@ QString TemplateEditorJSCodeReader::Private::read(const ozm::TemplateText &parse
     if (parsed.pieces().isEmpty())
         return ozm::tokens::replace(parsed.text(), parsed.marks(), parameters);
     const QString text = runPieces(parsed, parameters, failed);
-    return ozm::tokens::replace(text, ozm::tokens::marked(text), parameters);
+    return ozm::tokens::replace(text, ozm::syntax::marked(text), parameters);
 }
 
 QString TemplateEditorJSCodeReader::Private::runPieces(const ozm::TemplateText &parsed,

@@ -105,10 +105,9 @@ public:
     Error all()
     {
         for (const auto step : {&Run::load, &Run::edit, &Run::add, &Run::rename, &Run::tryInvalid,
-                                &Run::undoAndRedo, &Run::repeat, &Run::save, &Run::report, &Run::grab}) {
+                                &Run::undoAndRedo, &Run::repeat, &Run::save, &Run::report, &Run::grab})
             if (Error error = (this->*step)(); error.hasError())
                 return error;
-        }
         return {};
     }
 
@@ -146,10 +145,9 @@ private:
         if (m_isFolder)
             return m_editor.setCell(idAt(0), kComment, tr("Checked by the batch run"));
         // The two charges become one step of the history, and stay two records of the trail.
-        for (const auto &charge : {u"3"_s, u"4"_s}) {
+        for (const auto &charge : {u"3"_s, u"4"_s})
             if (Error error = m_editor.setCell(idAt(0), kCharge, charge); error.hasError())
                 return error;
-        }
         return m_editor.setCell(idAt(0), kComment, tr("Charge checked against the isotope pattern"));
     }
 

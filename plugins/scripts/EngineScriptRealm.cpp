@@ -62,10 +62,9 @@ class EngineScriptRealm::GuardedObjects
 public:
     ~GuardedObjects()
     {
-        for (const auto &[object, ownership] : std::as_const(m_objects)) {
+        for (const auto &[object, ownership] : std::as_const(m_objects))
             if (object)
                 QJSEngine::setObjectOwnership(object, ownership);
-        }
     }
 
     void guard(const QVariant &value)

@@ -367,10 +367,9 @@ void EditorActions::makeMenus()
     for (const MenuRow &menuRow : kMenus) {
         QMenu *menu = m_editor.qptr->menuBar()->addMenu(tr(menuRow.title));
         menu->setObjectName(QString::fromLatin1(menuRow.name));
-        for (const ActionRow &row : kActions) {
+        for (const ActionRow &row : kActions)
             if (row.menu == menuRow.menu)
                 addTo(menu, row, action(row.name));
-        }
         if (menuRow.menu == Menu::View)
             addViewEntries(menu);
     }
@@ -386,10 +385,9 @@ void EditorActions::makeMenus()
     connect(codes, &QMenu::aboutToShow, this, [this, codes] { fillCodeMenu(codes); });
     for (QWidget *view : std::initializer_list<QWidget *>{m_editor.rich, m_editor.plain}) {
         view->setContextMenuPolicy(Qt::ActionsContextMenu);
-        for (const ActionRow &row : kActions) {
+        for (const ActionRow &row : kActions)
             if (row.flags & OnView)
                 view->addAction(action(row.name));
-        }
     }
 }
 

@@ -135,10 +135,9 @@ bool EditorHistory::isModified() const
     if (m_stack.cleanIndex() < 0)
         return true;
     const int last = qMax(m_stack.cleanIndex(), m_stack.index());
-    for (int step = qMin(m_stack.cleanIndex(), m_stack.index()); step < last; ++step) {
+    for (int step = qMin(m_stack.cleanIndex(), m_stack.index()); step < last; ++step)
         if (dynamic_cast<const EditStep *>(m_stack.command(step)))
             return true;
-    }
     return false;
 }
 

@@ -40,10 +40,9 @@ QTextCursor findChip(QTextDocument *document, int from, bool backward, const QSt
     if (!chips)
         return {};
     const int step = backward ? -1 : 1;
-    for (int at = backward ? from - 1 : from; at >= 0 && at < document->characterCount(); at += step) {
+    for (int at = backward ? from - 1 : from; at >= 0 && at < document->characterCount(); at += step)
         if (chipHolds(*chips, at, text, cs))
             return selected(document, at);
-    }
     return {};
 }
 

@@ -1,6 +1,7 @@
 #include "editor/PreviewPane.h"
 
 #include "editor/RichTextView.h"
+#include "templates/syntax/ScriptTags.h"
 
 #include <ozm_widgets/AbstractTemplateEditor.h>
 #include <ozm_widgets/BlackSplitterHandle.h>
@@ -135,7 +136,7 @@ void PreviewPane::updateNow()
     clock.start();
     const Decoded decoded = m_decode();
     m_content = decoded.content;
-    showText(AbstractTemplateEditor::withoutScriptTags(decoded.report.text));
+    showText(syntax::withoutScriptTags(decoded.report.text));
     listTroubles(decoded.report);
     m_isStale = false;
     m_timer.setInterval(qMax(kShortestDelayMs, int(clock.elapsed()) * kDelayPerDuration));

@@ -5,6 +5,7 @@
 #include "editor/EditorKeys.h"
 #include "templates/document/InlineHtml.h"
 #include "templates/document/TemplateParts.h"
+#include "templates/syntax/Codes.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>
@@ -118,7 +119,7 @@ void RichTextView::insertPlain(const QString &text)
     cursor.beginEditBlock();
     cursor.removeSelectedText();
     qsizetype at = 0;
-    auto codes = codePattern().globalMatch(text);
+    auto codes = syntax::codePattern().globalMatch(text);
     while (codes.hasNext()) {
         const QRegularExpressionMatch code = codes.next();
         cursor.insertText(text.sliced(at, code.capturedStart() - at));
@@ -203,7 +204,7 @@ QTextCursor RichTextView::removedBy(const QKeyEvent &event) const
     return cursor;
 }
 
-// What the cursor stands behind becomes a chip when it is a code as a whole.
+// A code that was typed to its end becomes a chip.
 void RichTextView::closeCode()
 {
     QTextCursor cursor = textCursor();
@@ -212,8 +213,8 @@ void RichTextView::closeCode()
     if (bracket < 0)
         return;
     const QString code = before.sliced(bracket);
-    const bool whole = codePattern().match(code).capturedLength() == code.size();
-    if (!whole || code.contains(QChar::ObjectReplacementCharacter) || code.contains(QChar::LineSeparator))
+    if (!syntax::isCode(code) || code.contains(QChar::ObjectReplacementCharacter) ||
+        code.contains(QChar::LineSeparator))
         return;
     cursor.setPosition(cursor.block().position() + int(bracket), QTextCursor::KeepAnchor);
     replace(cursor, code);

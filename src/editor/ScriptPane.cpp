@@ -2,8 +2,8 @@
 
 #include "editor/CodeEdit.h"
 #include "editor/SourceHighlighter.h"
+#include "templates/syntax/ScriptTags.h"
 
-#include <ozm_widgets/AbstractTemplateEditor.h>
 #include <ozm_widgets/BlackSplitterHandle.h>
 #include <ozm_widgets/OZMStyle.h>
 
@@ -17,19 +17,6 @@ using namespace Qt::StringLiterals;
 namespace ozm::editor {
 
 namespace {
-
-constexpr auto kOpen = "<script>"_L1;
-constexpr auto kClose = "</script>"_L1;
-
-QString withoutTags(const QString &script)
-{
-    QString code = script;
-    if (code.startsWith(kOpen, Qt::CaseInsensitive))
-        code = code.mid(kOpen.size());
-    if (code.endsWith(kClose, Qt::CaseInsensitive))
-        code.chop(kClose.size());
-    return code;
-}
 
 QPushButton *makeButton(const char *name, const QString &icon, const QString &text, QWidget *parent)
 {
@@ -87,7 +74,7 @@ ScriptPane::ScriptPane(CodeModel *codes, const Decode &decode, QWidget *parent)
 
 void ScriptPane::edit(const QString &script, bool isNew)
 {
-    m_code->setPlainText(withoutTags(script));
+    m_code->setPlainText(syntax::codeOf(script));
     m_apply->setText(isNew ? tr("Inser&t") : tr("&Apply"));
     m_apply->setToolTip(isNew ? tr("Insert the script at the cursor")
                               : tr("Put the script back where it stands"));
@@ -99,7 +86,7 @@ void ScriptPane::edit(const QString &script, bool isNew)
 
 QString ScriptPane::script() const
 {
-    return kOpen + m_code->toPlainText() + kClose;
+    return syntax::scriptOf(m_code->toPlainText());
 }
 
 void ScriptPane::setReadOnly(bool readOnly)
@@ -127,7 +114,7 @@ void ScriptPane::showOutcome(const TemplateReport &report)
         failed
             ? tr("Line %1: %2").arg(report.failed.constFirst().line).arg(report.failed.constFirst().message)
             : tr("Ran without an error."));
-    m_result->setPlainText(failed ? QString() : AbstractTemplateEditor::withoutScriptTags(report.text));
+    m_result->setPlainText(failed ? QString() : syntax::withoutScriptTags(report.text));
 }
 
 } // namespace ozm::editor

@@ -1,7 +1,8 @@
 #include "editor/SourceHighlighter.h"
 
 #include "editor/CodeModel.h"
-#include "templates/document/TemplateParts.h"
+#include "templates/syntax/Codes.h"
+#include "templates/syntax/ScriptTags.h"
 
 #include <ozm_widgets/OZMStyle.h>
 
@@ -84,42 +85,48 @@ void SourceHighlighter::highlightBlock(const QString &text)
 
 void SourceHighlighter::highlightTags(const QString &text)
 {
-    static const QRegularExpression opening(u"<!--|<script>|</?[a-zA-Z!][^<>]*>?"_s,
-                                            QRegularExpression::CaseInsensitiveOption);
-    static const QRegularExpression endOfScript(u"</script>"_s, QRegularExpression::CaseInsensitiveOption);
     int state = qMax(0, previousBlockState());
     qsizetype at = 0;
-    while (at < text.size()) {
-        if (state == InText) {
-            const QRegularExpressionMatch match = opening.match(text, at);
-            if (!match.hasMatch())
-                break;
-            const bool comment = match.captured() == "<!--"_L1;
-            at = match.capturedEnd();
-            state = comment                                                             ? InComment
-                    : match.captured().compare("<script>"_L1, Qt::CaseInsensitive) == 0 ? InScript
-                    : match.captured().endsWith(u'>')                                   ? InText
-                                                                                        : InTag;
-            setFormat(int(match.capturedStart()), int(match.capturedLength()),
-                      colorOf(comment ? Piece::Comment : Piece::Tag));
-            continue;
-        }
-        const QRegularExpressionMatch scriptEnd = endOfScript.match(text, at);
-        const qsizetype found = state == InScript    ? scriptEnd.capturedStart()
-                                : state == InComment ? text.indexOf("-->"_L1, at)
-                                                     : text.indexOf(u'>', at);
-        const qsizetype end = found < 0 ? text.size() : found;
-        const qsizetype length = found < 0 ? 0 : state == InScript ? 9 : state == InComment ? 3 : 1;
-        if (state == InScript)
-            highlightScript(text, at, end);
-        else
-            setFormat(int(at), int(end - at), colorOf(state == InComment ? Piece::Comment : Piece::Tag));
-        setFormat(int(end), int(length), colorOf(state == InComment ? Piece::Comment : Piece::Tag));
-        at = end + length;
-        if (found >= 0)
-            state = InText;
-    }
+    while (at >= 0 && at < text.size())
+        at = state == InText ? beginMarkup(text, at, state) : endMarkup(text, at, state);
     setCurrentBlockState(state);
+}
+
+qsizetype SourceHighlighter::beginMarkup(const QString &text, qsizetype from, int &state)
+{
+    static const QRegularExpression opening(u"<!--|</?[a-zA-Z!][^<>]*>?"_s);
+    const QRegularExpressionMatch match = opening.match(text, from);
+    if (!match.hasMatch())
+        return -1;
+    const QStringView markup = match.capturedView();
+    if (markup == "<!--"_L1)
+        state = InComment;
+    else if (syntax::beginsWithScript(markup))
+        state = InScript;
+    else if (!markup.endsWith(u'>'))
+        state = InTag;
+    const Piece piece = state == InComment ? Piece::Comment : Piece::Tag;
+    setFormat(int(match.capturedStart()), int(match.capturedLength()), colorOf(piece));
+    return match.capturedEnd();
+}
+
+qsizetype SourceHighlighter::endMarkup(const QString &text, qsizetype from, int &state)
+{
+    const QLatin1StringView closing = state == InScript    ? syntax::kScriptClose
+                                      : state == InComment ? "-->"_L1
+                                                           : ">"_L1;
+    const qsizetype found = text.indexOf(closing, from, Qt::CaseInsensitive);
+    const qsizetype end = found < 0 ? text.size() : found;
+    const qsizetype after = found < 0 ? end : end + closing.size();
+    const QColor color = colorOf(state == InComment ? Piece::Comment : Piece::Tag);
+    if (state == InScript)
+        highlightScript(text, from, end);
+    else
+        setFormat(int(from), int(end - from), color);
+    setFormat(int(end), int(after - end), color);
+    if (found >= 0)
+        state = InText;
+    return after;
 }
 
 void SourceHighlighter::highlightScript(const QString &text, qsizetype from, qsizetype to)
@@ -135,7 +142,7 @@ void SourceHighlighter::highlightScript(const QString &text, qsizetype from, qsi
 
 void SourceHighlighter::highlightCodes(const QString &text)
 {
-    auto matches = codePattern().globalMatch(text);
+    auto matches = syntax::codePattern().globalMatch(text);
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
         // Brackets in scripts are more often indices than codes.

@@ -25,6 +25,10 @@ protected:
 
 private:
     void highlightTags(const QString &text);
+    /// Colours the markup that begins at or after @p from; returns its end, or -1 when there is none.
+    qsizetype beginMarkup(const QString &text, qsizetype from, int &state);
+    /// Colours up to the end of the markup that @p state is in; returns the place after it.
+    qsizetype endMarkup(const QString &text, qsizetype from, int &state);
     void highlightScript(const QString &text, qsizetype from, qsizetype to);
     void highlightCodes(const QString &text);
 

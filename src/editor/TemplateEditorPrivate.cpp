@@ -10,10 +10,11 @@
 #include "editor/ScriptPane.h"
 #include "editor/SourceHighlighter.h"
 #include "editor/TextFormatting.h"
+#include "templates/decoding/TemplateDecoder.h"
+#include "templates/syntax/ScriptTags.h"
 
 #include <ozm_common_core_mini/RowNode.h>
 #include <ozm_widgets/OZMDockWidgetTitleBar.h>
-#include <ozm_widgets/TECWrapper.h>
 
 #include <QApplication>
 #include <QClipboard>
@@ -27,6 +28,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace ozm::editor;
+namespace syntax = ozm::syntax;
 using ozm::TemplateDocument;
 
 namespace {
@@ -294,13 +296,11 @@ QTextCursor AbstractTemplateEditor::Private::scriptAtCursor() const
         }
         return {};
     }
-    const QString source = history->session().documentSource();
-    const qsizetype start = source.lastIndexOf("<script>"_L1, place.position(), Qt::CaseInsensitive);
-    const qsizetype end = start < 0 ? -1 : source.indexOf("</script>"_L1, start, Qt::CaseInsensitive);
-    if (end < 0 || end + 9 < place.position())
+    const auto script = syntax::scriptAround(history->session().documentSource(), place.position());
+    if (!script)
         return {};
-    place.setPosition(int(start));
-    place.setPosition(int(end) + 9, QTextCursor::KeepAnchor);
+    place.setPosition(int(script->start));
+    place.setPosition(int(script->end), QTextCursor::KeepAnchor);
     return place;
 }
 
@@ -310,8 +310,7 @@ bool AbstractTemplateEditor::Private::isScript(const QTextCursor &place) const
         return false;
     if (const TemplateDocument *document = history->session().richDocument())
         return document->chipAt(place.selectionStart()).kind == TemplateDocument::ChipKind::Script;
-    return place.selectedText().startsWith("<script>"_L1, Qt::CaseInsensitive) &&
-           place.selectedText().endsWith("</script>"_L1, Qt::CaseInsensitive);
+    return syntax::isScript(place.selectedText());
 }
 
 void AbstractTemplateEditor::Private::newScript()
@@ -365,10 +364,9 @@ void AbstractTemplateEditor::Private::refresh()
     QMap<QString, QVariant> parameters;
     for (const RowNode *row : rows)
         names.append(qptr->previewName(*row));
-    if (!rows.isEmpty()) {
+    if (!rows.isEmpty())
         for (const QString &column : rows.constFirst()->columnNames())
             parameters.insert(u'[' + column + u']', rows.constFirst()->getDataAt(column));
-    }
     codes->setCodes(qptr->shortCodes(), parameters);
     if (TemplateDocument *document = history->session().richDocument()) {
         document->setDisplayNames(codes->displayNames());
@@ -385,17 +383,8 @@ ozm::TemplateReport AbstractTemplateEditor::Private::decode(const QString &conte
 {
     const QList<RowNode *> rows = qptr->previewRows();
     const int index = preview->row();
-    if (rows.isEmpty()) {
-        // Positions are counted from the envelope's tag then.
-        const QString wrapped = wrap(content);
-        ozm::TemplateReport report = decodeTECReport(wrapped, qptr->extraData(nullptr));
-        const qsizetype tag = wrapped.indexOf(u'>') + 1;
-        for (ozm::UnresolvedCode &code : report.unresolved)
-            code.position -= tag;
-        for (ozm::FailedScript &script : report.failed)
-            script.position -= tag;
-        return report;
-    }
+    if (rows.isEmpty())
+        return ozm::decodeContent(content, qptr->extraData(nullptr));
     const RowNode *row = index < 0 || index >= rows.size() ? nullptr : rows.at(index);
     return row ? decodeTECReport(content, row, qptr->extraData(row))
                : decodeTECReport(content, rows, qptr->extraData(nullptr));
@@ -404,13 +393,6 @@ ozm::TemplateReport AbstractTemplateEditor::Private::decode(const QString &conte
 QString AbstractTemplateEditor::Private::decodedForPaper() const
 {
     return decode(content()).text;
-}
-
-QString AbstractTemplateEditor::Private::wrap(const QString &content)
-{
-    // Wrapping substitutes, so that a content with markers such as "%1" would not come back as it was.
-    QString envelope = TECWrapper::wrapTEC({});
-    return envelope.insert(envelope.indexOf(u'>') + 1, content);
 }
 
 void AbstractTemplateEditor::Private::goTo(const QString &content, qsizetype offset, const QString &part)

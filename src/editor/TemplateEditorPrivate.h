@@ -62,8 +62,6 @@ public:
     void refresh();
     [[nodiscard]] ozm::TemplateReport decode(const QString &content) const;
     [[nodiscard]] QString decodedForPaper() const;
-    /// @p content in its envelope, to the letter.
-    [[nodiscard]] static QString wrap(const QString &content);
     void goTo(const QString &content, qsizetype offset, const QString &part);
 
     // Insertion that asks.

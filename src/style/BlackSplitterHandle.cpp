@@ -40,10 +40,9 @@ public:
     {
         const QSplitter *splitter = qptr->splitter();
         const int own = splitter->indexOf(qptr);
-        for (int i = direction < 0 ? own - 1 : own; i >= 0 && i < splitter->count(); i += direction) {
+        for (int i = direction < 0 ? own - 1 : own; i >= 0 && i < splitter->count(); i += direction)
             if (!splitter->widget(i)->isHidden())
                 return i;
-        }
         return -1;
     }
 

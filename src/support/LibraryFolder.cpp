@@ -29,9 +29,8 @@ QString libraryFile()
     HMODULE module = nullptr;
     if (!GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
                                 GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                            reinterpret_cast<LPCWSTR>(&anchor), &module)) {
+                            reinterpret_cast<LPCWSTR>(&anchor), &module))
         return {};
-    }
     const DWORD length = GetModuleFileNameW(module, name.data(), DWORD(name.size()));
     return QString::fromWCharArray(name.data(), int(length));
 }

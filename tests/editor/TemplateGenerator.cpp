@@ -88,14 +88,12 @@ QString TemplateGenerator::table(int depth)
     QString html =
         u"<table%1>"_s.arg(oneOf({"", " border=\"1\"", " width=\"100%\" cellpadding=\"4\" cellspacing=\"0\"",
                                   " style=\"border-collapse:collapse\" border=2", " align=\"center\""}));
-    if (chance(10)) {
+    if (chance(10))
         html += u"<caption>Table [Name]</caption>"_s;
-    }
     if (chance(30)) {
         html += "<thead><tr>"_L1;
-        for (int c = 0; c < columns; ++c) {
+        for (int c = 0; c < columns; ++c)
             html += "<th>"_L1 + inlines(3) + "</th>"_L1;
-        }
         html += "</tr></thead>"_L1;
     }
     for (int r = below(3) + 1; r > 0; --r) {
@@ -128,18 +126,14 @@ QString TemplateGenerator::hostile()
 QString TemplateGenerator::block(int depth)
 {
     const int kind = below(12);
-    if (kind < 2 && depth < 3) {
+    if (kind < 2 && depth < 3)
         return table(depth + 1);
-    }
-    if (kind < 4) {
+    if (kind < 4)
         return list(depth + 1);
-    }
-    if (kind == 4) {
+    if (kind == 4)
         return script() + u'\n';
-    }
-    if (kind == 5) {
+    if (kind == 5)
         return hostile() + u'\n';
-    }
     if (kind == 6) {
         return oneOf(
             {"<hr>", "<p></p>", "<p>&nbsp;</p>", "<p style=\"-qt-paragraph-type:empty\"><br/></p>", "<br>"});
@@ -155,9 +149,8 @@ QString TemplateGenerator::block(int depth)
 QString TemplateGenerator::next()
 {
     QString html;
-    for (int i = below(8) + 1; i > 0; --i) {
+    for (int i = below(8) + 1; i > 0; --i)
         html += block(0);
-    }
     if (chance(20)) {
         html = "<html><head><title>[Name]</title></head><body style=\"font-family:'Arial'\">"_L1 + html +
                "</body></html>"_L1;

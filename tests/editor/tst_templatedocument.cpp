@@ -126,9 +126,8 @@ void TestTemplateDocument::generatedTemplatesComeThrough()
                      qPrintable(u"template %1, pass %2\n%3\n--- became\n%4\n%5\n%6"_s.arg(
                          QString::number(i), QString::number(pass), original, source, expected.all(),
                          actual.all())));
-            if (pass == 0) {
+            if (pass == 0)
                 normalised = source;
-            }
             QVERIFY2(source == normalised,
                      qPrintable(u"template %1, pass %2\n%3\n--- became\n%4\n--- became\n%5"_s.arg(
                          QString::number(i), QString::number(pass), original, normalised, source)));

@@ -32,10 +32,9 @@ QColor inkOf(const QPixmap &pixmap)
     const QImage image = pixmap.toImage();
     QColor ink(Qt::transparent);
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
+        for (int x = 0; x < image.width(); ++x)
             if (image.pixelColor(x, y).alpha() > ink.alpha())
                 ink = image.pixelColor(x, y);
-        }
     }
     return ink;
 }
@@ -88,10 +87,9 @@ bool isStyle(const QString &name)
     const std::unique_ptr<QStyle> style(QStyleFactory::create(name));
     for (const auto metric :
          {QStyle::PM_ToolBarIconSize, QStyle::PM_SliderThickness, QStyle::PM_MenuBarVMargin,
-          QStyle::PM_ScrollBarSliderMin, QStyle::PM_DefaultFrameWidth}) {
+          QStyle::PM_ScrollBarSliderMin, QStyle::PM_DefaultFrameWidth})
         if (QApplication::style()->pixelMetric(metric) != style->pixelMetric(metric))
             return false;
-    }
     return true;
 }
 

@@ -248,9 +248,8 @@ private Q_SLOTS:
               "let n = 0; for (let i = 0; i < 3; i++) { n += i / 2; } `${n} and ${`x${1}`}`",
               "if (Number('1') > 0) { 'yes' } else { 'no' } // \"'",
               "try { null.length } catch (e) { e.message }", "[1, 2].reduce((sum, x) => sum + x)",
-              "({ a: 1, 'b': 2 })"}) {
+              "({ a: 1, 'b': 2 })"})
             QTest::newRow(code) << QString::fromLatin1(code) << true;
-        }
         for (const QString &code : kDisturbers) {
             // These two are held back by the language, not by us.
             if (!code.startsWith("let left"_L1) && !code.startsWith("let stack"_L1))
@@ -287,9 +286,8 @@ private Q_SLOTS:
               "new Proxy({}, { get() { for (;;) {} } }).x",
               "class A { constructor() { for (;;) {} } } new A()",
               "let m = new Map(); for (let i = 0;; ++i) m.set(i % 10, i)",
-              "templateEditorCore.sort([1, 2], function () { for (;;) {} })"}) {
+              "templateEditorCore.sort([1, 2], function () { for (;;) {} })"})
             QTest::newRow(code) << QString::fromLatin1(code);
-        }
     }
     void scriptsThatDoNotEnd()
     {

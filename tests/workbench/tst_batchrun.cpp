@@ -43,10 +43,9 @@ Outcome run(const QStringList &arguments)
 QList<qint64> recordedIn(const QStringList &lines)
 {
     QList<qint64> numbers;
-    for (const QString &line : lines) {
+    for (const QString &line : lines)
         if (line.startsWith("recorded "_L1))
             numbers.append(line.section(u' ', 1, 1).chopped(1).toLongLong());
-    }
     return numbers;
 }
 

@@ -265,10 +265,9 @@ void TestMainWindow::widgetsHaveNames()
     const WindowFixture fixture;
     for (const QAction *action : fixture.find<QWidget>(u"toolBar"_s)->actions())
         QVERIFY(action->isSeparator() || (!action->objectName().isEmpty() && !action->icon().isNull()));
-    for (const QAbstractItemView *view : fixture.window.findChildren<QAbstractItemView *>()) {
+    for (const QAbstractItemView *view : fixture.window.findChildren<QAbstractItemView *>())
         if (!qobject_cast<const QHeaderView *>(view))
             QVERIFY2(!view->accessibleName().isEmpty(), qUtf8Printable(view->objectName()));
-    }
 }
 
 QTEST_MAIN(TestMainWindow)

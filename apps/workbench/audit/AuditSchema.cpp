@@ -66,10 +66,9 @@ ozm::Result<bool> isEmpty(SqlConnection &connection)
 
 Error runAll(SqlConnection &connection, const QStringList &statements)
 {
-    for (const QString &statement : statements) {
+    for (const QString &statement : statements)
         if (Error error = connection.run(statement); error.hasError())
             return error;
-    }
     return {};
 }
 
@@ -153,10 +152,9 @@ Error openAuditSchema(SqlConnection &connection)
         if (Error error = createSchema(connection); error.hasError())
             return error;
     }
-    for (const auto check : {checkAuditMark, checkPages, checkGuards}) {
+    for (const auto check : {checkAuditMark, checkPages, checkGuards})
         if (Error error = check(connection); error.hasError())
             return error;
-    }
     // After the table is made, so that the marks are in the file itself and not in a log beside it. Where
     // the file system cannot do it, the older kind of journal stays, which is as safe.
     return runAll(connection, {u"PRAGMA journal_mode = WAL"_s, u"PRAGMA synchronous = FULL"_s});

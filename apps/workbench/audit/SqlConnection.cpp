@@ -60,10 +60,9 @@ Advice adviceFor(int sqliteCode)
         return kLocked;
     if (sqliteCode == kNotADatabase)
         return kDamaged;
-    for (const Advice &advice : {kLocked, kReadOnly, kDamaged, kFull, kUnreachable}) {
+    for (const Advice &advice : {kLocked, kReadOnly, kDamaged, kFull, kUnreachable})
         if (advice.sqliteCode == sqliteCode)
             return advice;
-    }
     return kOther;
 }
 

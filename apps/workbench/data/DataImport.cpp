@@ -71,12 +71,11 @@ void DataImport::drop(const QMimeData &data)
 {
     QStringList paths;
     QStringList notLocal;
-    for (const QUrl &url : data.urls()) {
+    for (const QUrl &url : data.urls())
         if (url.isLocalFile())
             paths.append(url.toLocalFile());
         else
             notLocal.append(tr("\"%1\": It is not on a disk of this computer.").arg(url.toDisplayString()));
-    }
     if (m_finder.isRunning()) {
         Q_EMIT reported(tr("Nothing was added, because a search for data is running."), {});
         return;

@@ -37,10 +37,9 @@ void collectSteps(const QUndoCommand &command, OperationLogItemUndoContext conte
 
 Error firstError(const QList<AuditStep> &steps)
 {
-    for (const AuditStep &step : steps) {
+    for (const AuditStep &step : steps)
         if (step.command->lastError().hasError())
             return step.command->lastError();
-    }
     return {};
 }
 
@@ -54,14 +53,13 @@ OperationLogItemData fileEvent(const QString &path, const QString &what, const Q
 QString newName(const QString &pattern, const QString &oldName, int number)
 {
     QString name;
-    for (const QChar c : pattern) {
+    for (const QChar c : pattern)
         if (c == u'*')
             name += oldName;
         else if (c == u'#')
             name += QString::number(number);
         else
             name += c;
-    }
     return name;
 }
 

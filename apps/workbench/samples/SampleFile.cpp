@@ -43,10 +43,9 @@ Error atLine(int line, const QString &text)
 /// The table's column that a heading means; empty when it means none.
 QString columnOf(const QString &heading)
 {
-    for (const QString &column : SampleTable::columns()) {
+    for (const QString &column : SampleTable::columns())
         if (column.compare(heading.trimmed(), Qt::CaseInsensitive) == 0)
             return column;
-    }
     return {};
 }
 
@@ -63,10 +62,9 @@ ozm::Result<QStringList> readHeader(const CsvRow &header)
             return atLine(header.line, tr("The column \"%1\" is there twice.").arg(heading));
         columns.append(column);
     }
-    for (const QString &needed : {kName, kMass}) {
+    for (const QString &needed : {kName, kMass})
         if (!columns.contains(needed))
             return atLine(header.line, tr("The column \"%1\" is missing.").arg(needed));
-    }
     return columns;
 }
 

@@ -95,10 +95,9 @@ Parsed parseKind(const QString &text)
 {
     if (text.isEmpty())
         return QVariant();
-    for (const QString &kind : {kFileKind, kFolderKind}) {
+    for (const QString &kind : {kFileKind, kFolderKind})
         if (kind.compare(text, Qt::CaseInsensitive) == 0)
             return QVariant(kind);
-    }
     return refusal(
         QT_TRANSLATE_NOOP("SampleRules", "The kind must be \"file\", \"folder\" or empty, not \"%1\"."),
         text);

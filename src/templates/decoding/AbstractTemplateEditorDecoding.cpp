@@ -2,12 +2,13 @@
 
 #include "support/Logging.h"
 #include "templates/decoding/TemplateDecoder.h"
+#include "templates/syntax/Envelope.h"
 #include "templates/syntax/NamePattern.h"
+#include "templates/syntax/ScriptTags.h"
 
 #include <ozm_common_core_mini/ColumnFriendlyName.h>
 #include <ozm_common_core_mini/RowNode.h>
 #include <ozm_common_core_mini/TextUtils.h>
-#include <ozm_widgets/TECWrapper.h>
 #include <ozm_widgets/TemplateEditorJSEngine.h>
 
 #include <QCoreApplication>
@@ -71,16 +72,27 @@ TemplateDecoder extraDataDecoder()
     return keptDecoder<extraDataReader>();
 }
 
+/// Codes are found in the content, but their places are wanted in the text that holds it.
+void movePositions(ozm::TemplateReport &report, qsizetype by)
+{
+    for (ozm::UnresolvedCode &code : report.unresolved)
+        code.position += by;
+    for (ozm::FailedScript &script : report.failed)
+        script.position += by;
+}
+
 QString decodeWrapped(const QString &text, const QList<DecodeTecExtraData> &extraData,
                       ozm::TemplateReport *report)
 {
-    bool ok = false;
-    const QString content = TECWrapper::unwrapTEC(text, &ok);
-    if (!ok) {
-        qCWarning(lcOzmWidgets) << "Cannot decode template " << content;
+    const auto content = ozm::syntax::unwrapped(text);
+    if (!content) {
+        qCWarning(lcOzmWidgets) << "Cannot decode template " << QString();
         return {};
     }
-    return extraDataDecoder().decode(content, extraData, report);
+    QString decoded = extraDataDecoder().decode(content->text, extraData, report);
+    if (report)
+        movePositions(*report, content->position);
+    return decoded;
 }
 
 QString decodeRow(const QString &text, const RowNode *row, const QList<DecodeTecExtraData> &extraData,
@@ -101,22 +113,14 @@ QString decodeRows(const QString &text, QList<RowNode *> rows, const QList<Decod
     return decodeRow(text, &summary.row(), extraData, report);
 }
 
-/// Where the content of the envelope begins; it runs to the last closing tag.
-qsizetype contentPosition(const QString &text)
-{
-    return text.lastIndexOf("</ozm_template>"_L1) - TECWrapper::unwrapTEC(text).size();
-}
-
-/// Codes are found in the content, but their places are wanted in the text that holds it.
-void movePositions(ozm::TemplateReport &report, qsizetype by)
-{
-    for (ozm::UnresolvedCode &code : report.unresolved)
-        code.position += by;
-    for (ozm::FailedScript &script : report.failed)
-        script.position += by;
-}
-
 } // namespace
+
+ozm::TemplateReport ozm::decodeContent(const QString &content, const QList<DecodeTecExtraData> &extraData)
+{
+    TemplateReport report;
+    (void)extraDataDecoder().decode(content, extraData, &report);
+    return report;
+}
 
 QString AbstractTemplateEditor::decodeTEC(const QString &text, const QList<DecodeTecExtraData> &extraData)
 {
@@ -140,7 +144,6 @@ ozm::TemplateReport AbstractTemplateEditor::decodeTECReport(const QString &text,
 {
     ozm::TemplateReport report;
     (void)decodeWrapped(text, extraData, &report);
-    movePositions(report, contentPosition(text));
     return report;
 }
 
@@ -162,13 +165,7 @@ ozm::TemplateReport AbstractTemplateEditor::decodeTECReport(const QString &text,
 
 QString AbstractTemplateEditor::withoutScriptTags(const QString &decodedText)
 {
-    QString result;
-    qsizetype settled = 0;
-    for (const ozm::ScriptTag &tag : ozm::scriptTags(decodedText)) {
-        result.append(QStringView(decodedText).sliced(settled, tag.position - settled));
-        settled = tag.position + tag.length;
-    }
-    return result.append(QStringView(decodedText).sliced(settled));
+    return ozm::syntax::withoutScriptTags(decodedText);
 }
 
 QList<ShortCode> AbstractTemplateEditor::extraDataShortCodes(const QList<QMetaObject> &metaObjects)

@@ -150,7 +150,7 @@ QList<ozm::UnresolvedCode> unresolvedCodes(const ozm::TemplateText &parsed,
 {
     QList<ozm::UnresolvedCode> codes;
     auto piece = parsed.pieces().cbegin();
-    for (const ozm::tokens::Mark &mark : parsed.marks().marks) {
+    for (const ozm::syntax::Mark &mark : parsed.marks().marks) {
         if (mark.name < 0)
             continue;
         const QString &code = parsed.marks().names.at(mark.name);

@@ -49,3 +49,12 @@ private:
     std::unique_ptr<RowNode> m_root;
     RowNode *m_row;
 };
+
+namespace ozm {
+
+/// Decodes a content without its envelope as AbstractTemplateEditor::decodeTEC() decodes one with it.
+/// Positions count from the content's first character.
+[[nodiscard]] TemplateReport decodeContent(const QString &content,
+                                           const QList<DecodeTecExtraData> &extraData);
+
+} // namespace ozm

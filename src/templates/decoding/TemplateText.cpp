@@ -1,6 +1,7 @@
 #include "templates/decoding/TemplateText.h"
 
 #include "templates/scripts/ScriptContainment.h"
+#include "templates/syntax/ScriptTags.h"
 
 #include <ozm_widgets/ShortCodes.h>
 
@@ -13,9 +14,6 @@ using namespace Qt::StringLiterals;
 namespace ozm {
 
 namespace {
-
-constexpr auto kOpeningTag = "<script>"_L1;
-constexpr auto kClosingTag = "</script>"_L1;
 
 // Some 30 MB with what is kept beside the text: the templates of a suite of applications many times over.
 constexpr qsizetype kCachedCharacters = 8'000'000;
@@ -31,42 +29,19 @@ ScriptPiece scriptPiece(const QString &text, qsizetype start, qsizetype length)
 
 QList<ScriptPiece> scriptPieces(const QString &text)
 {
-    const QList<ScriptTag> tags = scriptTags(text);
     QList<ScriptPiece> pieces;
-    int depth = 0;
-    for (qsizetype index = 0; index + 1 < tags.size(); ++index) {
-        const ScriptTag &tag = tags.at(index);
-        if (!tag.opening && depth < 1)
-            continue;
-        depth += tag.opening ? 1 : -1;
-        const qsizetype start = tag.position + tag.length;
-        const qsizetype length = tags.at(index + 1).position - start;
-        if (depth >= 1 && length > 0)
-            pieces.append(scriptPiece(text, start, length));
-    }
+    for (const syntax::ScriptRange &range : syntax::scriptPieces(text))
+        pieces.append(scriptPiece(text, range.start, range.end - range.start));
     return pieces;
 }
 
 } // namespace
 
-QList<ScriptTag> scriptTags(QStringView text)
-{
-    QList<ScriptTag> tags;
-    for (qsizetype at = text.indexOf(u'<'); at >= 0; at = text.indexOf(u'<', at + 1)) {
-        const QStringView rest = text.sliced(at);
-        for (const auto &tag : {kOpeningTag, kClosingTag}) {
-            if (rest.startsWith(tag, Qt::CaseInsensitive))
-                tags.append({at, tag.size(), tag == kOpeningTag});
-        }
-    }
-    return tags;
-}
-
 TemplateText::TemplateText(const QString &text)
     : m_text(text)
     , m_pieces(scriptPieces(text))
     , m_contained(std::ranges::all_of(m_pieces, &ScriptPiece::contained))
-    , m_marks(tokens::marked(text))
+    , m_marks(syntax::marked(text))
 {
     collectNames();
 }
@@ -92,12 +67,11 @@ void TemplateText::collectNames()
 qsizetype TemplateText::cost() const
 {
     qsizetype characters = kEntryCost + m_text.size();
-    characters += m_marks.marks.size() * static_cast<qsizetype>(sizeof(tokens::Mark) / sizeof(QChar));
+    characters += m_marks.marks.size() * static_cast<qsizetype>(sizeof(syntax::Mark) / sizeof(QChar));
     characters += m_sequence.size() * static_cast<qsizetype>(sizeof(int) / sizeof(QChar));
-    for (const QList<QString> *names : {&m_marks.names, &m_names}) {
+    for (const QList<QString> *names : {&m_marks.names, &m_names})
         for (const QString &name : *names)
             characters += name.size() + 20;
-    }
     for (const ScriptPiece &piece : m_pieces)
         characters += piece.code.size() + 20;
     return characters;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "templates/decoding/TokenReplacement.h"
+#include "templates/syntax/Codes.h"
 
 #include <QCache>
 #include <QList>
@@ -26,13 +26,13 @@ public:
 
     [[nodiscard]] const QString &text() const { return m_text; }
     [[nodiscard]] const QList<ScriptPiece> &pieces() const { return m_pieces; }
-    /// Whether all pieces are.
+    /// True when no piece leaves anything behind.
     [[nodiscard]] bool isContained() const { return m_contained; }
-    [[nodiscard]] const tokens::MarkedText &marks() const { return m_marks; }
+    [[nodiscard]] const syntax::MarkedText &marks() const { return m_marks; }
 
-    /// The different names that getCodes() finds, in order of their first appearance...
+    /// The different names that getCodes() finds, in order of their first appearance.
     [[nodiscard]] const QList<QString> &names() const { return m_names; }
-    /// ... and which of them stand in the text one after the other.
+    /// The names in the order of the text, each as its index in names().
     [[nodiscard]] const QList<int> &sequence() const { return m_sequence; }
 
     /// How many characters this holds, or as many as would take the room that it takes.
@@ -44,7 +44,7 @@ private:
     QString m_text;
     QList<ScriptPiece> m_pieces;
     bool m_contained = true;
-    tokens::MarkedText m_marks;
+    syntax::MarkedText m_marks;
     QList<QString> m_names;
     QList<int> m_sequence;
 };
@@ -69,15 +69,5 @@ private:
 
     QCache<Key, std::shared_ptr<const TemplateText>> m_templates;
 };
-
-/// A tag that begins or ends a piece of script, found in any letter case.
-struct ScriptTag
-{
-    qsizetype position;
-    qsizetype length;
-    bool opening;
-};
-
-[[nodiscard]] QList<ScriptTag> scriptTags(QStringView text);
 
 } // namespace ozm

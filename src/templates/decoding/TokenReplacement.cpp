@@ -1,7 +1,5 @@
 #include "templates/decoding/TokenReplacement.h"
 
-#include <QHash>
-
 #include <algorithm>
 #include <optional>
 #include <vector>
@@ -28,68 +26,6 @@ bool isBracketed(QStringView key)
     return key.size() >= 2 && key.front() == u'[' && key.back() == u']' &&
            !hasBracket(key.sliced(1, key.size() - 2));
 }
-
-class Marker
-{
-public:
-    explicit Marker(QStringView text)
-        : m_text(text)
-    {}
-
-    MarkedText all()
-    {
-        for (qsizetype at = nextBracket(0); at >= 0; at = nextBracket(at + 1))
-            take(at);
-        if (m_open >= 0)
-            m_result.marks.append({m_open, Mark::Opening});
-        return std::move(m_result);
-    }
-
-private:
-    [[nodiscard]] qsizetype nextBracket(qsizetype from)
-    {
-        // Both searches are quick only when each place is looked at once.
-        if (m_nextOpening >= 0 && m_nextOpening < from)
-            m_nextOpening = m_text.indexOf(u'[', from);
-        if (m_nextClosing >= 0 && m_nextClosing < from)
-            m_nextClosing = m_text.indexOf(u']', from);
-        if (m_nextOpening < 0 || m_nextClosing < 0)
-            return std::max(m_nextOpening, m_nextClosing);
-        return std::min(m_nextOpening, m_nextClosing);
-    }
-
-    void take(qsizetype at)
-    {
-        if (m_text[at] == u'[') {
-            if (m_open >= 0)
-                m_result.marks.append({m_open, Mark::Opening});
-            m_open = at;
-        } else if (m_open < 0) {
-            m_result.marks.append({at, Mark::Closing});
-        } else {
-            m_result.marks.append({m_open, nameIndex(m_text.sliced(m_open, at + 1 - m_open))});
-            m_open = -1;
-        }
-    }
-
-    [[nodiscard]] int nameIndex(QStringView name)
-    {
-        const auto known = m_indexes.constFind(name);
-        if (known != m_indexes.constEnd())
-            return *known;
-        const int index = static_cast<int>(m_result.names.size());
-        m_result.names.append(name.toString());
-        m_indexes.insert(name, index);
-        return index;
-    }
-
-    const QStringView m_text;
-    qsizetype m_nextOpening = m_text.indexOf(u'[');
-    qsizetype m_nextClosing = m_text.indexOf(u']');
-    qsizetype m_open = -1;
-    QHash<QStringView, int> m_indexes;
-    MarkedText m_result;
-};
 
 /// What stands in the place of a name of the text, if its key has a value.
 struct Replacement
@@ -125,7 +61,7 @@ std::vector<Replacement> replacements(const QList<QString> &names, const QMap<QS
 class SinglePass
 {
 public:
-    SinglePass(QStringView text, const MarkedText &marks, const QMap<QString, QVariant> &values)
+    SinglePass(QStringView text, const syntax::MarkedText &marks, const QMap<QString, QVariant> &values)
         : m_text(text)
         , m_marks(marks)
         , m_values(values)
@@ -135,7 +71,7 @@ public:
     std::optional<QString> run()
     {
         m_out.reserve(outcomeSize());
-        for (const Mark &mark : m_marks.marks) {
+        for (const syntax::Mark &mark : m_marks.marks) {
             if (mark.name >= 0)
                 takePair(mark);
             else if (!takeBracket(mark))
@@ -151,10 +87,9 @@ private:
     [[nodiscard]] qsizetype outcomeSize() const
     {
         qsizetype size = m_text.size();
-        for (const Mark &mark : m_marks.marks) {
+        for (const syntax::Mark &mark : m_marks.marks)
             if (mark.name >= 0 && at(mark.name).known)
                 size += at(mark.name).text.size() - m_marks.names.at(mark.name).size();
-        }
         return size;
     }
 
@@ -169,7 +104,7 @@ private:
         m_settled = end;
     }
 
-    void takePair(const Mark &mark)
+    void takePair(const syntax::Mark &mark)
     {
         const Replacement &replacement = at(mark.name);
         if (!replacement.known) {
@@ -182,13 +117,12 @@ private:
         m_out.append(replacement.text);
         if (!replacement.brackets)
             return;
-        for (qsizetype each = start; each < m_out.size() && !m_keyArose; ++each) {
+        for (qsizetype each = start; each < m_out.size() && !m_keyArose; ++each)
             if (isBracket(m_out.at(each)))
                 noteBracket(each);
-        }
     }
 
-    bool takeBracket(const Mark &mark)
+    bool takeBracket(const syntax::Mark &mark)
     {
         settle(mark.position + 1);
         noteBracket(m_out.size() - 1);
@@ -206,7 +140,7 @@ private:
     }
 
     const QStringView m_text;
-    const MarkedText &m_marks;
+    const syntax::MarkedText &m_marks;
     const QMap<QString, QVariant> &m_values;
     const std::vector<Replacement> m_replacements;
     QString m_out;
@@ -216,11 +150,6 @@ private:
 };
 
 } // namespace
-
-MarkedText marked(QStringView text)
-{
-    return Marker(text).all();
-}
 
 QString textOf(const QVariant &value)
 {
@@ -235,7 +164,7 @@ QString replaceInTurn(const QString &text, const QMap<QString, QVariant> &values
     return result;
 }
 
-QString replace(const QString &text, const MarkedText &marks, const QMap<QString, QVariant> &values)
+QString replace(const QString &text, const syntax::MarkedText &marks, const QMap<QString, QVariant> &values)
 {
     if (values.isEmpty())
         return text;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QList>
+#include "templates/syntax/Codes.h"
+
 #include <QMap>
 #include <QString>
 #include <QVariant>
@@ -12,28 +13,6 @@
  */
 namespace ozm::tokens {
 
-/// A pair of brackets without a bracket in between, or a bracket that is no part of such a pair.
-struct Mark
-{
-    enum : int
-    {
-        Opening = -1,
-        Closing = -2
-    };
-
-    qsizetype position;
-    int name; ///< Index among the names of the text; Opening or Closing for a bracket by itself.
-};
-
-/// Where in a text keys in brackets can stand.
-struct MarkedText
-{
-    QList<Mark> marks;
-    QList<QString> names; ///< The different pairs, with their brackets.
-};
-
-[[nodiscard]] MarkedText marked(QStringView text);
-
 /// What a value is in a text: a string list joined with "; ", anything else as QVariant has it.
 [[nodiscard]] QString textOf(const QVariant &value);
 
@@ -41,7 +20,7 @@ struct MarkedText
 [[nodiscard]] QString replaceInTurn(const QString &text, const QMap<QString, QVariant> &values);
 
 /// The same by one pass where possible. @p marks are those of @p text.
-[[nodiscard]] QString replace(const QString &text, const MarkedText &marks,
+[[nodiscard]] QString replace(const QString &text, const syntax::MarkedText &marks,
                               const QMap<QString, QVariant> &values);
 
 } // namespace ozm::tokens

@@ -22,20 +22,17 @@ bool differs(const QTextCharFormat &a, const QTextCharFormat &b, int property)
 QString quotedFamilies(const QStringList &families)
 {
     QStringList quoted;
-    for (const QString &family : families) {
+    for (const QString &family : families)
         quoted.append(u'\'' + QString(family).remove(u'\'').remove(u'"').remove(u';') + u'\'');
-    }
     return quoted.join(u',');
 }
 
 QString fontSize(const QTextCharFormat &format)
 {
-    if (format.hasProperty(QTextFormat::FontPixelSize)) {
+    if (format.hasProperty(QTextFormat::FontPixelSize))
         return QString::number(format.intProperty(QTextFormat::FontPixelSize)) + "px"_L1;
-    }
-    if (format.hasProperty(QTextFormat::FontPointSize)) {
+    if (format.hasProperty(QTextFormat::FontPointSize))
         return QString::number(format.doubleProperty(QTextFormat::FontPointSize)) + "pt"_L1;
-    }
     const int step = format.intProperty(QTextFormat::FontSizeAdjustment);
     return kSizeNames.at(size_t(qBound(-1, step, 3) + 1));
 }
@@ -44,22 +41,18 @@ QStringList fontDeclarations(const QTextCharFormat &format, const QTextCharForma
 {
     QStringList css;
     const QStringList families = format.fontFamilies().toStringList();
-    if (!families.isEmpty() && families != base.fontFamilies().toStringList()) {
+    if (!families.isEmpty() && families != base.fontFamilies().toStringList())
         css.append("font-family:"_L1 + quotedFamilies(families));
-    }
     if (differs(format, base, QTextFormat::FontPixelSize) ||
         differs(format, base, QTextFormat::FontPointSize) ||
-        differs(format, base, QTextFormat::FontSizeAdjustment)) {
+        differs(format, base, QTextFormat::FontSizeAdjustment))
         css.append("font-size:"_L1 + fontSize(format));
-    }
     const int weight = format.fontWeight();
     const int baseWeight = base.fontWeight();
-    if (weight != baseWeight && weight != QFont::Bold) {
+    if (weight != baseWeight && weight != QFont::Bold)
         css.append("font-weight:"_L1 + QString::number(weight));
-    }
-    if (!format.fontItalic() && base.fontItalic()) {
+    if (!format.fontItalic() && base.fontItalic())
         css.append(u"font-style:normal"_s);
-    }
     return css;
 }
 
@@ -67,12 +60,10 @@ QStringList spacingDeclarations(const QTextCharFormat &format)
 {
     QStringList css;
     if (format.hasProperty(QTextFormat::FontLetterSpacing) &&
-        format.fontLetterSpacingType() == QFont::AbsoluteSpacing && format.fontLetterSpacing() != 0) {
+        format.fontLetterSpacingType() == QFont::AbsoluteSpacing && format.fontLetterSpacing() != 0)
         css.append("letter-spacing:"_L1 + QString::number(format.fontLetterSpacing()) + "px"_L1);
-    }
-    if (format.fontWordSpacing() != 0) {
+    if (format.fontWordSpacing() != 0)
         css.append("word-spacing:"_L1 + QString::number(format.fontWordSpacing()) + "px"_L1);
-    }
     switch (format.fontCapitalization()) {
     case QFont::AllUppercase:
         css.append(u"text-transform:uppercase"_s);
@@ -93,12 +84,10 @@ QStringList colourDeclarations(const QTextCharFormat &format, const QTextCharFor
 {
     QStringList css;
     // The reader colours links by the palette of the day; written down, it would stay when that changes.
-    if (format.foreground().style() == Qt::SolidPattern && !format.isAnchor()) {
+    if (format.foreground().style() == Qt::SolidPattern && !format.isAnchor())
         css.append("color:"_L1 + cssColor(format.foreground().color()));
-    }
-    if (format.background().style() == Qt::SolidPattern && format.background() != base.background()) {
+    if (format.background().style() == Qt::SolidPattern && format.background() != base.background())
         css.append("background-color:"_L1 + cssColor(format.background().color()));
-    }
     return css;
 }
 
@@ -112,9 +101,8 @@ void wrap(InlineTags &tags, QLatin1StringView tag, const QString &attributes = {
 
 QString cssColor(const QColor &color)
 {
-    if (color.alpha() == 255) {
+    if (color.alpha() == 255)
         return color.name();
-    }
     return u"rgba(%1,%2,%3,%4)"_s.arg(QString::number(color.red()), QString::number(color.green()),
                                       QString::number(color.blue()), QString::number(color.alpha()));
 }
@@ -155,54 +143,42 @@ QString escaped(const QString &text)
 InlineTags inlineTags(const QTextCharFormat &format, const QTextCharFormat &base)
 {
     InlineTags tags;
-    if (format.isAnchor() && !format.anchorHref().isEmpty()) {
+    if (format.isAnchor() && !format.anchorHref().isEmpty())
         wrap(tags, "a"_L1, u" href=\""_s + format.anchorHref().toHtmlEscaped() + u'"');
-    }
     QStringList css =
         fontDeclarations(format, base) + spacingDeclarations(format) + colourDeclarations(format, base);
-    if (format.fontOverline()) {
+    if (format.fontOverline())
         css.append(u"text-decoration:overline"_s);
-    }
-    if (!css.isEmpty()) {
+    if (!css.isEmpty())
         wrap(tags, "span"_L1, styleAttribute(css));
-    }
-    if (format.fontWeight() == QFont::Bold && base.fontWeight() != QFont::Bold) {
+    if (format.fontWeight() == QFont::Bold && base.fontWeight() != QFont::Bold)
         wrap(tags, "b"_L1);
-    }
-    if (format.fontItalic() && !base.fontItalic()) {
+    if (format.fontItalic() && !base.fontItalic())
         wrap(tags, "i"_L1);
-    }
-    if (format.fontUnderline() && !format.isAnchor()) {
+    if (format.fontUnderline() && !format.isAnchor())
         wrap(tags, "u"_L1);
-    }
-    if (format.fontStrikeOut()) {
+    if (format.fontStrikeOut())
         wrap(tags, "s"_L1);
-    }
-    if (format.verticalAlignment() == QTextCharFormat::AlignSuperScript) {
+    if (format.verticalAlignment() == QTextCharFormat::AlignSuperScript)
         wrap(tags, "sup"_L1);
-    } else if (format.verticalAlignment() == QTextCharFormat::AlignSubScript) {
+    else if (format.verticalAlignment() == QTextCharFormat::AlignSubScript)
         wrap(tags, "sub"_L1);
-    }
     return tags;
 }
 
 QString imageTag(const QTextImageFormat &image)
 {
     QString tag = u"<img src=\""_s + image.name().toHtmlEscaped() + u'"';
-    if (image.hasProperty(QTextFormat::ImageWidth)) {
+    if (image.hasProperty(QTextFormat::ImageWidth))
         tag += u" width=\""_s + QString::number(image.width()) + u'"';
-    }
-    if (image.hasProperty(QTextFormat::ImageHeight)) {
+    if (image.hasProperty(QTextFormat::ImageHeight))
         tag += u" height=\""_s + QString::number(image.height()) + u'"';
-    }
     const QString alt = image.stringProperty(QTextFormat::ImageAltText);
-    if (!alt.isEmpty()) {
+    if (!alt.isEmpty())
         tag += u" alt=\""_s + alt.toHtmlEscaped() + u'"';
-    }
     const QString title = image.stringProperty(QTextFormat::ImageTitle);
-    if (!title.isEmpty()) {
+    if (!title.isEmpty())
         tag += u" title=\""_s + title.toHtmlEscaped() + u'"';
-    }
     return tag + "/>"_L1;
 }
 

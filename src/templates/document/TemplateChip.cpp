@@ -1,5 +1,7 @@
 #include "templates/document/TemplateChip.h"
 
+#include "templates/syntax/ScriptTags.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QTextDocument>
@@ -37,9 +39,9 @@ struct ChipLook
     Qt::GlobalColor tint;
 };
 
-constexpr std::array kLooks{ChipLook{PartKind::Code, ""_L1, Qt::blue},
-                            ChipLook{PartKind::Script, "JS "_L1, Qt::darkGreen},
-                            ChipLook{PartKind::Markup, "< > "_L1, Qt::gray}};
+constexpr std::array kLooks{
+    ChipLook{PartKind::None, ""_L1, Qt::gray}, ChipLook{PartKind::Code, ""_L1, Qt::blue},
+    ChipLook{PartKind::Script, "JS "_L1, Qt::darkGreen}, ChipLook{PartKind::Markup, "< > "_L1, Qt::gray}};
 
 const ChipLook &lookOf(PartKind kind)
 {
@@ -57,26 +59,17 @@ QFont chipFont(QTextDocument *document, const QTextFormat &format)
 {
     QFont font = format.toCharFormat().font().resolve(document->defaultFont());
     const int size = kUsualSize + format.intProperty(QTextFormat::FontSizeAdjustment);
-    if (size != kUsualSize && font.pointSizeF() > 0) {
+    if (size != kUsualSize && font.pointSizeF() > 0)
         font.setPointSizeF(font.pointSizeF() * kSizes.at(size_t(qBound(0, size, int(kSizes.size()) - 1))));
-    }
     return font;
 }
 
 QString firstLine(const QString &text)
 {
     QString line = text.trimmed().section(u'\n', 0, 0).trimmed();
-    if (line.size() > kLongestLabel) {
+    if (line.size() > kLongestLabel)
         line = line.first(kLongestLabel - 1) + u'…';
-    }
     return line;
-}
-
-QString withoutScriptTag(const QString &script)
-{
-    const qsizetype open = script.indexOf(u'>') + 1;
-    const qsizetype close = script.lastIndexOf(u'<');
-    return close > open ? script.sliced(open, close - open) : QString();
 }
 
 } // namespace
@@ -87,9 +80,8 @@ QTextCharFormat chipFormat(const TemplatePart &part, const QTextCharFormat &base
     format.setObjectType(kChipObject);
     format.setProperty(kKindProperty, int(part.kind));
     format.setProperty(kSourceProperty, part.source);
-    if (format.verticalAlignment() == QTextCharFormat::AlignNormal) {
+    if (format.verticalAlignment() == QTextCharFormat::AlignNormal)
         format.setVerticalAlignment(kAlignment);
-    }
     return format;
 }
 
@@ -100,9 +92,8 @@ bool isChip(const QTextFormat &format)
 
 TemplatePart chipPart(const QTextFormat &format)
 {
-    if (!isChip(format)) {
+    if (!isChip(format))
         return {};
-    }
     return {PartKind(format.intProperty(kKindProperty)), format.stringProperty(kSourceProperty)};
 }
 
@@ -111,9 +102,8 @@ QTextCharFormat withoutChip(QTextCharFormat format)
     format.clearProperty(QTextFormat::ObjectType);
     format.clearProperty(kKindProperty);
     format.clearProperty(kSourceProperty);
-    if (format.verticalAlignment() == kAlignment) {
+    if (format.verticalAlignment() == kAlignment)
         format.clearProperty(QTextFormat::TextVerticalAlignment);
-    }
     return format;
 }
 
@@ -125,10 +115,9 @@ bool ChipPainter::isKnown(const QString &code) const
 QString ChipPainter::label(const TemplatePart &part) const
 {
     const QLatin1StringView sign = lookOf(part.kind).sign;
-    if (part.kind == PartKind::Code) {
+    if (part.kind == PartKind::Code)
         return displayNames.value(part.source, part.source.sliced(1, part.source.size() - 2));
-    }
-    return sign + firstLine(part.kind == PartKind::Script ? withoutScriptTag(part.source) : part.source);
+    return sign + firstLine(part.kind == PartKind::Script ? syntax::codeOf(part.source) : part.source);
 }
 
 QSizeF ChipPainter::intrinsicSize(QTextDocument *document, int, const QTextFormat &format)

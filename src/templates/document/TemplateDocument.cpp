@@ -52,20 +52,14 @@ QStringList linesOf(const QString &text)
 
 QString linesAsParagraphs(const QString &text)
 {
-    if (text.trimmed().isEmpty()) {
+    if (text.trimmed().isEmpty())
         return {};
-    }
     QString html;
     for (const QString &line : linesOf(text)) {
         html += line.trimmed().isEmpty() ? u"<div><br/></div>"_s
                                          : u"<div style=\"white-space:pre-wrap\">"_s + line + "</div>"_L1;
     }
     return html;
-}
-
-TemplateDocument::ChipKind chipKind(PartKind kind)
-{
-    return TemplateDocument::ChipKind(int(kind) + 1);
 }
 
 void replaceMarker(const QTextCursor &found, const editor::SplitTemplate &split)
@@ -107,15 +101,13 @@ void collectLinesAfterTables(QTextFrame *frame, QList<QTextCursor> &lines)
     for (auto at = frame->begin(); at != frame->end();) {
         QTextFrame *child = at.currentFrame();
         ++at;
-        if (!child || at == frame->end()) {
+        if (!child || at == frame->end())
             continue;
-        }
         collectLinesAfterTables(child, lines);
         auto next = at;
         ++next;
-        if (at.currentBlock().isValid() && at.currentBlock().length() <= 1 && next.currentBlock().isValid()) {
+        if (at.currentBlock().isValid() && at.currentBlock().length() <= 1 && next.currentBlock().isValid())
             lines.append(QTextCursor(at.currentBlock()));
-        }
     }
 }
 
@@ -130,9 +122,8 @@ void removeLinesAfterTables(QTextDocument &document)
         QTextList *list = next.textList();
         line.deleteChar();
         line.setBlockFormat(format);
-        if (list) {
+        if (list)
             list->add(line.block());
-        }
     }
 }
 
@@ -213,24 +204,20 @@ void TemplateDocument::insertSource(QTextCursor &cursor, const QString &source)
 
 TemplateDocument::Chip TemplateDocument::chipAt(int position) const
 {
-    if (position < 0 || characterAt(position) != QChar::ObjectReplacementCharacter) {
+    if (position < 0 || characterAt(position) != QChar::ObjectReplacementCharacter)
         return {};
-    }
     QTextCursor cursor(const_cast<TemplateDocument *>(this));
     cursor.setPosition(position + 1);
     const QTextCharFormat format = cursor.charFormat();
-    if (!editor::isChip(format)) {
+    if (!editor::isChip(format))
         return {};
-    }
-    const TemplatePart part = editor::chipPart(format);
-    return {chipKind(part.kind), part.source};
+    return editor::chipPart(format);
 }
 
 bool TemplateDocument::setChipSource(int position, const QString &source)
 {
-    if (chipAt(position).kind == ChipKind::None) {
+    if (chipAt(position).kind == ChipKind::None)
         return false;
-    }
     QTextCursor cursor(this);
     cursor.setPosition(position);
     cursor.setPosition(position + 1, QTextCursor::KeepAnchor);
@@ -244,9 +231,8 @@ int TemplateDocument::positionOf(qsizetype offset) const
 {
     int position = -1;
     for (const editor::ChipPlace &chip : editor::writeSource(*this).chips) {
-        if (chip.start > offset) {
+        if (chip.start > offset)
             break;
-        }
         position = chip.position;
     }
     return position;
@@ -254,11 +240,9 @@ int TemplateDocument::positionOf(qsizetype offset) const
 
 qsizetype TemplateDocument::offsetOf(int position) const
 {
-    for (const editor::ChipPlace &chip : editor::writeSource(*this).chips) {
-        if (chip.position == position) {
+    for (const editor::ChipPlace &chip : editor::writeSource(*this).chips)
+        if (chip.position == position)
             return chip.start;
-        }
-    }
     return -1;
 }
 

@@ -1,6 +1,8 @@
 #include "templates/document/TemplateParts.h"
 
+#include "templates/syntax/Codes.h"
 #include "templates/syntax/HtmlScanner.h"
+#include "templates/syntax/ScriptTags.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -73,13 +75,11 @@ public:
         qsizetype kept = 0;
         for (m_index = 0; m_index < m_tokens.size(); ++m_index) {
             const HtmlToken &token = m_tokens.at(m_index);
-            while (kept < m_kept.size() && m_kept.at(kept).end <= token.start) {
+            while (kept < m_kept.size() && m_kept.at(kept).end <= token.start)
                 ++kept;
-            }
             if (kept < m_kept.size() && token.start >= m_kept.at(kept).start) {
-                if (token.start == m_kept.at(kept).start && !m_kept.at(kept).dropped) {
+                if (token.start == m_kept.at(kept).start && !m_kept.at(kept).dropped)
                     appendPart(PartKind::Markup, m_kept.at(kept).start, m_kept.at(kept).end);
-                }
                 continue;
             }
             append(token);
@@ -92,9 +92,8 @@ private:
     {
         char16_t candidate = kPrivateUseFirst;
         const auto next = [&] {
-            while (candidate < kPrivateUseLast && m_source.contains(QChar(candidate))) {
+            while (candidate < kPrivateUseLast && m_source.contains(QChar(candidate)))
                 ++candidate;
-            }
             return QChar(candidate++);
         };
         m_result.markerStart = next();
@@ -135,9 +134,8 @@ private:
     // "<p><br/></p>": the reader keeps such lines or drops them depending on what stands around them.
     bool isEmptyLine() const
     {
-        if (m_index + 2 >= m_tokens.size() || m_tokens.at(m_index).kind != HtmlTokenKind::StartTag) {
+        if (m_index + 2 >= m_tokens.size() || m_tokens.at(m_index).kind != HtmlTokenKind::StartTag)
             return false;
-        }
         const HtmlToken &inner = m_tokens.at(m_index + 1);
         const HtmlToken &end = m_tokens.at(m_index + 2);
         return contains(kLineElements, m_tokens.at(m_index).name) && inner.kind == HtmlTokenKind::StartTag &&
@@ -152,9 +150,8 @@ private:
 
     bool isBlockEdge(qsizetype index) const
     {
-        if (index < 0 || index >= m_tokens.size()) {
+        if (index < 0 || index >= m_tokens.size())
             return true;
-        }
         const HtmlToken &token = m_tokens.at(index);
         return (token.kind == HtmlTokenKind::StartTag || token.kind == HtmlTokenKind::EndTag) &&
                contains(kBlockElements, token.name);
@@ -178,16 +175,14 @@ private:
         qsizetype at = token.start;
         qsizetype end = token.end;
         if (!keepsBlanks(m_tree.innermost.at(m_index))) {
-            while (isBlockEdge(m_index + 1) && end > at && m_source.at(end - 1).isSpace()) {
+            while (isBlockEdge(m_index + 1) && end > at && m_source.at(end - 1).isSpace())
                 --end;
-            }
-            while (isBlockEdge(m_index - 1) && at < end && m_source.at(at).isSpace()) {
+            while (isBlockEdge(m_index - 1) && at < end && m_source.at(at).isSpace())
                 ++at;
-            }
         }
         const QStringView trimmed = QStringView(m_source).sliced(at, end - at);
         const qsizetype offset = at;
-        auto codes = codePattern().globalMatch(trimmed);
+        auto codes = syntax::codePattern().globalMatch(trimmed);
         while (codes.hasNext()) {
             const QRegularExpressionMatch code = codes.next();
             appendPlain(at, offset + code.capturedStart());
@@ -217,33 +212,27 @@ private:
             return a.start != b.start ? a.start < b.start : a.end > b.end;
         });
         QList<Range> outermost;
-        for (const Range &range : std::as_const(m_kept)) {
-            if (outermost.isEmpty() || range.start >= outermost.last().end) {
+        for (const Range &range : std::as_const(m_kept))
+            if (outermost.isEmpty() || range.start >= outermost.last().end)
                 outermost.append(range);
-            }
-        }
         m_kept = outermost;
     }
 
     void findKeptElements()
     {
         QSet<int> tablesWithCells;
-        for (const HtmlElement &element : m_tree.elements) {
+        for (const HtmlElement &element : m_tree.elements)
             for (int at = element.name == "td"_L1 || element.name == "th"_L1 ? element.parent : -1;
                  at >= 0 && contains(kStructureElements, m_tree.elements.at(at).name);
-                 at = m_tree.elements.at(at).parent) {
+                 at = m_tree.elements.at(at).parent)
                 tablesWithCells.insert(at);
-            }
-        }
         for (int i = 0; i < m_tree.elements.size(); ++i) {
             const HtmlElement &element = m_tree.elements.at(i);
-            if (element.name == "head"_L1) {
+            if (element.name == "head"_L1)
                 keepHead(element);
-            } else if (contains(kMarkupElements, element.name) ||
-                       contains(kKeepWholeElements, element.name) || losesAttributes(element) ||
-                       (element.name == "table"_L1 && !tablesWithCells.contains(i))) {
+            else if (contains(kMarkupElements, element.name) || contains(kKeepWholeElements, element.name) ||
+                     losesAttributes(element) || (element.name == "table"_L1 && !tablesWithCells.contains(i)))
                 keep(i);
-            }
         }
     }
 
@@ -253,7 +242,8 @@ private:
         const bool matters = std::any_of(m_tokens.begin(), m_tokens.end(), [&](const HtmlToken &token) {
             const bool raw = token.kind == HtmlTokenKind::RawElement && token.name != "title"_L1;
             return token.start >= head.start && token.end <= head.end &&
-                   (raw || token.kind == HtmlTokenKind::Script || text(token).contains(codePattern()));
+                   (raw || token.kind == HtmlTokenKind::Script ||
+                    text(token).contains(syntax::codePattern()));
         });
         m_kept.append({head.start, head.end, !matters});
     }
@@ -263,9 +253,8 @@ private:
     {
         const QStringView tag =
             QStringView(m_source).sliced(element.start, element.startTagEnd - element.start);
-        if (element.name == "html"_L1 || element.name == "body"_L1) {
+        if (element.name == "html"_L1 || element.name == "body"_L1)
             return false;
-        }
         if (element.name == "img"_L1) {
             static const QRegularExpression floats(u"\\balign\\s*=|float\\s*:|\\bclass\\s*=|\\busemap\\b"_s,
                                                    QRegularExpression::CaseInsensitiveOption);
@@ -276,16 +265,14 @@ private:
 
     static bool hasCode(QStringView tag, const QString &allowedAttributes)
     {
-        if (!tag.contains(codePattern())) {
-            return tag.contains("<script>"_L1, Qt::CaseInsensitive);
-        }
-        if (allowedAttributes.isEmpty()) {
+        if (!tag.contains(syntax::codePattern()))
+            return syntax::hasScript(tag);
+        if (allowedAttributes.isEmpty())
             return true;
-        }
         QString rest = tag.toString();
         rest.remove(QRegularExpression(u"\\b(%1)\\s*=\\s*(\"[^\"]*\"|'[^']*')"_s.arg(allowedAttributes),
                                        QRegularExpression::CaseInsensitiveOption));
-        return rest.contains(codePattern());
+        return rest.contains(syntax::codePattern());
     }
 
     void findMisplacedParts()
@@ -293,18 +280,15 @@ private:
         for (int i = 0; i < m_tokens.size(); ++i) {
             const HtmlToken &token = m_tokens.at(i);
             const int parent = m_tree.innermost.at(i);
-            if (parent >= 0 && contains(kStructureElements, m_tree.elements.at(parent).name) &&
-                isPart(token)) {
+            if (parent >= 0 && contains(kStructureElements, m_tree.elements.at(parent).name) && isPart(token))
                 keep(parent);
-            }
         }
     }
 
     bool isPart(const HtmlToken &token) const
     {
-        if (token.kind == HtmlTokenKind::Text) {
+        if (token.kind == HtmlTokenKind::Text)
             return !text(token).trimmed().isEmpty();
-        }
         return token.kind != HtmlTokenKind::StartTag && token.kind != HtmlTokenKind::EndTag;
     }
 
@@ -314,13 +298,11 @@ private:
         for (;;) {
             const HtmlElement &element = m_tree.elements.at(index);
             const bool cell = contains(kTableParts, element.name);
-            if (element.parent < 0 || !(cell || element.name == "li"_L1)) {
+            if (element.parent < 0 || !(cell || element.name == "li"_L1))
                 break;
-            }
             const QString &parent = m_tree.elements.at(element.parent).name;
-            if (!contains(kStructureElements, parent)) {
+            if (!contains(kStructureElements, parent))
                 break;
-            }
             index = element.parent;
         }
         m_kept.append({m_tree.elements.at(index).start, m_tree.elements.at(index).end});
@@ -337,12 +319,6 @@ private:
 
 } // namespace
 
-const QRegularExpression &codePattern()
-{
-    static const QRegularExpression pattern(u"\\[[^\\[\\]\\r\\n]+\\]"_s);
-    return pattern;
-}
-
 SplitTemplate splitTemplate(const QString &source)
 {
     return Splitter(source).run();
@@ -350,11 +326,9 @@ SplitTemplate splitTemplate(const QString &source)
 
 TemplatePart partOf(const QString &text)
 {
-    if (codePattern().match(text).capturedLength() == text.size() && !text.isEmpty()) {
+    if (syntax::isCode(text))
         return {PartKind::Code, text};
-    }
-    const bool script = text.startsWith("<script>"_L1, Qt::CaseInsensitive);
-    return {script ? PartKind::Script : PartKind::Markup, text};
+    return {syntax::beginsWithScript(text) ? PartKind::Script : PartKind::Markup, text};
 }
 
 } // namespace ozm::editor

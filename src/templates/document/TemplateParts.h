@@ -1,24 +1,15 @@
 #pragma once
 
+#include <ozm_widgets/TemplateDocument.h>
+
 #include <QList>
-#include <QRegularExpression>
 #include <QString>
 
 namespace ozm::editor {
 
-/// What a chip stands for, and the text that it stands for, to the letter.
-enum class PartKind
-{
-    Code,
-    Script,
-    Markup
-};
-
-struct TemplatePart
-{
-    PartKind kind = PartKind::Code;
-    QString source;
-};
+/// A part of a template's source that is shown as a chip, with its text to the letter.
+using TemplatePart = TemplateDocument::Chip;
+using PartKind = TemplateDocument::ChipKind;
 
 /**
  * A template's source taken apart for a rich-text document: HTML that such a document understands, in which
@@ -36,12 +27,9 @@ struct SplitTemplate
     QChar markerEnd;
 };
 
-/// The innermost pair of brackets on one line, which is what decoding replaces.
-[[nodiscard]] const QRegularExpression &codePattern();
-
 [[nodiscard]] SplitTemplate splitTemplate(const QString &source);
 
-/// The part that @p text is as a whole: "[Name]" is a code, "<script>...</script>" a script.
+/// The part that @p text is as a whole: a code in its brackets, a script in its tags, else markup.
 [[nodiscard]] TemplatePart partOf(const QString &text);
 
 } // namespace ozm::editor

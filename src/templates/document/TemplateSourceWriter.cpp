@@ -2,6 +2,7 @@
 
 #include "templates/document/InlineHtml.h"
 #include "templates/document/TemplateChip.h"
+#include "templates/syntax/Codes.h"
 
 #include <QSet>
 #include <QTextBlock>
@@ -31,11 +32,9 @@ TagDefaults readDefaults(const QString &html)
 {
     QTextDocument document;
     document.setHtml(html);
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        if (block.text() == "x"_L1) {
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        if (block.text() == "x"_L1)
             return {block.blockFormat(), block.begin().fragment().charFormat()};
-        }
-    }
     return {};
 }
 
@@ -43,9 +42,8 @@ const TagDefaults &headingDefaults(int level)
 {
     static const auto table = [] {
         std::array<TagDefaults, 6> headings;
-        for (size_t i = 0; i < headings.size(); ++i) {
+        for (size_t i = 0; i < headings.size(); ++i)
             headings[i] = readDefaults(u"<div>a</div><h%1>x</h%1><div>b</div>"_s.arg(i + 1));
-        }
         return headings;
     }();
     return table.at(size_t(qBound(1, level, 6) - 1));
@@ -125,30 +123,22 @@ QStringList blockDeclarations(const QTextBlock &block, const Surroundings &aroun
                                                   : u"text-align:left"_s);
     }
     const qreal left = format.leftMargin() + 40.0 * (block.textList() ? 0 : format.indent());
-    if (left != 0) {
+    if (left != 0)
         css.append("margin-left:"_L1 + px(left));
-    }
-    if (format.rightMargin() != 0) {
+    if (format.rightMargin() != 0)
         css.append("margin-right:"_L1 + px(format.rightMargin()));
-    }
-    if (format.textIndent() != 0) {
+    if (format.textIndent() != 0)
         css.append("text-indent:"_L1 + px(format.textIndent()));
-    }
-    if (format.lineHeightType() == QTextBlockFormat::ProportionalHeight && format.lineHeight() != 100) {
+    if (format.lineHeightType() == QTextBlockFormat::ProportionalHeight && format.lineHeight() != 100)
         css.append(u"line-height:%1%"_s.arg(format.lineHeight()));
-    }
-    if (format.background().style() == Qt::SolidPattern) {
+    if (format.background().style() == Qt::SolidPattern)
         css.append("background-color:"_L1 + cssColor(format.background().color()));
-    }
-    if (format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore) {
+    if (format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore)
         css.append(u"page-break-before:always"_s);
-    }
-    if (format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysAfter) {
+    if (format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysAfter)
         css.append(u"page-break-after:always"_s);
-    }
-    if (needsBlanksKept(block.text())) {
+    if (needsBlanksKept(block.text()))
         css.append(u"white-space:pre-wrap"_s);
-    }
     return css;
 }
 
@@ -158,9 +148,8 @@ public:
     WrittenSource run(const QTextDocument &document)
     {
         writeBlocks(document.rootFrame()->begin(), document.rootFrame()->end(), {});
-        if (m_out.text.endsWith(u'\n')) {
+        if (m_out.text.endsWith(u'\n'))
             m_out.text.chop(1);
-        }
         return m_out;
     }
 
@@ -196,11 +185,10 @@ private:
 
     void writeFrame(QTextFrame *frame, const Surroundings &around)
     {
-        if (auto *table = qobject_cast<QTextTable *>(frame)) {
+        if (auto *table = qobject_cast<QTextTable *>(frame))
             writeTable(*table);
-        } else {
+        else
             writeBlocks(frame->begin(), frame->end(), around);
-        }
     }
 
     void writeBlock(const QTextBlock &block, const Surroundings &around, qsizetype listsOutside)
@@ -213,11 +201,10 @@ private:
             return;
         }
         closeLists(listsOutside);
-        if (isRuler(block)) {
+        if (isRuler(block))
             writeRuler(block);
-        } else {
+        else
             writeParagraph(block, around);
-        }
     }
 
     void writeRuler(const QTextBlock &block)
@@ -243,13 +230,11 @@ private:
         }
         const bool empty = block.length() <= 1;
         add(u'<' + tag + styleAttribute(css) + u'>');
-        if (empty) {
+        if (empty)
             add(u"<br/>"_s);
-        }
         QTextCharFormat base = around.text;
-        if (level > 0) {
+        if (level > 0)
             base.merge(defaults.text);
-        }
         writeText(block, base);
         add("</"_L1 + tag + ">\n"_L1);
     }
@@ -257,9 +242,8 @@ private:
     // The reader hands a block's colour down to its text.
     static QTextCharFormat withBackground(QTextCharFormat base, const QTextFormat &outer)
     {
-        if (outer.background().style() != Qt::NoBrush) {
+        if (outer.background().style() != Qt::NoBrush)
             base.setBackground(outer.background());
-        }
         return base;
     }
 
@@ -284,12 +268,11 @@ private:
     void findLooseBrackets(const QTextBlock &block)
     {
         m_looseBrackets.clear();
-        auto all = codePattern().globalMatch(block.text());
+        auto all = syntax::codePattern().globalMatch(block.text());
         while (all.hasNext()) {
             const QRegularExpressionMatch match = all.next();
-            if (!match.capturedView().contains(QChar::ObjectReplacementCharacter)) {
+            if (!match.capturedView().contains(QChar::ObjectReplacementCharacter))
                 m_looseBrackets.insert(block.position() + int(match.capturedStart()));
-            }
         }
     }
 
@@ -299,9 +282,8 @@ private:
             add(escaped(text));
             return;
         }
-        for (int i = 0; i < text.size(); ++i) {
+        for (int i = 0; i < text.size(); ++i)
             add(m_looseBrackets.contains(position + i) ? u"&#91;"_s : escaped(text.at(i)));
-        }
     }
 
     void writeFragment(const QTextFragment &fragment)
@@ -335,9 +317,8 @@ private:
             return;
         }
         const int indent = list->format().indent();
-        while (m_lists.size() > listsOutside && m_lists.last()->format().indent() >= indent) {
+        while (m_lists.size() > listsOutside && m_lists.last()->format().indent() >= indent)
             closeLists(m_lists.size() - 1);
-        }
         const ListRow &row = listRow(list->format());
         add(u'<' + row.tag + row.type + ">\n"_L1);
         m_lists.append(list);
@@ -353,9 +334,8 @@ private:
 
     static QString widthAttribute(const QTextLength &width)
     {
-        if (width.type() == QTextLength::FixedLength && width.rawValue() > 0) {
+        if (width.type() == QTextLength::FixedLength && width.rawValue() > 0)
             return u" width=\"%1\""_s.arg(width.rawValue());
-        }
         return width.type() == QTextLength::PercentageLength ? u" width=\"%1%\""_s.arg(width.rawValue())
                                                              : QString();
     }
@@ -364,12 +344,10 @@ private:
     {
         const QTextTableFormat format = table.format();
         QStringList css;
-        if (format.borderCollapse()) {
+        if (format.borderCollapse())
             css.append(u"border-collapse:collapse"_s);
-        }
-        if (format.background().style() == Qt::SolidPattern) {
+        if (format.background().style() == Qt::SolidPattern)
             css.append("background-color:"_L1 + cssColor(format.background().color()));
-        }
         const Qt::Alignment alignment = format.alignment() & Qt::AlignHorizontal_Mask;
         add(u"<table border=\"%1\" cellspacing=\"%2\" cellpadding=\"%3\""_s.arg(
                 QString::number(format.border()), QString::number(format.cellSpacing()),
@@ -390,9 +368,8 @@ private:
             add(row == 0 && headers > 0 ? u"<thead><tr>"_s : u"<tr>"_s);
             for (int column = 0; column < table.columns(); ++column) {
                 const QTextTableCell cell = table.cellAt(row, column);
-                if (cell.row() == row && cell.column() == column) {
+                if (cell.row() == row && cell.column() == column)
                     writeCell(table, cell, row < headers);
-                }
             }
             add(row + 1 == headers ? u"</tr></thead>\n"_s : u"</tr>\n"_s);
         }
@@ -403,9 +380,8 @@ private:
         const QString tag = header ? u"th"_s : u"td"_s;
         add(u'<' + tag + cellAttributes(table, cell));
         Surroundings around;
-        if (header) {
+        if (header)
             around = {headerCellText(), Qt::AlignHCenter};
-        }
         around.text = withBackground(around.text, cell.format());
         const QTextBlock first = cell.firstCursorPosition().block();
         const bool single = first == cell.lastCursorPosition().block() && !first.textList() &&
@@ -434,16 +410,13 @@ private:
     static QString cellAttributes(const QTextTable &table, const QTextTableCell &cell)
     {
         QString attributes;
-        if (cell.columnSpan() > 1) {
+        if (cell.columnSpan() > 1)
             attributes += u" colspan=\"%1\""_s.arg(cell.columnSpan());
-        }
-        if (cell.rowSpan() > 1) {
+        if (cell.rowSpan() > 1)
             attributes += u" rowspan=\"%1\""_s.arg(cell.rowSpan());
-        }
         const QList<QTextLength> widths = table.format().columnWidthConstraints();
-        if (cell.row() == 0 && cell.columnSpan() == 1 && cell.column() < widths.size()) {
+        if (cell.row() == 0 && cell.columnSpan() == 1 && cell.column() < widths.size())
             attributes += widthAttribute(widths.at(cell.column()));
-        }
         return attributes;
     }
 
@@ -451,9 +424,8 @@ private:
     {
         const QTextCharFormat format = cell.format();
         QStringList css;
-        if (format.background().style() == Qt::SolidPattern) {
+        if (format.background().style() == Qt::SolidPattern)
             css.append("background-color:"_L1 + cssColor(format.background().color()));
-        }
         switch (format.verticalAlignment()) {
         case QTextCharFormat::AlignMiddle:
             css.append(u"vertical-align:middle"_s);

@@ -2,9 +2,9 @@
 
 #include "templates/files/TemplateFileText.h"
 #include "templates/files/WebReader.h"
+#include "templates/syntax/Envelope.h"
 
 #include <ozm_common_core_mini/PathUtils.h>
-#include <ozm_widgets/TECWrapper.h>
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -69,11 +69,9 @@ Result<QByteArray> bytesOf(const QString &path)
 
 Result<QString> contentOf(const QString &text, TemplateFile::Page page, bool &converted)
 {
-    if (text.contains("<ozm_template"_L1)) {
-        bool ok = false;
-        QString content = TECWrapper::unwrapTEC(text, &ok);
-        if (ok)
-            return content;
+    if (syntax::mentionsEnvelope(text)) {
+        if (auto content = syntax::unwrapped(text))
+            return std::move(content->text);
         return wrongTemplateFormat(
             TemplateFile::tr("The file begins as a template, but is cut short or of another version."));
     }
@@ -81,17 +79,9 @@ Result<QString> contentOf(const QString &text, TemplateFile::Page page, bool &co
     return converted ? bodyOfPage(text) : Result<QString>(text);
 }
 
-/// The envelope of nothing with the content put in: unlike wrapping, which substitutes markers such as "%1"
-/// also in the content, this comes back from unwrapping to the letter.
-QString enveloped(const QString &content)
-{
-    QString text = TECWrapper::wrapTEC({});
-    return text.insert(text.lastIndexOf("</"_L1), content);
-}
-
 Result<QByteArray> bytesFor(const QString &content)
 {
-    const QString text = enveloped(content);
+    const QString text = syntax::wrapped(content);
     QByteArray bytes = text.toUtf8();
     if (bytes.size() > TemplateFile::kLargest)
         return refused(TemplateFile::tr("The template cannot be saved.") + u' ' + tooLarge());
@@ -103,7 +93,7 @@ Result<QByteArray> bytesFor(const QString &content)
             TemplateFile::tr("The template holds half of a character pair, which cannot be saved. Remove "
                              "what is shown as a question mark or an empty box."));
     }
-    if (TECWrapper::unwrapTEC(text) != content)
+    if (const auto again = syntax::unwrapped(text); !again || again->text != content)
         return refused(TemplateFile::tr("The template could not be read back once saved, so it was not."));
     return bytes;
 }
@@ -160,9 +150,8 @@ Error TemplateFile::write(const QString &path, const QString &content)
         return notWritten(path, tr("It is no file.")).ecatch(OZM_HERE);
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeAll(file, bytes.value()) ||
-        !file.commit()) {
+        !file.commit())
         return notWritten(path, file.errorString()).ecatch(OZM_HERE);
-    }
     return {};
 }
 

@@ -1,5 +1,6 @@
 #include "templates/files/TemplateFileText.h"
 
+#include "templates/syntax/Envelope.h"
 #include "templates/syntax/HtmlScanner.h"
 
 #include <ozm_widgets/TemplateFile.h>
@@ -75,9 +76,8 @@ std::optional<DecodedText> decoded(QTextCodec *codec, const QByteArray &bytes)
     // Not every codec counts what it replaces.
     const bool counts = codec->name().startsWith("UTF-");
     if (state.invalidChars > 0 || state.remainingChars > 0 ||
-        (!counts && text.contains(QChar::ReplacementCharacter))) {
+        (!counts && text.contains(QChar::ReplacementCharacter)))
         return std::nullopt;
-    }
     return DecodedText{text, codec->name()};
 }
 
@@ -135,7 +135,7 @@ Result<DecodedText> decodeTemplateFile(const QByteArray &bytes)
     }
     if (bytes.contains('\0'))
         return wrongTemplateFormat(binary);
-    if (!bytes.contains("<ozm_template") && isPageLike(bytes))
+    if (!syntax::mentionsEnvelope(bytes) && isPageLike(bytes))
         return decodePage(bytes);
     return decodedOr(TemplateFile::tr("The file holds bytes that are no UTF-8 text."),
                      QTextCodec::codecForName("UTF-8"), bytes);

@@ -4,6 +4,7 @@
 #include "support/Logging.h"
 #include "templates/files/WebReaderInterface.h"
 #include "templates/syntax/HtmlScanner.h"
+#include "templates/syntax/ScriptTags.h"
 
 #include <ozm_widgets/TemplateFile.h>
 
@@ -50,29 +51,29 @@ QStringList readerFolders()
 #endif
 }
 
-// What the engine says of being started late and without graphics, which is what is meant here.
-constexpr std::array kUnsaid{"Qt WebEngine seems to be initialized from a plugin"_L1,
-                             "No suitable graphics backend found"_L1};
+// The engine is started late and without graphics on purpose, and complains about both.
+constexpr std::array kMuted{"Qt WebEngine seems to be initialized from a plugin"_L1,
+                            "No suitable graphics backend found"_L1};
 
-/// Keeps what need not be said out of the log, and passes on all else.
-class Unsaid
+/// Keeps the messages of kMuted out of the log while it lives, and passes on all others.
+class LogMute
 {
 public:
-    Unsaid() { s_next = qInstallMessageHandler(&handle); }
-    ~Unsaid()
+    LogMute() { s_next = qInstallMessageHandler(&handle); }
+    ~LogMute()
     {
         // Another may have been put in meanwhile, which then stays.
         const QtMessageHandler last = qInstallMessageHandler(s_next);
         if (last != &handle)
             qInstallMessageHandler(last);
     }
-    Q_DISABLE_COPY_MOVE(Unsaid)
+    Q_DISABLE_COPY_MOVE(LogMute)
 
 private:
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &text)
     {
-        const auto begins = [&text](QLatin1StringView unsaid) { return text.startsWith(unsaid); };
-        if (s_next && !std::ranges::any_of(kUnsaid, begins))
+        const auto begins = [&text](QLatin1StringView muted) { return text.startsWith(muted); };
+        if (s_next && !std::ranges::any_of(kMuted, begins))
             s_next(type, context, text);
     }
 
@@ -95,10 +96,9 @@ WebReaderInterface *findReader(const QStringList &folders)
 {
     for (const QString &folder : folders) {
         const QStringList names = QDir(folder).entryList({u"*ozm_webreader*"_s}, QDir::Files);
-        for (const QString &name : names) {
+        for (const QString &name : names)
             if (WebReaderInterface *reader = load(folder + u'/' + name))
                 return reader;
-        }
     }
     return nullptr;
 }
@@ -122,19 +122,19 @@ Result<WebReaderInterface *> webReader()
     return reader;
 }
 
-/// A page whose template scripts are stood in for, since the engine would end some of them earlier than
-/// decoding does, and would write their line ends anew.
-class StandIns
+/// A page with placeholders for its template scripts: the engine would end some of them earlier than
+/// decoding does, and would rewrite their line ends.
+class ScriptPlaceholders
 {
 public:
-    explicit StandIns(const QString &page)
+    explicit ScriptPlaceholders(const QString &page)
     {
         qsizetype done = 0;
         for (const editor::HtmlToken &token : editor::scanHtml(page)) {
             if (token.kind != editor::HtmlTokenKind::Script)
                 continue;
             m_page += QStringView(page).sliced(done, token.start - done);
-            m_page += m_opening + QString::number(m_scripts.size()) + "</script>"_L1;
+            m_page += m_opening + QString::number(m_scripts.size()) + syntax::kScriptClose;
             m_scripts.append(page.sliced(token.start, token.end - token.start));
             done = token.end;
         }
@@ -153,7 +153,7 @@ public:
             const qsizetype end = body.indexOf(u'<', number);
             all += QStringView(body).sliced(done, at - done);
             all += m_scripts.value(QStringView(body).sliced(number, end - number).toInt());
-            done = end + "</script>"_L1.size();
+            done = end + syntax::kScriptClose.size();
         }
         all += QStringView(body).sliced(done);
         return all.contains(m_mark) ? std::nullopt : std::optional(all);
@@ -161,7 +161,7 @@ public:
 
 private:
     const QString m_mark = QUuid::createUuid().toString(QUuid::Id128);
-    const QString m_opening = "<script>"_L1 + m_mark + u'-';
+    const QString m_opening = syntax::kScriptOpen + m_mark + u'-';
     QString m_page;
     QStringList m_scripts;
 };
@@ -170,15 +170,15 @@ private:
 
 Result<QString> bodyOfPage(const QString &page)
 {
-    const Unsaid unsaid;
+    const LogMute mute;
     const Result<WebReaderInterface *> reader = webReader();
     if (!reader)
         return reader.error();
-    const StandIns standIns(page);
-    Result<QString> body = reader.value()->bodyOf(standIns.page(), kDeadline);
+    const ScriptPlaceholders placeholders(page);
+    Result<QString> body = reader.value()->bodyOf(placeholders.page(), kDeadline);
     if (!body)
         return body;
-    if (const std::optional<QString> restored = standIns.restored(body.value()))
+    if (const std::optional<QString> restored = placeholders.restored(body.value()))
         return *restored;
     // A tag stood where it is none to the engine, as in a text field.
     return reader.value()->bodyOf(page, kDeadline);

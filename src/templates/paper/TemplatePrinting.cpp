@@ -1,6 +1,7 @@
 #include "templates/paper/TemplatePrinting.h"
 
-#include <ozm_widgets/AbstractTemplateEditor.h>
+#include "templates/syntax/ScriptTags.h"
+
 #include <ozm_widgets/TemplateDocument.h>
 
 #include <QCoreApplication>
@@ -27,9 +28,9 @@ TemplatePrinting::~TemplatePrinting() = default;
 
 std::unique_ptr<QTextDocument> TemplatePrinting::document(const QString &decoded)
 {
-    // Of all documents this one never loads what a text refers to.
+    // This document, unlike its base class, never loads the files that a text refers to.
     auto document = std::make_unique<TemplateDocument>();
-    const QString text = AbstractTemplateEditor::withoutScriptTags(decoded);
+    const QString text = syntax::withoutScriptTags(decoded);
     if (TemplateDocument::isHtml(text))
         document->setHtml(text);
     else

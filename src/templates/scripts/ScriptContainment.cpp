@@ -105,15 +105,13 @@ public:
 
     bool isContained()
     {
-        for (m_at = 0; m_at < size(); ++m_at) {
+        for (m_at = 0; m_at < size(); ++m_at)
             if (!collectDeclaration())
                 return false;
-        }
         m_scopes.emplace_back();
-        for (m_at = 0; m_at < size(); ++m_at) {
+        for (m_at = 0; m_at < size(); ++m_at)
             if (!accept(m_tokens[m_at]))
                 return false;
-        }
         return true;
     }
 

@@ -28,10 +28,9 @@ ScriptRealmFactory findFactory()
     const QStringList folders = pluginFolders();
     for (const QString &folder : folders) {
         const QStringList names = QDir(folder).entryList({u"*ozm_scripts*"_s}, QDir::Files);
-        for (const QString &name : names) {
+        for (const QString &name : names)
             if (auto *found = QLibrary::resolve(folder + u'/' + name, kScriptRealmFactory))
                 return reinterpret_cast<ScriptRealmFactory>(found);
-        }
     }
     OZM_WIDGETS_WARNING() << "Scripts cannot run: \"ozm_scripts\" was not found in" << folders;
     return nullptr;

@@ -1,5 +1,7 @@
 #include "templates/syntax/HtmlScanner.h"
 
+#include "templates/syntax/ScriptTags.h"
+
 #include <QStringView>
 
 #include <algorithm>
@@ -10,9 +12,6 @@ using namespace Qt::StringLiterals;
 namespace ozm::editor {
 
 namespace {
-
-constexpr QLatin1StringView kScriptOpen("<script>");
-constexpr QLatin1StringView kScriptClose("</script>");
 
 constexpr std::array kVoidElements{"area"_L1,  "base"_L1,   "br"_L1,    "col"_L1,  "embed"_L1,
                                    "hr"_L1,    "img"_L1,    "input"_L1, "link"_L1, "meta"_L1,
@@ -56,13 +55,11 @@ public:
     {
         while (m_at < m_source.size()) {
             const qsizetype next = m_source.indexOf(u'<', m_at);
-            if (next < 0) {
+            if (next < 0)
                 break;
-            }
             m_at = next;
-            if (!takeMarkup()) {
+            if (!takeMarkup())
                 ++m_at;
-            }
         }
         flushText(m_source.size());
         return m_tokens;
@@ -76,9 +73,8 @@ private:
 
     void flushText(qsizetype end)
     {
-        if (end > m_textStart) {
+        if (end > m_textStart)
             m_tokens.append({HtmlTokenKind::Text, m_textStart, end, {}});
-        }
     }
 
     bool take(HtmlTokenKind kind, qsizetype end, const QString &name = {})
@@ -98,45 +94,24 @@ private:
 
     bool takeMarkup()
     {
-        if (startsWith(kScriptOpen)) {
-            return takeScript();
-        }
-        if (startsWith(kScriptClose)) {
-            return take(HtmlTokenKind::Opaque, m_at + kScriptClose.size());
-        }
-        if (startsWith("<!--"_L1)) {
+        if (const auto tag = syntax::scriptTagAt(m_source, m_at))
+            return tag->opening ? takeScript(*tag) : take(HtmlTokenKind::Opaque, m_at + tag->length);
+        if (startsWith("<!--"_L1))
             return take(HtmlTokenKind::Opaque, after(u"-->", m_at + 4));
-        }
-        if (startsWith("<!"_L1) || startsWith("<?"_L1)) {
+        if (startsWith("<!"_L1) || startsWith("<?"_L1))
             return take(HtmlTokenKind::Opaque, after(u">", m_at));
-        }
         const bool closing = startsWith("</"_L1);
         const qsizetype nameStart = m_at + (closing ? 2 : 1);
-        if (nameStart >= m_source.size() || !isNameStart(m_source.at(nameStart))) {
+        if (nameStart >= m_source.size() || !isNameStart(m_source.at(nameStart)))
             return false;
-        }
         return takeTag(closing, nameStart);
     }
 
-    // Depth counts as it does when scripts are run: what is left open runs up to the last tag of all.
-    bool takeScript()
+    bool takeScript(const syntax::ScriptTag &opening)
     {
-        int depth = 0;
-        qsizetype lastTagEnd = m_at;
-        for (qsizetype at = m_at; at >= 0; at = m_source.indexOf(u'<', at + 1)) {
-            const QStringView rest = QStringView(m_source).sliced(at);
-            if (rest.startsWith(kScriptOpen, Qt::CaseInsensitive)) {
-                ++depth;
-                lastTagEnd = at + kScriptOpen.size();
-            } else if (rest.startsWith(kScriptClose, Qt::CaseInsensitive)) {
-                lastTagEnd = at + kScriptClose.size();
-                if (--depth == 0) {
-                    break;
-                }
-            }
-        }
-        const bool runs = lastTagEnd > m_at + kScriptOpen.size();
-        return take(runs ? HtmlTokenKind::Script : HtmlTokenKind::Opaque, lastTagEnd);
+        const qsizetype end = syntax::scriptFrom(m_source, m_at).end;
+        const bool runs = end > m_at + opening.length;
+        return take(runs ? HtmlTokenKind::Script : HtmlTokenKind::Opaque, end);
     }
 
     qsizetype tagEnd(qsizetype from) const
@@ -144,13 +119,12 @@ private:
         QChar quote;
         for (qsizetype at = from; at < m_source.size(); ++at) {
             const QChar c = m_source.at(at);
-            if (!quote.isNull()) {
+            if (!quote.isNull())
                 quote = c == quote ? QChar() : quote;
-            } else if ((c == u'"' || c == u'\'') && m_source.at(at - 1) == u'=') {
+            else if ((c == u'"' || c == u'\'') && m_source.at(at - 1) == u'=')
                 quote = c;
-            } else if (c == u'>') {
+            else if (c == u'>')
                 return at + 1;
-            }
         }
         return -1;
     }
@@ -158,22 +132,18 @@ private:
     bool takeTag(bool closing, qsizetype nameStart)
     {
         const qsizetype end = tagEnd(nameStart);
-        if (end < 0) {
+        if (end < 0)
             return false;
-        }
         qsizetype nameEnd = nameStart;
         while (m_source.at(nameEnd).isLetterOrNumber() || m_source.at(nameEnd) == u'-' ||
-               m_source.at(nameEnd) == u':') {
+               m_source.at(nameEnd) == u':')
             ++nameEnd;
-        }
         // "[a<b]" is a code, though browsers would see a tag of the name "b]" in it.
-        if (const QChar after = m_source.at(nameEnd); !after.isSpace() && after != u'>' && after != u'/') {
+        if (const QChar after = m_source.at(nameEnd); !after.isSpace() && after != u'>' && after != u'/')
             return false;
-        }
         const QString name = m_source.sliced(nameStart, nameEnd - nameStart).toLower();
-        if (closing) {
+        if (closing)
             return take(HtmlTokenKind::EndTag, end, name);
-        }
         if (contains(kRawElements, name)) {
             const qsizetype close = m_source.indexOf(u"</"_s + name, end, Qt::CaseInsensitive);
             return take(HtmlTokenKind::RawElement, close < 0 ? m_source.size() : after(u">", close), name);
@@ -194,11 +164,10 @@ public:
     {
         closeImplied(token);
         m_elements.append({token.name, token.start, token.end, -1, m_open.isEmpty() ? -1 : m_open.last()});
-        if (isVoidElement(token.name)) {
+        if (isVoidElement(token.name))
             m_elements.last().end = token.end;
-        } else {
+        else
             m_open.append(int(m_elements.size()) - 1);
-        }
     }
 
     void close(const HtmlToken &token)
@@ -211,9 +180,8 @@ public:
                 return;
             }
             // An end tag in a cell closes nothing outside of it.
-            if (isCell(name) && !isTablePart(token.name)) {
+            if (isCell(name) && !isTablePart(token.name))
                 return;
-            }
         }
     }
 
@@ -240,17 +208,15 @@ private:
             again = std::any_of(kImpliedEnds.begin(), kImpliedEnds.end(), [&](const ImpliedEnd &rule) {
                 return token.name == rule.opened && innermost == rule.closed;
             });
-            if (again) {
+            if (again)
                 endFrom(m_open.size() - 1, token.start);
-            }
         }
     }
 
     void endFrom(qsizetype first, qsizetype end)
     {
-        for (qsizetype i = first; i < m_open.size(); ++i) {
+        for (qsizetype i = first; i < m_open.size(); ++i)
             m_elements[m_open.at(i)].end = end;
-        }
         if (first < m_open.size()) {
             m_lastEnded = m_open.at(first);
             m_open.resize(first);
@@ -272,12 +238,10 @@ QList<HtmlToken> scanHtml(const QString &source)
 QString missingEnd(const QString &source, const HtmlToken &token)
 {
     const QStringView text = QStringView(source).sliced(token.start, token.end - token.start);
-    if (token.kind == HtmlTokenKind::RawElement) {
+    if (token.kind == HtmlTokenKind::RawElement)
         return text.endsWith(u'>') ? QString() : "</"_L1 + token.name + u'>';
-    }
-    if (token.kind != HtmlTokenKind::Opaque) {
+    if (token.kind != HtmlTokenKind::Opaque)
         return {};
-    }
     const QString end = text.startsWith("<!--"_L1) ? u"-->"_s : u">"_s;
     return text.endsWith(end) ? QString() : end;
 }
@@ -292,11 +256,10 @@ HtmlTree treeOf(const QList<HtmlToken> &tokens)
     HtmlTree tree;
     ElementStack stack;
     for (const HtmlToken &token : tokens) {
-        if (token.kind == HtmlTokenKind::EndTag) {
+        if (token.kind == HtmlTokenKind::EndTag)
             stack.close(token);
-        } else if (token.kind == HtmlTokenKind::StartTag) {
+        else if (token.kind == HtmlTokenKind::StartTag)
             stack.open(token);
-        }
         tree.innermost.append(stack.innermost());
     }
     tree.elements = stack.finish(tokens.isEmpty() ? 0 : tokens.last().end);
