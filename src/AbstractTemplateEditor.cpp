@@ -1,6 +1,5 @@
 #include <ozm_widgets/AbstractTemplateEditor.h>
 
-#include "editor/EditorFiles.h"
 #include "editor/TemplateEditorPrivate.h"
 #include "templates/syntax/Envelope.h"
 
@@ -48,12 +47,12 @@ QString AbstractTemplateEditor::sourceText() const
 
 AbstractTemplateEditor::Mode AbstractTemplateEditor::mode() const
 {
-    return d->history->session().mode();
+    return d->mode();
 }
 
 bool AbstractTemplateEditor::isReadOnly() const
 {
-    return d->isReadOnly;
+    return d->isReadOnly();
 }
 
 bool AbstractTemplateEditor::isModified() const
@@ -63,7 +62,7 @@ bool AbstractTemplateEditor::isModified() const
 
 QString AbstractTemplateEditor::filePath() const
 {
-    return d->files->path();
+    return d->files().path();
 }
 
 bool AbstractTemplateEditor::setSourceText(const QString &wrapped)
@@ -74,13 +73,13 @@ bool AbstractTemplateEditor::setSourceText(const QString &wrapped)
         return false;
     }
     d->show(content->text);
-    d->files->setNoFile();
+    d->files().setNoFile();
     return true;
 }
 
 bool AbstractTemplateEditor::openFile(const QString &path)
 {
-    return d->files->open(path);
+    return d->files().open(path);
 }
 
 void AbstractTemplateEditor::setMode(Mode mode)
@@ -100,24 +99,23 @@ void AbstractTemplateEditor::refresh()
 
 void AbstractTemplateEditor::closeEvent(QCloseEvent *event)
 {
-    event->setAccepted(d->files->mayDiscard());
+    event->setAccepted(d->files().mayDiscard());
     if (event->isAccepted())
-        d->files->giveUp();
+        d->files().giveUp();
 }
 
 void AbstractTemplateEditor::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
-    if (std::exchange(d->isShown, true))
+    if (!d->showFirstTime())
         return;
-    refresh();
-    // Not before the window is there to be asked over.
-    QTimer::singleShot(0, this, [this] { d->files->offerRescued(); });
+    // Once the window is on screen, so that the questions come up over it.
+    QTimer::singleShot(0, this, [this] { d->files().offerRescued(); });
 }
 
 void AbstractTemplateEditor::changeEvent(QEvent *event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
-        QTimer::singleShot(0, this, [this] { d->files->checkDisk(); });
+        QTimer::singleShot(0, this, [this] { d->files().checkDisk(); });
 }

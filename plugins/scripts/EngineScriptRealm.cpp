@@ -139,10 +139,10 @@ ScriptOutcome EngineScriptRealm::evaluate(const QString &code)
     return {text.property(u"text"_s).toString()};
 }
 
-} // namespace ozm
-
-extern "C" Q_DECL_EXPORT ozm::ScriptRealm *
-ozm_createScriptRealm(const ozm::ScriptLibrary &library, ozm::ScriptDeadline deadline, QString *trouble)
+std::unique_ptr<ScriptRealm> EngineScripts::createRealm(const ScriptLibrary &library, ScriptDeadline deadline,
+                                                        QString *trouble)
 {
-    return new ozm::EngineScriptRealm(library, deadline, trouble);
+    return std::make_unique<EngineScriptRealm>(library, deadline, trouble);
 }
+
+} // namespace ozm

@@ -3,6 +3,7 @@
 #include "templates/scripts/ScriptRealm.h"
 
 #include <QJSEngine>
+#include <QObject>
 
 #include <optional>
 
@@ -28,6 +29,17 @@ private:
     std::unique_ptr<GuardedObjects> m_objects; // outlives the engine that knows them
     QJSEngine m_engine;
     QJSValue m_toText;
+};
+
+class EngineScripts : public QObject, public ScriptEngineInterface
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID OZM_SCRIPT_ENGINE_IID)
+    Q_INTERFACES(ozm::ScriptEngineInterface)
+
+public:
+    [[nodiscard]] std::unique_ptr<ScriptRealm>
+    createRealm(const ScriptLibrary &library, ScriptDeadline deadline, QString *trouble) override;
 };
 
 } // namespace ozm

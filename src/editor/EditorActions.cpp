@@ -4,20 +4,26 @@
 #include "editor/CodeModel.h"
 #include "editor/CodePanel.h"
 #include "editor/EditorFiles.h"
+#include "editor/EditorHistory.h"
+#include "editor/EditorQuestions.h"
+#include "editor/EditorScripts.h"
+#include "editor/EditorViews.h"
 #include "editor/FindBar.h"
 #include "editor/RichTextView.h"
-#include "editor/ScriptPane.h"
 #include "editor/TableEditing.h"
-#include "editor/TemplateEditorPrivate.h"
 #include "editor/TextFormatting.h"
+#include "templates/paper/TemplatePrinting.h"
 
 #include <ozm_widgets/OZMStyle.h>
 
 #include <QAction>
 #include <QActionGroup>
+#include <QApplication>
+#include <QClipboard>
 #include <QDockWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QToolBar>
 
 #include <array>
@@ -28,7 +34,7 @@ namespace ozm::editor {
 
 namespace {
 
-using Editor = AbstractTemplateEditor::Private;
+using Parts = EditorParts;
 using Side = TableEditing::Side;
 
 enum class Menu
@@ -77,217 +83,216 @@ struct ActionRow
     const char *icon;
     const char *text;
     const char *key;
-    void (*run)(Editor &editor);
+    void (*run)(const Parts &parts, bool checked);
     unsigned flags;
 };
 
-bool isOn(const Editor &editor, const char *name)
+void pastePlain(const Parts &parts)
 {
-    return editor.actions->action(name)->isChecked();
+    const QMimeData *data = QApplication::clipboard()->mimeData();
+    if (data && data->hasText())
+        parts.views.current().insertPlain(data->text());
 }
 
 // Keys that the platform has a say in are in kPlatformKeys.
 constexpr std::array kActions{
     ActionRow{"newAction", Menu::File, "document-new",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&New"), "",
-              [](Editor &e) { e.files->askNew(); }, OnBar},
+              [](const Parts &p, bool) { p.files.askNew(); }, OnBar},
     ActionRow{"openAction", Menu::File, "document-open",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Open…"), "",
-              [](Editor &e) { e.files->askOpen(); }, OnBar},
+              [](const Parts &p, bool) { p.files.askOpen(); }, OnBar},
     ActionRow{"saveAction", Menu::File, "document-save",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Save"), "",
-              [](Editor &e) { e.files->save(); }, OnBar},
+              [](const Parts &p, bool) { p.files.save(); }, OnBar},
     ActionRow{"saveAsAction", Menu::File, "document-save-as",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Save &as…"), "Ctrl+Shift+S",
-              [](Editor &e) { e.files->askSaveAs(); }, None},
+              [](const Parts &p, bool) { p.files.askSaveAs(); }, None},
     ActionRow{"pageSetupAction", Menu::File, "",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Page set&up…"), "",
-              [](Editor &e) { e.printing.askPage(e.qptr); }, Starts},
+              [](const Parts &p, bool) { p.printing.askPage(&p.window); }, Starts},
     ActionRow{"printPreviewAction", Menu::File, "document-print-preview",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Print pre&view…"), "",
-              [](Editor &e) { e.printing.preview(e.qptr, e.decodedForPaper()); }, None},
+              [](const Parts &p, bool) { p.printing.preview(&p.window, p.decoded()); }, None},
     ActionRow{"printAction", Menu::File, "document-print",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Print…"), "",
-              [](Editor &e) { e.printing.print(e.qptr, e.decodedForPaper()); }, OnBar | Starts},
+              [](const Parts &p, bool) { p.printing.print(&p.window, p.decoded()); }, OnBar | Starts},
     ActionRow{"pdfAction", Menu::File, "document-pdf",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Save as P&DF…"), "Ctrl+Shift+D",
-              [](Editor &e) { e.askPdf(); }, OnBar},
+              [](const Parts &p, bool) { p.questions.askPdf(); }, OnBar},
     ActionRow{"closeAction", Menu::File, "window-close",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Close"), "",
-              [](Editor &e) { e.qptr->close(); }, Starts},
+              [](const Parts &p, bool) { p.window.close(); }, Starts},
 
     ActionRow{"undoAction", Menu::Edit, "edit-undo", QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Undo"),
-              "", [](Editor &e) { e.history->undo(); }, Edits | OnBar | OnView | Starts},
+              "", [](const Parts &p, bool) { p.history.undo(); }, Edits | OnBar | OnView | Starts},
     ActionRow{"redoAction", Menu::Edit, "edit-redo", QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Redo"),
-              "", [](Editor &e) { e.history->redo(); }, Edits | OnBar | OnView},
+              "", [](const Parts &p, bool) { p.history.redo(); }, Edits | OnBar | OnView},
     ActionRow{"cutAction", Menu::Edit, "edit-cut", QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Cu&t"),
-              "", [](Editor &e) { e.cut(); }, Edits | OnView | Starts},
+              "", [](const Parts &p, bool) { p.views.current().cut(); }, Edits | OnView | Starts},
     ActionRow{"copyAction", Menu::Edit, "edit-copy", QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Copy"),
-              "", [](Editor &e) { e.copy(); }, OnView},
+              "", [](const Parts &p, bool) { p.views.current().copy(); }, OnView},
     ActionRow{"pasteAction", Menu::Edit, "edit-paste",
-              QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Paste"), "", [](Editor &e) { e.paste(); },
-              Edits | OnView},
+              QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Paste"), "",
+              [](const Parts &p, bool) { p.views.current().paste(); }, Edits | OnView},
     ActionRow{"pastePlainAction", Menu::Edit, "",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Paste as p&lain text"), "Ctrl+Shift+V",
-              [](Editor &e) { e.pastePlain(); }, Edits | OnView},
+              [](const Parts &p, bool) { pastePlain(p); }, Edits | OnView},
     ActionRow{"selectAllAction", Menu::Edit, "edit-select-all",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Select &all"), "",
-              [](Editor &e) { e.selectAll(); }, OnView},
+              [](const Parts &p, bool) { p.views.current().selectAll(); }, OnView},
     ActionRow{"findAction", Menu::Edit, "edit-find",
-              QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Find…"), "", [](Editor &e) { e.find(false); },
-              OnBar | Starts},
+              QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Find…"), "",
+              [](const Parts &p, bool) { p.findBar.open(false); }, OnBar | Starts},
     ActionRow{"replaceAction", Menu::Edit, "edit-find-replace",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "R&eplace…"), "Ctrl+H",
-              [](Editor &e) { e.find(true); }, Edits},
+              [](const Parts &p, bool) { p.findBar.open(true); }, Edits},
     ActionRow{"findNextAction", Menu::Edit, "go-down",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Find &next"), "F3",
-              [](Editor &e) { e.findBar->findNext(); }, None},
+              [](const Parts &p, bool) { p.findBar.findNext(); }, None},
     ActionRow{"findPreviousAction", Menu::Edit, "go-up",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Find pre&vious"), "Shift+F3",
-              [](Editor &e) { e.findBar->findPrevious(); }, None},
+              [](const Parts &p, bool) { p.findBar.findPrevious(); }, None},
 
     ActionRow{"insertCodeAction", Menu::Insert, "insert-code",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Code from the list…"), "Ctrl+Shift+C",
-              [](Editor &e) {
-                  e.codeDock->show();
-                  e.codePanel->search();
+              [](const Parts &p, bool) {
+                  p.codeDock->show();
+                  p.codePanel.search();
               },
               Edits | OnBar | Starts},
     ActionRow{"newScriptAction", Menu::Insert, "script",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Script…"), "Ctrl+Shift+J",
-              [](Editor &e) { e.newScript(); }, Edits | OnBar},
+              [](const Parts &p, bool) { p.scripts.startNew(); }, Edits | OnBar},
     ActionRow{"editScriptAction", Menu::Insert, "edit-rename",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Edit the script at the cursor"), "Ctrl+E",
-              [](Editor &e) { e.editScript(); }, OnView | Starts},
+              [](const Parts &p, bool) { p.scripts.editAtCursor(); }, OnView | Starts},
     ActionRow{"insertImageAction", Menu::Insert, "insert-image",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Image…"), "Ctrl+Shift+I",
-              [](Editor &e) { e.askImage(); }, Edits | OnBar | Starts},
+              [](const Parts &p, bool) { p.questions.askImage(); }, Edits | OnBar | Starts},
     ActionRow{"insertLinkAction", Menu::Insert, "insert-link",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Link…"), "Ctrl+K",
-              [](Editor &e) { e.askLink(); }, Edits | OnBar},
+              [](const Parts &p, bool) { p.questions.askLink(); }, Edits | OnBar},
     ActionRow{"insertTableAction", Menu::Insert, "insert-table",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Table…"), "Ctrl+Shift+T",
-              [](Editor &e) { e.table.askInsert(); }, Edits | Rich | OnBar},
+              [](const Parts &p, bool) { p.table.askInsert(); }, Edits | Rich | OnBar},
 
     ActionRow{"boldAction", Menu::Format, "format-text-bold",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Bold"), "Ctrl+B",
-              [](Editor &e) { e.format->setBold(isOn(e, "boldAction")); },
+              [](const Parts &p, bool on) { p.format.setBold(on); },
               Edits | Rich | Checked | OnFormat | Starts},
     ActionRow{"italicAction", Menu::Format, "format-text-italic",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Italic"), "Ctrl+I",
-              [](Editor &e) { e.format->setItalic(isOn(e, "italicAction")); },
-              Edits | Rich | Checked | OnFormat},
+              [](const Parts &p, bool on) { p.format.setItalic(on); }, Edits | Rich | Checked | OnFormat},
     ActionRow{"underlineAction", Menu::Format, "format-text-underline",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Underline"), "Ctrl+U",
-              [](Editor &e) { e.format->setUnderline(isOn(e, "underlineAction")); },
-              Edits | Rich | Checked | OnFormat},
+              [](const Parts &p, bool on) { p.format.setUnderline(on); }, Edits | Rich | Checked | OnFormat},
     ActionRow{"strikeAction", Menu::Format, "format-text-strikethrough",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Stri&ke through"), "",
-              [](Editor &e) { e.format->setStrikeOut(isOn(e, "strikeAction")); },
-              Edits | Rich | Checked | OnFormat},
-    ActionRow{"superscriptAction", Menu::Format, "",
-              QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Su&perscript"), "Ctrl+.",
-              [](Editor &e) {
-                  e.format->setVerticalAlignment(QTextCharFormat::AlignSuperScript,
-                                                 isOn(e, "superscriptAction"));
-              },
-              Edits | Rich | Checked},
-    ActionRow{"subscriptAction", Menu::Format, "",
-              QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Subs&cript"), "Ctrl+,",
-              [](Editor &e) {
-                  e.format->setVerticalAlignment(QTextCharFormat::AlignSubScript, isOn(e, "subscriptAction"));
-              },
-              Edits | Rich | Checked},
+              [](const Parts &p, bool on) { p.format.setStrikeOut(on); }, Edits | Rich | Checked | OnFormat},
+    ActionRow{
+        "superscriptAction", Menu::Format, "",
+        QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Su&perscript"), "Ctrl+.",
+        [](const Parts &p, bool on) { p.format.setVerticalAlignment(QTextCharFormat::AlignSuperScript, on); },
+        Edits | Rich | Checked},
+    ActionRow{
+        "subscriptAction", Menu::Format, "", QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Subs&cript"),
+        "Ctrl+,",
+        [](const Parts &p, bool on) { p.format.setVerticalAlignment(QTextCharFormat::AlignSubScript, on); },
+        Edits | Rich | Checked},
     ActionRow{"textColorAction", Menu::Format, "format-text-color",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Colour of the text…"), "",
-              [](Editor &e) { e.format->askTextColor(); }, Edits | Rich | OnFormat | Starts},
+              [](const Parts &p, bool) { p.format.askTextColor(); }, Edits | Rich | OnFormat | Starts},
     ActionRow{"highlightAction", Menu::Format, "format-text-highlight",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Colour be&hind the text…"), "",
-              [](Editor &e) { e.format->askHighlight(); }, Edits | Rich | OnFormat},
+              [](const Parts &p, bool) { p.format.askHighlight(); }, Edits | Rich | OnFormat},
     ActionRow{"clearFormatAction", Menu::Format, "edit-clear",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Cl&ear formats"), "Ctrl+Space",
-              [](Editor &e) { e.format->clearFormat(); }, Edits | Rich},
+              [](const Parts &p, bool) { p.format.clearFormat(); }, Edits | Rich},
     ActionRow{"textAction", Menu::Format, "", QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Te&xt"),
-              "Ctrl+Alt+0", [](Editor &e) { e.format->setHeading(0); }, Edits | Rich | Starts},
+              "Ctrl+Alt+0", [](const Parts &p, bool) { p.format.setHeading(0); }, Edits | Rich | Starts},
     ActionRow{"heading1Action", Menu::Format, "",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Heading &1"), "Ctrl+Alt+1",
-              [](Editor &e) { e.format->setHeading(1); }, Edits | Rich},
+              [](const Parts &p, bool) { p.format.setHeading(1); }, Edits | Rich},
     ActionRow{"heading2Action", Menu::Format, "",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Heading &2"), "Ctrl+Alt+2",
-              [](Editor &e) { e.format->setHeading(2); }, Edits | Rich},
+              [](const Parts &p, bool) { p.format.setHeading(2); }, Edits | Rich},
     ActionRow{"heading3Action", Menu::Format, "",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Heading &3"), "Ctrl+Alt+3",
-              [](Editor &e) { e.format->setHeading(3); }, Edits | Rich},
+              [](const Parts &p, bool) { p.format.setHeading(3); }, Edits | Rich},
     ActionRow{"alignLeftAction", Menu::Format, "format-justify-left",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Align &left"), "Ctrl+L",
-              [](Editor &e) { e.format->setAlignment(Qt::AlignLeft); },
+              [](const Parts &p, bool) { p.format.setAlignment(Qt::AlignLeft); },
               Edits | Rich | Checked | OnFormat | Starts},
     ActionRow{"alignCenterAction", Menu::Format, "format-justify-center",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Ce&ntre"), "Ctrl+Alt+C",
-              [](Editor &e) { e.format->setAlignment(Qt::AlignHCenter); }, Edits | Rich | Checked | OnFormat},
+              [](const Parts &p, bool) { p.format.setAlignment(Qt::AlignHCenter); },
+              Edits | Rich | Checked | OnFormat},
     ActionRow{"alignRightAction", Menu::Format, "format-justify-right",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Align &right"), "Ctrl+R",
-              [](Editor &e) { e.format->setAlignment(Qt::AlignRight); }, Edits | Rich | Checked | OnFormat},
+              [](const Parts &p, bool) { p.format.setAlignment(Qt::AlignRight); },
+              Edits | Rich | Checked | OnFormat},
     ActionRow{"justifyAction", Menu::Format, "format-justify-fill",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Justify"), "Ctrl+J",
-              [](Editor &e) { e.format->setAlignment(Qt::AlignJustify); }, Edits | Rich | Checked | OnFormat},
+              [](const Parts &p, bool) { p.format.setAlignment(Qt::AlignJustify); },
+              Edits | Rich | Checked | OnFormat},
     ActionRow{"bulletListAction", Menu::Format, "format-list-unordered",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&List"), "Ctrl+Shift+8",
-              [](Editor &e) { e.format->toggleList(QTextListFormat::ListDisc); },
+              [](const Parts &p, bool) { p.format.toggleList(QTextListFormat::ListDisc); },
               Edits | Rich | Checked | OnFormat | Starts},
     ActionRow{"numberListAction", Menu::Format, "format-list-ordered",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Nu&mbered list"), "Ctrl+Shift+7",
-              [](Editor &e) { e.format->toggleList(QTextListFormat::ListDecimal); },
+              [](const Parts &p, bool) { p.format.toggleList(QTextListFormat::ListDecimal); },
               Edits | Rich | Checked | OnFormat},
     ActionRow{"indentLessAction", Menu::Format, "format-indent-less",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Indent l&ess"), "Ctrl+[",
-              [](Editor &e) { e.format->indent(-1); }, Edits | Rich | OnFormat},
+              [](const Parts &p, bool) { p.format.indent(-1); }, Edits | Rich | OnFormat},
     ActionRow{"indentMoreAction", Menu::Format, "format-indent-more",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Ind&ent more"), "Ctrl+]",
-              [](Editor &e) { e.format->indent(1); }, Edits | Rich | OnFormat},
+              [](const Parts &p, bool) { p.format.indent(1); }, Edits | Rich | OnFormat},
 
     ActionRow{"rowAboveAction", Menu::Table, "table-row-insert",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Insert row &above"), "",
-              [](Editor &e) { e.table.insertRow(Side::Before); }, Edits | Rich | InTable | OnView | Starts},
+              [](const Parts &p, bool) { p.table.insertRow(Side::Before); },
+              Edits | Rich | InTable | OnView | Starts},
     ActionRow{"rowBelowAction", Menu::Table, "table-row-insert",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Insert row &below"), "Ctrl+Alt+Down",
-              [](Editor &e) { e.table.insertRow(Side::After); }, Edits | Rich | InTable | OnView},
+              [](const Parts &p, bool) { p.table.insertRow(Side::After); }, Edits | Rich | InTable | OnView},
     ActionRow{"columnBeforeAction", Menu::Table, "table-column-insert",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Insert column be&fore"), "",
-              [](Editor &e) { e.table.insertColumn(Side::Before); }, Edits | Rich | InTable | OnView},
+              [](const Parts &p, bool) { p.table.insertColumn(Side::Before); },
+              Edits | Rich | InTable | OnView},
     ActionRow{"columnAfterAction", Menu::Table, "table-column-insert",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Insert column af&ter"), "Ctrl+Alt+Right",
-              [](Editor &e) { e.table.insertColumn(Side::After); }, Edits | Rich | InTable | OnView},
+              [](const Parts &p, bool) { p.table.insertColumn(Side::After); },
+              Edits | Rich | InTable | OnView},
     ActionRow{"deleteRowAction", Menu::Table, "table-row-delete",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Delete &rows"), "",
-              [](Editor &e) { e.table.removeRows(); }, Edits | Rich | InTable | OnView | Starts},
+              [](const Parts &p, bool) { p.table.removeRows(); }, Edits | Rich | InTable | OnView | Starts},
     ActionRow{"deleteColumnAction", Menu::Table, "table-column-delete",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Delete &columns"), "",
-              [](Editor &e) { e.table.removeColumns(); }, Edits | Rich | InTable | OnView},
+              [](const Parts &p, bool) { p.table.removeColumns(); }, Edits | Rich | InTable | OnView},
     ActionRow{"mergeCellsAction", Menu::Table, "table-cells-merge",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Merge cells"), "",
-              [](Editor &e) { e.table.mergeCells(); }, Edits | Rich | InTable | OnView | Starts},
+              [](const Parts &p, bool) { p.table.mergeCells(); }, Edits | Rich | InTable | OnView | Starts},
     ActionRow{"splitCellAction", Menu::Table, "table-cells-split",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Split cell"), "",
-              [](Editor &e) { e.table.splitCell(); }, Edits | Rich | InTable | OnView},
+              [](const Parts &p, bool) { p.table.splitCell(); }, Edits | Rich | InTable | OnView},
 
     ActionRow{"richModeAction", Menu::View, "format-font",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Formatted text"), "Ctrl+Shift+F",
-              [](Editor &e) { e.qptr->setMode(AbstractTemplateEditor::Mode::Rich); },
+              [](const Parts &p, bool) { p.window.setMode(AbstractTemplateEditor::Mode::Rich); },
               Checked | OnBar | Starts},
     ActionRow{"plainModeAction", Menu::View, "view-source",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Source"), "Ctrl+Shift+U",
-              [](Editor &e) { e.qptr->setMode(AbstractTemplateEditor::Mode::Plain); }, Checked | OnBar},
+              [](const Parts &p, bool) { p.window.setMode(AbstractTemplateEditor::Mode::Plain); },
+              Checked | OnBar},
     ActionRow{"refreshAction", Menu::View, "view-refresh",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Refresh preview"), "F5",
-              [](Editor &e) { e.refresh(); }, Starts},
+              [](const Parts &p, bool) { p.window.refresh(); }, Starts},
     ActionRow{"runScriptAction", Menu::View, "run",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "R&un the script"), "Ctrl+Return",
-              [](Editor &e) {
-                  e.scriptDock->show();
-                  e.scriptPane->run();
-              },
-              None},
+              [](const Parts &p, bool) { p.scripts.run(); }, None},
 };
 
 struct PlatformKey
@@ -335,8 +340,8 @@ void addTo(Menu *menu, const ActionRow &row, QAction *action)
 
 } // namespace
 
-EditorActions::EditorActions(Editor &editor)
-    : m_editor(editor)
+EditorActions::EditorActions(const EditorParts &parts)
+    : m_parts(parts)
 {
     makeActions();
     makeMenus();
@@ -346,10 +351,10 @@ EditorActions::EditorActions(Editor &editor)
 void EditorActions::makeActions()
 {
     for (const ActionRow &row : kActions) {
-        QAction *action = makeAction(row, m_editor.qptr);
+        QAction *action = makeAction(row, &m_parts.window);
         m_actions.insert(row.name, action);
-        connect(action, &QAction::triggered, this, [this, run = row.run] {
-            run(m_editor);
+        connect(action, &QAction::triggered, this, [this, run = row.run](bool checked) {
+            run(m_parts, checked);
             update();
         });
     }
@@ -365,7 +370,7 @@ void EditorActions::makeActions()
 void EditorActions::makeMenus()
 {
     for (const MenuRow &menuRow : kMenus) {
-        QMenu *menu = m_editor.qptr->menuBar()->addMenu(tr(menuRow.title));
+        QMenu *menu = m_parts.window.menuBar()->addMenu(tr(menuRow.title));
         menu->setObjectName(QString::fromLatin1(menuRow.name));
         for (const ActionRow &row : kActions)
             if (row.menu == menuRow.menu)
@@ -373,17 +378,17 @@ void EditorActions::makeMenus()
         if (menuRow.menu == Menu::View)
             addViewEntries(menu);
     }
-    auto *recent = new QMenu(EditorActions::tr("Recent &files"), m_editor.qptr);
+    auto *recent = new QMenu(EditorActions::tr("Recent &files"), &m_parts.window);
     recent->setObjectName(u"recentMenu"_s);
-    m_editor.qptr->findChild<QMenu *>(u"fileMenu"_s)->insertMenu(action("saveAction"), recent);
-    connect(m_editor.qptr->findChild<QMenu *>(u"fileMenu"_s), &QMenu::aboutToShow, this,
-            [this, recent] { m_editor.files->fillRecentMenu(recent); });
-    auto *codes = new QMenu(EditorActions::tr("C&ode"), m_editor.qptr);
+    m_parts.window.findChild<QMenu *>(u"fileMenu"_s)->insertMenu(action("saveAction"), recent);
+    connect(m_parts.window.findChild<QMenu *>(u"fileMenu"_s), &QMenu::aboutToShow, this,
+            [this, recent] { m_parts.files.fillRecentMenu(recent); });
+    auto *codes = new QMenu(EditorActions::tr("C&ode"), &m_parts.window);
     codes->setObjectName(u"codeMenu"_s);
     codes->setIcon(OZMStyle::icon(u"insert-code"_s));
-    m_editor.qptr->findChild<QMenu *>(u"insertMenu"_s)->insertMenu(action("newScriptAction"), codes);
+    m_parts.window.findChild<QMenu *>(u"insertMenu"_s)->insertMenu(action("newScriptAction"), codes);
     connect(codes, &QMenu::aboutToShow, this, [this, codes] { fillCodeMenu(codes); });
-    for (QWidget *view : std::initializer_list<QWidget *>{m_editor.rich, m_editor.plain}) {
+    for (QWidget *view : std::initializer_list<QWidget *>{m_parts.views.rich(), m_parts.views.plain()}) {
         view->setContextMenuPolicy(Qt::ActionsContextMenu);
         for (const ActionRow &row : kActions)
             if (row.flags & OnView)
@@ -394,7 +399,7 @@ void EditorActions::makeMenus()
 void EditorActions::addViewEntries(QMenu *menu)
 {
     menu->addSeparator();
-    for (const QDockWidget *dock : {m_editor.codeDock, m_editor.scriptDock, m_editor.previewDock})
+    for (const QDockWidget *dock : m_parts.docks)
         menu->addAction(dock->toggleViewAction());
 }
 
@@ -402,25 +407,28 @@ void EditorActions::fillCodeMenu(QMenu *menu)
 {
     menu->clear();
     menu->setToolTipsVisible(true);
-    for (int row = 0; row < m_editor.codes->rowCount(); ++row) {
-        const QString code = m_editor.codes->codeAt(row);
-        QAction *action = menu->addAction(m_editor.codes->item(row)->text().replace(u'&', "&&"_L1));
+    for (int row = 0; row < m_parts.codes.rowCount(); ++row) {
+        const QString code = m_parts.codes.codeAt(row);
+        QAction *action = menu->addAction(m_parts.codes.item(row)->text().replace(u'&', "&&"_L1));
         action->setObjectName(u"codeAction"_s + code);
-        action->setToolTip(m_editor.codes->toolTip(code));
-        action->setDisabled(m_editor.isReadOnly);
-        connect(action, &QAction::triggered, this, [this, code] { m_editor.insertCode(code); });
+        action->setToolTip(m_parts.codes.toolTip(code));
+        action->setDisabled(m_parts.views.isReadOnly());
+        connect(action, &QAction::triggered, this, [this, code] {
+            m_parts.views.current().insertSource(code);
+            m_parts.views.current().widget()->setFocus();
+        });
     }
     menu->setDisabled(menu->isEmpty());
 }
 
 void EditorActions::makeToolBars()
 {
-    QToolBar *bar = m_editor.qptr->addToolBar(tr("Template"));
+    QToolBar *bar = m_parts.window.addToolBar(tr("Template"));
     bar->setObjectName(u"mainToolBar"_s);
-    m_editor.qptr->addToolBarBreak();
-    QToolBar *format = m_editor.qptr->addToolBar(tr("Format"));
+    m_parts.window.addToolBarBreak();
+    QToolBar *format = m_parts.window.addToolBar(tr("Format"));
     format->setObjectName(u"formatToolBar"_s);
-    m_editor.format->addChoices(format);
+    m_parts.format.addChoices(format);
     for (const ActionRow &row : kActions) {
         if (row.flags & OnBar)
             addTo(bar, row, action(row.name));
@@ -443,37 +451,37 @@ void EditorActions::check(const char *name, bool on) const
 
 void EditorActions::update()
 {
-    const bool rich = m_editor.isRich();
-    const bool inTable = rich && m_editor.table.isInTable();
+    const bool rich = m_parts.history.session().mode() == AbstractTemplateEditor::Mode::Rich;
+    const bool inTable = rich && m_parts.table.isInTable();
     for (const ActionRow &row : kActions) {
-        action(row.name)->setEnabled((!(row.flags & Edits) || !m_editor.isReadOnly) &&
+        action(row.name)->setEnabled((!(row.flags & Edits) || !m_parts.views.isReadOnly()) &&
                                      (!(row.flags & Rich) || rich) && (!(row.flags & InTable) || inTable));
     }
-    if (!m_editor.isReadOnly) {
-        action("undoAction")->setEnabled(m_editor.history->stack().canUndo());
-        action("redoAction")->setEnabled(m_editor.history->stack().canRedo());
-        action("mergeCellsAction")->setEnabled(inTable && m_editor.table.canMerge());
-        action("splitCellAction")->setEnabled(inTable && m_editor.table.canSplit());
+    if (!m_parts.views.isReadOnly()) {
+        action("undoAction")->setEnabled(m_parts.history.stack().canUndo());
+        action("redoAction")->setEnabled(m_parts.history.stack().canRedo());
+        action("mergeCellsAction")->setEnabled(inTable && m_parts.table.canMerge());
+        action("splitCellAction")->setEnabled(inTable && m_parts.table.canSplit());
     }
     check("richModeAction", rich);
     check("plainModeAction", !rich);
-    auto *bar = m_editor.qptr->findChild<QToolBar *>(u"formatToolBar"_s);
-    bar->setEnabled(rich && !m_editor.isReadOnly);
+    auto *bar = m_parts.window.findChild<QToolBar *>(u"formatToolBar"_s);
+    bar->setEnabled(rich && !m_parts.views.isReadOnly());
     if (!rich)
         return;
-    const QTextCharFormat format = m_editor.format->format();
+    const QTextCharFormat format = m_parts.format.format();
     check("boldAction", format.fontWeight() >= QFont::DemiBold);
     check("italicAction", format.fontItalic());
     check("underlineAction", format.fontUnderline());
     check("strikeAction", format.fontStrikeOut());
     check("superscriptAction", format.verticalAlignment() == QTextCharFormat::AlignSuperScript);
     check("subscriptAction", format.verticalAlignment() == QTextCharFormat::AlignSubScript);
-    const Qt::Alignment alignment = m_editor.format->alignment();
+    const Qt::Alignment alignment = m_parts.format.alignment();
     check("alignCenterAction", alignment == Qt::AlignHCenter);
     check("alignRightAction", alignment == Qt::AlignRight);
     check("justifyAction", alignment == Qt::AlignJustify);
     check("alignLeftAction", alignment == Qt::AlignLeft || alignment == Qt::Alignment());
-    const QTextListFormat::Style list = m_editor.format->listStyle();
+    const QTextListFormat::Style list = m_parts.format.listStyle();
     check("bulletListAction", list == QTextListFormat::ListDisc);
     check("numberListAction", list == QTextListFormat::ListDecimal);
 }

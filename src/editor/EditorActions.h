@@ -5,23 +5,59 @@
 #include <QHash>
 #include <QObject>
 
+#include <array>
+#include <functional>
+
 class QAction;
+class QDockWidget;
 class QMenu;
 
 namespace ozm::editor {
 
-/// Everything that can be done in the window, from one table: its menus, its tool bars, its keys.
+class CodeModel;
+class CodePanel;
+class EditorFiles;
+class EditorHistory;
+class EditorQuestions;
+class EditorScripts;
+class EditorViews;
+class FindBar;
+class TableEditing;
+class TemplatePrinting;
+class TextFormatting;
+
+/// The parts of the window that its actions work on.
+struct EditorParts
+{
+    AbstractTemplateEditor &window;
+    EditorFiles &files;
+    EditorHistory &history;
+    EditorViews &views;
+    EditorScripts &scripts;
+    EditorQuestions &questions;
+    TemplatePrinting &printing;
+    TextFormatting &format;
+    TableEditing &table;
+    FindBar &findBar;
+    CodeModel &codes;
+    CodePanel &codePanel;
+    QDockWidget *codeDock;
+    std::array<QDockWidget *, 3> docks;
+    std::function<QString()> decoded; ///< The filled template.
+};
+
+/// All that a user can do in the window, from one table: its menus, its tool bars, its keys.
 class EditorActions : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit EditorActions(AbstractTemplateEditor::Private &editor);
+    explicit EditorActions(const EditorParts &parts);
 
     /// By object name; there must be such an action.
     [[nodiscard]] QAction *action(const char *name) const;
 
-    /// Which of them can be used now, and which are in effect.
+    /// Enables the actions that can be used now, and checks those that are in effect.
     void update();
 
 private:
@@ -32,7 +68,7 @@ private:
     void fillCodeMenu(QMenu *menu);
     void check(const char *name, bool on) const;
 
-    AbstractTemplateEditor::Private &m_editor;
+    const EditorParts m_parts;
     QHash<QByteArray, QAction *> m_actions;
 };
 

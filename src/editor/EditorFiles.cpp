@@ -41,6 +41,12 @@ FileExtensionsNameFilter saveFilter()
     return FileExtensionsNameFilter(EditorFiles::tr("Templates (*.ozt);;Templates as HTML (*.html)"));
 }
 
+/// A template elsewhere than on a disk is watched and listed by nobody here.
+bool isLocal(const IFileAccessor::DestinationFileLocation &location)
+{
+    return !location.reference.dynamicCast<LocalResourceReference>().isNull();
+}
+
 IFileAccessor::DestinationFileLocation locationOf(const QString &path)
 {
     auto reference = QSharedPointer<LocalResourceReference>::create();
@@ -153,7 +159,7 @@ bool EditorFiles::open(const QString &path)
     }
     m_shown.show(loaded.value().content);
     if (!loaded.value().converted) {
-        setPath(path, loaded.value().digest);
+        setLocation(locationOf(path), loaded.value().digest);
         return true;
     }
     // Saved over, the page would be gone for whoever wrote it.
@@ -163,16 +169,22 @@ bool EditorFiles::open(const QString &path)
     return true;
 }
 
-void EditorFiles::setPath(const QString &path, const QByteArray &digest)
+void EditorFiles::setLocation(const IFileAccessor::DestinationFileLocation &location,
+                              const QByteArray &digest)
 {
-    m_file->opened(path, digest);
+    m_location = location;
+    m_file = std::make_unique<TemplateFile>();
     giveUp();
-    remember(path);
+    if (isLocal(location)) {
+        m_file->opened(path(), digest);
+        remember(path());
+    }
     Q_EMIT pathChanged();
 }
 
 void EditorFiles::setNoFile()
 {
+    m_location = {};
     m_file = std::make_unique<TemplateFile>();
     giveUp();
     Q_EMIT pathChanged();
@@ -182,13 +194,14 @@ bool EditorFiles::save()
 {
     if (path().isEmpty())
         return askSaveAs();
-    return mayReplaceChanged() && saveTo(locationOf(path()));
+    return mayReplaceChanged() && saveTo(IFileAccessor::DestinationFileLocation(m_location));
 }
 
 bool EditorFiles::askSaveAs()
 {
     const QString name = path().isEmpty() ? tr("template.ozt") : QFileInfo(path()).fileName();
-    const QString folder = path().isEmpty() ? m_editor->storageDirectory() : QFileInfo(path()).absolutePath();
+    const QString folder =
+        isLocal(m_location) ? QFileInfo(path()).absolutePath() : m_editor->storageDirectory();
     const auto location = DefaultWidgetCreator::fileAccessor()->getSaveFileName(
         m_editor, tr("Save template"), folder, name, saveFilter(), nullptr, {}, templateLocation());
     return !location.isCanceled() && saveTo(location);
@@ -205,7 +218,7 @@ bool EditorFiles::saveTo(const IFileAccessor::DestinationFileLocation &location)
         return false;
     }
     m_shown.setSaved();
-    setPath(path, {});
+    setLocation(location, {});
     Q_EMIT told(tr("Saved to %1").arg(QDir::toNativeSeparators(path)));
     Q_EMIT saved(path);
     return true;
@@ -279,7 +292,7 @@ void EditorFiles::storeNow()
 {
     if (!m_autosave)
         m_autosave = std::make_unique<TemplateAutosave>(storageName(*m_editor));
-    m_autosave->store(path(), m_shown.content());
+    m_autosave->store(isLocal(m_location) ? path() : QString(), m_shown.content());
 }
 
 void EditorFiles::offerRescued()
@@ -306,6 +319,7 @@ bool EditorFiles::openRescued(const TemplateAutosave::Rescued &copy)
     if (!mayDiscard())
         return false;
     m_shown.show(copy.content);
+    m_location = copy.path.isEmpty() ? IFileAccessor::DestinationFileLocation() : locationOf(copy.path);
     m_file = std::make_unique<TemplateFile>();
     if (!copy.path.isEmpty())
         m_file->opened(copy.path);

@@ -15,8 +15,8 @@ class QMenu;
 
 namespace ozm::editor {
 
-/// Where the window's template comes from and goes to, and everything that is asked on the way, so that what
-/// was written is never lost: neither by a wrong file, nor by a failed save, nor by the end of the program.
+/// Opens and saves the window's template and asks what has to be asked on the way, so that no work is lost:
+/// neither by a wrong file, nor by a failed save, nor by the end of the program.
 class EditorFiles : public QObject
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ public:
         std::function<QString()> content;
         std::function<bool()> isModified;
         std::function<void(const QString &content)> show;
-        /// What is shown is nowhere in this state.
+        /// From now on the window holds unsaved work.
         std::function<void()> setUnsaved;
         std::function<void()> setSaved;
     };
@@ -35,7 +35,8 @@ public:
     EditorFiles(AbstractTemplateEditor *editor, const Template &shown);
     ~EditorFiles() override;
 
-    [[nodiscard]] QString path() const { return m_file->path(); }
+    /// Where the template is, for people and for file functions; empty for one that is nowhere yet.
+    [[nodiscard]] QString path() const { return m_location.toString(); }
     void fillRecentMenu(QMenu *menu);
 
     void askNew();
@@ -48,7 +49,7 @@ public:
     /// The template that is shown now is in no file.
     void setNoFile();
 
-    /// What is not saved is given up by the user's own word.
+    /// Drops the kept copy: the work is saved, or the user has given it up.
     void giveUp();
 
     void storeSoon();
@@ -65,20 +66,21 @@ private:
     [[nodiscard]] Result<TemplateFile::Loaded> read(const QString &path);
     bool saveTo(const IFileAccessor::DestinationFileLocation &location);
     [[nodiscard]] bool mayReplaceChanged();
-    void setPath(const QString &path, const QByteArray &digest);
+    void setLocation(const IFileAccessor::DestinationFileLocation &location, const QByteArray &digest);
     [[nodiscard]] bool openRescued(const TemplateAutosave::Rescued &copy);
     void remember(const QString &path);
     void storeNow();
 
     AbstractTemplateEditor *m_editor;
     const Template m_shown;
-    std::unique_ptr<TemplateFile> m_file;
+    IFileAccessor::DestinationFileLocation m_location; ///< As the accessor gave it, which takes it back.
+    std::unique_ptr<TemplateFile> m_file;              ///< Watches a local file; follows no other.
     std::unique_ptr<TemplateAutosave> m_autosave;
     QTimer m_storeTimer;
     bool m_isAsking = false;
 };
 
-/// What is said of everything that is no template.
+/// Tells that a text is not a template.
 void tellWrongFormat(QWidget *parent);
 
 } // namespace ozm::editor

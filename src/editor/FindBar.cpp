@@ -1,5 +1,7 @@
 #include "editor/FindBar.h"
 
+#include "editor/EditorViews.h"
+
 #include <ozm_widgets/OZMStyle.h>
 #include <ozm_widgets/TemplateDocument.h>
 
@@ -55,9 +57,9 @@ bool isChip(const QTextCursor &cursor)
 
 } // namespace
 
-FindBar::FindBar(const Target &target, QWidget *parent)
+FindBar::FindBar(EditorViews &views, QWidget *parent)
     : QWidget(parent)
-    , m_target(target)
+    , m_views(views)
     , m_text(makeField("findText", tr("Find")))
     , m_replacement(makeField("replaceText", tr("Replace by")))
     , m_case(new QCheckBox(tr("&Match case"), this))
@@ -125,12 +127,12 @@ void FindBar::arrange()
 
 void FindBar::open(bool replacing)
 {
-    const QTextCursor cursor = m_target.cursor();
+    const QTextCursor cursor = m_views.current().cursor();
     const QString text = cursor.selectedText();
     if (!text.isEmpty() && !text.contains(QChar::ParagraphSeparator) &&
         !text.contains(QChar::ObjectReplacementCharacter))
         m_text->setText(text);
-    m_replaceRow->setVisible(replacing && !m_target.isReadOnly());
+    m_replaceRow->setVisible(replacing && !m_views.isReadOnly());
     m_outcome->clear();
     show();
     m_text->setFocus(Qt::ShortcutFocusReason);
@@ -163,7 +165,7 @@ void FindBar::find(bool backward)
 {
     if (m_text->text().isEmpty())
         return;
-    const QTextCursor from = m_target.cursor();
+    const QTextCursor from = m_views.current().cursor();
     QTextCursor match = found(from, backward);
     m_outcome->clear();
     if (match.isNull()) {
@@ -173,7 +175,7 @@ void FindBar::find(bool backward)
         m_outcome->setText(match.isNull() ? tr("Not found") : tr("Went on from the other end"));
     }
     if (!match.isNull())
-        m_target.setCursor(match);
+        m_views.current().setCursor(match);
 }
 
 void FindBar::findNext()
@@ -203,28 +205,28 @@ void FindBar::replaceAt(QTextCursor &cursor) const
 
 void FindBar::replace()
 {
-    QTextCursor cursor = m_target.cursor();
+    QTextCursor cursor = m_views.current().cursor();
     const bool isMatch =
         cursor.hasSelection() &&
         (isChip(cursor) ? chipHolds(*qobject_cast<TemplateDocument *>(cursor.document()),
                                     cursor.selectionStart(), m_text->text(), Qt::CaseInsensitive)
                         : cursor.selectedText().compare(m_text->text(), Qt::CaseInsensitive) == 0);
-    if (isMatch && !m_target.isReadOnly() && m_target.mayRemove(cursor)) {
+    if (isMatch && !m_views.isReadOnly() && m_views.current().mayRemove(cursor)) {
         replaceAt(cursor);
-        m_target.setCursor(cursor);
+        m_views.current().setCursor(cursor);
     }
     findNext();
 }
 
 void FindBar::replaceAll()
 {
-    if (m_target.isReadOnly() || m_text->text().isEmpty())
+    if (m_views.isReadOnly() || m_text->text().isEmpty())
         return;
     int count = 0;
-    QTextCursor edit(m_target.cursor().document());
+    QTextCursor edit(m_views.current().cursor().document());
     edit.beginEditBlock();
     for (QTextCursor match = found(edit, false); !match.isNull(); match = found(match, false)) {
-        if (!m_target.mayRemove(match))
+        if (!m_views.current().mayRemove(match))
             continue;
         replaceAt(match);
         match.clearSelection();

@@ -3,8 +3,6 @@
 #include <QTextDocument>
 #include <QWidget>
 
-#include <functional>
-
 class QCheckBox;
 class QLabel;
 class QLineEdit;
@@ -12,23 +10,17 @@ class QToolButton;
 
 namespace ozm::editor {
 
+class EditorViews;
+
 /// Finds and replaces in the view that is shown: text, and the text of chips.
 class FindBar : public QWidget
 {
     Q_OBJECT
 
 public:
-    struct Target
-    {
-        std::function<QTextCursor()> cursor;
-        std::function<void(const QTextCursor &)> setCursor;
-        std::function<bool(const QTextCursor &)> mayRemove;
-        std::function<bool()> isReadOnly;
-    };
+    FindBar(EditorViews &views, QWidget *parent);
 
-    FindBar(const Target &target, QWidget *parent);
-
-    /// With the present selection as what is looked for, if it is of one line.
+    /// Looks for the present selection, if it lies within one line.
     void open(bool replacing);
     void findNext();
     void findPrevious();
@@ -51,7 +43,7 @@ private:
     [[nodiscard]] QLineEdit *makeField(const char *name, const QString &text);
     void arrange();
 
-    const Target m_target;
+    EditorViews &m_views;
     QLineEdit *m_text;
     QLineEdit *m_replacement;
     QCheckBox *m_case;

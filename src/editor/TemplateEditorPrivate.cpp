@@ -1,35 +1,25 @@
 #include "editor/TemplateEditorPrivate.h"
 
-#include "editor/CodeEdit.h"
 #include "editor/CodeModel.h"
 #include "editor/CodePanel.h"
-#include "editor/EditorActions.h"
-#include "editor/EditorFiles.h"
 #include "editor/FindBar.h"
 #include "editor/RichTextView.h"
 #include "editor/ScriptPane.h"
-#include "editor/SourceHighlighter.h"
 #include "editor/TextFormatting.h"
 #include "templates/decoding/TemplateDecoder.h"
-#include "templates/syntax/ScriptTags.h"
 
 #include <ozm_common_core_mini/RowNode.h>
 #include <ozm_widgets/OZMDockWidgetTitleBar.h>
 
 #include <QApplication>
-#include <QClipboard>
 #include <QDockWidget>
 #include <QFileInfo>
-#include <QMimeData>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QTextBlock>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 using namespace ozm::editor;
-namespace syntax = ozm::syntax;
-using ozm::TemplateDocument;
 
 namespace {
 
@@ -40,7 +30,7 @@ constexpr int kPreviewWidth = 430;
 constexpr int kScriptHeight = 190;
 constexpr int kStatusMs = 10000;
 
-/// In the order in which they stand at @p part in @p text, the one at @p offset.
+/// How often @p part occurs in @p text before @p offset.
 int occurrence(const QString &text, qsizetype offset, const QString &part)
 {
     int count = 0;
@@ -61,23 +51,39 @@ qsizetype offsetOfOccurrence(const QString &text, int number, const QString &par
 
 AbstractTemplateEditor::Private::Private(AbstractTemplateEditor *editor)
     : qptr(editor)
-    , history(new EditorHistory(this))
-    , codes(new CodeModel(this))
-    , rich(new RichTextView(codes, editor))
-    , plain(new CodeEdit(editor))
-    , format(new TextFormatting(rich))
-    , table(rich)
-    , files(std::make_unique<EditorFiles>(
-          editor, EditorFiles::Template{[this] { return content(); }, [this] { return isModified(); },
-                                        [this](const QString &content) { show(content); },
-                                        [this] {
-                                            history->stack().resetClean();
-                                            updateTitle();
-                                        },
-                                        [this] { history->setClean(); }}))
+    , m_history(new EditorHistory(this))
+    , m_codes(new CodeModel(this))
+    , m_views(m_codes, editor)
+    , m_format(new TextFormatting(m_views.rich()))
+    , m_table(m_views.rich())
+    , m_files(editor, EditorFiles::Template{[this] { return content(); }, [this] { return isModified(); },
+                                            [this](const QString &content) { show(content); },
+                                            [this] {
+                                                m_history->stack().resetClean();
+                                                updateTitle();
+                                            },
+                                            [this] { m_history->setClean(); }})
+    , m_questions(m_views, m_printing, {[this] { return decode(content()).text; }, [this] { return name(); }},
+                  editor)
 {
-    build();
-    actions = std::make_unique<EditorActions>(*this);
+    buildCenter();
+    buildDocks();
+    m_scripts = std::make_unique<EditorScripts>(m_views, m_scriptPane, m_scriptDock);
+    m_actions = std::make_unique<EditorActions>(EditorParts{*qptr,
+                                                            m_files,
+                                                            *m_history,
+                                                            m_views,
+                                                            *m_scripts,
+                                                            m_questions,
+                                                            m_printing,
+                                                            *m_format,
+                                                            m_table,
+                                                            *m_findBar,
+                                                            *m_codes,
+                                                            *m_codePanel,
+                                                            m_codeDock,
+                                                            {m_codeDock, m_scriptDock, m_previewDock},
+                                                            [this] { return decode(content()).text; }});
     connectParts();
     showSession();
     updateState();
@@ -86,57 +92,46 @@ AbstractTemplateEditor::Private::Private(AbstractTemplateEditor *editor)
 
 AbstractTemplateEditor::Private::~Private()
 {
-    history->disconnect();
-    history->stack().disconnect();
+    m_history->disconnect();
+    m_history->stack().disconnect();
     // The documents go with the history, and must not be shown any more by then.
-    rich->showDocument(nullptr);
-    plain->showDocument(nullptr);
+    m_views.showNothing();
 }
 
-void AbstractTemplateEditor::Private::build()
+void AbstractTemplateEditor::Private::buildCenter()
 {
     qptr->resize(kWidth, kHeight);
-    rich->setObjectName(u"richView"_s);
-    rich->setAccessibleName(tr("Formatted template"));
-    plain->setObjectName(u"plainView"_s);
-    plain->setAccessibleName(tr("Source of the template"));
-    plain->setUndoneOutside(true);
-    plain->setCompletion(codes);
-    views = new QStackedWidget(qptr);
-    views->setObjectName(u"views"_s);
-    views->addWidget(rich);
-    views->addWidget(plain);
-    findBar = new FindBar({[this] { return cursor(); }, [this](const QTextCursor &at) { setCursor(at); },
-                           [this](const QTextCursor &selection) { return mayRemove(selection); },
-                           [this] { return isReadOnly; }},
-                          qptr);
-    findBar->setObjectName(u"findBar"_s);
+    m_findBar = new FindBar(m_views, qptr);
+    m_findBar->setObjectName(u"findBar"_s);
     auto *center = new QWidget(qptr);
     auto *layout = new QVBoxLayout(center);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(views, 1);
-    layout->addWidget(findBar);
+    layout->addWidget(m_views.widget(), 1);
+    layout->addWidget(m_findBar);
     qptr->setCentralWidget(center);
+    qptr->statusBar()->setObjectName(u"statusBar"_s);
+}
 
-    codePanel = new CodePanel(codes, qptr);
-    scriptPane = new ScriptPane(
-        codes, [this](const QString &content) { return decode(content); }, qptr);
-    preview = new PreviewPane(
+void AbstractTemplateEditor::Private::buildDocks()
+{
+    m_codePanel = new CodePanel(m_codes, qptr);
+    m_scriptPane = new ScriptPane(
+        m_codes, [this](const QString &content) { return decode(content); }, qptr);
+    m_preview = new PreviewPane(
         [this] {
             const QString source = content();
             return PreviewPane::Decoded{source, decode(source)};
         },
         qptr);
-    codeDock = addDock("codeDock", tr("Codes"), codePanel, Qt::LeftDockWidgetArea);
-    scriptDock = addDock("scriptDock", tr("Script"), scriptPane, Qt::BottomDockWidgetArea);
-    previewDock = addDock("previewDock", tr("Preview"), preview, Qt::RightDockWidgetArea);
+    m_codeDock = addDock("codeDock", tr("Codes"), m_codePanel, Qt::LeftDockWidgetArea);
+    m_scriptDock = addDock("scriptDock", tr("Script"), m_scriptPane, Qt::BottomDockWidgetArea);
+    m_previewDock = addDock("previewDock", tr("Preview"), m_preview, Qt::RightDockWidgetArea);
     qptr->setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     qptr->setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
-    qptr->resizeDocks({codeDock, previewDock}, {kCodesWidth, kPreviewWidth}, Qt::Horizontal);
-    qptr->resizeDocks({scriptDock}, {kScriptHeight}, Qt::Vertical);
-    scriptDock->hide();
-    qptr->statusBar()->setObjectName(u"statusBar"_s);
+    qptr->resizeDocks({m_codeDock, m_previewDock}, {kCodesWidth, kPreviewWidth}, Qt::Horizontal);
+    qptr->resizeDocks({m_scriptDock}, {kScriptHeight}, Qt::Vertical);
+    m_scriptDock->hide();
 }
 
 QDockWidget *AbstractTemplateEditor::Private::addDock(const char *name, const QString &title,
@@ -152,209 +147,72 @@ QDockWidget *AbstractTemplateEditor::Private::addDock(const char *name, const QS
 
 void AbstractTemplateEditor::Private::connectParts()
 {
-    connect(history, &EditorHistory::sessionChanged, this, &Private::showSession);
-    connect(history, &EditorHistory::went, this, &Private::setCursor);
-    connect(history, &EditorHistory::edited, this, [this] {
-        preview->updateSoon();
-        files->storeSoon();
+    RichTextView *rich = m_views.rich();
+    connect(m_history, &EditorHistory::sessionChanged, this, &Private::showSession);
+    connect(m_history, &EditorHistory::went, this, &Private::goToEdit);
+    connect(m_history, &EditorHistory::edited, this, [this] {
+        m_preview->updateSoon();
+        m_files.storeSoon();
         Q_EMIT qptr->sourceTextChanged();
     });
-    connect(&history->stack(), &QUndoStack::indexChanged, this, &Private::updateState);
-    connect(&history->stack(), &QUndoStack::cleanChanged, this, &Private::updateState);
+    connect(&m_history->stack(), &QUndoStack::indexChanged, this, &Private::updateState);
+    connect(&m_history->stack(), &QUndoStack::cleanChanged, this, &Private::updateState);
     connect(rich, &QTextEdit::cursorPositionChanged, this, &Private::updateState);
     connect(rich, &QTextEdit::currentCharFormatChanged, this, &Private::updateState);
-    connect(rich, &RichTextView::scriptActivated, this, &Private::editScript);
+    connect(rich, &RichTextView::scriptActivated, m_scripts.get(), &EditorScripts::editAtCursor);
     connect(rich, &RichTextView::removalRefused, this,
             [this](const QString &code) { tell(tr("%1 may not be removed from this template.").arg(code)); });
-    connect(codePanel, &CodePanel::chosen, this, &Private::insertCode);
-    connect(scriptPane, &ScriptPane::applied, this, &Private::applyScript);
-    connect(scriptPane, &ScriptPane::newRequested, this, &Private::newScript);
-    connect(preview, &PreviewPane::placeChosen, this, &Private::goTo);
-    connect(findBar, &FindBar::closed, this, [this] {
-        findBar->hide();
-        view()->setFocus();
+    connect(m_codePanel, &CodePanel::chosen, this, &Private::insertCode);
+    connect(m_preview, &PreviewPane::placeChosen, this, &Private::goTo);
+    connect(m_findBar, &FindBar::closed, this, [this] {
+        m_findBar->hide();
+        m_views.current().widget()->setFocus();
     });
-    connect(files.get(), &EditorFiles::pathChanged, this, &Private::updateTitle);
-    connect(files.get(), &EditorFiles::told, this, &Private::tell);
-    connect(files.get(), &EditorFiles::saved, qptr, &AbstractTemplateEditor::saved);
+    connect(m_scripts.get(), &EditorScripts::told, this, &Private::tell);
+    connect(&m_questions, &EditorQuestions::told, this, &Private::tell);
+    connect(&m_files, &EditorFiles::pathChanged, this, &Private::updateTitle);
+    connect(&m_files, &EditorFiles::told, this, &Private::tell);
+    connect(&m_files, &EditorFiles::saved, qptr, &AbstractTemplateEditor::saved);
+}
+
+QString AbstractTemplateEditor::Private::content() const
+{
+    return m_history->session().source();
+}
+
+AbstractTemplateEditor::Mode AbstractTemplateEditor::Private::mode() const
+{
+    return m_history->session().mode();
+}
+
+bool AbstractTemplateEditor::Private::isModified() const
+{
+    return m_history->isModified();
+}
+
+QString AbstractTemplateEditor::Private::name() const
+{
+    return m_files.path().isEmpty() ? tr("report") : QFileInfo(m_files.path()).completeBaseName();
 }
 
 void AbstractTemplateEditor::Private::showSession()
 {
-    const EditorSession &session = history->session();
-    const bool formatted = isRich();
-    if (TemplateDocument *document = session.richDocument())
-        document->setDisplayNames(codes->displayNames());
-    rich->showDocument(session.richDocument());
-    plain->showDocument(formatted ? nullptr : session.document());
-    if (!formatted && !session.isLarge() && !session.document()->findChild<SourceHighlighter *>())
-        new SourceHighlighter(session.document(), codes, SourceHighlighter::Language::Template);
-    views->setCurrentIndex(formatted ? 0 : 1);
-    preview->setPaused(session.isLarge());
-    view()->setFocus();
-    if (actions)
-        updateState();
-    Q_EMIT qptr->modeChanged(session.mode());
+    m_views.show(m_history->session());
+    m_preview->setPaused(m_history->session().isLarge());
+    updateState();
+    Q_EMIT qptr->modeChanged(mode());
 }
 
-QWidget *AbstractTemplateEditor::Private::view() const
+void AbstractTemplateEditor::Private::goToEdit(const QTextCursor &cursor)
 {
-    return views->currentWidget();
-}
-
-QTextCursor AbstractTemplateEditor::Private::cursor() const
-{
-    return isRich() ? rich->textCursor() : plain->textCursor();
-}
-
-void AbstractTemplateEditor::Private::setCursor(const QTextCursor &cursor)
-{
-    if (cursor.document() != history->session().document())
-        return;
-    if (isRich()) {
-        rich->setTextCursor(cursor);
-        rich->ensureCursorVisible();
-    } else {
-        plain->setTextCursor(cursor);
-        plain->centerCursor();
-    }
-}
-
-bool AbstractTemplateEditor::Private::mayRemove(const QTextCursor &selection)
-{
-    return !isRich() || rich->mayRemove(selection);
+    if (!cursor.isNull() && cursor.document() == m_history->session().document())
+        m_views.current().setCursor(cursor);
 }
 
 void AbstractTemplateEditor::Private::insertCode(const QString &code)
 {
-    insertSource(code);
-    view()->setFocus();
-}
-
-void AbstractTemplateEditor::Private::insertSource(const QString &source)
-{
-    if (isRich())
-        rich->insertSource(source);
-    else
-        plain->insertAtCursor(source);
-}
-
-void AbstractTemplateEditor::Private::cut()
-{
-    if (isRich())
-        rich->cutSelection();
-    else
-        plain->cut();
-}
-
-void AbstractTemplateEditor::Private::copy()
-{
-    if (isRich())
-        rich->copy();
-    else
-        plain->copy();
-}
-
-void AbstractTemplateEditor::Private::paste()
-{
-    if (!isRich())
-        plain->paste();
-    else if (rich->mayRemove(rich->textCursor()))
-        rich->paste();
-}
-
-void AbstractTemplateEditor::Private::pastePlain()
-{
-    const QMimeData *data = QApplication::clipboard()->mimeData();
-    if (!data || !data->hasText())
-        return;
-    if (isRich())
-        rich->insertPlain(data->text());
-    else
-        plain->insertAtCursor(data->text());
-}
-
-void AbstractTemplateEditor::Private::selectAll()
-{
-    if (isRich())
-        rich->selectAll();
-    else
-        plain->selectAll();
-}
-
-QTextCursor AbstractTemplateEditor::Private::scriptAtCursor() const
-{
-    QTextCursor place = cursor();
-    if (const TemplateDocument *document = history->session().richDocument()) {
-        const int start = place.selectionStart();
-        for (const int position : {start, start - 1}) {
-            if (document->chipAt(position).kind == TemplateDocument::ChipKind::Script) {
-                place.setPosition(position);
-                place.setPosition(position + 1, QTextCursor::KeepAnchor);
-                return place;
-            }
-        }
-        return {};
-    }
-    const auto script = syntax::scriptAround(history->session().documentSource(), place.position());
-    if (!script)
-        return {};
-    place.setPosition(int(script->start));
-    place.setPosition(int(script->end), QTextCursor::KeepAnchor);
-    return place;
-}
-
-bool AbstractTemplateEditor::Private::isScript(const QTextCursor &place) const
-{
-    if (place.isNull() || place.document() != history->session().document() || !place.hasSelection())
-        return false;
-    if (const TemplateDocument *document = history->session().richDocument())
-        return document->chipAt(place.selectionStart()).kind == TemplateDocument::ChipKind::Script;
-    return syntax::isScript(place.selectedText());
-}
-
-void AbstractTemplateEditor::Private::newScript()
-{
-    m_scriptPlace = QTextCursor();
-    scriptDock->show();
-    scriptPane->edit({}, true);
-}
-
-void AbstractTemplateEditor::Private::editScript()
-{
-    const QTextCursor place = scriptAtCursor();
-    if (place.isNull()) {
-        tell(tr("There is no script at the cursor."));
-        return;
-    }
-    m_scriptPlace = place;
-    QString script = place.selectedText().replace(QChar::ParagraphSeparator, u'\n');
-    if (const TemplateDocument *document = history->session().richDocument())
-        script = document->chipAt(place.selectionStart()).source;
-    scriptDock->show();
-    scriptPane->edit(script, false);
-}
-
-void AbstractTemplateEditor::Private::applyScript(const QString &script)
-{
-    if (isReadOnly)
-        return;
-    QTextCursor place = m_scriptPlace;
-    if (!isScript(place)) {
-        insertSource(script);
-        place = cursor();
-        place.setPosition(place.position() - (isRich() ? 1 : int(script.size())), QTextCursor::KeepAnchor);
-    } else {
-        const int start = place.selectionStart();
-        if (TemplateDocument *document = history->session().richDocument())
-            document->setChipSource(start, script);
-        else
-            place.insertText(script);
-        place.setPosition(start);
-        place.setPosition(start + (isRich() ? 1 : int(script.size())), QTextCursor::KeepAnchor);
-    }
-    m_scriptPlace = place;
-    tell(tr("The script is in the template."));
+    m_views.current().insertSource(code);
+    m_views.current().widget()->setFocus();
 }
 
 void AbstractTemplateEditor::Private::refresh()
@@ -364,25 +222,29 @@ void AbstractTemplateEditor::Private::refresh()
     QMap<QString, QVariant> parameters;
     for (const RowNode *row : rows)
         names.append(qptr->previewName(*row));
-    if (!rows.isEmpty())
+    if (!rows.isEmpty()) {
         for (const QString &column : rows.constFirst()->columnNames())
             parameters.insert(u'[' + column + u']', rows.constFirst()->getDataAt(column));
-    codes->setCodes(qptr->shortCodes(), parameters);
-    if (TemplateDocument *document = history->session().richDocument()) {
-        document->setDisplayNames(codes->displayNames());
-        rich->viewport()->update();
-    } else if (auto *highlighter = history->session().document()->findChild<SourceHighlighter *>()) {
-        highlighter->rehighlight();
     }
-    preview->setRows(names);
-    if (history->session().isLarge() && isShown)
-        preview->updateNow();
+    m_codes->setCodes(qptr->shortCodes(), parameters);
+    m_views.refresh(m_history->session());
+    m_preview->setRows(names);
+    if (m_history->session().isLarge() && m_isShown)
+        m_preview->updateNow();
+}
+
+bool AbstractTemplateEditor::Private::showFirstTime()
+{
+    if (std::exchange(m_isShown, true))
+        return false;
+    refresh();
+    return true;
 }
 
 ozm::TemplateReport AbstractTemplateEditor::Private::decode(const QString &content) const
 {
     const QList<RowNode *> rows = qptr->previewRows();
-    const int index = preview->row();
+    const int index = m_preview->row();
     if (rows.isEmpty())
         return ozm::decodeContent(content, qptr->extraData(nullptr));
     const RowNode *row = index < 0 || index >= rows.size() ? nullptr : rows.at(index);
@@ -390,51 +252,36 @@ ozm::TemplateReport AbstractTemplateEditor::Private::decode(const QString &conte
                : decodeTECReport(content, rows, qptr->extraData(nullptr));
 }
 
-QString AbstractTemplateEditor::Private::decodedForPaper() const
-{
-    return decode(content()).text;
-}
-
 void AbstractTemplateEditor::Private::goTo(const QString &content, qsizetype offset, const QString &part)
 {
-    // What was decoded may be written otherwise in the document, and may have been edited since.
-    const QString source = history->session().documentSource();
+    // The document may write the decoded text in another way, and may have been edited since.
+    const QString source = m_history->session().documentSource();
     const qsizetype place = offsetOfOccurrence(source, occurrence(content, offset, part), part);
     if (place < 0) {
         tell(tr("This place is no longer in the template."));
         return;
     }
-    QTextCursor cursor(history->session().document());
-    const TemplateDocument *document = history->session().richDocument();
-    cursor.setPosition(document ? qMax(0, document->positionOf(place)) : int(place));
-    const int length = document ? 1 : int(part.size());
-    cursor.setPosition(cursor.position() + length, QTextCursor::KeepAnchor);
-    setCursor(cursor);
-    view()->setFocus();
-}
-
-void AbstractTemplateEditor::Private::find(bool replacing)
-{
-    findBar->open(replacing);
+    m_views.current().select(place, part.size());
+    m_views.current().widget()->setFocus();
 }
 
 void AbstractTemplateEditor::Private::show(const QString &content)
 {
     const bool large = content.size() > EditorSession::kLargestRich;
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    history->start(large ? Mode::Plain : history->session().mode(), content);
+    m_history->start(large ? Mode::Plain : mode(), content);
     QApplication::restoreOverrideCursor();
     updateState();
     if (large)
         tell(tr("The template is large, and shown as its source."));
 }
 
-void AbstractTemplateEditor::Private::setMode(Mode mode)
+void AbstractTemplateEditor::Private::setMode(Mode newMode)
 {
-    if (mode == Mode::Rich && !isRich() && content().size() > EditorSession::kLargestRich)
+    if (newMode == Mode::Rich && mode() != newMode && content().size() > EditorSession::kLargestRich)
         tell(tr("The template is too large to be shown as formatted text."));
     else
-        history->switchTo(mode);
+        m_history->switchTo(newMode);
     updateState();
 }
 
@@ -445,26 +292,23 @@ void AbstractTemplateEditor::Private::tell(const QString &text)
 
 void AbstractTemplateEditor::Private::setReadOnly(bool on)
 {
-    isReadOnly = on;
-    const Qt::TextInteractionFlags reading = Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse;
-    rich->setTextInteractionFlags(on ? reading : Qt::TextEditorInteraction);
-    plain->setTextInteractionFlags(on ? reading : Qt::TextEditorInteraction);
-    codePanel->setReadOnly(on);
-    scriptPane->setReadOnly(on);
+    m_views.setReadOnly(on);
+    m_codePanel->setReadOnly(on);
+    m_scriptPane->setReadOnly(on);
     updateState();
     updateTitle();
 }
 
 void AbstractTemplateEditor::Private::updateState()
 {
-    actions->update();
+    m_actions->update();
     qptr->setWindowModified(isModified());
 }
 
 void AbstractTemplateEditor::Private::updateTitle()
 {
-    const QString name = files->path().isEmpty() ? tr("New template") : QFileInfo(files->path()).fileName();
-    qptr->setWindowTitle(isReadOnly ? tr("%1[*] (read only) - Template editor").arg(name)
-                                    : tr("%1[*] - Template editor").arg(name));
+    const QString file = m_files.path().isEmpty() ? tr("New template") : QFileInfo(m_files.path()).fileName();
+    qptr->setWindowTitle(m_views.isReadOnly() ? tr("%1[*] (read only) - Template editor").arg(file)
+                                              : tr("%1[*] - Template editor").arg(file));
     qptr->setWindowModified(isModified());
 }

@@ -1,6 +1,11 @@
 #pragma once
 
+#include "editor/EditorActions.h"
+#include "editor/EditorFiles.h"
 #include "editor/EditorHistory.h"
+#include "editor/EditorQuestions.h"
+#include "editor/EditorScripts.h"
+#include "editor/EditorViews.h"
 #include "editor/PreviewPane.h"
 #include "editor/TableEditing.h"
 #include "templates/paper/TemplatePrinting.h"
@@ -11,23 +16,15 @@
 
 #include <memory>
 
-class QDockWidget;
-class QStackedWidget;
-class QToolBar;
-
 namespace ozm::editor {
-class CodeEdit;
-class CodeModel;
 class CodePanel;
-class EditorActions;
-class EditorFiles;
 class FindBar;
-class RichTextView;
 class ScriptPane;
 class TextFormatting;
 } // namespace ozm::editor
 
-/// The parts of the window, and what goes on between them. The widgets belong to the window.
+/// Puts the parts of the window together, and passes on what one of them has to say to the others. The
+/// widgets belong to the window.
 class AbstractTemplateEditor::Private : public QObject
 {
     Q_DECLARE_TR_FUNCTIONS(AbstractTemplateEditor)
@@ -36,76 +33,54 @@ public:
     explicit Private(AbstractTemplateEditor *editor);
     ~Private() override;
 
-    [[nodiscard]] QString content() const { return history->session().source(); }
-    [[nodiscard]] bool isRich() const { return history->session().mode() == Mode::Rich; }
-    [[nodiscard]] bool isModified() const { return history->isModified(); }
+    [[nodiscard]] QString content() const;
+    [[nodiscard]] Mode mode() const;
+    [[nodiscard]] bool isModified() const;
+    [[nodiscard]] bool isReadOnly() const { return m_views.isReadOnly(); }
+    [[nodiscard]] ozm::editor::EditorFiles &files() { return m_files; }
 
-    // Views, whichever is shown.
-    [[nodiscard]] QWidget *view() const;
-    [[nodiscard]] QTextCursor cursor() const;
-    void setCursor(const QTextCursor &cursor);
-    [[nodiscard]] bool mayRemove(const QTextCursor &selection);
-    void insertCode(const QString &code);
-    void insertSource(const QString &source);
-    void cut();
-    void copy();
-    void paste();
-    void pastePlain();
-    void selectAll();
-
-    // Scripts.
-    void newScript();
-    void editScript();
-    void applyScript(const QString &script);
-
-    // Data.
-    void refresh();
-    [[nodiscard]] ozm::TemplateReport decode(const QString &content) const;
-    [[nodiscard]] QString decodedForPaper() const;
-    void goTo(const QString &content, qsizetype offset, const QString &part);
-
-    // Insertion that asks.
-    void askImage();
-    void askLink();
-    void askPdf();
-
-    void find(bool replacing);
+    /// Shows another template, as if it had just been opened.
     void show(const QString &content);
-    void setMode(Mode mode);
-    void tell(const QString &text);
+    void setMode(Mode newMode);
     void setReadOnly(bool on);
+    void refresh();
+    /// Fills the window with data; false when that was done before.
+    bool showFirstTime();
+
+private:
+    void buildCenter();
+    void buildDocks();
+    [[nodiscard]] QDockWidget *addDock(const char *name, const QString &title, QWidget *content,
+                                       Qt::DockWidgetArea area);
+    void connectParts();
+    /// What the report is called as long as nobody gives it another name.
+    [[nodiscard]] QString name() const;
+    [[nodiscard]] ozm::TemplateReport decode(const QString &content) const;
+    void showSession();
+    void goToEdit(const QTextCursor &cursor);
+    void goTo(const QString &content, qsizetype offset, const QString &part);
+    void insertCode(const QString &code);
+    void tell(const QString &text);
     void updateState();
     void updateTitle();
 
     AbstractTemplateEditor *const qptr;
-    ozm::editor::EditorHistory *history;
-    ozm::editor::CodeModel *codes;
-    ozm::editor::RichTextView *rich;
-    ozm::editor::CodeEdit *plain;
-    ozm::editor::TextFormatting *format;
-    ozm::editor::TableEditing table;
-    ozm::editor::TemplatePrinting printing;
-    ozm::editor::FindBar *findBar = nullptr;
-    ozm::editor::CodePanel *codePanel = nullptr;
-    ozm::editor::ScriptPane *scriptPane = nullptr;
-    ozm::editor::PreviewPane *preview = nullptr;
-    std::unique_ptr<ozm::editor::EditorFiles> files;
-    std::unique_ptr<ozm::editor::EditorActions> actions;
-    QStackedWidget *views = nullptr;
-    QDockWidget *codeDock = nullptr;
-    QDockWidget *scriptDock = nullptr;
-    QDockWidget *previewDock = nullptr;
-    bool isReadOnly = false;
-    bool isShown = false;
-
-private:
-    void build();
-    [[nodiscard]] QDockWidget *addDock(const char *name, const QString &title, QWidget *content,
-                                       Qt::DockWidgetArea area);
-    void connectParts();
-    void showSession();
-    [[nodiscard]] QTextCursor scriptAtCursor() const;
-    [[nodiscard]] bool isScript(const QTextCursor &place) const;
-
-    QTextCursor m_scriptPlace;
+    ozm::editor::EditorHistory *m_history;
+    ozm::editor::CodeModel *m_codes;
+    ozm::editor::EditorViews m_views;
+    ozm::editor::TextFormatting *m_format;
+    ozm::editor::TableEditing m_table;
+    ozm::editor::TemplatePrinting m_printing;
+    ozm::editor::EditorFiles m_files;
+    ozm::editor::EditorQuestions m_questions;
+    std::unique_ptr<ozm::editor::EditorScripts> m_scripts;
+    std::unique_ptr<ozm::editor::EditorActions> m_actions;
+    ozm::editor::FindBar *m_findBar = nullptr;
+    ozm::editor::CodePanel *m_codePanel = nullptr;
+    ozm::editor::ScriptPane *m_scriptPane = nullptr;
+    ozm::editor::PreviewPane *m_preview = nullptr;
+    QDockWidget *m_codeDock = nullptr;
+    QDockWidget *m_scriptDock = nullptr;
+    QDockWidget *m_previewDock = nullptr;
+    bool m_isShown = false;
 };

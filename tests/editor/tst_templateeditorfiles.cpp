@@ -20,6 +20,49 @@ namespace {
 
 const QString kLeaveCopy = u"--leave-copy"_s;
 
+/// Keeps files on a server, by the locations that it gave out.
+class ServerAccessor : public PathAccessor
+{
+public:
+    using PathAccessor::saveFile;
+
+    explicit ServerAccessor(QStringList &saved)
+        : PathAccessor({})
+        , m_saved(saved)
+    {}
+    [[nodiscard]] DestinationFileLocation getSaveFileName(QWidget *, const QString &, const QString &,
+                                                          const QString &, const FileExtensionsNameFilter &,
+                                                          QString *, QFileDialog::Options,
+                                                          DirLocation) const override
+    {
+        return {QSharedPointer<ResourceReference>::create(ResourceReference::Scheme::Server, u"lims"_s),
+                u"t.ozt"_s};
+    }
+    [[nodiscard]] Error saveFile(const DestinationFileLocation &location, const Writer &) const override
+    {
+        m_saved.append(location.reference->toString() + u' ' + location.path);
+        return {};
+    }
+
+private:
+    QStringList &m_saved;
+};
+
+class ServerCreator : public DefaultWidgetCreator
+{
+public:
+    explicit ServerCreator(QStringList &saved)
+        : m_saved(saved)
+    {}
+    [[nodiscard]] std::unique_ptr<IFileAccessor> createFileAccessor(FileAccessorType) const override
+    {
+        return std::make_unique<ServerAccessor>(m_saved);
+    }
+
+private:
+    QStringList &m_saved;
+};
+
 } // namespace
 
 class TestTemplateEditorFiles : public StrictTest
@@ -37,6 +80,7 @@ private Q_SLOTS:
     void fullDiskKeepsBoth();
 #endif
     void changesOnDiskAreNoticed();
+    void savesElsewhereThanOnDisk();
     void crashesLoseNothing();
     void largeTemplatesOpen();
     void markersAreNoHarm();
@@ -195,6 +239,22 @@ void TestTemplateEditorFiles::changesOnDiskAreNoticed()
     }
     QCOMPARE(f.content(), u"<p>theirs, longer</p>"_s);
     QVERIFY(!f.editor.isModified());
+}
+
+void TestTemplateEditorFiles::savesElsewhereThanOnDisk()
+{
+    EditorFixture f;
+    QStringList saved;
+    WidgetCreatorBase::setCustomCreator(std::make_unique<ServerCreator>(saved));
+    QTest::keyClick(f.child<QTextEdit>("richView"), Qt::Key_A);
+    f.trigger("saveAction");
+    QEvent activated(QEvent::ActivationChange);
+    QApplication::sendEvent(&f.editor, &activated);
+    QCoreApplication::processEvents();
+    QVERIFY2(!f.editor.isModified(), "the server's file is not missed on the disk");
+    f.trigger("saveAction");
+    QCOMPARE(saved, QStringList(2, u"server:lims t.ozt"_s));
+    QCOMPARE(f.editor.filePath(), u"lims: t.ozt"_s);
 }
 
 void TestTemplateEditorFiles::crashesLoseNothing()

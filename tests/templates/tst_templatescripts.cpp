@@ -1,6 +1,8 @@
 #include "support/StrictTest.h"
 
+#include "support/PluginLoader.h"
 #include "templates/scripts/ScriptContainment.h"
+#include "templates/scripts/ScriptRealm.h"
 
 #include <ozm_widgets/TemplateEditorJSEngine.h>
 #include <ozm_widgets/TemplateEditorJSFileReader.h>
@@ -355,6 +357,20 @@ private Q_SLOTS:
         QVERIFY(grown < 100);
     }
 #endif
+
+    void pluginsOfOtherVersionsArePassedOver()
+    {
+        QTemporaryDir folder;
+        const QString plugins = folder.filePath(u"ozm_widgets"_s);
+        QVERIFY(QDir().mkpath(plugins));
+        QVERIFY(QFile::copy(QStringLiteral(OTHER_PLUGIN), plugins + u"/a_ozm_scripts.so"_s));
+        QVERIFY(QFile::copy(QStringLiteral(SCRIPTS_PLUGIN), plugins + u"/b_ozm_scripts.so"_s));
+        const QStringList before = QCoreApplication::libraryPaths();
+        QCoreApplication::setLibraryPaths({folder.path()});
+        ozm::test::expectWarning(plugins + u"/a_ozm_scripts.so\" is passed over"_s);
+        QVERIFY(ozm::loadPlugin<ozm::ScriptEngineInterface>(u"ozm_scripts"_s));
+        QCoreApplication::setLibraryPaths(before);
+    }
 
     // The examples of the reference are lines with their results behind "// ".
     void examplesOfTheReference()

@@ -1,16 +1,14 @@
 #include "templates/files/WebReader.h"
 
 #include "support/LibraryFolder.h"
-#include "support/Logging.h"
+#include "support/PluginLoader.h"
 #include "templates/files/WebReaderInterface.h"
 #include "templates/syntax/HtmlScanner.h"
 #include "templates/syntax/ScriptTags.h"
 
 #include <ozm_widgets/TemplateFile.h>
 
-#include <QDir>
 #include <QGuiApplication>
-#include <QPluginLoader>
 #include <QThread>
 #include <QUuid>
 
@@ -27,27 +25,26 @@ namespace {
 // A page as large as a template may be takes ten seconds on an office machine.
 constexpr std::chrono::seconds kDeadline{60};
 
-QString notThereText(const QStringList &folders)
+QString notThereText()
 {
 #ifdef OZM_WEB_READER
     return TemplateFile::tr(
                "This file is a whole web page. Its body is read by the plug-in \"ozm_webreader\", which is "
                "not installed here (looked for in %1). The file can be opened as plain text instead.")
-        .arg(folders.join(u", "_s));
+        .arg(pluginFolders().join(u", "_s));
 #else
-    Q_UNUSED(folders)
     return TemplateFile::tr(
         "This file is a whole web page. This program was built without the part that reads "
         "the body of web pages. The file can be opened as plain text instead.");
 #endif
 }
 
-QStringList readerFolders()
+WebReaderInterface *findReader()
 {
 #ifdef OZM_WEB_READER
-    return pluginFolders();
+    return loadPlugin<WebReaderInterface>(u"ozm_webreader"_s);
 #else
-    return {};
+    return nullptr;
 #endif
 }
 
@@ -80,29 +77,6 @@ private:
     inline static QtMessageHandler s_next = nullptr;
 };
 
-WebReaderInterface *load(const QString &file)
-{
-    QPluginLoader loader(file);
-    // Asked of the file without loading it.
-    if (loader.metaData().value("IID"_L1).toString() != QLatin1StringView(OZM_WEB_READER_IID))
-        return nullptr;
-    auto *reader = qobject_cast<WebReaderInterface *>(loader.instance());
-    if (!reader)
-        OZM_WIDGETS_WARNING() << "The web reader cannot be loaded:" << loader.errorString();
-    return reader;
-}
-
-WebReaderInterface *findReader(const QStringList &folders)
-{
-    for (const QString &folder : folders) {
-        const QStringList names = QDir(folder).entryList({u"*ozm_webreader*"_s}, QDir::Files);
-        for (const QString &name : names)
-            if (WebReaderInterface *reader = load(folder + u'/' + name))
-                return reader;
-    }
-    return nullptr;
-}
-
 Result<WebReaderInterface *> webReader()
 {
     auto *application = qobject_cast<QGuiApplication *>(QCoreApplication::instance());
@@ -114,11 +88,10 @@ Result<WebReaderInterface *> webReader()
     }
     // Only success is remembered: what is missing may be installed while the program runs.
     static WebReaderInterface *reader = nullptr;
-    const QStringList folders = reader ? QStringList() : readerFolders();
     if (!reader)
-        reader = findReader(folders);
+        reader = findReader();
     if (!reader)
-        return Error(ErrorCode::NotAllowed, notThereText(folders));
+        return Error(ErrorCode::NotAllowed, notThereText());
     return reader;
 }
 

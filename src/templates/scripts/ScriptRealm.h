@@ -3,6 +3,7 @@
 #include <QMap>
 #include <QString>
 #include <QVariant>
+#include <QtPlugin>
 
 #include <chrono>
 #include <memory>
@@ -52,9 +53,18 @@ public:
 /// Asked before each script for how long it may run.
 using ScriptDeadline = std::chrono::milliseconds (*)();
 
-/// What the plug-in has under the name kScriptRealmFactory. Its result is the caller's.
-using ScriptRealmFactory = ScriptRealm *(*)(const ScriptLibrary &library, ScriptDeadline deadline,
-                                            QString *trouble);
-inline constexpr const char *kScriptRealmFactory = "ozm_createScriptRealm";
+/// The plug-in with the script engine.
+class ScriptEngineInterface
+{
+public:
+    virtual ~ScriptEngineInterface() = default;
+
+    /// As ScriptRealm::create(); the deadline is asked before each script.
+    [[nodiscard]] virtual std::unique_ptr<ScriptRealm>
+    createRealm(const ScriptLibrary &library, ScriptDeadline deadline, QString *trouble) = 0;
+};
 
 } // namespace ozm
+
+#define OZM_SCRIPT_ENGINE_IID "ozm_widgets.ScriptEngineInterface/2"
+Q_DECLARE_INTERFACE(ozm::ScriptEngineInterface, OZM_SCRIPT_ENGINE_IID)

@@ -1,0 +1,112 @@
+#pragma once
+
+#include <QTextCursor>
+
+class QWidget;
+
+namespace ozm::editor {
+
+class CodeEdit;
+class RichTextView;
+
+/// One way to look at a template and to edit it: as formatted text, or as its source.
+class EditorView
+{
+public:
+    EditorView() = default;
+    virtual ~EditorView() = default;
+    EditorView(const EditorView &) = delete;
+    EditorView &operator=(const EditorView &) = delete;
+
+    [[nodiscard]] virtual QWidget *widget() const = 0;
+    [[nodiscard]] virtual QTextCursor cursor() const = 0;
+    /// Scrolls there, too.
+    virtual void setCursor(const QTextCursor &cursor) = 0;
+
+    /// Selects @p length characters of the source, or the chip that they are shown as.
+    virtual void select(qsizetype offset, qsizetype length) = 0;
+
+    virtual void insertSource(const QString &source) = 0;
+    virtual void insertPlain(const QString &text) = 0;
+    virtual void cut() = 0;
+    virtual void copy() = 0;
+    virtual void paste() = 0;
+    virtual void selectAll() = 0;
+    virtual void setReadOnly(bool readOnly) = 0;
+
+    /// False when the selection holds a code that may not be removed.
+    [[nodiscard]] virtual bool mayRemove(const QTextCursor &selection) const = 0;
+    /// Makes the selection a link; false when there is none, or when the view has no links.
+    virtual bool linkSelection(const QString &href) = 0;
+
+    /// The script at the cursor as a selection; null when there is none.
+    [[nodiscard]] virtual QTextCursor scriptAtCursor() const = 0;
+    [[nodiscard]] virtual bool isScript(const QTextCursor &selection) const = 0;
+    /// The source of a script that scriptAtCursor() gave, with its tags.
+    [[nodiscard]] virtual QString scriptSource(const QTextCursor &script) const = 0;
+    virtual void setScriptSource(const QTextCursor &script, const QString &source) = 0;
+    /// The @p source that was just inserted before the cursor, as a selection.
+    [[nodiscard]] virtual QTextCursor insertedBeforeCursor(const QString &source) const = 0;
+};
+
+class FormattedView : public EditorView
+{
+public:
+    explicit FormattedView(RichTextView *view)
+        : m_view(view)
+    {}
+
+    [[nodiscard]] QWidget *widget() const override;
+    [[nodiscard]] QTextCursor cursor() const override;
+    void setCursor(const QTextCursor &cursor) override;
+    void select(qsizetype offset, qsizetype length) override;
+    void insertSource(const QString &source) override;
+    void insertPlain(const QString &text) override;
+    void cut() override;
+    void copy() override;
+    void paste() override;
+    void selectAll() override;
+    void setReadOnly(bool readOnly) override;
+    [[nodiscard]] bool mayRemove(const QTextCursor &selection) const override;
+    bool linkSelection(const QString &href) override;
+    [[nodiscard]] QTextCursor scriptAtCursor() const override;
+    [[nodiscard]] bool isScript(const QTextCursor &selection) const override;
+    [[nodiscard]] QString scriptSource(const QTextCursor &script) const override;
+    void setScriptSource(const QTextCursor &script, const QString &source) override;
+    [[nodiscard]] QTextCursor insertedBeforeCursor(const QString &source) const override;
+
+private:
+    RichTextView *const m_view;
+};
+
+class SourceView : public EditorView
+{
+public:
+    explicit SourceView(CodeEdit *view)
+        : m_view(view)
+    {}
+
+    [[nodiscard]] QWidget *widget() const override;
+    [[nodiscard]] QTextCursor cursor() const override;
+    void setCursor(const QTextCursor &cursor) override;
+    void select(qsizetype offset, qsizetype length) override;
+    void insertSource(const QString &source) override;
+    void insertPlain(const QString &text) override;
+    void cut() override;
+    void copy() override;
+    void paste() override;
+    void selectAll() override;
+    void setReadOnly(bool readOnly) override;
+    [[nodiscard]] bool mayRemove(const QTextCursor &selection) const override;
+    bool linkSelection(const QString &href) override;
+    [[nodiscard]] QTextCursor scriptAtCursor() const override;
+    [[nodiscard]] bool isScript(const QTextCursor &selection) const override;
+    [[nodiscard]] QString scriptSource(const QTextCursor &script) const override;
+    void setScriptSource(const QTextCursor &script, const QString &source) override;
+    [[nodiscard]] QTextCursor insertedBeforeCursor(const QString &source) const override;
+
+private:
+    CodeEdit *const m_view;
+};
+
+} // namespace ozm::editor
