@@ -1,0 +1,52 @@
+#pragma once
+
+#include <ozm_audit/Entry.h>
+
+#include <QList>
+#include <QString>
+
+namespace ozm::audit {
+
+/**
+ * Which entries to read, one page at a time.
+ *
+ *     ozm::audit::Query query;
+ *     query.subjectType = u"Label"_s;
+ *     query.outcome = ozm::audit::Query::Outcome::Failed;
+ *     for (auto page = store->find(query); page && !page.value().isEmpty(); page = store->find(query)) {
+ *         show(page.value());
+ *         query.after = page.value().constLast().number;
+ *     }
+ *
+ * Members left at their defaults do not narrow the result.
+ */
+struct Query
+{
+    enum class Order
+    {
+        OldestFirst,
+        NewestFirst,
+    };
+    enum class Outcome
+    {
+        Any,
+        Succeeded,
+        Failed,
+    };
+
+    QString user = {}; ///< By id.
+    QList<Kind> kinds = {};
+    qint64 fromMs = 0;  ///< Milliseconds since 1970-01-01 UTC, inclusive.
+    qint64 untilMs = 0; ///< Exclusive; 0 for no end.
+    QString subjectType = {};
+    QString subjectKey = {};
+    QString attribute = {};
+    Outcome outcome = Outcome::Any;
+    QString text = {}; ///< Anywhere in the entry, upper and lower case alike.
+
+    Order order = Order::OldestFirst;
+    qint64 after = 0; ///< The number at which the last page ended, in the given order; 0 for the first page.
+    int pageSize = 100;
+};
+
+} // namespace ozm::audit
