@@ -124,7 +124,7 @@ Error Logger::prepare(const QList<Step> &steps)
                 refused.addWarning(unrecorded.errorMessage());
             return refused;
         }
-        d->addRecords(records, step, 0, {}, reason.value());
+        d->addRecords(records, Private::contentOf(step), 0, {}, reason.value());
     }
     return d->storePrepared(records, steps);
 }
@@ -147,7 +147,7 @@ Error Logger::prepareMacro(const OperationLogItemData &data, const QList<Step> &
     QList<PendingRecord> records{macro};
     for (const Step &step : steps) {
         const qsizetype own = records.size();
-        d->addRecords(records, step, 0, {}, reason.value());
+        d->addRecords(records, Private::contentOf(step), 0, {}, reason.value());
         if (records.size() > own)
             records[own].below = 0;
     }
@@ -158,7 +158,7 @@ Error Logger::settle()
 {
     QList<PendingRecord> corrections;
     for (const Private::Prepared &left : std::as_const(d->prepared)) {
-        d->addRecords(corrections, left.step, left.parent,
+        d->addRecords(corrections, left.content, left.parent,
                       Error(ErrorCode::Failed, Texts::tr("The step was recorded, but not carried out.")));
     }
     d->prepared.clear();
@@ -172,7 +172,7 @@ Error Logger::settle()
 Error Logger::recordRefused(const Step &step, const Error &reason)
 {
     QList<PendingRecord> records;
-    d->addRecords(records, step, 0, reason);
+    d->addRecords(records, Private::contentOf(step), 0, reason);
     const auto stored = d->store(records);
     return stored ? Error() : stored.error();
 }

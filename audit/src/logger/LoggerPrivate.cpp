@@ -20,11 +20,6 @@ Q_LOGGING_CATEGORY(lcAudit, "ozm.audit")
 // Time servers correct by less than this at a time; people and faults by more.
 constexpr qint64 kJumpMs = 2000;
 
-bool isLogged(const Step &step)
-{
-    return step.command->isAuditTrailEnabled() && step.command->logData()->isValid();
-}
-
 QByteArray eventJson(const char *event)
 {
     return QByteArray("{\"event\":\"") + event + "\"}";
@@ -109,21 +104,28 @@ void Logger::Private::stamp(PendingRecord &record)
     record.counter = clock.monotonicUs() - beginUs;
 }
 
-/// The step's own record, and below it those that the command asks for.
-void Logger::Private::addRecords(QList<PendingRecord> &records, const Step &step, qint64 parent,
-                                 const Error &outcome, const QString &reason)
+/// Nothing for a step that its command keeps out of the trail.
+std::optional<Logger::Private::Content> Logger::Private::contentOf(const Step &step)
 {
-    if (!isLogged(step))
+    if (!step.command->isAuditTrailEnabled() || !step.command->logData()->isValid())
+        return {};
+    return Content{*step.command->logData(), step.command->childLogData(), step.context};
+}
+
+/// The step's own record, and below it those that the command asks for.
+void Logger::Private::addRecords(QList<PendingRecord> &records, const std::optional<Content> &content,
+                                 qint64 parent, const Error &outcome, const QString &reason)
+{
+    if (!content)
         return;
-    PendingRecord own = recordOf(Kind::Command, *step.command->logData(), step.context);
+    PendingRecord own = recordOf(Kind::Command, content->data, content->context);
     own.parent = parent;
     own.outcome = outcome;
     own.reason = reason;
     records.append(own);
     const qsizetype index = records.size() - 1;
-    const QList<OperationLogItemData> details = step.command->childLogData();
-    for (const OperationLogItemData &data : details) {
-        records.append(recordOf(Kind::Command, data, step.context));
+    for (const OperationLogItemData &data : content->details) {
+        records.append(recordOf(Kind::Command, data, content->context));
         records.last().below = index;
     }
 }
@@ -193,10 +195,11 @@ Error Logger::Private::storePrepared(const QList<PendingRecord> &records, const 
         parent = preparedMacro->id;
     }
     for (const Step &step : steps) {
-        if (!isLogged(step))
+        const std::optional<Content> content = contentOf(step);
+        if (!content)
             continue;
-        prepared.append({step, parent, stored.value().at(at)});
-        at += 1 + step.command->childLogData().size();
+        prepared.append({step.command, *content, parent, stored.value().at(at)});
+        at += 1 + content->details.size();
     }
     return {};
 }
@@ -204,7 +207,7 @@ Error Logger::Private::storePrepared(const QList<PendingRecord> &records, const 
 std::optional<Logger::Private::Stored> Logger::Private::takePrepared(const Step &step)
 {
     const auto found = std::ranges::find_if(prepared, [&step](const Prepared &candidate) {
-        return candidate.step.command == step.command && candidate.step.context == step.context;
+        return candidate.command == step.command && candidate.content.context == step.context;
     });
     if (found == prepared.end())
         return {};
@@ -221,7 +224,7 @@ Logger::Private::Stored Logger::Private::recordStep(const Step &step, qint64 par
         return *foreseen;
     // Not foreseen, or it went otherwise than foreseen: that is recorded now.
     QList<PendingRecord> records;
-    addRecords(records, step, parent, outcome);
+    addRecords(records, contentOf(step), parent, outcome);
     return storeFirst(records);
 }
 

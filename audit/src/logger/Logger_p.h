@@ -23,9 +23,17 @@ public:
         qint64 id = 0; ///< 0 when it could not be stored.
         qint64 timeMs = 0;
     };
+    /// A step's content, which may outlive its command.
+    struct Content
+    {
+        OperationLogItemData data;
+        QList<OperationLogItemData> details;
+        OperationLogItemUndoContext context;
+    };
     struct Prepared
     {
-        Step step;
+        const UndoCommand *command; ///< To tell one from another, not to be used.
+        Content content;
         qint64 parent = 0;
         Stored stored;
     };
@@ -37,8 +45,9 @@ public:
     [[nodiscard]] PendingRecord recordOf(Kind kind, const OperationLogItemData &data,
                                          OperationLogItemUndoContext context);
     void stamp(PendingRecord &record);
-    void addRecords(QList<PendingRecord> &records, const Step &step, qint64 parent, const Error &outcome = {},
-                    const QString &reason = {});
+    [[nodiscard]] static std::optional<Content> contentOf(const Step &step);
+    void addRecords(QList<PendingRecord> &records, const std::optional<Content> &content, qint64 parent,
+                    const Error &outcome = {}, const QString &reason = {});
     /// Ids of the records, or an error and nothing stored.
     [[nodiscard]] Result<QList<Stored>> store(QList<PendingRecord> records);
     [[nodiscard]] Error storeOne(const PendingRecord &record);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ozm_audit/ozm_audit_export.h>
 #include <ozm_common_stable/Error.h>
 
 #include <QByteArray>
@@ -9,7 +10,7 @@ namespace ozm::audit {
 
 /// Tells whether file systems of this type, as the system names it, keep SQLite's locks and syncs only in
 /// part: those of networks, and those that another program or another machine serves.
-[[nodiscard]] bool isUntrustedFileSystem(const QByteArray &type);
+[[nodiscard]] OZM_AUDIT_EXPORT bool isUntrustedFileSystem(const QByteArray &type);
 
 /// Refuses a place on such a file system, NotAllowed, and names the way out.
 [[nodiscard]] Error checkFileSystem(const QString &path);

@@ -5,7 +5,7 @@
 namespace ozm::audit {
 
 /// A trail that ends with the program: for tests, and to show what a back end is.
-class MemoryBackend : public StoreBackend
+class OZM_AUDIT_EXPORT MemoryBackend : public StoreBackend
 {
 public:
     explicit MemoryBackend(const QString &trail);

@@ -25,7 +25,7 @@ private:
 };
 
 /// The same as a condition of SQL on the index columns, with question marks for @p values.
-struct QueryClauses
+struct OZM_AUDIT_EXPORT QueryClauses
 {
     QByteArray condition; ///< Begins with " AND" unless empty.
     QVariantList values;

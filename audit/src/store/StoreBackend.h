@@ -43,7 +43,7 @@ struct NewEntry
 };
 
 /// Says where a trail is and how it is to be opened.
-struct Address
+struct OZM_AUDIT_EXPORT Address
 {
     QString scheme;
     QString path; ///< Of a file.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ozm_audit/ozm_audit_export.h>
 #include <ozm_common_stable/Result.h>
 
 #include <QByteArray>
@@ -17,7 +18,7 @@ namespace ozm::audit {
 using Hash = std::array<unsigned char, 32>;
 
 [[nodiscard]] QByteArray toBytes(const Hash &hash);
-[[nodiscard]] std::optional<Hash> toHash(QByteArrayView bytes);
+[[nodiscard]] OZM_AUDIT_EXPORT std::optional<Hash> toHash(QByteArrayView bytes);
 
 // The hashes of RFC 6962: leaves and nodes carry different prefixes, so that neither can pass as the other.
 [[nodiscard]] Hash leafHash(QByteArrayView entry);
