@@ -66,7 +66,7 @@ struct Draft
 
     qint64 timeMs = 0;  ///< Milliseconds since 1970-01-01 UTC.
     int utcOffset = 0;  ///< Seconds east of UTC that the user's clock showed.
-    QString zone = {};       ///< "Europe/Vienna".
+    QString zone = {};  ///< "Europe/Vienna".
     qint64 counter = 0; ///< Microseconds of a clock that never goes back, since the session began.
 
     Person user = {};
