@@ -20,7 +20,7 @@ constexpr std::chrono::milliseconds kDefaultDeadline{5000};
 
 std::atomic<std::chrono::milliseconds> s_deadline{kDefaultDeadline};
 
-/// Whether nothing of @p value lives on in an engine that has seen it, and nothing of it can be called.
+/// True when nothing of @p value lives on in an engine that has seen it, and nothing of it can be called.
 bool isPlain(const QVariant &value)
 {
     switch (value.typeId()) {

@@ -1,4 +1,4 @@
-// What has to be looked at from outside: run by tests, it says what it did on its standard output.
+// Run by tests to observe the library from outside; prints its observations on standard output.
 
 #include <ozm_widgets/OZMStyle.h>
 #include <ozm_widgets/TemplateAutosave.h>

@@ -31,7 +31,7 @@ class RowNode;
  *     editor->setSourceText(stored);
  *     connect(editor, &AbstractTemplateEditor::saved, this, [editor] { store(editor->sourceText()); });
  *
- * What the window is given, and what it hands out, stands in its envelope (see TECWrapper). Decoding is for
+ * Templates go into the window and come out of it in their envelope (see TECWrapper). Decoding is for
  * content, with and without window:
  *
  *     const QString line = AbstractTemplateEditor::decodeTEC(u"[Sequence], [Charge]+"_s, &row, {});
@@ -57,15 +57,15 @@ public:
     explicit AbstractTemplateEditor(QWidget *parent = nullptr);
     ~AbstractTemplateEditor() override;
 
-    // What an application says of its templates. Asked when the window is shown, and by refresh().
+    // The application answers these. They are asked when the window is shown, and by refresh().
 
     /// The codes that are offered. Others are marked as unknown, unless there are none at all.
     [[nodiscard]] virtual QList<ShortCode> shortCodes() const = 0;
-    /// What the preview is filled with; must outlive the window, or the next refresh().
+    /// The rows that fill the preview; they must outlive the window, or the next refresh().
     [[nodiscard]] virtual QList<RowNode *> previewRows() const;
     /// What @p row is called in the preview; unless overridden, its first value.
     [[nodiscard]] virtual QString previewName(const RowNode &row) const;
-    /// What fills codes that @p row does not know; null stands for all rows as a group, or for none.
+    /// The objects that fill codes which @p row does not know; a null row stands for all rows as a group, or for none.
     [[nodiscard]] virtual QList<DecodeTecExtraData> extraData(const RowNode *row) const;
     /// The folder in which questions for template files begin; empty leaves that to the accessor.
     [[nodiscard]] virtual QString storageDirectory() const;

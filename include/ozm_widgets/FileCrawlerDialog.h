@@ -41,11 +41,11 @@ public:
     [[nodiscard]] QString crawlFolderReference() const;
     [[nodiscard]] bool recursiveSearch() const;
 
-    /// What the last search found, and the folders it could not read.
+    /// The data that the last search found, and the folders that it could not read.
     [[nodiscard]] QList<QString> msFileReferences() const;
     [[nodiscard]] QStringList passedOverFolders() const;
 
-    /// Whether accepting asks where to save.
+    /// True when accepting asks where to save.
     void setAskForDestinationPath(bool ask);
     [[nodiscard]] DestinationFileLocation destinationFile() const;
 

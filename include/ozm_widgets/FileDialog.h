@@ -38,7 +38,7 @@ public:
     getExistingDirectory(QWidget *parent = nullptr, const QString &caption = {}, const QString &dir = {},
                          QFileDialog::Options options = QFileDialog::ShowDirsOnly);
 
-    /// Whether the file at @p path can be written; if not, tells the user, over @p parent, what to do about
+    /// True when the file at @p path can be written; if not, tells the user, over @p parent, what to do about
     /// it. Nothing on the disk is changed by asking.
     [[nodiscard]] static bool checkIfFileCanBeOpenToWrite(QWidget *parent, const QString &path);
 

@@ -27,7 +27,7 @@ namespace ozm {
  *     if (ozm::Error error = accessor->saveCsvFile(location, rows); error.hasError())
  *         show(error);
  *
- * A canceled question gives an empty name or list, a null reference or a canceled location, and is no error.
+ * A canceled question gives an empty name or list, a null reference or a canceled location, and is not an error.
  * @p dir is where a dialog starts unless the folder remembered for @p dirLocation takes its place;
  * @p selectedFilter, which may be null, names the filter to begin with. GUI thread only.
  */
@@ -38,7 +38,7 @@ public:
     /// Writes what is saved to the local path it is given.
     using Writer = std::function<Error(const QString &path)>;
 
-    /// What an accessor is for; creators may make others for some of them.
+    /// The purpose of an accessor; creators may make others for some of them.
     enum class FileAccessorType : int
     {
         Default = 0,

@@ -43,7 +43,7 @@ struct MessageBoxDescription;
  *
  * The answer is the button that was pressed, and Cancel when the box was closed without one. When the box
  * could not be shown (its parent was gone before, the application was ending), question() answers Cancel and
- * the others the default button they were given. Never is a button answered that could mean more than that.
+ * the others the default button they were given. The answer is never a button that could mean more than that.
  *
  * A box that is asked for from another thread deadlocks when the GUI thread waits for that thread, for
  * instance with QThread::wait() or for a lock that the thread holds. Hold no lock while you ask, and have the
@@ -79,7 +79,7 @@ public:
 
     /// A palette for QApplication::setPalette(), where the system gives none or the user wants another.
     [[nodiscard]] static QPalette palette(Scheme scheme);
-    /// Whether @p palette has light text on dark or dark text on light.
+    /// The scheme of @p palette: light text on dark, or dark text on light.
     [[nodiscard]] static Scheme scheme(const QPalette &palette);
 
     /// The icon of this name from the library's set (see iconNames()), sharp at every size; or else that of

@@ -11,7 +11,7 @@ namespace ozm {
 class OzmMessageBox;
 
 /**
- * What an application and this library share: one object per process, beside whichever QApplication there is.
+ * Settings that an application and this library share: one object per process, beside whichever QApplication there is.
  *
  *     QApplication application(argc, argv);
  *     ozm::OzmCoreApplication::start();   // style and translation
@@ -36,7 +36,7 @@ public:
     /// there is no translation into that language: the texts are English then. GUI thread.
     static bool loadTranslation(const QLocale &locale, const QString &name = QStringLiteral("ozm_widgets"));
 
-    /// Who works with the application, for the audit trail: what was set, or else the name by which the
+    /// The user of the application, for the audit trail: the name that was set, or else the name by which the
     /// operating system knows the user; "unknown" when it knows none. Any thread.
     [[nodiscard]] static QString userName();
     /// Empty goes back to the operating system's name. Any thread.

@@ -3,7 +3,7 @@
 namespace ozm {
 
 /**
- * Which message a box shows, so that an application, or what automates it, can recognise the box.
+ * Identifies the message of a box, so that an application or a test robot recognises the box.
  *
  * The library only carries the value. An application numbers its own messages from FirstOfApplication on:
  *

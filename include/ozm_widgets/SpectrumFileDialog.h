@@ -30,14 +30,14 @@ public:
     explicit SpectrumFileDialog(QWidget *parent = nullptr);
     ~SpectrumFileDialog() override;
 
-    /// What the user picked and is data, in the dialog's order; empty when canceled, also by the parent's
+    /// The data that the user picked, in the dialog's order; empty when canceled, also by the parent's
     /// deletion. Begins with the filter that @p selectedFilter names, and leaves that as it is.
     [[nodiscard]] static QList<QString>
     getSpectrumFileList(QWidget *parent = nullptr, const QString &caption = {}, const QString &dir = {},
                         const QString &filter = {}, QString *selectedFilter = nullptr,
                         QFileDialog::Options options = {});
 
-    /// Whether @p path is named as a vendor's raw folder, and, with @p checkExistingDir, is a folder.
+    /// True when @p path is named as a vendor's raw folder, and, with @p checkExistingDir, is a folder.
     [[nodiscard]] static bool isVendorRawFolder(QString path, bool checkExistingDir);
 
 protected:

@@ -72,7 +72,7 @@ public:
     /// Where the chip after @p position begins in source(); -1 when there is none.
     [[nodiscard]] qsizetype offsetOf(int position) const;
 
-    /// What codes are called on chips, by code with brackets. Others are marked as unknown, unless the
+    /// Sets the names that chips show for codes, by code with brackets. Others are marked as unknown, unless the
     /// table is empty.
     void setDisplayNames(const QHash<QString, QString> &names);
     [[nodiscard]] bool isKnownCode(const QString &code) const;

@@ -26,7 +26,7 @@ class TemplateEditorJSEnginePrivate;
  * The library is a file that evaluates to an object of functions, which keep no state of their own. Without
  * a usable one the engine is not valid, has said so in one warning, and runs scripts without helpers.
  *
- * What scripts leave behind stays until the engine goes; TemplateEditorJSCodeReader keeps templates apart.
+ * Variables that scripts leave behind stay until the engine is destroyed; TemplateEditorJSCodeReader keeps templates apart.
  * GUI thread, with a QCoreApplication.
  */
 class OZM_WIDGETS_EXPORT TemplateEditorJSEngine : public QObject
@@ -39,7 +39,7 @@ public:
     explicit TemplateEditorJSEngine(const QString &path, QObject *parent = nullptr);
     ~TemplateEditorJSEngine() override;
 
-    /// Whether the library was loaded and evaluated without an error.
+    /// True when the library was loaded and evaluated without an error.
     [[nodiscard]] bool isValid() const;
 
     /// The text of the script's result; @p code itself when the script fails in any way: an error as its

@@ -10,7 +10,7 @@ class OZM_WIDGETS_EXPORT TemplateEditorJSFileReader
 public:
     explicit TemplateEditorJSFileReader(const QString &path);
 
-    /// What the last successful readJSFile() read.
+    /// The text that the last successful readJSFile() read.
     [[nodiscard]] QString fileContent() const { return m_content; }
 
     /// False, with a warning, when the file cannot be opened or is empty.

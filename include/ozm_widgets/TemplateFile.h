@@ -44,7 +44,7 @@ public:
         QByteArray digest;      ///< What opened() takes.
     };
 
-    /// What becomes of a whole HTML page: its body is kept, or all of its text stays as it is.
+    /// How a whole HTML page is read: its body is kept, or all of its text stays as it is.
     enum class Page
     {
         Body,
@@ -59,7 +59,7 @@ public:
 
     /// Error code 4 when the file cannot be read or is too large. Code 2 when it holds no template: "Wrong
     /// template editor content format." for an envelope that is cut short or of another version, and for
-    /// what is no text, with the details as a warning; or that the declared character set does not fit.
+    /// what is not text, with the details as a warning; or that the declared character set does not fit.
     /// For pages also code 3 when the web reader is not there (Page::AsText opens them all the same), and
     /// code 1 when it failed.
     [[nodiscard]] static Result<Loaded> read(const QString &path, Page page = Page::Body);
@@ -69,7 +69,7 @@ public:
     /// of a character pair, too much of it) is refused with code 2, before anything is touched.
     static Error write(const QString &path, const QString &content);
 
-    /// Whether the file is gone, or other than it was when it was opened. False before opened().
+    /// True when the file is gone, or other than it was when it was opened. False before opened().
     [[nodiscard]] bool changedOnDisk() const;
     [[nodiscard]] QString path() const;
 

@@ -22,7 +22,7 @@ public:
     ScriptWatch(const ScriptWatch &) = delete;
     ScriptWatch &operator=(const ScriptWatch &) = delete;
 
-    /// Whether the deadline has passed.
+    /// True when the deadline has passed.
     [[nodiscard]] bool barked() const;
 
 private:

@@ -173,7 +173,7 @@ void FileCrawlerDialog::Private::follow(MsDataSearch *search)
     connect(form.cancelSearchButton, &QPushButton::clicked, search, [this, search] {
         wasCanceled = true;
         search->cancel();
-        // What it still finds belongs to no answer.
+        // Results that still arrive belong to a canceled search.
         search->disconnect(qptr);
     });
 }

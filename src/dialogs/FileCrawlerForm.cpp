@@ -78,7 +78,7 @@ FileCrawlerForm::FileCrawlerForm(QDialog *dialog)
     verticalLayout->addWidget(m_passedOver);
     verticalLayout->addStretch();
     verticalLayout->addWidget(buttonBox);
-    // What comes and goes keeps its room, so that the buttons stay under the mouse.
+    // Hidden widgets keep their room, so that the buttons stay under the mouse.
     for (QWidget *widget : {static_cast<QWidget *>(m_progress), static_cast<QWidget *>(cancelSearchButton)}) {
         QSizePolicy policy = widget->sizePolicy();
         policy.setRetainSizeWhenHidden(true);

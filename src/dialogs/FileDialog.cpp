@@ -92,7 +92,7 @@ QString FileDialog::getExistingDirectory(QWidget *parent, const QString &caption
 
 void FileDialog::accept()
 {
-    // What a plain dialog does on acceptance, and nothing of what QFileDialog adds.
+    // Accepts as a plain dialog does, without the checks that QFileDialog adds.
     if (acceptMode() == QFileDialog::AcceptSave)
         acceptSave();
     else

@@ -25,7 +25,7 @@ public:
 
     Dialog *operator->() const { return m_dialog.data(); }
 
-    /// Whether the dialog ended with anything but rejection, and is still there to be asked.
+    /// True when the dialog ended with anything but rejection, and is still there to be asked.
     [[nodiscard]] bool exec() { return m_dialog->exec() != QDialog::Rejected && m_dialog; }
 
 private:

@@ -46,7 +46,7 @@ QString withoutSlashAtEnd(QString path)
     return path;
 }
 
-/// What to show of @p paths, or nothing when @p isOutdated in the middle.
+/// The text to show for @p paths; empty when @p isOutdated becomes true in the middle.
 QStringList linesFor(const QStringList &paths, const std::function<bool()> &isOutdated)
 {
     QStringList lines;

@@ -24,7 +24,7 @@ public:
     void recognise(const QStringList &paths);
 
 Q_SIGNALS:
-    /// What was asked for last has been shown.
+    /// Emitted when the answer to the last question is shown.
     void recognised();
 
 protected:

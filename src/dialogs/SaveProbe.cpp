@@ -19,7 +19,7 @@ namespace {
 // As many as Linux follows.
 constexpr int kMostLinks = 40;
 
-/// What a write to @p path would make: a link that leads nowhere is followed to where it leads.
+/// The file that a write to @p path would create: a dangling link is followed to its target.
 QString targetOf(const QString &path)
 {
     QString target = path;

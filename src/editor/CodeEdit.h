@@ -16,7 +16,7 @@ class CodeEdit : public QPlainTextEdit
 public:
     explicit CodeEdit(QWidget *parent);
 
-    /// Whether the window undoes, rather than the field itself.
+    /// True when the window undoes, rather than the field itself.
     void setUndoneOutside(bool outside) { m_isUndoneOutside = outside; }
     /// Null shows nothing.
     void showDocument(QTextDocument *document);
@@ -39,7 +39,7 @@ private:
     void placeMargin();
     void paintMargin(QPaintEvent *event);
 
-    // Before the margin, which sends this an event as soon as it is made.
+    // Declared before the margin, whose constructor already sends this widget an event.
     bool m_isUndoneOutside = false;
     int m_markedLine = 0;
     CodeCompleter *m_completer = nullptr;

@@ -69,7 +69,7 @@ bool CodeModel::isKnown(const QString &code) const
 QString CodeModel::toolTip(const QString &code) const
 {
     if (!isKnown(code))
-        return tr("%1 is no code that can be filled.").arg(code);
+        return tr("No value is known for the code %1.").arg(code);
     const QString help = ShortCodeUtils::findValue(code, m_codes).toolTip;
     return help.isEmpty() ? code : code + u'\n' + help;
 }

@@ -8,7 +8,7 @@
 
 namespace ozm::editor {
 
-/// What templates are copied and dragged as: their source, in UTF-8.
+/// The type under which templates are copied and dragged: their source, in UTF-8.
 inline constexpr auto kTemplateMimeType = "application/x-ozm-template-source";
 
 /// The codes that a template may have, each once, under the names that they have on screen.

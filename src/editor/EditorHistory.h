@@ -43,7 +43,7 @@ private:
 };
 
 /**
- * What was done to a template, over all changes of mode.
+ * The history of a template, over all changes of mode.
  *
  * Documents keep their own histories, in which only they can go back; the steps here say which of them is to
  * do so. A change of mode is a step, too, and keeps alive the documents on both sides of it.
@@ -63,7 +63,7 @@ public:
     [[nodiscard]] QUndoStack &stack() { return m_stack; }
     [[nodiscard]] const QUndoStack &stack() const { return m_stack; }
 
-    /// Whether there were edits since the template was clean; a change of mode is none.
+    /// True when there were edits since the template was clean; a change of mode is none.
     [[nodiscard]] bool isModified() const;
 
     /// Forgets everything, and begins with @p source.

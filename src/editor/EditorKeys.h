@@ -9,7 +9,7 @@ namespace ozm::editor {
 [[nodiscard]] bool isHistoryKey(const QKeyEvent &event);
 [[nodiscard]] bool isHistoryShortcut(const QEvent *event);
 
-/// Whether a text field changes its text at this key, other than by undoing.
+/// True when a text field changes its text at this key, other than by undoing.
 [[nodiscard]] bool changesText(const QKeyEvent &event);
 
 } // namespace ozm::editor

@@ -24,7 +24,7 @@ class PreviewPane : public QWidget
 public:
     struct Decoded
     {
-        QString content; ///< What was decoded.
+        QString content; ///< The content that was decoded.
         TemplateReport report;
     };
     using Decode = std::function<Decoded()>;

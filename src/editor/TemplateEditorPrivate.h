@@ -53,7 +53,7 @@ private:
     [[nodiscard]] QDockWidget *addDock(const char *name, const QString &title, QWidget *content,
                                        Qt::DockWidgetArea area);
     void connectParts();
-    /// What the report is called as long as nobody gives it another name.
+    /// The name that is proposed for the report.
     [[nodiscard]] QString name() const;
     [[nodiscard]] ozm::TemplateReport decode(const QString &content) const;
     void showSession();

@@ -18,7 +18,7 @@ namespace ozm::editor {
 namespace {
 
 constexpr int kHeadings = 4;
-// What a heading of level 1 is larger than text by, in the steps of HTML's sizes.
+// A heading of level 1 is larger than text by this many of HTML's size steps.
 constexpr int kLargestHeading = 3;
 constexpr int kLargestSize = 400;
 

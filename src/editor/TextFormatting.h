@@ -40,7 +40,7 @@ public:
     /// 0 for a paragraph, 1 to 6 for headings.
     void setHeading(int level);
 
-    /// What the cursor stands in.
+    /// The format at the cursor.
     [[nodiscard]] QTextCharFormat format() const;
     [[nodiscard]] Qt::Alignment alignment() const;
     [[nodiscard]] QTextListFormat::Style listStyle() const;

@@ -18,7 +18,7 @@ constexpr int kMargin = 4;
 constexpr int kTextMargin = 4;
 constexpr int kIconSize = 16;
 constexpr float kShade = 0.08F;
-// What of the title is always shown, in characters of average width.
+// This much of the title is always shown, in characters of average width.
 constexpr int kLeastCharacters = 4;
 
 } // namespace
@@ -83,7 +83,7 @@ public:
                 .arg(title));
     }
 
-    /// What the buttons leave, in the direction of reading.
+    /// The room that the buttons leave, in the direction of reading.
     [[nodiscard]] int textLength() const
     {
         int length = isVertical() ? qptr->height() : qptr->width();

@@ -18,7 +18,7 @@ namespace ozm {
 
 namespace {
 
-// Its address is one of this library's.
+// An address inside this library, to ask the system where the library was loaded from.
 const char anchor = 0;
 
 #ifdef Q_OS_WIN

@@ -137,7 +137,7 @@ struct EditorFixture
     ~EditorFixture() { WidgetCreatorBase::setCustomCreator({}); }
     Q_DISABLE_COPY_MOVE(EditorFixture)
 
-    /// What file questions are answered with from now on; empty cancels.
+    /// The answer to file questions from now on; empty cancels.
     static void answerPath(const QString &path)
     {
         WidgetCreatorBase::setCustomCreator(std::make_unique<PathCreator>(path));

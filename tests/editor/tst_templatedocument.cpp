@@ -25,7 +25,7 @@ QStringList matches(const QString &text, const QString &pattern)
     return found;
 }
 
-// What may be neither lost, changed nor moved past one another, read without the code under test.
+// The parts that may be neither lost, changed nor moved past one another, read without the code under test.
 struct Contents
 {
     QStringList codes;

@@ -309,7 +309,7 @@ void TestTemplateEditor::undoGoesAcrossModes()
     // The keys of the views lead to the same history.
     QTest::keyClick(rich, Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(f.content(), inSource);
-    // What is typed after an undo is a step of its own, and ends what could be done again.
+    // Typing after an undo is a step of its own, and ends the redo history.
     QTest::keyClick(rich, Qt::Key_E);
     QVERIFY(!f.child<QAction>("redoAction")->isEnabled());
     f.trigger("undoAction");
@@ -330,7 +330,7 @@ void TestTemplateEditor::undoAfterSavingIsAChange()
     f.trigger("undoAction");
     QVERIFY(!f.editor.isModified());
     QCOMPARE(f.content(), u"<div>a</div>"_s);
-    // Another mode is no change.
+    // Another mode is not a change.
     f.trigger("plainModeAction");
     QVERIFY(!f.editor.isModified());
 }
@@ -440,7 +440,7 @@ void TestTemplateEditor::readOnlyChangesNothing()
         QTest::keyClick(view, Qt::Key_V, Qt::ControlModifier);
         QTest::keyClick(view, Qt::Key_Z, Qt::ControlModifier);
         for (QAction *action : f.editor.findChildren<QAction *>()) {
-            // What opens dialogs, or closes the window, is for other tests.
+            // Actions that open dialogs or close the window are for other tests.
             if (!action->text().contains(u'…') && action->objectName() != "closeAction"_L1 &&
                 action->objectName().endsWith("Action"_L1) && !action->objectName().contains("ode"_L1) &&
                 action->objectName() != "newAction"_L1 && action->objectName() != "saveAction"_L1)

@@ -102,7 +102,7 @@ private:
     std::unique_ptr<FileSystemSettings::Store> m_before;
 };
 
-/// What a user sees of a file dialog that the toolkit draws.
+/// A file dialog of the toolkit as a user sees it.
 class FileDialogDriver
 {
 public:
@@ -178,7 +178,7 @@ public:
     void clickAccept() const { QTest::mouseClick(acceptButton(), Qt::LeftButton); }
 
 private:
-    /// Whether all entries are there, folders first and each kind by name: until then, rows move.
+    /// True when all entries are there, folders first and each kind by name: until then, rows move.
     [[nodiscard]] static bool isSorted(const QFileSystemModel &model, const QModelIndex &folder)
     {
         const QDir dir(model.filePath(folder));

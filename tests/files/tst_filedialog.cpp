@@ -126,7 +126,7 @@ public:
 
     [[nodiscard]] QString path(const QString &name = {}) const { return m_tree.path(name); }
 
-    /// What is saved to, relative to the folder, when @p work is done on the dialog.
+    /// The file that is saved to, relative to the folder, when @p work is done on the dialog.
     [[nodiscard]] QString ask(const QString &filter, const DialogDriver::Work &work) const
     {
         const DialogDriver driver({work, [](QDialog *box) { box->accept(); }});

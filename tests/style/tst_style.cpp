@@ -173,7 +173,7 @@ void TestStyle::applyOnceAndOnlyOnce()
     QPushButton button;
     button.ensurePolished();
     QCOMPARE(countEvents(&button, QEvent::StyleChange, [] { OZMStyle::apply(); }), 0);
-    // What someone else put there is replaced.
+    // A handler that someone else installed is replaced.
     qApp->setStyleSheet(u"QPushButton { color: red }"_s);
     OZMStyle::apply();
     QVERIFY(!qApp->styleSheet().contains("red"_L1));

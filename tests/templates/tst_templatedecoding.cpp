@@ -76,7 +76,7 @@ public:
     bool beforeRemove() override { return false; }
     void init(ShortCode *code) override
     {
-        // What init() finds: the implementation is in place already.
+        // The implementation is in place before init() is called.
         m_calls->append(code->implementation().data() == this ? u"init"_s : u"too early"_s);
     }
     QString displayName(const QString &name) override { return name.toUpper(); }

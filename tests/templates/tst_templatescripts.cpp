@@ -238,7 +238,7 @@ private Q_SLOTS:
         }
     }
 
-    // What reports usually do shares an engine; what could be noticed later does not.
+    // Usual scripts of reports share an engine; scripts that a later one could notice do not.
     void containment_data()
     {
         QTest::addColumn<QString>("code");

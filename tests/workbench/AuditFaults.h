@@ -59,7 +59,7 @@ public:
     {
         return {u"locked"_s, u"read-only"_s, u"full"_s, u"damaged"_s, u"deleted"_s, u"replaced"_s};
     }
-    /// What the message of a refused step must say.
+    /// Text that the message of a refused step must hold.
     [[nodiscard]] static QString messageOf(const QString &name)
     {
         const QMap<QString, QString> messages{{u"locked"_s, u"locked by another program"_s},

@@ -75,7 +75,7 @@ struct SampleFixture
             texts.append(editor->history().text(i));
         return texts.join(u'|');
     }
-    /// What is on the disk, as another program sees it.
+    /// The records on the disk, as another program sees them.
     [[nodiscard]] QList<workbench::AuditRecord> stored() const
     {
         auto other = workbench::AuditDatabase::open(databasePath());

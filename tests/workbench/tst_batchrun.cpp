@@ -195,7 +195,7 @@ void TestBatchRun::failsWithAMessage_data()
         << u"cannot be written to"_s;
     QTest::newRow("no database") << QStringList{u"--batch"_s, samples,         u"--out"_s,
                                                 u"DIR"_s,     u"--database"_s, u"DIR/bad.csv"_s}
-                                 << 1 << u"is damaged or is no audit trail"_s;
+                                 << 1 << u"is damaged or is not an audit trail"_s;
     QTest::newRow("unknown option") << QStringList{u"--batsch"_s} << 1 << u"Unknown option"_s;
 }
 void TestBatchRun::failsWithAMessage()

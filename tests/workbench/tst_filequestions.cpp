@@ -29,7 +29,7 @@ using namespace workbench;
 
 namespace {
 
-/// What was asked, and the path that is answered to everything.
+/// The questions that were asked, and the path that answers all of them.
 struct Answers
 {
     QStringList questions;

@@ -120,7 +120,7 @@ QList<QPixmap> finderPictures(const SampleTree &large)
     return pictures;
 }
 
-/// What the finder says of folders that it cannot read.
+/// The finder's message about folders that it cannot read.
 QPixmap passedOverPicture()
 {
     const SampleTree tree;

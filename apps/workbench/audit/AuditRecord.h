@@ -9,7 +9,7 @@
 
 namespace workbench {
 
-/// What a row of the audit trail stands for; Commit is no entry of its own but the mark that one is complete.
+/// The kind of a row of the audit trail. Commit is not an entry of its own: it marks that one is complete.
 enum class AuditKind
 {
     Command,

@@ -101,7 +101,7 @@ void AuditTrail::ingest(const AuditRecord &record, std::vector<AuditEntry *> &to
         commit(record, top);
         return;
     }
-    // A number given twice is no work of this program; both rows are shown all the same.
+    // A number given twice is not a work of this program; both rows are shown all the same.
     const qint64 number = m_entries.contains(record.item) ? record.sequence : record.item;
     AuditEntry &entry = m_entries.insert_or_assign(number, entryOf(record)).first->second;
     entry.parent = find(record.parent);

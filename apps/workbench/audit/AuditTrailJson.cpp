@@ -18,7 +18,7 @@ namespace {
 
 QByteArray listOf(const std::vector<AuditEntry *> &entries);
 
-/// Whether the bytes may stand inside a JSON document. A byte-order mark is let pass by readers at the
+/// True when the bytes may stand inside a JSON document. A byte-order mark is let pass by readers at the
 /// beginning of a document only.
 bool isEmbeddableJson(const QByteArray &bytes)
 {

@@ -39,7 +39,7 @@ QString cellText(const AuditEntry &entry, int column)
     }
 }
 
-/// What is out of the ordinary stands out by its form, which every palette can show.
+/// Unusual entries differ in form, not in colour, so that every palette can show it.
 QFont fontOf(const AuditEntry &entry)
 {
     QFont font;

@@ -39,9 +39,10 @@ constexpr Advice kReadOnly{
                                           "Nothing was changed. Make the file and its folder writable, or "
                                           "start with another audit trail.")};
 constexpr Advice kDamaged{
-    11, QT_TRANSLATE_NOOP("SqlConnection", "The audit trail \"%1\" is damaged or is no audit trail. Nothing "
-                                           "was changed. Keep the file as it is and restore a copy, or start "
-                                           "with another audit trail.")};
+    11,
+    QT_TRANSLATE_NOOP("SqlConnection", "The audit trail \"%1\" is damaged or is not an audit trail. Nothing "
+                                       "was changed. Keep the file as it is and restore a copy, or start "
+                                       "with another audit trail.")};
 constexpr Advice kFull{
     13, QT_TRANSLATE_NOOP("SqlConnection", "The disk that holds the audit trail \"%1\" is full. Nothing was "
                                            "changed. Make room on the disk, then try again.")};

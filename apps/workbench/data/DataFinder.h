@@ -12,7 +12,7 @@ class QThread;
 
 namespace workbench {
 
-/// What a look at the disk brought.
+/// The result of a look at the disk.
 struct DataFindings
 {
     QString source; ///< The folder that was searched, or that holds what was dropped.
@@ -42,7 +42,7 @@ public:
 
     /// Begins to look through @p folder and all below it; false while something runs.
     bool search(const QString &folder);
-    /// Begins to look at each of @p paths, not into folders that are no data; false while something runs.
+    /// Begins to look at each of @p paths, not into folders that are not data; false while something runs.
     bool inspect(const QStringList &paths);
     void cancel();
 

@@ -22,7 +22,7 @@ DataImport::DataImport(SampleEditor &editor, FolderQuestion question, QObject *p
     connect(m_progress, &DataProgress::canceled, &m_finder, &DataFinder::cancel);
     connect(&m_finder, &DataFinder::progressed, m_progress, &DataProgress::show);
     connect(&m_finder, &DataFinder::finished, this, &DataImport::add);
-    // What was looked for belongs to the samples that were there.
+    // The search was for the samples that were open when it began.
     connect(&editor.table(), &SampleTable::wasReset, &m_finder, &DataFinder::cancel);
 }
 

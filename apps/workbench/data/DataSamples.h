@@ -11,7 +11,7 @@ namespace workbench {
 
 class SampleTable;
 
-/// What was found, as new samples for @p table, their texts by column. Each is called after its file, with a
+/// The data that was found, as new samples for @p table, their texts by column. Each is called after its file, with a
 /// number where that name is taken; data that a sample of the table has already is left out.
 [[nodiscard]] QList<QMap<QString, QString>> samplesOf(const QList<ozm::msreader::MsDataFileInfo> &found,
                                                       const SampleTable &table);

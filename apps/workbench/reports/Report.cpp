@@ -54,7 +54,7 @@ ozm::Result<QString> loadTemplate(const QString &path)
     bool ok = false;
     QString content = TECWrapper::unwrapTEC(QString::fromUtf8(file.readAll()), &ok);
     if (!ok)
-        return fileError(tr("\"%1\" is no template of this version."), path);
+        return fileError(tr("\"%1\" is not a template of this version."), path);
     return content;
 }
 

@@ -12,7 +12,7 @@ class RowNode;
 namespace workbench {
 
 /**
- * What a report can say beside the columns of its samples: a code in a template for each property, such as
+ * Values that a report can show beside the columns of its samples: a code in a template for each property, such as
  * "[ReportUser]". Scripts find all samples of the report in "[Samples]", a list of objects.
  */
 class ReportContext

@@ -25,7 +25,7 @@ namespace {
 const QMarginsF kMarginsMm(20, 16, 18, 14);
 constexpr double kFooterMm = 9.0;
 constexpr int kDotsPerInch = 300;
-// What lengths in a document are in.
+// Lengths in a document are in this unit.
 constexpr double kScreenDotsPerInch = 96;
 constexpr int kFooterPoints = 7;
 
@@ -136,7 +136,7 @@ void drawPages(QTextDocument &document, QPdfWriter &writer)
     document.documentLayout()->setPaintDevice(&writer);
     document.setPageSize(body);
     keepRowsTogether(*document.rootFrame(), body.height());
-    // What comes after a table is not moved along with its rows.
+    // Text behind a table is not moved along with the table's rows.
     document.markContentsDirty(0, document.characterCount());
 
     QPainter painter(&writer);

@@ -28,7 +28,7 @@ public:
 private:
     std::vector<RowNode> m_rows;
     const ReportContext m_context;
-    /// What was handed out last is read after extraData() has returned.
+    /// Decoding reads this after extraData() has returned.
     mutable ReportContext m_current;
 };
 

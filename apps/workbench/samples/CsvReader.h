@@ -19,7 +19,7 @@ struct CsvRow
  * Reads comma-separated text: UTF-8 with or without a byte-order mark, lines ended in any common way, cells
  * in double quotes that may hold commas, line breaks and doubled quotes. Empty lines are passed over.
  *
- * What is not of that form is an error that names the line: bytes that are not UTF-8, a quote that is never
+ * Any other text is an error that names the line: bytes that are not UTF-8, a quote that is never
  * closed, and text after a closing quote.
  */
 [[nodiscard]] ozm::Result<QList<CsvRow>> readCsv(const QByteArray &bytes);

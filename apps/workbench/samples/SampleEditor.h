@@ -44,7 +44,7 @@ public:
     ~SampleEditor() override;
 
     [[nodiscard]] const SampleTable &table() const { return m_table; }
-    /// Who is recorded as making the changes.
+    /// The user who is recorded as making the changes.
     [[nodiscard]] const QString &user() const { return m_logger.user(); }
     /// To look at and to connect to; steps go through the editor.
     [[nodiscard]] const QUndoStack &history() const { return m_stack; }

@@ -7,7 +7,7 @@
 #include <QVariant>
 
 /**
- * What a cell of the sample table may hold, and how it is written.
+ * The values that a cell of the sample table may hold, and how they are written.
  *
  * Charge: a whole number from 1 to 200, or nothing. Mass: a positive number; nothing only for a sample with
  * data. Name: not empty. Sequence: letters, or nothing. Comment: any text. Numbers are written with a point,
@@ -23,7 +23,7 @@ namespace workbench::rules {
 /// stands for none.
 [[nodiscard]] ozm::Result<QVariant> parse(const QString &column, const QString &text);
 
-/// Whether values that may each be in their column may be in one row together.
+/// True when values that may each be in their column may be in one row together.
 [[nodiscard]] ozm::Error checkRow(const RowNode &row);
 
 /// The text that parse() reads as @p value.

@@ -19,7 +19,7 @@ namespace workbench {
 
 namespace {
 
-/// What the suite's own list of column names does not have.
+/// Columns that the suite's own list of names does not have.
 struct Heading
 {
     const QString *column;
@@ -144,7 +144,7 @@ QVariant SampleTableModel::data(const QModelIndex &index, int role) const
 
 bool SampleTableModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    // A cell that is left as it was is no edit.
+    // A cell that is left as it was is not an edit.
     if (role != Qt::EditRole || value.toString() == data(index, Qt::EditRole).toString())
         return false;
     return !m_editor.setCell(idAt(index.row()), columnAt(index.column()), value.toString()).hasError();

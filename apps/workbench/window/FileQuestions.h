@@ -28,7 +28,7 @@ using Location = ozm::IFileAccessor::DestinationFileLocation;
 /// Saves through the accessor, as @p writer does, and offers to open what was written.
 ozm::Error save(QWidget *parent, const Location &location, const ozm::IFileAccessor::Writer &writer);
 
-/// Whether the toolkit's dialogs are shown in place of the system's; kept for the next run.
+/// True when the toolkit's dialogs are shown in place of the system's; kept for the next run.
 [[nodiscard]] bool usesToolkitDialogs();
 void setUsesToolkitDialogs(bool on);
 /// Does what the user chose in an earlier run, unless the environment says otherwise.

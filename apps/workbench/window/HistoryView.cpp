@@ -32,7 +32,7 @@ QVariant HistoryModel::data(const QModelIndex &index, int role) const
     if (role == Qt::FontRole) {
         QFont font;
         font.setBold(row == m_history.index() && m_history.count() > 0);
-        // What is undone can still be redone, so it stays, but steps back.
+        // Undone steps can be redone, so they stay in the list, drawn fainter.
         font.setItalic(row > m_history.index());
         return font;
     }

@@ -10,7 +10,7 @@ class QUndoStack;
 namespace workbench {
 
 /**
- * What a user can do in the window, and the tool bar that offers it. To add an action: a member here, and a
+ * The actions of the window, and the tool bar that offers them. To add an action: a member here, and a
  * row in the table of the source.
  */
 class MainActions : public QObject
@@ -20,7 +20,7 @@ class MainActions : public QObject
 public:
     explicit MainActions(QMainWindow *window);
 
-    /// Which of them can be used now.
+    /// Enables the actions that can be used now.
     void update(const QUndoStack &history, bool hasSamples, bool hasSelection) const;
 
     QAction *open = nullptr;

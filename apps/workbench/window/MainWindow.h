@@ -40,7 +40,7 @@ public:
     void open(const QString &path);
     /// Finds mass-spectrometry data for the table.
     [[nodiscard]] DataImport &dataImport() const { return *m_import; }
-    /// Whether troubles come up as messages; without, they are in the status bar only.
+    /// True when troubles come up as messages; without, they are in the status bar only.
     void setMessagesShown(bool shown) { m_showMessages = shown; }
 
 protected:

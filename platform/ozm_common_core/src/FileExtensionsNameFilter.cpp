@@ -15,7 +15,7 @@ QStringList patterns(const FileTypes::Ref &type)
     return all;
 }
 
-/// What stands between the last parentheses of a filter, word by word.
+/// The words between the last parentheses of a filter.
 QStringList patternsOf(const QString &filter)
 {
     const qsizetype open = filter.lastIndexOf(u'(');

@@ -7,7 +7,7 @@
 
 namespace {
 
-// What is gathered before it goes to the disk: large enough to make the writes few, small enough to stay
+// The bytes that are gathered before they go to the disk: large enough to make the writes few, small enough to stay
 // in the processor's cache.
 constexpr qsizetype kChunk = qsizetype{256} * 1024;
 

@@ -24,9 +24,9 @@ LocalResourceReference::LocalResourceReference()
 Error LocalResourceReference::setPath(const QString &path)
 {
     if (path.isEmpty())
-        return Error(ErrorCode::BadParameter, u"An empty path is no reference to a file."_s);
+        return Error(ErrorCode::BadParameter, u"An empty path does not refer to a file."_s);
     if (path.contains(QChar(u'\0')))
-        return Error(ErrorCode::BadParameter, u"A path with a null character is no reference to a file."_s);
+        return Error(ErrorCode::BadParameter, u"A path with a null character does not refer to a file."_s);
     setLocation(isAbsolute(path) ? path : QFileInfo(path).absoluteFilePath());
     return {};
 }

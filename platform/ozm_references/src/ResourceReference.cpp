@@ -96,7 +96,7 @@ Result<QSharedPointer<ResourceReference>> ResourceReference::fromString(const QS
     const Scheme scheme = schemeOf(QStringView(text).first(qMax<qsizetype>(colon, 0)));
     const QString location = unescaped(QStringView(text).sliced(colon + 1));
     if (scheme == Scheme::None || location.isEmpty())
-        return Error(ErrorCode::BadParameter, u"\"%1\" is no reference to a resource."_s.arg(text));
+        return Error(ErrorCode::BadParameter, u"\"%1\" does not refer to a resource."_s.arg(text));
     if (scheme == Scheme::LocalFile)
         return localReference(location);
     return QSharedPointer<ResourceReference>::create(scheme, location);

@@ -12,7 +12,7 @@ namespace ozm {
 
 class OzmMessageBox;
 
-/// What a message box is to look like; every way to ask for one comes down to this.
+/// The contents of a message box; every way to ask for a box comes down to this.
 struct MessageBoxDescription
 {
     QMessageBox::Icon icon;
@@ -26,11 +26,11 @@ struct MessageBoxDescription
     QMessageBox::StandardButton escapeButton = QMessageBox::NoButton;
     bool isAbout = false;
 
-    /// What is answered when the box cannot be shown.
+    /// The answer when the box cannot be shown.
     [[nodiscard]] QMessageBox::StandardButton answerUnshown() const;
 };
 
-/// What the code that a box ended with means: closed without a button, it was canceled.
+/// The button for the code that a box ended with; a box closed without a button was canceled.
 [[nodiscard]] QMessageBox::StandardButton answerOf(int code);
 
 /// Builds and runs the box, on the GUI thread whichever this one is.

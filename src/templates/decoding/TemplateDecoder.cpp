@@ -39,7 +39,7 @@ QString propertyText(const QVariant &value, const FriendlyName *column)
     return isReal ? QString::number(value.toDouble(), 'f', kDecimals) : value.toString();
 }
 
-/// What is asked of a type's own properties, looked up once for a decoding.
+/// The answers of a type's own properties, looked up once for a decoding.
 class OwnProperties
 {
 public:
@@ -136,7 +136,7 @@ private:
     int m_property = -1;
 };
 
-/// Whether a script has the code at @p position as a text of its own, as in inputParameters["[Name]"].
+/// True when a script has the code at @p position as a text of its own, as in inputParameters["[Name]"].
 bool isQuoted(QStringView text, qsizetype position, qsizetype length)
 {
     if (position == 0 || position + length >= text.size())

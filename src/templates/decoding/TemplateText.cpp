@@ -17,7 +17,7 @@ namespace {
 
 // Some 30 MB with what is kept beside the text: the templates of a suite of applications many times over.
 constexpr qsizetype kCachedCharacters = 8'000'000;
-// What an entry takes beside its text, so that many small ones are bounded, too.
+// The cost of an entry beside its text, so that many small entries are bounded, too.
 constexpr qsizetype kEntryCost = 200;
 
 ScriptPiece scriptPiece(const QString &text, qsizetype start, qsizetype length)

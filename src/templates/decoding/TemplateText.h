@@ -18,7 +18,7 @@ struct ScriptPiece
     bool readsParameters; ///< May look at them; false only when that is certain.
 };
 
-/// What can be known of a template before there is data for it.
+/// A template parsed as far as that is possible without data.
 class TemplateText
 {
 public:

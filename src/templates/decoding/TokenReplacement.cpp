@@ -27,7 +27,7 @@ bool isBracketed(QStringView key)
            !hasBracket(key.sliced(1, key.size() - 2));
 }
 
-/// What stands in the place of a name of the text, if its key has a value.
+/// The replacement for a name of the text, if its key has a value.
 struct Replacement
 {
     bool known = false;

@@ -13,7 +13,7 @@
  */
 namespace ozm::tokens {
 
-/// What a value is in a text: a string list joined with "; ", anything else as QVariant has it.
+/// The text of a value: a string list joined with "; ", anything else as QVariant has it.
 [[nodiscard]] QString textOf(const QVariant &value);
 
 /// The rule as it stands.

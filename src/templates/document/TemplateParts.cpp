@@ -35,7 +35,7 @@ constexpr std::array kKeepWholeElements{"caption"_L1, "col"_L1, "colgroup"_L1, "
 constexpr std::array kTableParts{"tbody"_L1, "td"_L1,      "tfoot"_L1, "th"_L1,      "thead"_L1,
                                  "tr"_L1,    "caption"_L1, "col"_L1,   "colgroup"_L1};
 
-// Blanks at the edges of these are nobody's: the reader would keep one after a marker.
+// Blanks at the edges of these elements mean nothing, but the reader would keep one after a marker.
 constexpr std::array kBlockElements{"blockquote"_L1, "body"_L1,  "br"_L1,    "div"_L1,   "dd"_L1, "dl"_L1,
                                     "dt"_L1,         "h1"_L1,    "h2"_L1,    "h3"_L1,    "h4"_L1, "h5"_L1,
                                     "h6"_L1,         "head"_L1,  "hr"_L1,    "html"_L1,  "li"_L1, "ol"_L1,
@@ -248,7 +248,7 @@ private:
         m_kept.append({head.start, head.end, !matters});
     }
 
-    // Which attributes survive rich text as they are written; codes in any other would be lost.
+    // Only these attributes survive rich text as they are written; codes in others would be lost.
     bool losesAttributes(const HtmlElement &element) const
     {
         const QStringView tag =

@@ -21,7 +21,7 @@ namespace ozm::editor {
 
 namespace {
 
-/// What the rich-text reader itself makes of a tag without attributes.
+/// The formats that the rich-text reader gives to a tag without attributes.
 struct TagDefaults
 {
     QTextBlockFormat block;
@@ -103,7 +103,7 @@ bool isRuler(const QTextBlock &block)
     return block.blockFormat().hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth);
 }
 
-/// What the surrounding cell already says of its blocks.
+/// Formats that the surrounding cell already gives to its blocks.
 struct Surroundings
 {
     QTextCharFormat text;
@@ -264,7 +264,7 @@ private:
         add(open.close);
     }
 
-    // Brackets that are no chip would become a code once they are written side by side.
+    // Brackets that are not a chip would become a code once they are written side by side.
     void findLooseBrackets(const QTextBlock &block)
     {
         m_looseBrackets.clear();

@@ -78,7 +78,7 @@ QByteArray copyOf(const QString &path, const QString &content)
 bool writeCopy(const QString &name, const QByteArray &bytes)
 {
     QSaveFile file(name);
-    // What is being written may be confidential, and other users may look into the folder.
+    // The template may be confidential, and other users may look into the folder.
     return file.open(QIODevice::WriteOnly) &&
            file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
            file.write(bytes) == bytes.size() && file.commit();

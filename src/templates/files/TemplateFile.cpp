@@ -54,7 +54,7 @@ bool isNoFile(const QString &path)
 Result<QByteArray> bytesOf(const QString &path)
 {
     if (isNoFile(path))
-        return notRead(path, TemplateFile::tr("It is no file."));
+        return notRead(path, TemplateFile::tr("This is not a file."));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return notRead(path, file.errorString());
@@ -147,7 +147,7 @@ Error TemplateFile::write(const QString &path, const QString &content)
     if (!bytes)
         return bytes.error();
     if (isNoFile(path))
-        return notWritten(path, tr("It is no file.")).ecatch(OZM_HERE);
+        return notWritten(path, tr("This is not a file.")).ecatch(OZM_HERE);
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeAll(file, bytes.value()) ||
         !file.commit())

@@ -137,7 +137,7 @@ Result<DecodedText> decodeTemplateFile(const QByteArray &bytes)
         return wrongTemplateFormat(binary);
     if (!syntax::mentionsEnvelope(bytes) && isPageLike(bytes))
         return decodePage(bytes);
-    return decodedOr(TemplateFile::tr("The file holds bytes that are no UTF-8 text."),
+    return decodedOr(TemplateFile::tr("The file holds bytes that are not UTF-8 text."),
                      QTextCodec::codecForName("UTF-8"), bytes);
 }
 

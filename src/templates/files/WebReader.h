@@ -7,7 +7,7 @@ class QString;
 namespace ozm {
 
 /**
- * What stands in the body of the HTML page @p page, from the web reader, which is loaded the first time.
+ * The body of the HTML page @p page. The web reader is loaded with the first page.
  *
  * Template scripts, "<script>" to "</script>" without attributes, come through to the letter. Looks for the
  * plug-in below the folder of this library, in ozm_widgets/plugins, and then in ozm_widgets below each of

@@ -9,7 +9,7 @@
 namespace ozm {
 
 /**
- * What the plug-in with the web engine does for the library.
+ * The service that the plug-in with the web engine gives to the library.
  *
  * The number at the end of the identifier goes up with every change here, so that a plug-in of another
  * version is left alone.
@@ -19,7 +19,7 @@ class WebReaderInterface
 public:
     virtual ~WebReaderInterface() = default;
 
-    /// What stands in the body of @p page, as the engine parsed it. Code 1 when that takes longer than
+    /// The body of @p page, as the engine parsed it. Code 1 when that takes longer than
     /// @p deadline or the engine fails, code 3 when the engine cannot be started here. GUI thread only.
     [[nodiscard]] virtual Result<QString> bodyOf(const QString &page, std::chrono::milliseconds deadline) = 0;
 };

@@ -42,7 +42,7 @@ constexpr std::array kGlobals{
     "undefined"_L1,
 };
 
-// What is called by these returns something new, or changes a list that the script has made itself.
+// These methods return a new value, or change a list that the script itself has made.
 constexpr std::array kMembers{
     "E"_L1,         "LN10"_L1,          "LN2"_L1,        "PI"_L1,           "abs"_L1,
     "ceil"_L1,      "charAt"_L1,        "charCodeAt"_L1, "concat"_L1,       "endsWith"_L1,
@@ -67,7 +67,7 @@ constexpr std::array kForbiddenMembers{
     "caller"_L1, "constructor"_L1, "hasOwnProperty"_L1, "prototype"_L1, "valueOf"_L1,
 };
 
-// What a free name of this kind stands for where no declaration is in force.
+// The meaning of a free name of this kind where no declaration is in force.
 constexpr std::array kForbiddenNames{
     "arguments"_L1, "async"_L1,      "await"_L1,    "class"_L1,  "console"_L1, "debugger"_L1, "delete"_L1,
     "enum"_L1,      "escape"_L1,     "eval"_L1,     "export"_L1, "extends"_L1, "function"_L1, "gc"_L1,
@@ -235,7 +235,7 @@ private:
         return !name.contains(u'\\') && (name.startsWith(u'[') || isOneOf(name, kMembers));
     }
 
-    /// Whether what stands there is a variable whose declaration is in force.
+    /// True when what stands there is a variable whose declaration is in force.
     [[nodiscard]] bool isAssignable(int distance) const
     {
         const ScriptToken target = at(distance);
@@ -245,7 +245,7 @@ private:
                });
     }
 
-    /// Whether a "++" or "--" is of such a variable, on whichever side a line break may put it.
+    /// True when a "++" or "--" is of such a variable, on whichever side a line break may put it.
     [[nodiscard]] bool isStep() const
     {
         const bool after = isAssignable(-1);

@@ -85,7 +85,7 @@ private:
         m_at = end;
     }
 
-    /// Whether there is anything left.
+    /// True when there is anything left.
     bool skipBlanks()
     {
         while (m_at < m_code.size() && m_sure) {

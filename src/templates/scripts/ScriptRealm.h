@@ -10,7 +10,7 @@
 
 namespace ozm {
 
-/// What became of a piece of script. A failed one has its code as its text.
+/// The outcome of a piece of script. A failed one has its code as its text.
 struct ScriptOutcome
 {
     QString text;

@@ -17,7 +17,7 @@ namespace ozm::syntax {
 /// The codes of @p text as getCodes() gives them, but under the names that they are written by.
 [[nodiscard]] QList<QString> codesIn(const QString &text, bool withBrackets);
 
-/// A pair of brackets without a bracket in between, or a bracket that is no part of such a pair.
+/// A pair of brackets without a bracket in between, or a bracket that is not a part of such a pair.
 struct Mark
 {
     enum : int

@@ -9,7 +9,7 @@
 /// The element that a stored template is kept in, and that carries the version of the format.
 namespace ozm::syntax {
 
-/// What an envelope holds, and where that begins in the text around it.
+/// The content of an envelope, and its place in the text around it.
 struct EnvelopeContent
 {
     QString text;

@@ -19,7 +19,7 @@ constexpr std::array kVoidElements{"area"_L1,  "base"_L1,   "br"_L1,    "col"_L1
 
 constexpr std::array kRawElements{"script"_L1, "style"_L1, "textarea"_L1, "title"_L1, "noscript"_L1};
 
-// What a new element of the first name closes when the second is still open, as browsers read it.
+// An element of the first name ends an open one of the second name, as in browsers.
 struct ImpliedEnd
 {
     QLatin1StringView opened;

@@ -10,9 +10,9 @@ enum class HtmlTokenKind
     Text,
     StartTag,
     EndTag,
-    /// A whole element whose content is no markup: a script with attributes, a style sheet, a title.
+    /// A whole element whose content is not markup: a script with attributes, a style sheet, a title.
     RawElement,
-    /// What decoding runs: from "<script>" to the "</script>" that closes it, nested ones included.
+    /// A script that decoding runs, with its tags and the scripts nested in it.
     Script,
     /// Comments, declarations, and script tags without a partner.
     Opaque,
@@ -28,7 +28,7 @@ struct HtmlToken
 };
 
 /**
- * Splits @p source into tokens that cover it without a gap. Nothing is an error: what is no tag is text,
+ * Splits @p source into tokens that cover it without a gap. Nothing is an error: what is not a tag is text,
  * a "<" before a digit or a blank among it, and what is not closed ends with the source.
  */
 [[nodiscard]] QList<HtmlToken> scanHtml(const QString &source);

@@ -26,7 +26,7 @@ public:
 
     [[nodiscard]] QString toFilterString() const;
 
-    /// Whether a filter was made of @p type, or takes every extension of it by a pattern of its own, so that
+    /// True when a filter was made of @p type, or takes every extension of it by a pattern of its own, so that
     /// a filter is the same after it was a text. A type without extensions is in no filter.
     [[nodiscard]] bool containsType(const FileTypes::Ref &type) const;
 

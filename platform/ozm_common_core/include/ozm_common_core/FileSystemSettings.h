@@ -22,7 +22,7 @@ public:
     /// A purpose; its name is what the folder is kept under.
     struct OZM_COMMON_CORE_EXPORT DirLocationData
     {
-        /// The purpose of whoever names none.
+        /// The purpose of callers that name none.
         [[nodiscard]] static ExtendableEnumRef<DirLocationData> defaultValue();
     };
     using DirLocation = ExtendableEnumRef<DirLocationData>;

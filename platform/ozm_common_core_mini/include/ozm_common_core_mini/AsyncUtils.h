@@ -55,7 +55,7 @@ private:
         if (m_state != from)
             return false;
         m_state = to;
-        // That the work was begun wakes nobody: it is looked at when the patience is at its end.
+        // The beginning of the work wakes nobody; it is checked when the waiting time has passed.
         if (to != State::Running)
             m_changed.notify_all();
         return true;
@@ -139,7 +139,7 @@ private:
         return Error(ErrorCode::Failed, text).ecatch(place);
     }
 
-    /// What is posted: does @p work, which is the caller's, who is there for as long as begin() says so.
+    /// The posted call: runs @p work, which belongs to the caller and is valid as long as begin() says so.
     static auto errand(const std::shared_ptr<internal::HandOver> &waiting, std::shared_ptr<void> ticket,
                        const std::function<void()> &work)
     {

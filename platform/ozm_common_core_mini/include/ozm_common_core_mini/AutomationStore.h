@@ -6,7 +6,7 @@
 #include <QString>
 #include <QVariant>
 
-/// Whether the system's file explorer may be opened; true when the store has no answer.
+/// True when the system's file explorer may be opened; true when the store has no answer.
 OZM_COMMON_CORE_MINI_EXPORT extern const QString kFileExplorerAllowed;
 
 /**

@@ -7,7 +7,7 @@
 #include <QVariant>
 
 /**
- * What the columns of RowNode data are called on screen, and how their values are shown there.
+ * The names of RowNode columns on screen, and how their values are shown there.
  *
  *     header->setText(ColumnFriendlyName::friendlyName(kCalcMr)); // "Calculated mass (Da)"
  *
@@ -16,7 +16,7 @@
 class OZM_COMMON_CORE_MINI_EXPORT ColumnFriendlyName
 {
 public:
-    /// What stands for a column in a row that summarises several; where they read the same, that value.
+    /// The text of a column in a row that summarises several; their value, where all have the same.
     enum class Summary
     {
         Values, ///< The different values, in order of appearance, joined with "; ".

@@ -15,10 +15,10 @@ public:
     /// The classic limit of Windows, which counts the null character that ends a path.
     static constexpr quint32 winMaxPathLength = 260;
 
-    /// Whether @p path, with its final null character, is longer than winMaxPathLength.
+    /// True when @p path, with its final null character, is longer than winMaxPathLength.
     [[nodiscard]] static bool isWinLongPath(QStringView path);
 
-    /// Whether @p path begins with the mark that lifts the limit, with slashes of either kind.
+    /// True when @p path begins with the mark that lifts the limit, with slashes of either kind.
     [[nodiscard]] static bool hasWinLongPathPrefix(QStringView path);
 };
 

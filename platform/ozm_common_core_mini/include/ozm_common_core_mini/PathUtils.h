@@ -38,7 +38,7 @@ public:
     [[nodiscard]] static bool isExistingDir(const QString &path);
     [[nodiscard]] static bool isDirectory(const QString &path);
 
-    /// Whether what follows the last dot of the path's last component is @p extension (given without a dot),
+    /// True when what follows the last dot of the path's last component is @p extension (given without a dot),
     /// in any letter case. Looks at the text only; the empty extension is that of a name without a dot, or
     /// with one at its end.
     [[nodiscard]] static bool hasExtension(QStringView path, QStringView extension);

@@ -4,7 +4,7 @@
 
 namespace ozm {
 
-/// What can be given up by whoever was asked for it.
+/// The result of a question that the user can cancel.
 class OZM_COMMON_STABLE_EXPORT Cancelable
 {
 public:

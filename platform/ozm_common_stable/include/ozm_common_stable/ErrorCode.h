@@ -2,7 +2,7 @@
 
 namespace ozm {
 
-/// What went wrong, in a form that support staff and scripts can rely on: the numbers never change.
+/// The kind of an error. Support staff and scripts rely on the numbers, which never change.
 enum class ErrorCode : int
 {
     NoError = 0,

@@ -4,7 +4,7 @@
 
 namespace ozm {
 
-/// What libraries that cannot know the accessor's questions hand around: cast it to the accessor they use.
+/// The base for libraries that pass an accessor on without knowing its questions: they cast it to their own type.
 class OZM_COMMON_WIDGETS_EXPORT IFileAccessorBase
 {
 public:

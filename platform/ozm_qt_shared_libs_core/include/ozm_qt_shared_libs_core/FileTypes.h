@@ -30,7 +30,7 @@ public:
     static Ref add(const QString &name, const QStringList &extensions);
     [[nodiscard]] static std::optional<Ref> find(const QString &name);
 
-    /// Whether the name at the end of @p path, which may have a slash after it, carries an extension of any
+    /// True when the name at the end of @p path, which may have a slash after it, carries an extension of any
     /// of @p types, in any letter case.
     [[nodiscard]] static bool fileMatchesAnyType(const QString &path, const QList<Ref> &types);
 };

@@ -43,7 +43,7 @@ public:
 
     [[nodiscard]] Scheme scheme() const { return m_scheme; }
     [[nodiscard]] bool isScheme(Scheme scheme) const { return m_scheme == scheme; }
-    /// What the scheme looks up; of a local file its absolute path.
+    /// The location in the terms of the scheme; of a local file its absolute path.
     [[nodiscard]] QString location() const { return m_location; }
 
 protected:
