@@ -21,9 +21,8 @@ class MemoryLogger : public AuditTrailLoggingInterface
 public:
     using Item = QSharedPointer<OperationLogItem>;
 
-    bool commitMacro(const Item &) override { return true; }
-    Item logCommand(const Item &parent, const UndoCommand &command,
-                    OperationLogItemUndoContext context) override
+    bool commitMacro(Item) override { return true; }
+    Item logCommand(Item parent, const UndoCommand &command, OperationLogItemUndoContext context) override
     {
         OperationLogItemData data = *command.logData();
         data.setUndoContext(context);
@@ -31,12 +30,12 @@ public:
             OperationLogItemPrivate::createItem(parent, m_items.size() + 1, m_time++, u"jdoe"_s, data));
         return m_items.constLast();
     }
-    Item logCommandInMacro(const Item &macro, const UndoCommand &command,
+    Item logCommandInMacro(Item macro, const UndoCommand &command,
                            OperationLogItemUndoContext context) override
     {
         return logCommand(macro, command, context);
     }
-    Item logBeginMacro(const Item &, const OperationLogItemData &) override { return {}; }
+    Item logBeginMacro(Item, const OperationLogItemData &) override { return {}; }
 
 private:
     QList<Item> m_items;

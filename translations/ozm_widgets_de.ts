@@ -386,6 +386,17 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::OperationLogItemData</name>
+    <message>
+        <source>The record cannot be read from byte %1 on: %2.</source>
+        <translation>Der Eintrag ist ab Byte %1 nicht lesbar: %2.</translation>
+    </message>
+    <message>
+        <source>The record has no known operation, subject, attributes or undo context.</source>
+        <translation>Der Eintrag nennt keinen bekannten Vorgang, Gegenstand, keine Attribute oder keinen bekannten Zusammenhang.</translation>
+    </message>
+</context>
+<context>
     <name>ozm::PickRecognition</name>
     <message>
         <source>%1: %2</source>

@@ -54,23 +54,19 @@ class Logger : public AuditTrailLoggingInterface
 public:
     using Item = QSharedPointer<OperationLogItem>;
 
-    bool commitMacro(const Item &) override { return true; }
-    Item logCommand(const Item &parent, const UndoCommand &command,
-                    OperationLogItemUndoContext context) override
+    bool commitMacro(Item) override { return true; }
+    Item logCommand(Item parent, const UndoCommand &command, OperationLogItemUndoContext context) override
     {
         OperationLogItemData data = *command.logData();
         data.setUndoContext(context);
         return keep(parent, data);
     }
-    Item logCommandInMacro(const Item &macro, const UndoCommand &command,
+    Item logCommandInMacro(Item macro, const UndoCommand &command,
                            OperationLogItemUndoContext context) override
     {
         return logCommand(macro, command, context);
     }
-    Item logBeginMacro(const Item &parent, const OperationLogItemData &data) override
-    {
-        return keep(parent, data);
-    }
+    Item logBeginMacro(Item parent, const OperationLogItemData &data) override { return keep(parent, data); }
 
     QList<Item> items;
 

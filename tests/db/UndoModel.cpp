@@ -6,21 +6,55 @@ namespace ozm::test {
 
 bool UndoModel::push(const std::shared_ptr<Edit> &edit)
 {
-    qsizetype item = 0;
-    const bool fails = !run(*edit, true, &item);
+    adopt();
+    recentItem = run(*edit, true);
+    const bool fails = edit->failed;
     const auto entry = std::make_shared<Entry>(Entry{edit});
-    if (!place(entry))
+    if ((fails && m_openMacros.isEmpty()) || !place(entry, true))
         kill(*entry);
-    recentItem = item;
     if (fails)
-        removeFailed(entry);
+        edit->obsolete = true;
     else if (edit->alive && !m_done.isEmpty())
         m_last = edit;
     return fails;
 }
 
+void UndoModel::pushUnseen(const std::shared_ptr<Edit> &edit)
+{
+    journal.append(u"redo "_s + edit->name);
+    edit->firstRun = false;
+    edit->failed = edit->failsRedo;
+    edit->obsolete = edit->obsoleteAfterRedo;
+    const auto entry = std::make_shared<Entry>(Entry{edit});
+    if (!place(entry, false))
+        kill(*entry);
+    if (edit->alive)
+        m_unseen.append(entry);
+    if (m_openMacros.isEmpty())
+        adopt();
+}
+
+/// Records what came unseen.
+void UndoModel::adopt()
+{
+    const QList<EntryPtr> unseen = std::exchange(m_unseen, {});
+    for (const EntryPtr &entry : unseen) {
+        Edit &edit = *entry->edit;
+        if (!edit.failed && !m_done.isEmpty()) {
+            ++m_done.last();
+            m_undone.last() = 0;
+            m_last = entry->edit;
+        }
+        record(edit, u"New"_s);
+        if (edit.failed && m_openMacros.isEmpty()) {
+            m_entries.removeAt(--m_index);
+            kill(*entry);
+        }
+    }
+}
+
 /// Puts a new edit into the history unless it is merged or obsolete.
-bool UndoModel::place(const EntryPtr &entry)
+bool UndoModel::place(const EntryPtr &entry, bool seen)
 {
     const bool inMacro = !m_openMacros.isEmpty();
     if (!inMacro)
@@ -29,7 +63,7 @@ bool UndoModel::place(const EntryPtr &entry)
     const Edit &edit = *entry->edit;
     if (const auto before = siblings.isEmpty() ? nullptr : siblings.last()->edit) {
         const bool sameKind = before->mergeId != -1 && before->mergeId == edit.mergeId;
-        if (sameKind && (before->greedy || (!before->failed && !edit.failed))) {
+        if (sameKind && (before->greedy || (seen && !before->failed && !edit.failed))) {
             kill(*entry);
             if (before->obsolete) {
                 kill(*siblings.takeLast());
@@ -41,73 +75,88 @@ bool UndoModel::place(const EntryPtr &entry)
     if (edit.obsolete)
         return false;
     siblings.append(entry);
-    m_index = inMacro ? m_index : m_index + 1;
+    if (!inMacro) {
+        ++m_index;
+        checkLimit();
+    }
     return true;
 }
 
-void UndoModel::removeFailed(const EntryPtr &entry)
+void UndoModel::checkLimit()
 {
-    if (!entry->edit->alive)
-        return;
-    entry->edit->obsolete = true;
-    if (m_openMacros.isEmpty() && m_index > 0 && m_entries.at(m_index - 1) == entry) {
-        m_entries.removeAt(--m_index);
-        kill(*entry);
-    }
+    for (; undoLimit > 0 && m_entries.size() > undoLimit; --m_index)
+        kill(*m_entries.takeFirst());
 }
 
-/// Returns whether the edit succeeded.
-bool UndoModel::run(Edit &edit, bool inPush, qsizetype *item)
+void UndoModel::before(Edit &edit)
+{
+    if (edit.stepsBefore)
+        innerStep(edit);
+    journal.append(u"before "_s + edit.name);
+    edit.failed = edit.failsBefore;
+}
+
+/// Counts a run of the edit in.
+bool UndoModel::mayRun(Edit &edit)
 {
     edit.failed = false;
-    if (!m_done.isEmpty()) {
-        if (m_done.last() == 0) {
-            journal.append(u"before "_s + edit.name);
-            edit.failed = edit.failsBefore;
-        }
-        if (edit.failed)
-            return false;
+    if (!m_done.isEmpty() && m_done.last() == 0)
+        before(edit);
+    if (!edit.failed && !m_done.isEmpty()) {
         ++m_done.last();
         m_undone.last() = 0;
     }
-    if (edit.firstRun && edit.inner) {
-        if (inPush)
-            push(edit.inner);
-        else
-            journal << u"! Push refused while an undo or redo runs"_s << u"dies "_s + edit.inner->name;
-    }
-    edit.obsolete = edit.obsoleteAfterRedo;
-    journal.append(u"redo "_s + edit.name);
-    edit.failed = edit.failsRedo;
-    const QString context = edit.firstRun ? u"New"_s : u"Redo"_s;
-    edit.firstRun = false;
-    const bool canRedo = m_openMacros.isEmpty() && m_index < m_entries.size();
-    const qsizetype recorded = inPush || canRedo ? record(edit, context) : 0;
-    if (item)
-        *item = recorded;
     return !edit.failed;
+}
+
+qsizetype UndoModel::run(Edit &edit, bool inPush)
+{
+    const bool wasInStep = std::exchange(m_inStep, !inPush);
+    qsizetype item = 0;
+    if (mayRun(edit)) {
+        if (edit.inner && !m_inStep)
+            push(edit.inner);
+        else if (edit.inner)
+            journal << u"! Push refused while an undo or redo runs"_s << u"dies "_s + edit.inner->name;
+        if (edit.inner || !edit.stepsBefore)
+            innerStep(edit);
+        edit.inner.reset();
+        edit.obsolete = edit.obsoleteAfterRedo;
+        journal.append(u"redo "_s + edit.name);
+        edit.failed = edit.failsRedo;
+        const QString context = edit.firstRun ? u"New"_s : u"Redo"_s;
+        edit.firstRun = false;
+        const bool canRedo = m_openMacros.isEmpty() && m_index < m_entries.size();
+        item = inPush || canRedo ? record(edit, context) : 0;
+    }
+    m_inStep = wasInStep;
+    return item;
 }
 
 void UndoModel::undoEdit(Edit &edit)
 {
+    m_inStep = true;
     edit.failed = false;
     if (!m_undone.isEmpty()) {
-        if (m_undone.last() == 0) {
-            journal.append(u"before "_s + edit.name);
-            edit.failed = edit.failsBefore;
+        if (m_undone.last() == 0)
+            before(edit);
+        if (!m_undone.isEmpty()) {
+            ++m_undone.last();
+            --m_done.last();
         }
-        ++m_undone.last();
-        --m_done.last();
-        if (edit.failed)
-            return;
     }
-    journal.append(u"undo "_s + edit.name);
-    edit.failed = edit.failsUndo;
-    record(edit, u"Undo"_s);
-    if (!m_done.isEmpty() && m_done.last() == 0) {
-        journal.append(u"after "_s + edit.name);
-        edit.failed = false;
+    if (!edit.failed) {
+        if (!edit.stepsBefore)
+            innerStep(edit);
+        journal.append(u"undo "_s + edit.name);
+        edit.failed = edit.failsUndo;
+        record(edit, u"Undo"_s);
+        if (!m_done.isEmpty() && m_done.last() == 0) {
+            journal.append(u"after "_s + edit.name);
+            edit.failed = false;
+        }
     }
+    m_inStep = false;
 }
 
 qsizetype UndoModel::record(const Edit &edit, const QString &context)
@@ -149,7 +198,6 @@ bool UndoModel::commit(qsizetype item)
 {
     if (m_items.at(item).collapse && m_items.at(item).children.size() < 2) {
         const QList<qsizetype> children = m_items.at(item).children;
-        setParent(item, 0);
         if (children.isEmpty())
             return true;
         item = children.first();
@@ -173,9 +221,38 @@ void UndoModel::undoEntry(Entry &entry)
 void UndoModel::redoEntry(Entry &entry)
 {
     if (entry.edit)
-        run(*entry.edit, false, nullptr);
+        run(*entry.edit, false);
     for (const EntryPtr &child : entry.children)
         redoEntry(*child);
+}
+
+void UndoModel::innerStep(const Edit &edit)
+{
+    const bool refused = m_inStep && (edit.step == Edit::Begin || edit.step == Edit::Clear);
+    if (refused)
+        journal.append(u"! %1 refused while an undo or redo runs"_s.arg(
+            edit.step == Edit::Begin ? u"Macro"_s : u"Clear"_s));
+    else if (edit.step == Edit::Undo)
+        undo();
+    else if (edit.step == Edit::Redo)
+        redo();
+    else if (edit.step == Edit::Begin)
+        beginMacro(u"in "_s + edit.name, true);
+    else if (edit.step == Edit::End)
+        endMacro();
+    else if (edit.step == Edit::Abort)
+        abortMacro();
+    else if (edit.step == Edit::Clear)
+        clear();
+}
+
+/// Steps that come while a step of the history runs: the base class asks each edit.
+void UndoModel::refuse(const Entry &entry, const QString &what)
+{
+    if (entry.edit)
+        journal.append(u"! %1 refused while an undo or redo runs"_s.arg(what));
+    for (qsizetype i = 0; i < entry.children.size(); ++i)
+        refuse(*entry.children.at(i), what);
 }
 
 void UndoModel::undo()
@@ -187,6 +264,10 @@ void UndoModel::undo()
         return;
     }
     const EntryPtr entry = m_entries.at(m_index - 1);
+    if (m_inStep) {
+        refuse(*entry, u"Undo"_s);
+        return;
+    }
     if (!entry->edit || !entry->edit->obsolete)
         undoEntry(*entry);
     --m_index;
@@ -205,6 +286,10 @@ void UndoModel::redo()
         return;
     }
     const EntryPtr entry = m_entries.at(m_index);
+    if (m_inStep) {
+        refuse(*entry, u"Redo"_s);
+        return;
+    }
     if (!entry->edit || !entry->edit->obsolete)
         redoEntry(*entry);
     if (entry->edit && entry->edit->obsolete) {
@@ -217,6 +302,7 @@ void UndoModel::redo()
 
 void UndoModel::beginMacro(const QString &name, bool collapse)
 {
+    adopt();
     m_done.append(0);
     m_undone.append(0);
     if (loggerAttached) {
@@ -234,6 +320,7 @@ void UndoModel::beginMacro(const QString &name, bool collapse)
 
 bool UndoModel::endMacro()
 {
+    adopt();
     bool ok = true;
     if (loggerAttached) {
         const qsizetype item = m_openItems.isEmpty() ? 0 : m_openItems.takeLast();
@@ -248,6 +335,7 @@ bool UndoModel::endMacro()
 
 bool UndoModel::abortMacro()
 {
+    adopt();
     bool ok = true;
     if (loggerAttached) {
         ok = !m_openItems.isEmpty() && m_openItems.takeLast();
@@ -267,8 +355,10 @@ void UndoModel::closeMacro()
         return;
     }
     m_openMacros.removeLast();
-    if (m_openMacros.isEmpty())
+    if (m_openMacros.isEmpty()) {
         ++m_index;
+        checkLimit();
+    }
 }
 
 void UndoModel::finishMacro(const QString &call)
@@ -285,6 +375,7 @@ void UndoModel::clear()
     for (const EntryPtr &entry : std::as_const(m_entries))
         kill(*entry);
     m_entries.clear();
+    m_unseen.clear();
     m_index = 0;
     if (m_openMacros.isEmpty())
         return;

@@ -1,11 +1,6 @@
 #pragma once
 
-#include <QList>
-#include <QString>
-#include <QStringList>
-
-#include <memory>
-#include <optional>
+#include "UndoTestTools.h"
 
 namespace ozm::test {
 
@@ -17,28 +12,10 @@ namespace ozm::test {
 class UndoModel
 {
 public:
-    struct Edit
-    {
-        QString name;
-        int mergeId = -1;
-        bool failsRedo = false;
-        bool failsUndo = false;
-        bool failsBefore = false;
-        bool logged = true;
-        bool auditTrail = true;
-        bool greedy = false;
-        bool obsoleteAfterRedo = false;
-        /// Pushed from within the first run.
-        std::shared_ptr<Edit> inner = {};
-
-        bool firstRun = true;
-        bool failed = false;
-        bool obsolete = false;
-        bool alive = true;
-    };
-
     /// Returns whether the push fails.
     bool push(const std::shared_ptr<Edit> &edit);
+    /// Through the base class.
+    void pushUnseen(const std::shared_ptr<Edit> &edit);
     void undo();
     void redo();
     void beginMacro(const QString &name, bool collapse);
@@ -49,6 +26,7 @@ public:
     /// One line for the whole history: "a (b c) | d", with the bar at the index.
     [[nodiscard]] QString history() const;
 
+    int undoLimit = 0;
     bool loggerAttached = true;
     bool loggerFails = false;
     QStringList journal;
@@ -71,17 +49,22 @@ private:
     };
     using EntryPtr = std::shared_ptr<Entry>;
 
-    bool run(Edit &edit, bool inPush, qsizetype *item);
+    qsizetype run(Edit &edit, bool inPush);
+    bool mayRun(Edit &edit);
     void undoEdit(Edit &edit);
     void undoEntry(Entry &entry);
     void redoEntry(Entry &entry);
+    void refuse(const Entry &entry, const QString &what);
+    void innerStep(const Edit &edit);
+    void before(Edit &edit);
+    void checkLimit();
+    void adopt();
     qsizetype record(const Edit &edit, const QString &context);
     qsizetype newItem(const QString &what, const QString &name, qsizetype parent, bool collapse);
     void setParent(qsizetype item, qsizetype parent);
     bool commit(qsizetype item);
 
-    bool place(const EntryPtr &entry);
-    void removeFailed(const EntryPtr &entry);
+    bool place(const EntryPtr &entry, bool seen);
     void kill(Entry &entry);
     void dropRedoTail();
     void finishMacro(const QString &call);
@@ -98,6 +81,8 @@ private:
     QList<int> m_done;
     QList<int> m_undone;
     std::shared_ptr<Edit> m_last;
+    QList<EntryPtr> m_unseen;
+    bool m_inStep = false; ///< Of the history.
 };
 
 } // namespace ozm::test

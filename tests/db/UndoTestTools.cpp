@@ -1,5 +1,7 @@
 #include "UndoTestTools.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace ozm::test {
@@ -18,47 +20,49 @@ OperationLogItemData recordOf(const QString &name)
     return {OperationLogItemType::Set, OperationLogItemSubject::Type::Project, {name}, 1};
 }
 
-ScriptedCommand::ScriptedCommand(Script script, QStringList *journal, UndoCommand *parent)
+ScriptedCommand::ScriptedCommand(Edit edit, QStringList *journal, Inside inside, UndoCommand *parent)
     : UndoCommand(parent)
-    , m_script(std::move(script))
+    , m_edit(std::move(edit))
     , m_journal(journal)
+    , m_inside(std::move(inside))
 {
-    setText(m_script.name);
-    setAuditTrailEnabled(m_script.auditTrail);
-    if (m_script.logged)
-        setLogData(recordOf(m_script.name));
+    setText(m_edit.name);
+    setAuditTrailEnabled(m_edit.auditTrail);
+    if (m_edit.logged)
+        setLogData(recordOf(m_edit.name));
 }
 
 ScriptedCommand::~ScriptedCommand()
 {
-    m_journal->append(u"dies "_s + m_script.name);
+    m_journal->append(u"dies "_s + m_edit.name);
 }
 
 bool ScriptedCommand::mergeWith(const QUndoCommand *other)
 {
-    return m_script.greedy || canMergeWith(other);
+    return m_edit.greedy || canMergeWith(other);
 }
 
 Error ScriptedCommand::doUndo()
 {
-    if (m_script.inUndo)
-        m_script.inUndo();
-    return note(u"undo "_s, m_script.failsUndo);
+    if (m_inside && !m_edit.stepsBefore)
+        m_inside({});
+    return note(u"undo "_s, m_edit.failsUndo);
 }
 
 Error ScriptedCommand::doRedo()
 {
-    if (m_script.inRedo)
-        m_script.inRedo();
-    setObsolete(m_script.obsoleteAfterRedo);
-    return note(u"redo "_s, m_script.failsRedo);
+    const auto inner = std::exchange(m_edit.inner, {});
+    if (m_inside && (inner || !m_edit.stepsBefore))
+        m_inside(inner);
+    setObsolete(m_edit.obsoleteAfterRedo);
+    return note(u"redo "_s, m_edit.failsRedo);
 }
 
 Error ScriptedCommand::beforeBeginFirst()
 {
-    if (m_script.inBefore)
-        m_script.inBefore();
-    return note(u"before "_s, m_script.failsBefore);
+    if (m_inside && m_edit.stepsBefore)
+        m_inside({});
+    return note(u"before "_s, m_edit.failsBefore);
 }
 
 Error ScriptedCommand::afterEndLast(bool committed)
@@ -68,11 +72,11 @@ Error ScriptedCommand::afterEndLast(bool committed)
 
 Error ScriptedCommand::note(const QString &what, bool fails)
 {
-    m_journal->append(what + m_script.name);
-    return fails ? Error(ErrorCode::Failed, what + m_script.name) : Error();
+    m_journal->append(what + m_edit.name);
+    return fails ? Error(ErrorCode::Failed, what + m_edit.name) : Error();
 }
 
-bool RecordingLogger::commitMacro(const QSharedPointer<OperationLogItem> &macro)
+bool RecordingLogger::commitMacro(Item macro)
 {
     QStringList children;
     for (const auto &child : macro->children())
@@ -81,36 +85,33 @@ bool RecordingLogger::commitMacro(const QSharedPointer<OperationLogItem> &macro)
     return !fails;
 }
 
-QSharedPointer<OperationLogItem> RecordingLogger::logCommand(const QSharedPointer<OperationLogItem> &parent,
-                                                             const UndoCommand &command,
-                                                             OperationLogItemUndoContext context)
+RecordingLogger::Item RecordingLogger::logCommand(Item parent, const UndoCommand &command,
+                                                  OperationLogItemUndoContext context)
 {
     const QString what = OperationLogItemData::undoContextToString(context) + u" alone"_s;
     return keep(what, parent, *command.logData());
 }
 
-QSharedPointer<OperationLogItem>
-RecordingLogger::logCommandInMacro(const QSharedPointer<OperationLogItem> &macro, const UndoCommand &command,
-                                   OperationLogItemUndoContext context)
+RecordingLogger::Item RecordingLogger::logCommandInMacro(Item macro, const UndoCommand &command,
+                                                         OperationLogItemUndoContext context)
 {
     return keep(OperationLogItemData::undoContextToString(context), macro, *command.logData());
 }
 
-QSharedPointer<OperationLogItem>
-RecordingLogger::logBeginMacro(const QSharedPointer<OperationLogItem> &parent,
-                               const OperationLogItemData &data)
+RecordingLogger::Item RecordingLogger::logBeginMacro(Item parent, const OperationLogItemData &data)
 {
     return keep(u"begin"_s, parent, data);
 }
 
-QSharedPointer<OperationLogItem> RecordingLogger::keep(const QString &what,
-                                                       const QSharedPointer<OperationLogItem> &parent,
-                                                       const OperationLogItemData &data)
+RecordingLogger::Item RecordingLogger::keep(const QString &what, const Item &parent,
+                                            const OperationLogItemData &data)
 {
     m_journal->append(u"log %1 %2 in %3"_s.arg(what, data.attributeNamesString(), idOf(parent)));
+    if (fails && failsByNullEntry && what != u"begin"_s)
+        return OperationLogItem::create({}, 0, 0, u"jdoe"_s, data);
     if (fails)
         return {};
-    items.append(OperationLogItemPrivate::createItem(parent, items.size() + 1, 1, u"jdoe"_s, data));
+    items.append(OperationLogItem::create(parent, items.size() + 1, 1, u"jdoe"_s, data));
     return items.constLast();
 }
 

@@ -10,9 +10,20 @@
 
 namespace ozm::test {
 
-/// What a ScriptedCommand does in its steps.
-struct Script
+/// An edit by its script. ScriptedCommand plays it, and UndoModel says what playing it has to come to.
+struct Edit
 {
+    enum Step
+    {
+        None,
+        Undo,
+        Redo,
+        Begin,
+        End,
+        Abort,
+        Clear
+    };
+
     QString name;
     int mergeId = -1;
     bool failsRedo = false;
@@ -23,9 +34,17 @@ struct Script
     /// Merges whatever the stack offers, failed or not.
     bool greedy = false;
     bool obsoleteAfterRedo = false;
-    std::function<void()> inRedo = {};
-    std::function<void()> inUndo = {};
-    std::function<void()> inBefore = {};
+    /// Done to the stack from within each run, or from within beforeBeginFirst().
+    Step step = None;
+    bool stepsBefore = false;
+    /// Pushed from within the first run.
+    std::shared_ptr<Edit> inner = {};
+
+    // What the model knows of it.
+    bool firstRun = true;
+    bool failed = false;
+    bool obsolete = false;
+    bool alive = true;
 };
 
 [[nodiscard]] OperationLogItemData recordOf(const QString &name);
@@ -34,13 +53,15 @@ struct Script
 class ScriptedCommand : public UndoCommand
 {
 public:
-    ScriptedCommand(Script script, QStringList *journal, UndoCommand *parent = nullptr);
+    /// Called from within a run, or from within beforeBeginFirst(), with the edit to push now.
+    using Inside = std::function<void(const std::shared_ptr<Edit> &inner)>;
+
+    ScriptedCommand(Edit edit, QStringList *journal, Inside inside = {}, UndoCommand *parent = nullptr);
     ~ScriptedCommand() override;
 
-    int id() const override { return m_script.mergeId; }
+    int id() const override { return m_edit.mergeId; }
     bool mergeWith(const QUndoCommand *other) override;
     using UndoCommand::setChildLogData;
-    using UndoCommand::setLogData;
 
 protected:
     Error doUndo() override;
@@ -51,34 +72,34 @@ protected:
 private:
     Error note(const QString &what, bool fails);
 
-    Script m_script;
+    Edit m_edit;
     QStringList *const m_journal;
+    const Inside m_inside;
 };
 
 /// A logger that keeps its entries, numbered from 1, and writes into a journal what was asked of it.
 class RecordingLogger : public AuditTrailLoggingInterface
 {
 public:
+    using Item = QSharedPointer<OperationLogItem>;
+
     explicit RecordingLogger(QStringList *journal)
         : m_journal(journal)
     {}
 
     bool fails = false;
-    QList<QSharedPointer<OperationLogItem>> items;
+    /// By a null entry for a command instead of a null pointer.
+    bool failsByNullEntry = false;
+    QList<Item> items;
 
-    bool commitMacro(const QSharedPointer<OperationLogItem> &macro) override;
-    QSharedPointer<OperationLogItem> logCommand(const QSharedPointer<OperationLogItem> &parent,
-                                                const UndoCommand &command,
-                                                OperationLogItemUndoContext context) override;
-    QSharedPointer<OperationLogItem> logCommandInMacro(const QSharedPointer<OperationLogItem> &macro,
-                                                       const UndoCommand &command,
-                                                       OperationLogItemUndoContext context) override;
-    QSharedPointer<OperationLogItem> logBeginMacro(const QSharedPointer<OperationLogItem> &parent,
-                                                   const OperationLogItemData &data) override;
+    bool commitMacro(Item macro) override;
+    Item logCommand(Item parent, const UndoCommand &command, OperationLogItemUndoContext context) override;
+    Item logCommandInMacro(Item macro, const UndoCommand &command,
+                           OperationLogItemUndoContext context) override;
+    Item logBeginMacro(Item parent, const OperationLogItemData &data) override;
 
 private:
-    QSharedPointer<OperationLogItem> keep(const QString &what, const QSharedPointer<OperationLogItem> &parent,
-                                          const OperationLogItemData &data);
+    Item keep(const QString &what, const Item &parent, const OperationLogItemData &data);
 
     QStringList *const m_journal;
 };

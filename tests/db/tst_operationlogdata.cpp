@@ -14,45 +14,7 @@ using ItemType = ozm::OperationLogItemType;
 using Context = ozm::OperationLogItemUndoContext;
 using Values = QMap<QString, QVariant>;
 
-Q_DECLARE_METATYPE(ozm::OperationLogItemData)
-
 namespace {
-
-const QStringList kSubjectTexts{
-    u"None"_s,
-    u"Project"_s,
-    u"Trace"_s,
-    u"ElutionPeak"_s,
-    u"Peptide"_s,
-    u"PepmapCandidate"_s,
-    u"PepmapSample"_s,
-    u"Plot"_s,
-    u"Protein"_s,
-    u"ColumnFiltersPreset"_s,
-    u"ProteinAnnotation"_s,
-    u"SampleRun"_s,
-    u"File"_s,
-    u"IntactMass"_s,
-    u"XIC"_s,
-    u"PrimaryPeptide"_s,
-    u"PrimaryPeptideXIC"_s,
-    u"Scan"_s,
-    u"SearchResult"_s,
-    u"ProteinDataBank"_s,
-    u"Label"_s,
-    u"BottomUp"_s,
-    u"ProteinTarget"_s,
-    u"PeptidesAttributes"_s,
-};
-
-/// A row in which each column holds its own name, so that a key shows where its values came from.
-RowNode rowOf(const QStringList &columns)
-{
-    RowNode row(columns);
-    for (const QString &column : columns)
-        row.setDataAt(column, column);
-    return row;
-}
 
 Data label(ItemType type, const QVariant &value, const QVariant &oldValue = {},
            Context context = Context::New)
@@ -69,6 +31,20 @@ Data legacy(const QString &text)
     return data;
 }
 
+template <typename Value, typename ToText, typename FromText>
+void checkTexts(const QString &texts, ToText toText, FromText fromText)
+{
+    const QStringList all = texts.split(u' ');
+    for (int value = 0; value < all.size(); ++value) {
+        QCOMPARE(toText(static_cast<Value>(value)), all.at(value));
+        QCOMPARE(static_cast<int>(fromText(all.at(value))), value);
+    }
+    for (const int value : {-1, static_cast<int>(all.size()), 1000000})
+        QCOMPARE(toText(static_cast<Value>(value)), QString());
+    for (const QString &text : {QString(), all.last().toLower(), u' ' + all.last()})
+        QCOMPARE(static_cast<int>(fromText(text)), 0);
+}
+
 } // namespace
 
 class TestOperationLogData : public ozm::test::StrictTest
@@ -76,149 +52,47 @@ class TestOperationLogData : public ozm::test::StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void enumerationsAndTexts()
+    void enumerations()
     {
-        for (int type = 0; type < kSubjectTexts.size(); ++type) {
-            QCOMPARE(Subject::typeToString(static_cast<Subject::Type>(type)), kSubjectTexts.at(type));
-            QCOMPARE(static_cast<int>(Subject::stringToType(kSubjectTexts.at(type))), type);
-        }
-        const QStringList itemTypes{u"None"_s, u"Add"_s, u"Set"_s, u"Delete"_s, u"Event"_s};
-        const QStringList contexts{u"Invalid"_s, u"None"_s, u"New"_s, u"Undo"_s, u"Redo"_s};
-        for (int i = 0; i < 5; ++i) {
-            QCOMPARE(Data::typeToString(static_cast<ItemType>(i)), itemTypes.at(i));
-            QCOMPARE(static_cast<int>(Data::stringToType(itemTypes.at(i))), i);
-            QCOMPARE(Data::undoContextToString(static_cast<Context>(i)), contexts.at(i));
-            QCOMPARE(static_cast<int>(Data::stringToUndoContext(contexts.at(i))), i);
-        }
+        checkTexts<Subject::Type>(
+            u"None Project Trace ElutionPeak Peptide PepmapCandidate PepmapSample Plot Protein "
+            "ColumnFiltersPreset ProteinAnnotation SampleRun File IntactMass XIC PrimaryPeptide "
+            "PrimaryPeptideXIC Scan SearchResult ProteinDataBank Label BottomUp ProteinTarget "
+            "PeptidesAttributes"_s,
+            [](Subject::Type type) { return Subject::typeToString(type); }, Subject::stringToType);
+        checkTexts<ItemType>(u"None Add Set Delete Event"_s, Data::typeToString, Data::stringToType);
+        checkTexts<Context>(u"Invalid None New Undo Redo"_s, Data::undoContextToString,
+                            Data::stringToUndoContext);
     }
 
-    void outsideTheEnumerations()
+    void keysFromRows()
     {
-        for (const int value : {-1, 24, 1000000}) {
-            QCOMPARE(Subject::typeToString(static_cast<Subject::Type>(value)), QString());
-            QCOMPARE(Data::typeToString(static_cast<ItemType>(value)), QString());
-            QCOMPARE(Data::undoContextToString(static_cast<Context>(value)), QString());
-        }
-        for (const QString &text : {QString(), u"project"_s, u"set"_s, u"NEW"_s, u" Set"_s}) {
-            QCOMPARE(Subject::stringToType(text), Subject::Type::None);
-            QCOMPARE(Data::stringToType(text), ItemType::None);
-            QCOMPARE(Data::stringToUndoContext(text), Context::Invalid);
-        }
-    }
-
-    void keyColumns_data()
-    {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QStringList>("columns");
-        const auto row = [](Subject::Type type, const QStringList &columns) {
-            QTest::newRow(qPrintable(Subject::typeToString(type))) << static_cast<int>(type) << columns;
-        };
-        using Type = Subject::Type;
-        const QStringList modifications{kModificationsNameList, kModificationsPositionList};
-        row(Type::None, {});
-        row(Type::Project, {});
-        row(Type::ColumnFiltersPreset, {});
-        row(Type::Trace, {kTraceType, kSamplesId});
-        row(Type::ElutionPeak, {kPeaksId, kStartTime, kEndTime, kStartPoint, kEndPoint, kSamplesId});
-        row(Type::Peptide, QStringList{kPeptidesId, kSequence, u"Sequences"_s, kCharge, kFilename,
-                                       kXICAreaStart, kXICAreaEnd} +
-                               modifications);
-        row(Type::PepmapCandidate, {kSequence, kCalcMr});
-        row(Type::PepmapSample, {kId, kSampleName, kType, kSampleType});
-        row(Type::Plot, {kPlotsId, kTitle, kPlotType});
-        row(Type::Protein, {kProteinName, kAccessionName, kProteinAccessionName, kSamplesId});
-        row(Type::ProteinAnnotation, {kProteinName, kAccessionName, kProteinAccessionName, kStartPosition,
-                                      kLength, kAnnotationCategory, kAnnotationValue, kComment});
-        row(Type::SampleRun, {kSamplesId, kSourceType});
-        row(Type::File, {kName});
-        row(Type::IntactMass, {kSequence, kMassStart, kMassEnd, kMassArea, kSamplesRunsId});
-        row(Type::XIC, {kPrecursorMz, kPrecursorMzStart, kPrecursorMzEnd});
-        row(Type::PrimaryPeptide,
-            QStringList{kPeptidesId, kSequence, kFilename, kCharge, kXICAreaStart, kXICAreaEnd} +
-                modifications);
-        row(Type::PrimaryPeptideXIC, {kPrimaryPeptidesId});
-        row(Type::Scan, {kMachineFilesId, kScanTime});
-        row(Type::SearchResult,
-            {kSearchResultsId, kSearchResultFilename, kSearchResultAliasName, kSearchEngine});
-        row(Type::ProteinDataBank, {kName, QString()});
-        row(Type::Label, {kName});
-        row(Type::BottomUp, {kProteinId, kPosition, kModification, kModificationPercent});
-        row(Type::ProteinTarget, {kId, kProteinIdCountList, kGaussWidth, kOffset});
-        row(Type::PeptidesAttributes, {kPeptidesId});
-        row(static_cast<Type>(24), {});
-    }
-    void keyColumns()
-    {
-        QFETCH(int, type);
-        QFETCH(QStringList, columns);
-        Values expected;
-        for (const QString &column : columns)
-            expected.insert(column, column);
-        // Every column there is, so that one too many shows as well as one too few.
-        QStringList all = columns;
-        all << kId << kName << kTitle << kSamplesId << kSequence << kMass << kComment << QString()
-            << kPeptidesId << kCharge << u"Sequences"_s;
-        const RowNode row = rowOf(all);
-        const Subject subject(static_cast<Subject::Type>(type), row);
-        QCOMPARE(subject.key(), expected);
-        QVERIFY(subject.explicitSecondaryKey().isEmpty());
-    }
-
-    void severalRows()
-    {
-        RowNode first = rowOf({kSequence});
-        RowNode second({kSequence, kCalcMr});
+        RowNode first({kName, QString(), kId, kSequence, kCalcMr});
+        first.setDataAt(QString(), u"unnamed"_s);
+        first.setDataAt(kSequence, u"PEP"_s);
+        RowNode second({kSequence});
         second.setDataAt(kSequence, u"PEPTIDE"_s);
-        const Subject subject(
-            Subject::Type::PepmapCandidate,
-            QMap<QString, RowNode *>{{u"a"_s, &first}, {u"b"_s, &second}, {u"c"_s, nullptr}});
-        const Values expected{{kSequence, u"PEPTIDE"_s}, {kCalcMr, QVariant()}};
-        QCOMPARE(subject.key(), expected);
+        QCOMPARE(Subject(Subject::Type::ProteinDataBank, first).key(),
+                 (Values{{kName, {}}, {QString(), u"unnamed"_s}}));
+        QVERIFY(Subject(Subject::Type::Project, first).key().isEmpty());
+        QVERIFY(Subject(static_cast<Subject::Type>(24), first).key().isEmpty());
+        const QMap<QString, RowNode *> rows{{u"a"_s, &first}, {u"b"_s, &second}, {u"c"_s, nullptr}};
+        QCOMPARE(Subject(Subject::Type::PepmapCandidate, rows).key(),
+                 (Values{{kSequence, u"PEPTIDE"_s}, {kCalcMr, {}}}));
     }
 
     void subjectTextAndJson()
     {
         const Subject subject(Subject::Type::Peptide, Values{{kSequence, u"PEPTIDE"_s}, {kCharge, 2}},
-                              Values{{u"Unknown column"_s, QStringList{u"a"_s, u"b"_s}}});
+                              Values{{u"Two\nlines"_s, QStringList{u"a"_s, u"b\r"_s}}});
         QCOMPARE(subject.toString(), u"Peptide Charge: 2, Sequence: PEPTIDE"_s);
-        QCOMPARE(subject.explicitSecondaryKeyToString(), u"Unknown column: a, b"_s);
-        QCOMPARE(Subject(Subject::Type::Project).toString(), u"Project "_s);
-        QCOMPARE(subject.toJsonObject().value("secondaryKey"_L1).toObject().value("Unknown column"_L1),
-                 QJsonValue(QJsonArray{u"a"_s, u"b"_s}));
-
+        QCOMPARE(subject.explicitSecondaryKeyToString(), u"Two\\nlines: a, b\\r"_s);
         const Subject read(subject.toJsonObject());
-        QCOMPARE(read.type(), Subject::Type::Peptide);
         QCOMPARE(read.key(), subject.key());
-        QCOMPARE(read.toString(), subject.toString());
-
+        QVERIFY2(Subject(Subject::Type::Peptide, subject.key(), {}) != subject, "one has a second key");
         QJsonObject unknown = subject.toJsonObject();
         unknown.insert("type"_L1, u"Foo"_s);
-        QVERIFY(!Subject(unknown).isValid());
-        QVERIFY2(Subject(unknown).key().isEmpty(), "a subject of an unknown kind carries no key");
-    }
-
-    void validity_data()
-    {
-        QTest::addColumn<Data>("data");
-        QTest::addColumn<bool>("valid");
-        const Subject subject(Subject::Type::Label);
-        Data noContext(ItemType::Set, subject, {u"a"_s}, 1);
-        noContext.setUndoContext(Context::Invalid);
-        QTest::newRow("default") << Data() << false;
-        QTest::newRow("complete") << Data(ItemType::Set, subject, {u"a"_s}, {}) << true;
-        QTest::newRow("no type") << Data(ItemType::None, subject, {u"a"_s}, 1) << false;
-        QTest::newRow("no subject") << Data(ItemType::Set, {}, {u"a"_s}, 1) << false;
-        QTest::newRow("no attributes") << Data(ItemType::Set, subject, {}, 1) << false;
-        QTest::newRow("no context") << noContext << false;
-        QTest::newRow("legacy") << legacy(u"Charge set"_s) << true;
-    }
-    void validity()
-    {
-        QFETCH(Data, data);
-        QFETCH(bool, valid);
-        QCOMPARE(data.isValid(), valid);
-        QCOMPARE(data.toString().isEmpty(), !valid);
-        QCOMPARE(data.toJsonObject().isEmpty(), !valid);
+        QVERIFY2(Subject(unknown) == Subject(), "a subject of an unknown kind carries no key");
     }
 
     void text_data()
@@ -234,28 +108,30 @@ private Q_SLOTS:
         row("set from empty text", label(ItemType::Set, 3, QString()), u"Set "_s + subject + u" from to 3"_s);
         row("set from null number", label(ItemType::Set, 3, QVariant(QMetaType(QMetaType::Int))),
             u"Set "_s + subject + u" from to 3"_s);
-        row("set to nothing", label(ItemType::Set, {}, 2), u"Set "_s + subject + u" from 2 to null"_s);
         row("set to empty list", label(ItemType::Set, QVariantList(), 2),
             u"Set "_s + subject + u" from 2 to null"_s);
         row("set empty to empty", label(ItemType::Set, QString(), QString()), u"Set "_s + subject);
-        row("set to false", label(ItemType::Set, false, true),
-            u"Set "_s + subject + u" from true to false"_s);
-        row("set to zero", label(ItemType::Set, 0, 1.5), u"Set "_s + subject + u" from 1.5 to 0"_s);
-        row("add", label(ItemType::Add, u"x"_s), u"Add "_s + subject + u": x"_s);
+        row("set to false", label(ItemType::Set, false, 1.5), u"Set "_s + subject + u" from 1.5 to false"_s);
         row("add, old value empty", label(ItemType::Add, 3, QString()), u"Add "_s + subject + u": 3"_s);
         row("add nothing", label(ItemType::Add, {}), u"Add "_s + subject);
         row("delete", label(ItemType::Delete, {}, 2), u"Delete "_s + subject + u" from 2: null"_s);
         row("event", label(ItemType::Event, u"done"_s), u"Event "_s + subject + u" to done"_s);
-        row("undo", label(ItemType::Set, 3, 2, Context::Undo), u"UNDO Set "_s + subject + u" from 2 to 3"_s);
-        row("redo", label(ItemType::Set, 3, 2, Context::Redo), u"REDO Set "_s + subject + u" from 2 to 3"_s);
+        row("undo", label(ItemType::Set, 3, {}, Context::Undo), u"UNDO Set "_s + subject + u" to 3"_s);
+        row("redo", label(ItemType::Set, 3, {}, Context::Redo), u"REDO Set "_s + subject + u" to 3"_s);
         row("markers", label(ItemType::Set, u"%1 %2"_s, u"%3"_s),
             u"Set "_s + subject + u" from %3 to %1 %2"_s);
-        row("legacy", legacy(u"Charge set"_s), u"Charge set"_s);
-        row("no key", Data(ItemType::Set, Subject::Type::Project, {u"Title"_s, u"Owner"_s}, u"x"_s),
-            u"Set Project 'Title, Owner' to x"_s);
+        row("line breaks", label(ItemType::Set, u"a\n\tb\x2028"_s),
+            u"Set "_s + subject + u" to a\\n\\tb\\u2028"_s);
+        row("legacy", legacy(u"Charge\r\nset"_s), u"Charge\\r\\nset"_s);
         row("secondary key",
-            Data(ItemType::Set, Subject(Subject::Type::Plot, {}, Values{{kTitle, u"TIC"_s}}), {u"Zoom"_s}, 2),
-            u"Set Plot [Title: TIC] 'Zoom' to 2"_s);
+            Data(ItemType::Set, Subject(Subject::Type::Plot, {}, Values{{kTitle, u"TIC"_s}}),
+                 {u"Zoom"_s, u"Pan"_s}, 2),
+            u"Set Plot [Title: TIC] 'Zoom, Pan' to 2"_s);
+        row("default", {}, {});
+        row("no type", Data(ItemType::None, Subject::Type::Label, {u"a"_s}, 1), {});
+        row("no subject", Data(ItemType::Set, {}, {u"a"_s}, 1), {});
+        row("no attributes", Data(ItemType::Set, Subject::Type::Label, {}, 1), {});
+        row("no context", label(ItemType::Set, 3, 2, Context::Invalid), {});
     }
     void text()
     {
@@ -265,11 +141,13 @@ private Q_SLOTS:
         QString debug;
         QDebug(&debug) << data;
         QCOMPARE(debug.trimmed(), u"OperationLogItemData{%1}"_s.arg(text));
+        QCOMPARE(data.isValid(), !text.isEmpty());
+        QCOMPARE(data.toJsonObject().isEmpty(), text.isEmpty());
     }
 
     void jsonLayout()
     {
-        const QJsonObject json = label(ItemType::Set, 3, 2, Context::Undo).toJsonObject();
+        const Data data = label(ItemType::Set, 3, 2, Context::Undo);
         const QJsonObject subject{{u"type"_s, u"Label"_s},
                                   {u"key"_s, QJsonObject{{kName, u"T12"_s}}},
                                   {u"secondaryKey"_s, QJsonObject()}};
@@ -280,25 +158,23 @@ private Q_SLOTS:
                                    {u"value"_s, 3},
                                    {u"oldValue"_s, 2},
                                    {u"undoContext"_s, u"Undo"_s}};
-        QCOMPARE(json, expected);
-        bool ok = false;
-        const Data legacyRead(legacy(u"Charge set"_s).toJson(), &ok);
-        QVERIFY(ok);
-        QCOMPARE(legacyRead.legacyDescription(), u"Charge set"_s);
+        QCOMPARE(data.toJsonObject(), expected);
+        QVERIFY(Data(data.toJson()) == data);
     }
 
-    void readsWhatItWrote()
+    void equality()
     {
-        const Data written = label(ItemType::Delete, QVariantList{1, u"b"_s}, 2.5, Context::Redo);
-        bool ok = false;
-        const Data read(written.toJson(), &ok);
-        QVERIFY(ok);
-        QCOMPARE(read.type(), written.type());
-        QCOMPARE(read.subject().key(), written.subject().key());
-        QCOMPARE(read.attributes(), written.attributes());
-        QCOMPARE(read.value(), written.value());
-        QCOMPARE(read.oldValue(), written.oldValue());
-        QCOMPARE(read.undoContext(), written.undoContext());
+        const Data data = label(ItemType::Set, 3, 2);
+        Data flag = data;
+        flag.setApplicationFlag(false);
+        Data collapse = data;
+        collapse.setCollapseTrivialMacro(false);
+        QVERIFY(label(ItemType::Set, 3, 2) == data);
+        for (const Data &other : {flag, collapse, label(ItemType::Add, 3, 2), label(ItemType::Set, 4, 2),
+                                  label(ItemType::Set, 3, 1), label(ItemType::Set, 3, 2, Context::Redo),
+                                  legacy(u"x"_s), Data()}) {
+            QVERIFY(other != data);
+        }
     }
 
     void damagedJson_data()
@@ -306,19 +182,13 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("json");
         QTest::addColumn<bool>("ok");
         QTest::newRow("nothing") << QByteArray() << false;
-        QTest::newRow("not JSON") << QByteArray("Set Label") << false;
         QTest::newRow("array") << QByteArray("[{\"type\":\"Set\"}]") << false;
-        QTest::newRow("bare value") << QByteArray("17") << false;
         QTest::newRow("cut off") << label(ItemType::Set, 3).toJson().chopped(1) << false;
-        QTest::newRow("broken UTF-8") << QByteArray("{\"type\":\"\xff\xfe\"}") << false;
         QTest::newRow("past the deepest") << QByteArray(200000, '[') << false;
-        QTest::newRow("deepest below value")
-            << QByteArray("{\"value\":" + QByteArray(2000, '[') + QByteArray(2000, ']') + '}') << false;
         QTest::newRow("huge number") << QByteArray("{\"value\":1e999}") << false;
         QTest::newRow("empty object") << QByteArray("{}") << true;
         QTest::newRow("wrong types everywhere")
-            << QByteArray(
-                   R"({"version":"x","type":[],"subject":7,"attributes":"a","undoContext":{},"value":null})")
+            << QByteArray(R"({"type":[],"subject":7,"attributes":"a","undoContext":{},"value":null})")
             << true;
         QTest::newRow("attributes of wrong types")
             << QByteArray(R"({"type":"Set","subject":{"type":"Label"},"attributes":[1,null,{}]})") << true;
@@ -328,25 +198,23 @@ private Q_SLOTS:
     void damagedJson()
     {
         QFETCH(QByteArray, json);
-        bool ok = !QTest::currentDataTag();
+        bool ok = false;
         const Data data(json, &ok);
         QTEST(ok, "ok");
         QVERIFY2(!data.isValid(), "nothing that can be taken for a record");
-        QVERIFY(!Data(json, nullptr).isValid());
+        const auto read = Data::fromJson(json);
+        QCOMPARE(read.error().errorCode(), ozm::ErrorCode::BadParameter);
+        QVERIFY(!read.error().errorMessage().isEmpty());
     }
 
     void leniencies()
     {
-        bool ok = false;
-        const Data single(
-            QByteArray(
-                R"({"type":"Set","subject":{"type":"Label"},"attribute":"a","value":123456789012345678901})"),
-            &ok);
-        QVERIFY(ok && single.isValid());
+        const Data single(QByteArray(
+            R"({"type":"Set","subject":{"type":"Label"},"attribute":"a","value":123456789012345678901})"));
+        QVERIFY(single.isValid());
         QCOMPARE(single.undoContext(), Context::None);
-        QCOMPARE(single.attributes(), QList<QString>{u"a"_s});
         QCOMPARE(single.value().toDouble(), 123456789012345678901.0);
-        const Data both(QByteArray(R"({"attributes":["b","a"],"attribute":"c"})"), nullptr);
+        const Data both(QByteArray(R"({"attributes":["b","a"],"attribute":"c"})"));
         QCOMPARE(both.attributes(), QList<QString>({u"b"_s, u"a"_s, u"c"_s}));
     }
 };

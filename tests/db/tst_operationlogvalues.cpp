@@ -5,7 +5,6 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QLine>
 #include <QRandomGenerator>
 #include <QRect>
 #include <QTimeZone>
@@ -16,9 +15,7 @@
 #include <limits>
 
 using namespace Qt::StringLiterals;
-using ozm::OperationLogItemData;
-using ozm::OperationLogItemSubject;
-using ozm::OperationLogItemType;
+using namespace ozm;
 using ozm::test::expectWarning;
 
 struct Unprintable
@@ -33,14 +30,13 @@ namespace {
 
 OperationLogItemData record(const QVariant &value)
 {
-    return {OperationLogItemType::Set, OperationLogItemSubject::Type::Label, {u"Value"_s}, value, value};
+    const OperationLogItemSubject subject(OperationLogItemSubject::Type::Label, {{u"Key"_s, value}}, {});
+    return {OperationLogItemType::Set, subject, {u"Value"_s}, value, value};
 }
 
 OperationLogItemData readBack(const OperationLogItemData &data)
 {
-    bool ok = false;
-    OperationLogItemData read(data.toJson(), &ok);
-    return ok ? read : OperationLogItemData();
+    return OperationLogItemData::fromJson(data.toJson()).valueOr({});
 }
 
 QVariantList nested(int levels)
@@ -61,21 +57,23 @@ public:
 
     QVariant value(int depth = 0)
     {
-        switch (m_random.bounded(depth < 4 ? 9 : 6)) {
+        switch (m_random.bounded(depth < 4 ? 10 : 7)) {
         case 0:
             return {};
         case 1:
             return m_random.bounded(2) == 1;
         case 2:
-            return integer();
+            return static_cast<qint64>(m_random.generate64()) >> m_random.bounded(64);
         case 3:
-            return real();
+            return std::ldexp(m_random.generateDouble() - 0.5, m_random.bounded(1200) - 600);
         case 4:
+            return QByteArray::number(m_random.bounded(100)) + (m_random.bounded(2) ? "\xff" : "");
         case 5:
-            return text();
         case 6:
-            return list(depth);
+            return text();
         case 7:
+            return list(depth);
+        case 8:
             return QVariant::fromValue(VariantItems(list(depth)));
         default:
             return map(depth);
@@ -84,8 +82,8 @@ public:
 
     QString text()
     {
-        static const QStringList pieces{u"a"_s,  u"\""_s, u"\\"_s,   u"\n"_s,           u"µ"_s, u"質量"_s,
-                                        u"%1"_s, u"'"_s,  u"null"_s, QString(QChar(1)), u"😀"_s, u" "_s};
+        static const QStringList pieces{u"a"_s, u"\""_s,   u"\\"_s,           u"\n"_s, u"質量"_s,     u"%1"_s,
+                                        u"'"_s, u"null"_s, QString(QChar(1)), u"😀"_s,  u"ozm:type"_s, u" "_s};
         QString text;
         for (int i = m_random.bounded(5); i > 0; --i)
             text += pieces.at(m_random.bounded(static_cast<int>(pieces.size())));
@@ -93,18 +91,6 @@ public:
     }
 
 private:
-    QVariant integer()
-    {
-        const qint64 number = static_cast<qint64>(m_random.generate64() >> (11 + m_random.bounded(52)));
-        return m_random.bounded(2) ? number : -number;
-    }
-
-    QVariant real()
-    {
-        const double digits = m_random.generateDouble() - 0.5;
-        return std::ldexp(digits, m_random.bounded(1200) - 600);
-    }
-
     QVariantList list(int depth)
     {
         QVariantList items;
@@ -115,20 +101,26 @@ private:
 
     QVariantMap map(int depth)
     {
+        static const QStringList marks{u"double"_s, u"qulonglong"_s, u"QByteArray"_s, u"map"_s, u"QRect"_s};
         QVariantMap entries;
         for (int i = m_random.bounded(4); i > 0; --i)
             entries.insert(text(), value(depth + 1));
-        return entries;
+        if (m_random.bounded(4) > 0)
+            return entries;
+        return {{u"ozm:type"_s, marks.at(m_random.bounded(5))},
+                {u"ozm:value"_s, m_random.bounded(2) ? QVariant(entries) : QVariant(u"17"_s)}};
     }
 
     QRandomGenerator m_random;
 };
 
-/// What a value reads back as: lists of any type as plain lists, an empty list or map among them.
+/// What a value reads back as: lists of any type as plain lists, bytes that are text as text.
 QVariant asRead(const QVariant &value)
 {
     if (value.metaType() == QMetaType::fromType<VariantItems>())
         return asRead(value.value<VariantItems>().toList());
+    if (value.typeId() == QMetaType::QByteArray && !value.toByteArray().contains('\xff'))
+        return value.toString();
     if (value.typeId() == QMetaType::QVariantList) {
         QVariantList items;
         for (const QVariant &item : value.toList())
@@ -154,123 +146,106 @@ class TestOperationLogValues : public ozm::test::StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void keptExactly_data()
+    void kept_data()
     {
         QTest::addColumn<QVariant>("value");
         QTest::addColumn<QVariant>("read");
         QTest::addColumn<QString>("text");
-        const auto same = [](const char *name, const QVariant &value, const QString &text) {
-            QTest::newRow(name) << value << value << text;
+        const auto as = [](const char *name, const QVariant &value, const QVariant &read,
+                           const QString &text) { QTest::newRow(name) << value << read << text; };
+        const auto same = [as](const char *name, const QVariant &value, const QString &text) {
+            as(name, value, value, text);
         };
-        constexpr qint64 limit = Q_INT64_C(1) << 53;
+        using Limits = std::numeric_limits<qint64>;
+        const double inf = std::numeric_limits<double>::infinity();
+        const QVariantList numbers{1, 2};
 
         same("invalid", {}, {});
-        QTest::newRow("null number") << QVariant(QMetaType(QMetaType::Int)) << QVariant() << QString();
-        QTest::newRow("null pointer") << QVariant::fromValue(nullptr) << QVariant() << QString();
+        as("null number", QVariant(QMetaType(QMetaType::Int)), {}, {});
         same("false", false, u"false"_s);
-        same("text", u"a \"b\"\n"_s, u"a \"b\"\n"_s);
-        same("whole", 42, u"42"_s);
         same("whole double", 42.0, u"42"_s);
-        same("negative", -7.25, u"-7.25"_s);
         same("shortest", 0.1 + 0.2, u"0.30000000000000004"_s);
+        same("past what all readers know", std::ldexp(1.0, 60), u"1152921504606847000"_s);
         same("large double", 1e300, u"1e+300"_s);
-        same("smallest double", std::numeric_limits<double>::denorm_min(), u"5e-324"_s);
-        QTest::newRow("negative zero") << QVariant(-0.0) << QVariant(0) << u"0"_s;
-        QTest::newRow("float") << QVariant(0.1F) << QVariant(0.1) << u"0.1"_s;
-        same("largest exact", limit, u"9007199254740992"_s);
-        same("smallest exact", -limit, u"-9007199254740992"_s);
-        QTest::newRow("short") << QVariant::fromValue<short>(-3) << QVariant(-3) << u"-3"_s;
-        QTest::newRow("unsigned short")
-            << QVariant::fromValue<ushort>(65535) << QVariant(65535) << u"65535"_s;
-        QTest::newRow("unsigned char") << QVariant::fromValue<uchar>(200) << QVariant(200) << u"200"_s;
-        QTest::newRow("signed char") << QVariant::fromValue<signed char>(-5) << QVariant(-5) << u"-5"_s;
-        QTest::newRow("long") << QVariant::fromValue(5L) << QVariant(5) << u"5"_s;
-
-        same("list", QVariantList{1, u"b"_s, QVariant(), true}, u"1, b, , true"_s);
-        same("lists in a list", QVariantList{QVariantList{1, 2}, QVariantList()}, u"[1, 2], []"_s);
-        same("map", QVariantMap{{u"a"_s, 1}, {u"b"_s, QVariantList{2, 3}}}, u"{a: 1, b: [2, 3]}"_s);
-        same("empty list", QVariantList(), {});
+        as("negative zero", -0.0, 0, u"0"_s);
+        same("past 2^53", Q_INT64_C(9007199254740993), u"9007199254740993"_s);
+        same("smallest integer", Limits::min(), u"-9223372036854775808"_s);
+        same("largest of both", static_cast<quint64>(Limits::max()), u"9223372036854775807"_s);
+        same("unsigned", std::numeric_limits<quint64>::max(), u"18446744073709551615"_s);
+        same("infinity", inf, u"inf"_s);
+        same("minus infinity", -inf, u"-inf"_s);
+        as("infinite float", -std::numeric_limits<float>::infinity(), -inf, u"-inf"_s);
+        as("unsigned char", QVariant::fromValue<uchar>(200), 200, u"200"_s);
+        as("long", QVariant::fromValue(5L), 5, u"5"_s);
+        same("text like a marked one", u"base64:/w=="_s, u"base64:/w=="_s);
+        same("bytes", QByteArray("\xff"), u"base64:/w=="_s);
+        same("bytes with a mark", QByteArray("\xef\xbb\xbfx"), u"base64:77u/eA=="_s);
+        as("bytes of text", QByteArray("\xc2\xb5g"), u"µg"_s, u"µg"_s);
+        as("no bytes", QByteArray(), QString(), {});
+        same("lists", QVariantList{QVariantList{1, QVariant()}, QVariantList()}, u"[1, ], []"_s);
+        same("map", QVariantMap{{u"a"_s, 1}, {u"b"_s, numbers}}, u"{a: 1, b: [1, 2]}"_s);
+        same("nothing in a list", QVariantList{inf}, u"inf"_s);
         same("empty map", QVariantMap(), {});
-        const QVariantList numbers{1, 2};
-        QTest::newRow("text list") << QVariant(QStringList{u"x"_s, u"y"_s})
-                                   << QVariant(QVariantList{u"x"_s, u"y"_s}) << u"x, y"_s;
-        QTest::newRow("list of int") << QVariant::fromValue(QList<int>{1, 2}) << QVariant(numbers)
-                                     << u"1, 2"_s;
-        QTest::newRow("vector of double")
-            << QVariant::fromValue(std::vector<double>{1.0, 2.0}) << QVariant(numbers) << u"1, 2"_s;
-        QTest::newRow("items") << QVariant::fromValue(VariantItems(numbers)) << QVariant(numbers)
-                               << u"1, 2"_s;
-        QTest::newRow("no items") << QVariant::fromValue(VariantItems()) << QVariant(QVariantList())
-                                  << QString();
-        QTest::newRow("pair") << QVariant::fromValue(std::pair(1, 2)) << QVariant(numbers) << u"1, 2"_s;
-        QTest::newRow("hash") << QVariant(QVariantHash{{u"a"_s, 1}}) << QVariant(QVariantMap{{u"a"_s, 1}})
-                              << u"{a: 1}"_s;
-        QTest::newRow("typed map with number keys") << QVariant::fromValue(QMap<int, double>{{1, 0.5}})
-                                                    << QVariant(QVariantMap{{u"1"_s, 0.5}}) << u"{1: 0.5}"_s;
-        QTest::newRow("JSON") << QVariant(QJsonArray{1, QJsonValue::Null})
-                              << QVariant(QVariantList{1, QVariant()}) << u"1, "_s;
-        QTest::newRow("JSON document") << QVariant(QJsonDocument(QJsonObject{{u"a"_s, true}}))
-                                       << QVariant(QVariantMap{{u"a"_s, true}}) << u"{a: true}"_s;
+        as("text list", QStringList{u"x"_s, u"y"_s}, QVariantList{u"x"_s, u"y"_s}, u"x, y"_s);
+        as("vector", QVariant::fromValue(std::vector<double>{1.0, 2.0}), numbers, u"1, 2"_s);
+        as("items", QVariant::fromValue(VariantItems(numbers)), numbers, u"1, 2"_s);
+        as("pair", QVariant::fromValue(std::pair(1, 2)), numbers, u"1, 2"_s);
+        as("hash", QVariantHash{{u"a"_s, 1}}, QVariantMap{{u"a"_s, 1}}, u"{a: 1}"_s);
+        as("number keys", QVariant::fromValue(QMap<int, double>{{1, 0.5}}), QVariantMap{{u"1"_s, 0.5}},
+           u"{1: 0.5}"_s);
+        as("JSON", QJsonArray{QJsonArray{1}, QJsonValue::Null}, QVariantList{QVariantList{1}, QVariant()},
+           u"[1], "_s);
+        as("JSON document", QJsonDocument(QJsonObject{{u"a"_s, true}}), QVariantMap{{u"a"_s, true}},
+           u"{a: true}"_s);
+        as("enumerator without a name", QVariant::fromValue(Plain::B), 1, u"1"_s);
+        const QString area = u"QRectF(1,2 3x4)"_s;
+        as("description", QRectF(1, 2, 3, 4),
+           QVariantMap{{u"ozm:type"_s, u"QRectF"_s}, {u"ozm:value"_s, area}}, area);
+        as("local time", QDateTime(QDate(2026, 3, 1), QTime(12, 0)), u"2026-03-01T12:00:00.000Z"_s,
+           u"2026-03-01T12:00:00.000Z"_s);
     }
-    void keptExactly()
+    void kept()
     {
         QFETCH(QVariant, value);
         const OperationLogItemData written = record(value);
         const OperationLogItemData read = readBack(written);
-        QVERIFY(read.isValid());
         QTEST(read.value(), "read");
-        QCOMPARE(read.value().isValid(), asRead(value).isValid() && !value.isNull());
+        QTEST(read.subject().key().value(u"Key"_s), "read");
+        QVERIFY(read.value().isValid() || value.isNull());
         QTEST(written.valueToString(), "text");
         QCOMPARE(read.toString(), written.toString());
+        QCOMPARE(read.toJson(), written.toJson());
     }
 
-    void keptAsText_data()
+    void asTheToolkitWritesIt()
     {
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QString>("text");
-        const double inf = std::numeric_limits<double>::infinity();
         const QDateTime moment(QDate(2026, 3, 1), QTime(12, 30, 15, 250), Qt::UTC);
-
-        QTest::newRow("past 2^53") << QVariant((Q_INT64_C(1) << 53) + 1) << u"9007199254740993"_s;
-        QTest::newRow("smallest integer")
-            << QVariant(std::numeric_limits<qint64>::min()) << u"-9223372036854775808"_s;
-        QTest::newRow("largest unsigned")
-            << QVariant(std::numeric_limits<quint64>::max()) << u"18446744073709551615"_s;
-        QTest::newRow("infinity") << QVariant(inf) << u"inf"_s;
-        QTest::newRow("minus infinity") << QVariant(-inf) << u"-inf"_s;
-        QTest::newRow("infinite float") << QVariant(-std::numeric_limits<float>::infinity()) << u"-inf"_s;
-        QTest::newRow("date") << QVariant(moment.date()) << u"2026-03-01"_s;
-        QTest::newRow("time") << QVariant(moment.time()) << u"12:30:15.250"_s;
-        QTest::newRow("date and time") << QVariant(moment) << u"2026-03-01T12:30:15.250Z"_s;
-        QTest::newRow("elsewhere") << QVariant(moment.toTimeZone(QTimeZone(7200)))
-                                   << u"2026-03-01T14:30:15.250+02:00"_s;
-        QTest::newRow("URL") << QVariant(QUrl(u"https://example.org/a?b#c"_s))
-                             << u"https://example.org/a?b#c"_s;
-        QTest::newRow("UUID") << QVariant(QUuid(u"{6bcf1d5e-8a43-4c02-9d6c-3f0c9a1b2c3d}"_s))
-                              << u"{6bcf1d5e-8a43-4c02-9d6c-3f0c9a1b2c3d}"_s;
-        QTest::newRow("bytes of text") << QVariant(QByteArray("\xc2\xb5g")) << u"µg"_s;
-        QTest::newRow("enumerator") << QVariant::fromValue(Qt::DashLine) << u"DashLine"_s;
-    }
-    void keptAsText()
-    {
-        QFETCH(QVariant, value);
-        const OperationLogItemData written = record(value);
-        QTEST(written.valueToString(), "text");
-        QVariant read = readBack(written).value();
-        QTEST(read.toString(), "text");
-        QVERIFY2(read.convert(value.metaType()), "the text is to lead back to the value");
-        QCOMPARE(read, value);
+        const QVariantMap values{{u"a"_s, 0.1F},
+                                 {u"b"_s, QUrl(u"https://example.org/a b?µ"_s)},
+                                 {u"c"_s, QUuid(u"{6bcf1d5e-8a43-4c02-9d6c-3f0c9a1b2c3d}"_s)},
+                                 {u"d"_s, moment},
+                                 {u"e"_s, moment.toTimeZone(QTimeZone(7200))},
+                                 {u"f"_s, moment.time()},
+                                 {u"g"_s, moment.date()},
+                                 {u"h"_s, QChar(u'µ')},
+                                 {u"i"_s, QVariant::fromValue(Qt::DashLine)},
+                                 {u"j"_s, QVariantMap{{u"ozm:type"_s, 1}}},
+                                 {u"k"_s, QDate()},
+                                 {u"l"_s, QString()}};
+        const OperationLogItemSubject subject(OperationLogItemSubject::Type::Label, values, values);
+        QCOMPARE(subject.toJsonObject().value("key"_L1), QJsonValue(QJsonObject::fromVariantMap(values)));
+        QCOMPARE(record(values).toJsonObject().value("value"_L1),
+                 QJsonValue(QJsonObject::fromVariantMap(values)));
     }
 
-    void keptAsTextOnly()
+    void neverATextThatLooksLikeIt()
     {
         QVERIFY(std::isnan(readBack(record(std::nan(""))).value().toDouble()));
-        QCOMPARE(record(std::nan("")).valueToString(), u"nan"_s);
-        const QByteArray bytes("\xff\x00\x01", 3);
-        QCOMPARE(record(bytes).valueToString(), u"base64:/wAB"_s);
-        QCOMPARE(readBack(record(QRectF(1, 2, 3, 4))).value(), QVariant(u"QRectF(1,2 3x4)"_s));
-        QCOMPARE(record(QChar(u'µ')).valueToString(), u"µ"_s);
-        QCOMPARE(record(QVariant::fromValue(Plain::B)).valueToString(), u"1"_s);
+        for (const QVariant &value :
+             {QVariant(std::nan("")), QVariant(QByteArray("\xff")), QVariant(QRect())}) {
+            QVERIFY(value.metaType() != QMetaType::fromType<QString>());
+            QVERIFY(record(value).toJson() != record(record(value).valueToString()).toJson());
+        }
     }
 
     void refused_data()
@@ -289,12 +264,21 @@ private Q_SLOTS:
         QCOMPARE(record(value).valueToString(), u"(value of type %1 not recorded)"_s.arg(type));
     }
 
+    // As deep as Qt's reader goes, and not a level deeper.
     void depthIsLimited()
     {
-        const QVariant deepest = nested(64);
-        QCOMPARE(readBack(record(deepest)).value(), deepest);
-        expectWarning(u"since it is nested too deeply"_s);
-        QVERIFY(record(nested(70)).valueToString().contains("not recorded"_L1));
+        const auto deep = [](const QVariant &value) {
+            return OperationLogItemData(OperationLogItemType::Set, OperationLogItemSubject::Type::Label,
+                                        {u"Value"_s}, value);
+        };
+        QCOMPARE(readBack(deep(nested(1023))).value(), QVariant(nested(1023)));
+        for (const QVariant &value : {QVariant(nested(1024)), QVariant(nested(3000)),
+                                      QVariant(QJsonArray::fromVariantList(nested(1024)))}) {
+            expectWarning(u"since it is nested too deeply"_s);
+            const OperationLogItemData read = readBack(deep(value));
+            expectWarning(u"since it is nested too deeply"_s);
+            QVERIFY(read.isValid() && deep(value).valueToString().contains("not recorded"_L1));
+        }
     }
 
     void itemsConvertBothWays()
@@ -316,25 +300,18 @@ private Q_SLOTS:
             QByteArray json = record(source.value()).toJson();
             for (int damage = 1 + random.bounded(4); damage > 0; --damage) {
                 const auto place = random.bounded(static_cast<int>(json.size()));
-                switch (random.bounded(3)) {
-                case 0:
+                if (random.bounded(3) == 0)
                     json[place] = static_cast<char>(random.bounded(256));
-                    break;
-                case 1:
+                else if (random.bounded(2) == 0)
                     json.remove(place, random.bounded(20));
-                    break;
-                default:
-                    json.insert(place,
-                                json.mid(random.bounded(static_cast<int>(json.size())), random.bounded(20)));
-                }
+                else
+                    json.insert(place, json.mid(random.bounded(static_cast<int>(json.size())), 10));
             }
-            bool ok = false;
-            const OperationLogItemData read(json, &ok);
-            QVERIFY(ok || !read.isValid());
+            const OperationLogItemData read(json);
             if (!read.isValid())
                 continue;
             ++accepted;
-            QCOMPARE(readBack(read).toString(), read.toString());
+            QCOMPARE(readBack(read).toJson(), read.toJson());
         }
         QVERIFY2(accepted > 100, "some damage is harmless: the test is to see that as well");
     }
@@ -347,7 +324,8 @@ private Q_SLOTS:
             const OperationLogItemData written = record(value);
             const OperationLogItemData read = readBack(written);
             if (read.value() != asRead(value) || read.value().isValid() != value.isValid() ||
-                read.toString() != written.toString() || read.toJson() != written.toJson()) {
+                read.toString() != written.toString() || read.toJson() != written.toJson() ||
+                written.toString().contains(u'\n')) {
                 QFAIL(qPrintable(u"case %1: %2"_s.arg(i).arg(QString::fromUtf8(written.toJson()))));
             }
         }

@@ -31,6 +31,10 @@ void noteWarning(QtMsgType type, const QMessageLogContext &, const QString &mess
         u"in the middle of a macro"_s,
         u"no matching beginMacro()"_s,
         u"Push refused while an undo or redo runs"_s,
+        u"Macro refused while an undo or redo runs"_s,
+        u"Undo refused while an undo or redo runs"_s,
+        u"Redo refused while an undo or redo runs"_s,
+        u"Clear refused while an undo or redo runs"_s,
     };
     for (const QString &text : known) {
         if (message.contains(text)) {
@@ -74,6 +78,10 @@ public:
     {
         s_warnings = &m_journal;
         m_stack->setLogging(&m_logger);
+        if (oneIn(4)) {
+            m_model.undoLimit = 1 + m_random.bounded(3);
+            m_stack->setUndoLimit(m_model.undoLimit);
+        }
     }
 
     /// Empty when stack and model agree to the end; otherwise the operations and the difference.
@@ -93,9 +101,9 @@ public:
 private:
     bool oneIn(int count) { return m_random.bounded(count) == 0; }
 
-    std::shared_ptr<UndoModel::Edit> edit(bool mayNest)
+    std::shared_ptr<Edit> edit(bool mayNest)
     {
-        auto edit = std::make_shared<UndoModel::Edit>();
+        auto edit = std::make_shared<Edit>();
         edit->name = u"c%1"_s.arg(++m_names);
         edit->mergeId = m_random.bounded(3) - 1;
         edit->failsRedo = oneIn(6);
@@ -107,25 +115,48 @@ private:
         edit->obsoleteAfterRedo = oneIn(12);
         if (mayNest && oneIn(8))
             edit->inner = this->edit(oneIn(2));
+        if (oneIn(6))
+            edit->step = static_cast<Edit::Step>(1 + m_random.bounded(6));
+        edit->stepsBefore = oneIn(4);
         return edit;
     }
 
-    ScriptedCommand *command(const UndoModel::Edit &edit)
+    ScriptedCommand *command(const Edit &edit)
     {
-        Script script{edit.name,   edit.mergeId,    edit.failsRedo, edit.failsUndo,        edit.failsBefore,
-                      edit.logged, edit.auditTrail, edit.greedy,    edit.obsoleteAfterRedo};
-        if (edit.inner) {
-            script.inRedo = [this, inner = *edit.inner, first = true]() mutable {
-                if (std::exchange(first, false))
-                    (void)m_stack->push(command(inner));
-            };
-        }
-        return new ScriptedCommand(script, &m_journal);
+        return new ScriptedCommand(edit, &m_journal, [this, edit](const std::shared_ptr<Edit> &inner) {
+            if (inner)
+                (void)m_stack->push(command(*inner));
+            innerStep(edit);
+        });
+    }
+
+    void innerStep(const Edit &edit)
+    {
+        if (edit.step == Edit::Undo)
+            m_stack->undo();
+        else if (edit.step == Edit::Redo)
+            m_stack->redo();
+        else if (edit.step == Edit::Begin)
+            m_stack->beginMacro(recordOf(u"in "_s + edit.name), {});
+        else if (edit.step == Edit::End)
+            m_stack->endMacro();
+        else if (edit.step == Edit::Abort)
+            m_stack->abortMacro();
+        else if (edit.step == Edit::Clear)
+            m_stack->clear();
     }
 
     void push()
     {
         const auto edit = this->edit(true);
+        if (oneIn(6)) {
+            edit->inner = {};
+            edit->step = Edit::None;
+            m_operations.append(u"unseen "_s + edit->name);
+            static_cast<QUndoStack *>(m_stack.get())->push(command(*edit));
+            m_model.pushUnseen(edit);
+            return;
+        }
         m_operations.append(u"push "_s + edit->name);
         ScriptedCommand *command = this->command(*edit);
         const bool failed = m_stack->push(command).hasError();
@@ -175,6 +206,7 @@ private:
         default:
             m_operations.append(u"failing logger"_s);
             m_model.loggerFails = m_logger.fails = !m_logger.fails;
+            m_logger.failsByNullEntry = oneIn(2);
         }
     }
 

@@ -99,7 +99,7 @@ Error AuditLogger::recordEvent(const OperationLogItemData &data, const Error &ou
     return stored ? Error() : stored.error();
 }
 
-bool AuditLogger::commitMacro(const Item &macro)
+bool AuditLogger::commitMacro(Item macro)
 {
     AuditRecord mark;
     mark.kind = AuditKind::Commit;
@@ -114,26 +114,25 @@ bool AuditLogger::commitMacro(const Item &macro)
     return false;
 }
 
-Item AuditLogger::logCommand(const Item &parent, const UndoCommand &command,
-                             OperationLogItemUndoContext context)
+Item AuditLogger::logCommand(Item parent, const UndoCommand &command, OperationLogItemUndoContext context)
 {
     return itemOf(recordFor({&command, context}, idOf(parent)), parent, *command.logData());
 }
 
-Item AuditLogger::logEvent(const Item &parent, const OperationLogItemData &data)
+Item AuditLogger::logEvent(Item parent, const OperationLogItemData &data)
 {
     AuditRecord record = recordOf(AuditKind::Event, data, OperationLogItemUndoContext::None);
     record.parent = idOf(parent);
     return itemOf(storeOne({record}), parent, data);
 }
 
-Item AuditLogger::logCommandInMacro(const Item &macro, const UndoCommand &command,
+Item AuditLogger::logCommandInMacro(Item macro, const UndoCommand &command,
                                     OperationLogItemUndoContext context)
 {
     return itemOf(recordFor({&command, context}, idOf(macro)), macro, *command.logData());
 }
 
-Item AuditLogger::logBeginMacro(const Item &parent, const OperationLogItemData &data)
+Item AuditLogger::logBeginMacro(Item parent, const OperationLogItemData &data)
 {
     if (m_preparedMacro)
         return itemOf(std::exchange(m_preparedMacro, std::nullopt), parent, data);

@@ -60,16 +60,16 @@ public:
     [[nodiscard]] ozm::Error recordEvent(const ozm::OperationLogItemData &data,
                                          const ozm::Error &outcome = {});
 
-    bool commitMacro(const QSharedPointer<ozm::OperationLogItem> &macro) override;
-    QSharedPointer<ozm::OperationLogItem> logCommand(const QSharedPointer<ozm::OperationLogItem> &parent,
+    bool commitMacro(QSharedPointer<ozm::OperationLogItem> macro) override;
+    QSharedPointer<ozm::OperationLogItem> logCommand(QSharedPointer<ozm::OperationLogItem> parent,
                                                      const ozm::UndoCommand &command,
                                                      ozm::OperationLogItemUndoContext context) override;
-    QSharedPointer<ozm::OperationLogItem> logEvent(const QSharedPointer<ozm::OperationLogItem> &parent,
+    QSharedPointer<ozm::OperationLogItem> logEvent(QSharedPointer<ozm::OperationLogItem> parent,
                                                    const ozm::OperationLogItemData &data) override;
     QSharedPointer<ozm::OperationLogItem>
-    logCommandInMacro(const QSharedPointer<ozm::OperationLogItem> &macro, const ozm::UndoCommand &command,
+    logCommandInMacro(QSharedPointer<ozm::OperationLogItem> macro, const ozm::UndoCommand &command,
                       ozm::OperationLogItemUndoContext context) override;
-    QSharedPointer<ozm::OperationLogItem> logBeginMacro(const QSharedPointer<ozm::OperationLogItem> &parent,
+    QSharedPointer<ozm::OperationLogItem> logBeginMacro(QSharedPointer<ozm::OperationLogItem> parent,
                                                         const ozm::OperationLogItemData &data) override;
 
 private:

@@ -147,16 +147,16 @@ public:
     /// Why the last checkpoint could not be given to a sink; steps are recorded all the same.
     [[nodiscard]] Error checkpointError() const;
 
-    bool commitMacro(const QSharedPointer<OperationLogItem> &macro) override;
-    QSharedPointer<OperationLogItem> logCommand(const QSharedPointer<OperationLogItem> &parent,
+    bool commitMacro(QSharedPointer<OperationLogItem> macro) override;
+    QSharedPointer<OperationLogItem> logCommand(QSharedPointer<OperationLogItem> parent,
                                                 const UndoCommand &command,
                                                 OperationLogItemUndoContext context) override;
-    QSharedPointer<OperationLogItem> logEvent(const QSharedPointer<OperationLogItem> &parent,
+    QSharedPointer<OperationLogItem> logEvent(QSharedPointer<OperationLogItem> parent,
                                               const OperationLogItemData &data) override;
-    QSharedPointer<OperationLogItem> logCommandInMacro(const QSharedPointer<OperationLogItem> &macro,
+    QSharedPointer<OperationLogItem> logCommandInMacro(QSharedPointer<OperationLogItem> macro,
                                                        const UndoCommand &command,
                                                        OperationLogItemUndoContext context) override;
-    QSharedPointer<OperationLogItem> logBeginMacro(const QSharedPointer<OperationLogItem> &parent,
+    QSharedPointer<OperationLogItem> logBeginMacro(QSharedPointer<OperationLogItem> parent,
                                                    const OperationLogItemData &data) override;
 
 private:

@@ -229,7 +229,7 @@ Error Logger::checkpointError() const
     return d->checkpointError;
 }
 
-bool Logger::commitMacro(const Item &macro)
+bool Logger::commitMacro(Item macro)
 {
     PendingRecord mark =
         sessionRecord(Kind::Commit, "{\"parent\":" + QByteArray::number(idOf(macro->parent())) + '}');
@@ -241,25 +241,24 @@ bool Logger::commitMacro(const Item &macro)
     return false;
 }
 
-Item Logger::logCommand(const Item &parent, const UndoCommand &command, OperationLogItemUndoContext context)
+Item Logger::logCommand(Item parent, const UndoCommand &command, OperationLogItemUndoContext context)
 {
     return d->itemOf(d->recordStep({&command, context}, idOf(parent)), parent, *command.logData(), context);
 }
 
-Item Logger::logCommandInMacro(const Item &macro, const UndoCommand &command,
-                               OperationLogItemUndoContext context)
+Item Logger::logCommandInMacro(Item macro, const UndoCommand &command, OperationLogItemUndoContext context)
 {
     return d->itemOf(d->recordStep({&command, context}, idOf(macro)), macro, *command.logData(), context);
 }
 
-Item Logger::logEvent(const Item &parent, const OperationLogItemData &data)
+Item Logger::logEvent(Item parent, const OperationLogItemData &data)
 {
     PendingRecord record = d->recordOf(Kind::Event, data, OperationLogItemUndoContext::None);
     record.parent = idOf(parent);
     return d->itemOf(d->storeFirst({record}), parent, data, OperationLogItemUndoContext::None);
 }
 
-Item Logger::logBeginMacro(const Item &parent, const OperationLogItemData &data)
+Item Logger::logBeginMacro(Item parent, const OperationLogItemData &data)
 {
     constexpr auto kContext = OperationLogItemUndoContext::New;
     if (d->preparedMacro)

@@ -4,9 +4,8 @@ namespace ozm {
 
 AuditTrailLoggingInterface::~AuditTrailLoggingInterface() = default;
 
-QSharedPointer<OperationLogItem>
-AuditTrailLoggingInterface::logEvent(const QSharedPointer<OperationLogItem> &parent,
-                                     const OperationLogItemData &data)
+QSharedPointer<OperationLogItem> AuditTrailLoggingInterface::logEvent(QSharedPointer<OperationLogItem> parent,
+                                                                      const OperationLogItemData &data)
 {
     QSharedPointer<OperationLogItem> item = logBeginMacro(parent, data);
     if (!item || item->isNull() || !commitMacro(item))

@@ -1,9 +1,11 @@
 #include <ozm_widgets/db/common/OperationLogItem.h>
 
+#include "LogValue.h"
 #include "support/Logging.h"
 
 #include <QJsonArray>
 #include <QLocale>
+#include <QSet>
 
 #include <algorithm>
 #include <atomic>
@@ -18,8 +20,8 @@ namespace {
 
 using Item = QSharedPointer<OperationLogItem>;
 
-// Each level takes two of the 1024 that Qt reads back, and the records need some for themselves.
-constexpr int kDeepestJson = 256;
+// A record without a value is an object with the subject in it, which holds the key.
+constexpr int kLevelsOfRecord = 3;
 
 std::atomic<qint64> s_nextInternalId{0};
 
@@ -27,41 +29,110 @@ std::atomic<qint64> s_nextInternalId{0};
 /// not become the depth of the stack.
 void destroyFlat(QList<Item> &&children)
 {
-    thread_local std::vector<Item> *doomed = nullptr;
-    if (children.isEmpty())
-        return;
+    thread_local std::vector<QList<Item>> *doomed = nullptr;
     if (doomed) {
-        doomed->insert(doomed->end(), children.cbegin(), children.cend());
+        doomed->push_back(std::move(children));
         return;
     }
-    std::vector<Item> pending(children.cbegin(), children.cend());
-    children.clear();
+    std::vector<QList<Item>> pending;
+    pending.push_back(std::move(children));
     doomed = &pending;
     while (!pending.empty()) {
-        Item last = std::move(pending.back());
+        QList<Item> siblings = std::move(pending.back());
         pending.pop_back();
-        last.reset();
+        siblings.clear();
     }
     doomed = nullptr;
 }
 
-bool isSameOrAbove(const OperationLogItem *candidate, const OperationLogItem *item)
-{
-    // Without children it is above nothing: this keeps the building of long chains linear.
-    if (candidate == item || !candidate->hasChildren())
-        return candidate == item;
-    for (auto above = item->parent(); above; above = above->parent()) {
-        if (above.data() == candidate)
-            return true;
-    }
-    return false;
-}
-
 } // namespace
 
+/**
+ * The children of an entry, any of which can leave in constant time: it knows its place, and leaves a gap
+ * that is closed when somebody looks, or when gaps prevail.
+ */
+class OperationLogItemPrivate::Children
+{
+public:
+    Children() = default;
+    ~Children() { destroyFlat(std::move(m_items)); }
+    Q_DISABLE_COPY_MOVE(Children)
+
+    [[nodiscard]] const QList<Item> &items()
+    {
+        closeGaps();
+        return m_items;
+    }
+    [[nodiscard]] qsizetype count() const { return m_items.size() - m_gaps; }
+
+    void append(const Item &child)
+    {
+        child->d->m_place = m_first + m_items.size();
+        m_items.append(child);
+    }
+
+    void remove(const Item &child)
+    {
+        // An entry can know a parent that does not know the entry.
+        const qsizetype index = child->d->m_place - m_first;
+        if (index < 0 || index >= m_items.size() || m_items.at(index) != child)
+            return;
+        m_items[index].reset();
+        ++m_gaps;
+        for (; !m_items.isEmpty() && !m_items.constLast(); --m_gaps)
+            m_items.removeLast();
+        for (; !m_items.isEmpty() && !m_items.constFirst(); --m_gaps, ++m_first)
+            m_items.removeFirst();
+        if (m_gaps > m_items.size() / 2)
+            closeGaps();
+    }
+
+    [[nodiscard]] QList<Item> takeAll()
+    {
+        closeGaps();
+        return std::exchange(m_items, {});
+    }
+
+private:
+    void closeGaps()
+    {
+        if (m_gaps == 0)
+            return;
+        m_items.removeIf([](const Item &child) { return !child; });
+        m_gaps = 0;
+        m_first = 0;
+        for (qsizetype index = 0; index < m_items.size(); ++index)
+            m_items.at(index)->d->m_place = index;
+    }
+
+    QList<Item> m_items;
+    qsizetype m_first = 0; ///< The place of the first of the items.
+    qsizetype m_gaps = 0;
+};
+
+/// An entry with its inside, which exists before the entry and after it.
+class OperationLogItem::Stored final : private OperationLogItemPrivate, public OperationLogItem
+{
+public:
+    Stored(qint64 id, qint64 timestamp, const QString &userName, const OperationLogItemData &data)
+        : OperationLogItemPrivate({}, id, timestamp, userName, data)
+        , OperationLogItem(static_cast<OperationLogItemPrivate &>(*this))
+    {}
+};
+
 OperationLogItemPrivate::OperationLogItemPrivate() = default;
-OperationLogItemPrivate::OperationLogItemPrivate(const OperationLogItemPrivate &other) = default;
 OperationLogItemPrivate::OperationLogItemPrivate(OperationLogItemPrivate &&other) noexcept = default;
+OperationLogItemPrivate::~OperationLogItemPrivate() = default;
+
+// Without the children, since an entry has one parent.
+OperationLogItemPrivate::OperationLogItemPrivate(const OperationLogItemPrivate &other)
+    : m_parent(other.m_parent)
+    , m_id(other.m_id)
+    , m_internalId(other.m_internalId)
+    , m_timestamp(other.m_timestamp)
+    , m_userName(other.m_userName)
+    , m_data(other.m_data)
+{}
 
 OperationLogItemPrivate::OperationLogItemPrivate(const QSharedPointer<OperationLogItem> &parent, qint64 id,
                                                  qint64 timestamp, const QString &userName,
@@ -72,11 +143,9 @@ OperationLogItemPrivate::OperationLogItemPrivate(const QSharedPointer<OperationL
     , m_timestamp(timestamp)
     , m_userName(userName)
     , m_data(data)
-{}
-
-OperationLogItemPrivate::~OperationLogItemPrivate()
 {
-    destroyFlat(std::move(m_children));
+    if (parent)
+        parent->d->m_wasParent = true;
 }
 
 QSharedPointer<OperationLogItem>
@@ -84,33 +153,64 @@ OperationLogItemPrivate::createItem(const QSharedPointer<OperationLogItem> &pare
                                     qint64 timestamp, const QString &userName,
                                     const OperationLogItemData &data)
 {
-    Item item(new OperationLogItem({}, id, timestamp, userName, data));
-    if (parent)
-        setParent(item, parent);
-    return item;
+    return OperationLogItem::create(parent, id, timestamp, userName, data);
+}
+
+OperationLogItemPrivate::Children &OperationLogItemPrivate::childrenToChange()
+{
+    if (!m_children)
+        m_children = std::make_unique<Children>();
+    return *m_children;
+}
+
+const QList<Item> &OperationLogItemPrivate::children() const
+{
+    static const QList<Item> none;
+    return m_children ? m_children->items() : none;
 }
 
 // By value: a reference into the list of children would die when the child leaves it.
 // NOLINTNEXTLINE(performance-unnecessary-value-param)
 void OperationLogItemPrivate::setParent(Item child, Item parent)
 {
-    if (parent && isSameOrAbove(child.data(), parent.data())) {
+    if (parent && parent->isSameOrBelow(*child)) {
         OZM_WIDGETS_WARNING() << "Audit trail item" << child->id() << "cannot be placed below itself";
         return;
     }
-    if (const Item oldParent = child->parent()) {
-        // From the end: what is moved is mostly what came last.
-        QList<Item> &siblings = oldParent->d->m_children;
-        if (const qsizetype place = siblings.lastIndexOf(child); place >= 0)
-            siblings.removeAt(place);
-    }
+    if (const Item oldParent = child->parent(); oldParent && oldParent->d->m_children)
+        oldParent->d->m_children->remove(child);
     child->d->m_parent = parent;
+    if (!parent)
+        return;
+    parent->d->m_wasParent = true;
+    parent->d->childrenToChange().append(child);
+}
+
+QSharedPointer<OperationLogItem> OperationLogItem::create(const QSharedPointer<OperationLogItem> &parent,
+                                                          qint64 id, qint64 timestamp,
+                                                          const QString &userName,
+                                                          const OperationLogItemData &data)
+{
+    Item item = QSharedPointer<Stored>::create(id, timestamp, userName, data);
     if (parent)
-        parent->d->m_children.append(child);
+        OperationLogItemPrivate::setParent(item, parent);
+    return item;
+}
+
+void OperationLogItem::Release::operator()(OperationLogItemPrivate *inside) const
+{
+    if (!inside->m_isPartOfItem)
+        delete inside;
+}
+
+OperationLogItem::OperationLogItem(OperationLogItemPrivate &inside)
+    : d(&inside)
+{
+    inside.m_isPartOfItem = true;
 }
 
 OperationLogItem::OperationLogItem()
-    : d(std::make_unique<OperationLogItemPrivate>())
+    : d(new OperationLogItemPrivate)
 {}
 
 OperationLogItem::OperationLogItem(const QString &userName, const OperationLogItemData &data)
@@ -120,7 +220,7 @@ OperationLogItem::OperationLogItem(const QString &userName, const OperationLogIt
 OperationLogItem::OperationLogItem(const QSharedPointer<OperationLogItem> &parent, qint64 id,
                                    qint64 timestamp, const QString &userName,
                                    const OperationLogItemData &data)
-    : d(std::make_unique<OperationLogItemPrivate>(parent, id, timestamp, userName, data))
+    : d(new OperationLogItemPrivate(parent, id, timestamp, userName, data))
 {}
 
 OperationLogItem::~OperationLogItem() = default;
@@ -177,37 +277,49 @@ QSharedPointer<const OperationLogItem> OperationLogItem::parent() const
 
 QList<QSharedPointer<OperationLogItem>> OperationLogItem::children()
 {
-    return d->m_children;
+    return d->children();
 }
 
 QList<QSharedPointer<const OperationLogItem>> OperationLogItem::children() const
 {
-    return {d->m_children.cbegin(), d->m_children.cend()};
+    return {d->children().cbegin(), d->children().cend()};
 }
 
 QSharedPointer<OperationLogItem> OperationLogItem::child(int index)
 {
-    return d->m_children.value(index);
+    return d->children().value(index);
 }
 
 QSharedPointer<const OperationLogItem> OperationLogItem::child(int index) const
 {
-    return d->m_children.value(index);
+    return d->children().value(index);
 }
 
 int OperationLogItem::childCount() const
 {
-    return static_cast<int>(d->m_children.size());
+    return d->m_children ? static_cast<int>(d->m_children->count()) : 0;
 }
 
 bool OperationLogItem::hasChildren() const
 {
-    return !d->m_children.isEmpty();
+    return childCount() > 0;
 }
 
 int OperationLogItem::indexOf(const QSharedPointer<OperationLogItem> &child) const
 {
-    return static_cast<int>(d->m_children.indexOf(child));
+    return static_cast<int>(d->children().indexOf(child));
+}
+
+bool OperationLogItem::isSameOrBelow(const OperationLogItem &other) const
+{
+    // Nothing is below an entry that never was a parent: this keeps the building of long chains linear.
+    if (this == &other || !other.d->m_wasParent)
+        return this == &other;
+    for (auto above = parent(); above; above = above->parent()) {
+        if (above.data() == &other)
+            return true;
+    }
+    return false;
 }
 
 void OperationLogItem::setId(qint64 id)
@@ -223,36 +335,44 @@ void OperationLogItem::addChild(const QSharedPointer<OperationLogItem> &child)
 
 void OperationLogItem::setChildren(const QList<QSharedPointer<OperationLogItem>> &children)
 {
-    const QList<Item> former = std::exchange(d->m_children, {});
+    const QList<Item> former = d->childrenToChange().takeAll();
     for (const Item &child : former)
         child->d->m_parent.clear();
+    QSet<const OperationLogItem *> placed;
     for (const Item &child : children) {
-        if (child && child->parent() != sharedFromThis())
-            addChild(child);
+        if (!child || placed.contains(child.data()))
+            continue;
+        placed.insert(child.data());
+        addChild(child);
     }
 }
 
 QJsonObject OperationLogItem::toJsonObject() const
 {
-    return toJsonObject(0);
+    return toJsonObject(logvalue::kDeepestJson);
 }
 
-QJsonObject OperationLogItem::toJsonObject(int depth) const
+QJsonObject OperationLogItem::toJsonObject(int room) const
 {
-    if (isNull() || !d->m_data.isValid())
+    if (isNull() || !d->m_data.isValid()) {
+        if (hasChildren())
+            OZM_WIDGETS_WARNING() << "Audit trail item" << d->m_id
+                                  << "has no valid record: JSON leaves it out, with all below it";
         return {};
-    QJsonObject json = d->m_data.toJsonObject();
+    }
+    if (room < (d->m_data.legacyDescription().isEmpty() ? kLevelsOfRecord : 1)) {
+        OZM_WIDGETS_WARNING() << "Audit trail item" << d->m_id
+                              << "is nested too deeply for JSON, which leaves it out";
+        return {};
+    }
+    QJsonObject json = d->m_data.toJsonObject(room - 1);
     json.insert("id"_L1, d->m_id);
     json.insert("time"_L1, dateTime().toString(Qt::ISODate));
     json.insert("user"_L1, d->m_userName);
 
-    if (depth == kDeepestJson && hasChildren()) {
-        OZM_WIDGETS_WARNING() << "Audit trail item" << d->m_id << "is nested too deeply for JSON";
-        return json;
-    }
     QJsonArray children;
-    for (const Item &child : std::as_const(d->m_children)) {
-        const QJsonObject childJson = child->toJsonObject(depth + 1);
+    for (const Item &child : d->children()) {
+        const QJsonObject childJson = child->toJsonObject(room - 2);
         if (!childJson.isEmpty())
             children.append(childJson);
     }
@@ -281,7 +401,7 @@ QList<QList<QString>> OperationLogItem::toStringLists() const
         const OperationLogItem *item = open.back();
         open.pop_back();
         rows.append(item->toStringList());
-        const QList<Item> &children = item->d->m_children;
+        const QList<Item> &children = item->d->children();
         std::ranges::transform(children.crbegin(), children.crend(), std::back_inserter(open), &Item::data);
     }
     return rows;

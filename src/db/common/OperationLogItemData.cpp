@@ -85,16 +85,40 @@ OperationLogItemData::OperationLogItemData(const QByteArray &json, bool *ok)
         *ok = document.isObject();
     if (!document.isObject())
         return;
-    const QJsonObject object = document.object();
+    read(document.object());
+}
+
+Result<OperationLogItemData> OperationLogItemData::fromJson(const QByteArray &json)
+{
+    QJsonParseError problem;
+    const QJsonDocument document = QJsonDocument::fromJson(json, &problem);
+    if (problem.error != QJsonParseError::NoError) {
+        return Error(ErrorCode::BadParameter,
+                     tr("The record cannot be read from byte %1 on: %2.")
+                         .arg(QString::number(problem.offset), problem.errorString()))
+            .ecatch(OZM_HERE);
+    }
+    OperationLogItemData data;
+    data.read(document.object());
+    if (!data.isValid()) {
+        return Error(ErrorCode::BadParameter,
+                     tr("The record has no known operation, subject, attributes or undo context."))
+            .ecatch(OZM_HERE);
+    }
+    return data;
+}
+
+void OperationLogItemData::read(const QJsonObject &json)
+{
     d = new Content;
-    d->type = stringToType(object.value("type"_L1).toString());
-    d->subject = OperationLogItemSubject(object.value("subject"_L1).toObject());
-    if (object.contains("undoContext"_L1))
-        m_undoContext = stringToUndoContext(object.value("undoContext"_L1).toString());
-    d->attributes = readAttributes(object);
-    d->value = logvalue::fromJson(object.value("value"_L1));
-    d->oldValue = logvalue::fromJson(object.value("oldValue"_L1));
-    d->legacyDescription = object.value("legacyDescription"_L1).toString();
+    d->type = stringToType(json.value("type"_L1).toString());
+    d->subject = OperationLogItemSubject(json.value("subject"_L1).toObject());
+    if (json.contains("undoContext"_L1))
+        m_undoContext = stringToUndoContext(json.value("undoContext"_L1).toString());
+    d->attributes = readAttributes(json);
+    d->value = logvalue::fromJson(json.value("value"_L1));
+    d->oldValue = logvalue::fromJson(json.value("oldValue"_L1));
+    d->legacyDescription = json.value("legacyDescription"_L1).toString();
 }
 
 const OperationLogItemData::Content &OperationLogItemData::content() const
@@ -181,6 +205,11 @@ void OperationLogItemData::setApplicationFlag(bool flag)
 
 QJsonObject OperationLogItemData::toJsonObject() const
 {
+    return toJsonObject(logvalue::kDeepestJson - 1);
+}
+
+QJsonObject OperationLogItemData::toJsonObject(int room) const
+{
     if (!isValid())
         return {};
     if (!content().legacyDescription.isEmpty())
@@ -188,10 +217,10 @@ QJsonObject OperationLogItemData::toJsonObject() const
     return {
         {u"version"_s, kVersion},
         {u"type"_s, typeToString(content().type)},
-        {u"subject"_s, content().subject.toJsonObject()},
+        {u"subject"_s, content().subject.toJsonObject(room - 1)},
         {u"attributes"_s, QJsonArray::fromStringList(content().attributes)},
-        {u"value"_s, logvalue::toJson(content().value)},
-        {u"oldValue"_s, logvalue::toJson(content().oldValue)},
+        {u"value"_s, logvalue::toJson(content().value, room)},
+        {u"oldValue"_s, logvalue::toJson(content().oldValue, room)},
         {u"undoContext"_s, undoContextToString(m_undoContext)},
     };
 }
@@ -204,7 +233,7 @@ QByteArray OperationLogItemData::toJson() const
 QString OperationLogItemData::toString() const
 {
     if (!content().legacyDescription.isEmpty())
-        return content().legacyDescription;
+        return logvalue::onOneLine(content().legacyDescription);
     if (!isValid())
         return {};
 
@@ -220,7 +249,7 @@ QString OperationLogItemData::toString() const
         printsOldValue() ? u"from %1"_s.arg(oldValueToString()) : QString(),
     };
     parts.removeAll(QString());
-    return parts.join(u' ').trimmed() + changeToString();
+    return logvalue::onOneLine(parts.join(u' ').trimmed() + changeToString());
 }
 
 bool OperationLogItemData::printsOldValue() const
@@ -280,6 +309,18 @@ QString OperationLogItemData::undoContextToString(OperationLogItemUndoContext co
 OperationLogItemUndoContext OperationLogItemData::stringToUndoContext(const QString &text)
 {
     return static_cast<OperationLogItemUndoContext>(OperationLogTables::instance().undoContexts.value(text));
+}
+
+bool operator==(const OperationLogItemData &a, const OperationLogItemData &b)
+{
+    const auto &left = a.content();
+    const auto &right = b.content();
+    return a.m_undoContext == b.m_undoContext && a.m_collapseTrivialMacro == b.m_collapseTrivialMacro &&
+           a.m_applicationFlag == b.m_applicationFlag &&
+           (&left == &right ||
+            (left.type == right.type && left.subject == right.subject &&
+             left.attributes == right.attributes && left.value == right.value &&
+             left.oldValue == right.oldValue && left.legacyDescription == right.legacyDescription));
 }
 
 QDebug operator<<(QDebug debug, const OperationLogItemData &data)

@@ -31,7 +31,7 @@ QString valuesToString(const QMap<QString, QVariant> &values)
     for (auto value = values.constBegin(); value != values.constEnd(); ++value)
         texts.append(ColumnFriendlyName::friendlyName(value.key()) + ": "_L1 +
                      logvalue::toText(logvalue::toJson(value.value())));
-    return texts.join(", "_L1);
+    return logvalue::onOneLine(texts.join(", "_L1));
 }
 
 } // namespace
@@ -67,8 +67,8 @@ OperationLogItemSubject::OperationLogItemSubject(const QJsonObject &json)
 {
     if (!isValid())
         return;
-    m_key = logvalue::fromJson(json.value("key"_L1).toObject());
-    m_explicitSecondaryKey = logvalue::fromJson(json.value("secondaryKey"_L1).toObject());
+    m_key = logvalue::readEntries(json.value("key"_L1).toObject());
+    m_explicitSecondaryKey = logvalue::readEntries(json.value("secondaryKey"_L1).toObject());
 }
 
 bool OperationLogItemSubject::isValid() const
@@ -123,11 +123,21 @@ QString OperationLogItemSubject::toString() const
 
 QJsonObject OperationLogItemSubject::toJsonObject() const
 {
+    return toJsonObject(logvalue::kDeepestJson - 1);
+}
+
+QJsonObject OperationLogItemSubject::toJsonObject(int room) const
+{
     return {
         {u"type"_s, typeToString()},
-        {u"key"_s, logvalue::toJson(m_key)},
-        {u"secondaryKey"_s, logvalue::toJson(m_explicitSecondaryKey)},
+        {u"key"_s, logvalue::toJson(m_key, room)},
+        {u"secondaryKey"_s, logvalue::toJson(m_explicitSecondaryKey, room)},
     };
+}
+
+bool operator==(const OperationLogItemSubject &a, const OperationLogItemSubject &b)
+{
+    return a.m_type == b.m_type && a.m_key == b.m_key && a.m_explicitSecondaryKey == b.m_explicitSecondaryKey;
 }
 
 } // namespace ozm

@@ -3,8 +3,6 @@
 #include "UndoStack_p.h"
 #include "support/Logging.h"
 
-#include <QScopedValueRollback>
-
 namespace ozm {
 
 UndoCommand::UndoCommand(UndoCommand *parent)
@@ -77,7 +75,9 @@ Error UndoCommand::afterEndLast(bool)
 bool UndoCommand::canMergeWith(const QUndoCommand *other) const
 {
     const auto *command = dynamic_cast<const UndoCommand *>(other);
-    return command && id() != -1 && id() == command->id() && !d->error.hasError() &&
+    // Without a stack it came through the base class's push(), and is recorded only once it is in the
+    // history.
+    return command && command->d->stack && id() != -1 && id() == command->id() && !d->error.hasError() &&
            !command->d->error.hasError();
 }
 
@@ -98,53 +98,72 @@ void UndoCommand::redo()
 {
     UndoStack *stack = this->stack();
     if (!stack) {
-        runRedo(nullptr);
+        runRedo(nullptr, nullptr);
         return;
     }
-    UndoStackPrivate::Push *push = stack->d->pushThatRuns(this);
-    // Children run within the step of their parent.
-    const bool isHistoryStep = !push && !d->parentCommand;
-    const QScopedValueRollback steps(stack->d->historySteps,
-                                     stack->d->historySteps + (isHistoryStep ? 1 : 0));
-    runRedo(stack);
-    if (push) {
+    UndoStackPrivate &history = *stack->d;
+    if (history.restoring || history.takePlacing(this))
+        return;
+    if (UndoStackPrivate::Push *push = history.pushThatRuns(this)) {
+        runRedo(stack, nullptr);
         push->error = d->error;
         push->item = d->recentLogItem;
+    } else if (d->parentCommand) {
+        // Children run within the step of their parent.
+        runRedo(stack, nullptr);
+    } else if (history.historySteps > 0) {
+        OZM_WIDGETS_WARNING() << "Redo refused while an undo or redo runs:" << text();
+    } else {
+        UndoHistoryStep step(history);
+        runRedo(stack, &step);
     }
 }
 
 void UndoCommand::undo()
 {
     UndoStack *stack = this->stack();
-    if (!stack) {
-        runUndo(nullptr);
+    if (!stack || d->parentCommand) {
+        if (!stack || !stack->d->restoring)
+            runUndo(stack, nullptr);
         return;
     }
-    const QScopedValueRollback steps(stack->d->historySteps, stack->d->historySteps + 1);
-    runUndo(stack);
+    if (stack->d->restoring)
+        return;
+    if (stack->d->historySteps > 0) {
+        OZM_WIDGETS_WARNING() << "Undo refused while an undo or redo runs:" << text();
+        return;
+    }
+    UndoHistoryStep step(*stack->d);
+    runUndo(stack, &step);
 }
 
-void UndoCommand::runRedo(UndoStack *stack)
+void UndoCommand::runRedo(UndoStack *stack, UndoHistoryStep *step)
 {
     d->error = beginRedo(stack);
     if (d->error.hasError())
         return;
     d->error = doRedo();
+    if (step)
+        step->restoreIndex();
     const auto context = d->firstRedo ? OperationLogItemUndoContext::New : OperationLogItemUndoContext::Redo;
     d->firstRedo = false;
     d->recentLogItem = stack ? stack->createOrLog(*this, context) : nullptr;
 }
 
-void UndoCommand::runUndo(UndoStack *stack)
+void UndoCommand::runUndo(UndoStack *stack, UndoHistoryStep *step)
 {
     d->error = beginUndo(stack);
     if (d->error.hasError())
         return;
+    if (step)
+        step->restoreIndex();
     if (stack && !stack->canUndo()) {
         OZM_WIDGETS_WARNING() << "Can't undo" << text();
         return;
     }
     d->error = doUndo();
+    if (step)
+        step->restoreIndex();
     d->recentLogItem = stack ? stack->createOrLog(*this, OperationLogItemUndoContext::Undo) : nullptr;
     if (endsUndoRun(stack))
         d->error = afterEndLast(true);

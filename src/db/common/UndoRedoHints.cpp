@@ -95,3 +95,33 @@ void UndoRedoHints::setEndSessionFunction(const std::function<void()> &function)
 {
     endSessionFunction() = function;
 }
+
+UndoRedoHints::Run::Run(int count, const std::function<void()> &atEnd)
+    : m_count(count)
+    , m_isInner(isSessionStarted())
+    , m_outerFlag(s_undo_redo_instance_flag)
+    , m_atEnd(atEnd)
+{
+    setSessionStarted(true);
+    if (!m_isInner)
+        setEndSessionFunction(atEnd);
+}
+
+UndoRedoHints::Run::~Run()
+{
+    if (!m_isInner) {
+        setHintNone();
+        return;
+    }
+    s_undo_redo_instance_flag = m_outerFlag;
+    if (m_atEnd)
+        m_atEnd();
+}
+
+bool UndoRedoHints::Run::next()
+{
+    if (m_next >= m_count)
+        return false;
+    setHintByIndex(m_next++, m_count);
+    return true;
+}

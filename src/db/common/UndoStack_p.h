@@ -4,6 +4,8 @@
 
 namespace ozm {
 
+class AuditTrailMonitor;
+
 class UndoStackPrivate
 {
 public:
@@ -14,6 +16,7 @@ public:
         UndoCommand *command; ///< Null once the command is deleted.
         Push *outer;
         bool started = false; ///< The first run, which is the push's own, has begun.
+        bool placing = false; ///< That run is over; the base class asks for it once more.
         Error error = {};     ///< What that run came to, and left in the trail.
         QWeakPointer<OperationLogItem> item = {};
     };
@@ -24,15 +27,28 @@ public:
 
     /// The push that asked for the run of @p command which now begins; null for a step of the history.
     [[nodiscard]] Push *pushThatRuns(const UndoCommand *command);
+    /// Whether the run that now begins is the one that the base class asks for, which has been.
+    [[nodiscard]] bool takePlacing(const UndoCommand *command);
     /// To be called by a command's destructor.
     void forget(const UndoCommand *command);
 
-    void removeFailed(UndoCommand *command);
+    [[nodiscard]] bool isMacroOpen() const;
+    void place(Push &run);
     void forgetClearedMacros();
+    void openMacro();
+    void closeMacro();
     [[nodiscard]] QSharedPointer<OperationLogItem> takeOpenMacroItem();
-    [[nodiscard]] bool commitMacro(const QSharedPointer<OperationLogItem> &macro);
+    [[nodiscard]] bool commitMacro(QSharedPointer<OperationLogItem> macro);
     void finishLastMacroCommand(bool committed);
     void dropCounters();
+
+    void onIndexChanged(int index);
+    /// Takes in what came through the base class's push() since the last look.
+    void adoptLatest();
+    void adoptFrom(const QUndoCommand &group);
+    void adopt(const QUndoCommand &command);
+    [[nodiscard]] bool isKnown(const QUndoCommand &command) const;
+    void dropFailed(UndoCommand &command);
 
     [[nodiscard]] bool mayLog(OperationLogItemUndoContext context) const;
     [[nodiscard]] QSharedPointer<OperationLogItem> log(const UndoCommand &command,
@@ -48,9 +64,31 @@ public:
     bool inPush = false;
 
     Push *push = nullptr;
-    int openMacros = 0;
-    /// Steps of the history now being undone or redone; while there are any, the history must not change.
+    /// Serial numbers, since a macro that was cleared must not be taken for one that is begun later.
+    QList<quint64> openMacros;
+    quint64 nextMacro = 1;
     int historySteps = 0;
+    bool restoring = false; ///< Commands are passed over, to bring back the index.
+    /// Only compared: a command that this stack warned about.
+    const QUndoCommand *lastUnrecorded = nullptr;
+    AuditTrailMonitor *monitor = nullptr;
+};
+
+/// A step of the history that is being undone or redone. While there is one, the history must not change.
+class UndoHistoryStep
+{
+public:
+    explicit UndoHistoryStep(UndoStackPrivate &stack);
+    ~UndoHistoryStep();
+    Q_DISABLE_COPY_MOVE(UndoHistoryStep)
+
+    /// The base class moves its index for refused steps as well: puts it back.
+    void restoreIndex();
+
+private:
+    UndoStackPrivate &m_stack;
+    const int m_index;
+    const int m_count;
 };
 
 } // namespace ozm

@@ -21,12 +21,17 @@ class OperationLogItemPrivate;
  * One entry of the audit trail: a record with its id, time and user, in a tree in which a macro's entry is
  * the parent of the entries of the commands that ran inside it.
  *
- * Loggers make entries with OperationLogItemPrivate::createItem and hand them on by QSharedPointer; a parent
- * owns its children, a child only knows its parent.
+ * Loggers make entries with create() and hand them on by QSharedPointer; a parent owns its children, a child
+ * only knows its parent.
  *
- *     auto macro = OperationLogItemPrivate::createItem({}, 7, now, u"jdoe"_s, macroData);
- *     auto child = OperationLogItemPrivate::createItem(macro, 8, now, u"jdoe"_s, editData);
- *     QJsonDocument(macro->toJsonObject()).toJson(); // the child is under "children"
+ *     using namespace ozm;
+ *     using namespace Qt::StringLiterals;
+ *     const qint64 now = QDateTime::currentMSecsSinceEpoch();
+ *     const OperationLogItemData data(OperationLogItemType::Set, OperationLogItemSubject::Type::Project,
+ *                                     {u"Title"_s}, u"Digest 7"_s);
+ *     const auto macro = OperationLogItem::create({}, 7, now, u"jdoe"_s, data);
+ *     const auto child = OperationLogItem::create(macro, 8, now, u"jdoe"_s, data);
+ *     const QJsonObject json = macro->toJsonObject(); // the child is under "children"
  *
  * An entry with time stamp 0 is a null entry: a logger's sign of failure. An entry cannot become its own
  * ancestor: such a link is refused with a warning and changes nothing. Destruction takes no stack, however
@@ -35,6 +40,11 @@ class OperationLogItemPrivate;
 class OZM_WIDGETS_EXPORT OperationLogItem : public QEnableSharedFromThis<OperationLogItem>
 {
 public:
+    /// A new entry, the last child of @p parent unless that is null.
+    [[nodiscard]] static QSharedPointer<OperationLogItem>
+    create(const QSharedPointer<OperationLogItem> &parent, qint64 id, qint64 timestamp,
+           const QString &userName, const OperationLogItemData &data);
+
     virtual ~OperationLogItem();
     Q_DISABLE_COPY_MOVE(OperationLogItem)
 
@@ -75,10 +85,12 @@ public:
 
     /**
      * The entry with its children; empty for a null entry or an invalid record, which is also left out of
-     * its parent's "children".
+     * its parent's "children", with all below it.
      *
-     * Readers of JSON give up on deep nesting, so entries more than 256 levels down are left out, with a
-     * warning; toStringLists() has them all.
+     * Qt's reader of JSON takes 1,024 arrays and objects one inside the other. Entries are left out where
+     * that would not be enough: those more than 510 levels below this one, or 511 for legacy descriptions.
+     * Leaving out an entry for its depth, or one that has children, is said in a warning; toStringLists()
+     * has them all.
      */
     [[nodiscard]] QJsonObject toJsonObject() const;
 
@@ -88,6 +100,8 @@ public:
     [[nodiscard]] QList<QList<QString>> toStringLists() const;
 
 protected:
+    // An entry made with a parent knows it, but joins the parent's children with addChild() or setChildren()
+    // only.
     OperationLogItem();
     OperationLogItem(const QString &userName, const OperationLogItemData &data);
     OperationLogItem(const QSharedPointer<OperationLogItem> &parent, qint64 id, qint64 timestamp,
@@ -95,10 +109,19 @@ protected:
 
 private:
     friend class OperationLogItemPrivate;
+    class Stored;
 
-    [[nodiscard]] QJsonObject toJsonObject(int depth) const;
+    /// The inside of an entry made by create() is part of the entry's memory.
+    struct Release
+    {
+        void operator()(OperationLogItemPrivate *inside) const;
+    };
 
-    const std::unique_ptr<OperationLogItemPrivate> d;
+    explicit OperationLogItem(OperationLogItemPrivate &inside);
+    [[nodiscard]] bool isSameOrBelow(const OperationLogItem &other) const;
+    [[nodiscard]] QJsonObject toJsonObject(int room) const;
+
+    const std::unique_ptr<OperationLogItemPrivate, Release> d;
 };
 
 /**
@@ -127,6 +150,10 @@ public:
 
 private:
     friend class OperationLogItem;
+    class Children;
+
+    [[nodiscard]] Children &childrenToChange();
+    [[nodiscard]] const QList<QSharedPointer<OperationLogItem>> &children() const;
 
     QWeakPointer<OperationLogItem> m_parent;
     qint64 m_id = 0;
@@ -134,7 +161,10 @@ private:
     qint64 m_timestamp = 0;
     QString m_userName;
     OperationLogItemData m_data;
-    QList<QSharedPointer<OperationLogItem>> m_children;
+    std::unique_ptr<Children> m_children;
+    qsizetype m_place = 0;       ///< Among the parent's children; see Children.
+    bool m_wasParent = false;    ///< Some entry has, or had, this one as its parent.
+    bool m_isPartOfItem = false; ///< In one piece of memory with its entry.
 };
 
 } // namespace ozm

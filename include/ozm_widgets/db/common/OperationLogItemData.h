@@ -1,9 +1,11 @@
 #pragma once
 
+#include <ozm_common_stable/Result.h>
 #include <ozm_widgets/db/common/OperationLogItemSubject.h>
 #include <ozm_widgets/ozm_widgets_export.h>
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QJsonObject>
 #include <QList>
 #include <QSharedDataPointer>
@@ -46,26 +48,31 @@ enum class OperationLogItemUndoContext : qint32
  * A record without attributes, kind or subject is not valid: commands that carry one are not logged.
  * Records of versions that wrote free text are kept as their legacy description.
  *
- * Values in JSON, and in text, which is always that of the JSON form:
+ * Values take the form in JSON that QJsonValue::fromVariant() gives them as long as that keeps them: texts,
+ * truth values, finite numbers, integers of up to 64 bits with sign, lists and maps with text keys, dates and
+ * times (ISO 8601 with milliseconds; local times with their distance from UTC), URLs, UUIDs, enumerators by
+ * name, and every other type that Qt converts to text. The rest is kept as follows:
  *
- *   - kept exactly: truth values, texts, finite floating-point numbers, integers up to 2^53 either way,
- *     QJsonValue and its like; lists of any of these (VariantItems, typed lists and pairs too, read back as
- *     QVariantList) and maps with text keys (read back as QVariantMap);
- *   - kept as text that converts back with QVariant: integers beyond 2^53, which other readers of JSON would
- *     round; "nan", "inf" and "-inf"; date and time (ISO 8601 with milliseconds), URLs, UUIDs, enumerators
- *     (by name) and other types that Qt converts to text; bytes that are UTF-8 text, other bytes as
- *     "base64:" and their Base64 form; map keys that are not text;
- *   - kept as a description only: types that Qt cannot convert but can print, points and rectangles among
- *     them;
- *   - refused, with a warning and the text "(value of type T not recorded)" in their place: pointers, types
- *     that can neither be converted nor printed, and lists nested deeper than 64 levels.
+ *   - as a list, read back as QVariantList: VariantItems, typed lists and pairs;
+ *   - as an object, read back as QVariantMap: maps of any type, with the text of their keys;
+ *   - marked with its type, as in {"ozm:type": "double", "ozm:value": "nan"}, and read back as it was: values
+ *     that are not a number, infinities, unsigned integers from 2^63 on, and bytes that are not UTF-8 text
+ *     (in Base64). So none of them can be mistaken for a text;
+ *   - marked with its type as a description only: types that Qt cannot convert but can print, points and
+ *     rectangles among them;
+ *   - not at all, with a warning and a marked "(value of type T not recorded)" in their place: pointers,
+ *     types that can neither be converted nor printed, and parts nested more deeply than the 1,024 arrays
+ *     and objects that Qt's reader takes, those around the value included.
  *
- * An invalid value is null in JSON, and a null in JSON reads as an invalid value.
+ * An invalid value and a null number are null in JSON, and a null in JSON reads as an invalid value. Text is
+ * made from the JSON form, so that a record reads the same before it is stored and after.
  *
  * Copies share their content, so that a record is cheap to hand on.
  */
 class OZM_WIDGETS_EXPORT OperationLogItemData
 {
+    Q_DECLARE_TR_FUNCTIONS(ozm::OperationLogItemData)
+
 public:
     OperationLogItemData();
     OperationLogItemData(OperationLogItemType type, const OperationLogItemSubject &subject,
@@ -76,6 +83,10 @@ public:
     /// Reads what toJson() wrote. @p ok, which may be null, is false when @p json holds no JSON object; the
     /// record is then the default one. Members that are missing keep their defaults.
     explicit OperationLogItemData(const QByteArray &json, bool *ok = nullptr);
+
+    /// The same for those who want to know why not: code BadParameter when @p json cannot be read, or holds
+    /// no valid record.
+    [[nodiscard]] static Result<OperationLogItemData> fromJson(const QByteArray &json);
 
     OperationLogItemData(const OperationLogItemData &other);
     OperationLogItemData(OperationLogItemData &&other) noexcept;
@@ -92,8 +103,8 @@ public:
     [[nodiscard]] OperationLogItemUndoContext undoContext() const;
     [[nodiscard]] QString legacyDescription() const;
 
-    /// For a macro's data: whether the macro is left out when it ends empty, and stands for its one child
-    /// when it has just one.
+    /// For a macro's data: a macro that ends empty is not committed, and one with a single child is
+    /// committed as that child.
     [[nodiscard]] bool collapseTrivialMacro() const;
 
     /// A mark for the application's own use, kept with the record and not looked at here.
@@ -109,8 +120,9 @@ public:
     /// toJsonObject() as a compact document.
     [[nodiscard]] QByteArray toJson() const;
 
-    /// One line for people; empty for an invalid record.
+    /// One line for people, in which line breaks are written as "\n"; empty for an invalid record.
     [[nodiscard]] QString toString() const;
+    /// The values as they are, with their line breaks.
     [[nodiscard]] QString valueToString() const;
     [[nodiscard]] QString oldValueToString() const;
     /// The attributes, joined with ", ".
@@ -122,9 +134,15 @@ public:
     [[nodiscard]] static QString undoContextToString(OperationLogItemUndoContext context);
     [[nodiscard]] static OperationLogItemUndoContext stringToUndoContext(const QString &text);
 
+    /// Equal in content, undo context and both flags.
+    OZM_WIDGETS_EXPORT friend bool operator==(const OperationLogItemData &a, const OperationLogItemData &b);
+
 private:
+    friend class OperationLogItem;
     class Content;
 
+    void read(const QJsonObject &json);
+    [[nodiscard]] QJsonObject toJsonObject(int room) const;
     [[nodiscard]] const Content &content() const;
     [[nodiscard]] QString changeToString() const;
     [[nodiscard]] bool printsOldValue() const;

@@ -86,7 +86,14 @@ public:
 
     [[nodiscard]] QJsonObject toJsonObject() const;
 
+    OZM_WIDGETS_EXPORT friend bool operator==(const OperationLogItemSubject &a,
+                                              const OperationLogItemSubject &b);
+
 private:
+    friend class OperationLogItemData;
+
+    [[nodiscard]] QJsonObject toJsonObject(int room) const;
+
     Type m_type = Type::None;
     QMap<QString, QVariant> m_key;
     QMap<QString, QVariant> m_explicitSecondaryKey;

@@ -13,6 +13,7 @@
 
 namespace ozm {
 
+class UndoHistoryStep;
 class UndoStack;
 
 /**
@@ -23,27 +24,40 @@ class UndoStack;
  *
  *     class SetCharge : public ozm::UndoCommand
  *     {
+ *         Q_DECLARE_TR_FUNCTIONS(SetCharge)
+ *
  *     public:
- *         SetCharge(RowNode *row, int charge) : UndoCommand(nullptr), m_row(row), m_charge(charge)
+ *         SetCharge(RowNode *row, int charge)
+ *             : m_row(row)
  *         {
  *             using namespace ozm;
  *             setText(tr("Set charge"));
- *             setLogData({OperationLogItemType::Set, {OperationLogItemSubject::Type::Label, *row},
- *                         {kCharge}, charge, row->getDataAt(kCharge)});
+ *             setLogData({OperationLogItemType::Set, {OperationLogItemSubject::Type::Label, *row}, {kCharge},
+ *                         charge, row->getDataAt(kCharge)});
  *         }
- *     ...
+ *
  *     protected:
- *         ozm::Error doRedo() override { return set(m_charge); }
- *         ozm::Error doUndo() override { return set(m_oldCharge); }
+ *         ozm::Error doRedo() override { return set(logData()->value()); }
+ *         ozm::Error doUndo() override { return set(logData()->oldValue()); }
+ *
+ *     private:
+ *         ozm::Error set(const QVariant &charge)
+ *         {
+ *             using namespace ozm;
+ *             return m_row->setDataAt(kCharge, charge) ? Error() : Error(ErrorCode::Failed, tr("No such
+ * row."));
+ *         }
+ *
+ *         RowNode *m_row;
  *     };
  *
  * Children (commands made with a parent command) run when the parent's doRedo() and doUndo() call
  * QUndoCommand::redo() and QUndoCommand::undo(); they use the parent's stack, and run unrecorded when
  * there is none.
  *
- * mergeWith() is free for applications. The stack asks it for failed commands as well, so let neither side
- * of a merge be a failed one: begin it with `if (!canMergeWith(other)) return false;`. Both halves of a
- * merged edit are in the trail.
+ * mergeWith() is free for applications. Inside a macro the stack asks it for failed commands as well, so let
+ * neither side of a merge be a failed one: begin it with `if (!canMergeWith(other)) return false;`. Both
+ * halves of a merged edit are in the trail.
  *
  * GUI thread. The stack deletes the commands it holds; the command does not own the stack.
  */
@@ -53,10 +67,10 @@ public:
     explicit UndoCommand(UndoCommand *parent = nullptr);
     ~UndoCommand() override;
 
-    /// Runs doUndo() and records it. Not for overriding.
-    void undo() override;
-    /// Runs doRedo() and records it. Not for overriding.
-    void redo() override;
+    /// Runs doUndo() and records it. Refused, with a warning, while a step of the history runs.
+    void undo() final;
+    /// Runs doRedo() and records it. Refused as undo() is.
+    void redo() final;
 
     /// The outcome of the last step.
     [[nodiscard]] Error lastError() const;
@@ -93,8 +107,8 @@ private:
     void setStack(UndoStack *stack);
     [[nodiscard]] UndoStack *stack() const;
 
-    void runRedo(UndoStack *stack);
-    void runUndo(UndoStack *stack);
+    void runRedo(UndoStack *stack, UndoHistoryStep *step);
+    void runUndo(UndoStack *stack, UndoHistoryStep *step);
     [[nodiscard]] Error beginRedo(UndoStack *stack);
     [[nodiscard]] Error beginUndo(UndoStack *stack);
     [[nodiscard]] bool endsUndoRun(UndoStack *stack) const;

@@ -12,19 +12,15 @@
  *
  * Whoever runs the steps says where they stand; each command asks a value made when it runs:
  *
- *     UndoRedoHints::setSessionStarted(true);
- *     UndoRedoHints::setEndSessionFunction([view] { view->refresh(); });
- *     for (int i = 0; i < count; ++i) {
- *         UndoRedoHints::setHintByIndex(i, count);
+ *     UndoRedoHints::Run run(stack->index(), [view] { view->update(); });
+ *     while (run.next())
  *         stack->undo();
- *     }
- *     UndoRedoHints::setHintNone();
  *
  *     // in the command
  *     UndoRedoHints hints;
  *     hints.setSessionUndo();
  *     if (hints.isFirstInQueue())
- *         view->hold();
+ *         view->setUpdatesEnabled(false);
  *
  * A command that runs alone is both first and last. GUI thread only.
  */
@@ -36,6 +32,8 @@ public:
         Undo = 0,
         Redo = 1
     };
+
+    class Run;
 
     /// Where the step now being run stands: 1 first, 2 in the middle, 4 last; 5 is a step by itself.
     static qint32 s_undo_redo_instance_flag;
@@ -64,4 +62,30 @@ public:
 private:
     qint32 m_flags;
     Session m_session = Session::Redo;
+};
+
+/**
+ * A run of steps that ends with its scope, however that is left.
+ *
+ * Begins a session, sets the hint for each step, and calls setHintNone() at the end. Within another run it
+ * is part of that session: it calls its own function at its end, and leaves the other's hint and function
+ * as it found them.
+ */
+class OZM_WIDGETS_EXPORT UndoRedoHints::Run
+{
+public:
+    /// @p atEnd, which may be empty, is called once at the end of the run.
+    explicit Run(int count, const std::function<void()> &atEnd = {});
+    ~Run();
+    Q_DISABLE_COPY_MOVE(Run)
+
+    /// Hints that the next step comes; false when there is none left.
+    [[nodiscard]] bool next();
+
+private:
+    const int m_count;
+    int m_next = 0;
+    const bool m_isInner;
+    const qint32 m_outerFlag;
+    const std::function<void()> m_atEnd;
 };

@@ -15,31 +15,40 @@
 namespace ozm {
 
 class AuditTrailLoggingInterface;
+class AuditTrailMonitor;
 class UndoCommand;
 class UndoStackPrivate;
 
 /**
  * An undo stack that hands a record of every step to an audit-trail logger.
  *
- *     ozm::UndoStack stack;
- *     stack.setLogging(&logger);
- *     stack.beginMacro(renameData, tr("Rename samples"));
- *     for (RowNode *row : rows) {
- *         const ozm::Error error = stack.push(new RenameCommand(row, newName(row)));
- *         ...
+ *     void rename(ozm::UndoStack &stack, const QList<ozm::UndoCommand *> &renames,
+ *                 const ozm::OperationLogItemData &record)
+ *     {
+ *         ozm::UndoMacro macro(stack, record); // or beginMacro() and endMacro()
+ *         for (ozm::UndoCommand *command : renames) {
+ *             if (const ozm::Error error = stack.push(command); error.hasError())
+ *                 qWarning() << error;
+ *         }
+ *         macro.end();
  *     }
- *     stack.endMacro();
  *
- * Runs, errors: push() returns the command's error, and a command that failed is gone from the history.
- * Inside an open macro the toolkit cannot take it out again, so there it stays. Redo and undo through
- * QUndoStack's own slots leave theirs in the command's lastError().
+ * Runs, errors: push() returns the command's error, and a command that failed leaves the history as it was,
+ * with all that can be undone and redone. Inside an open macro the toolkit cannot take it out again, so
+ * there it stays. Redo and undo through QUndoStack's own slots leave theirs in the command's lastError().
  *
- * While a step of the history is being undone or redone, the history must not change: push() and
- * beginMacro() are then refused, with a warning, and so is clear(). From within a push all of them work.
+ * While a step of the history is being undone or redone, the history must not change: push(), beginMacro(),
+ * undo(), redo() and clear() are then refused, with a warning. From within a push all of them work.
+ *
+ * A command pushed through a QUndoStack pointer runs before this stack knows of it. It is recorded when it
+ * is in the history: at once, or inside a macro at the next push or end. Its beforeBeginFirst() is not
+ * called. A command that is no UndoCommand cannot be recorded: a warning says so.
  *
  * Macros: an ended macro of trivial content is recorded as OperationLogItemData::collapseTrivialMacro()
- * says. An aborted one keeps its commands in the history and in the trail, but is not committed. Clearing
- * in the middle of macros forgets those macros as aborting them would.
+ * says: nothing is committed for an empty one, and the child of one with a single child leaves its entry
+ * and is committed instead. The macro's own entry stays where it is either way. An aborted macro keeps its
+ * commands in the history and in the trail, but is not committed. Clearing in the middle of macros forgets
+ * those macros as aborting them would.
  *
  * setLogging() takes effect at once and touches nothing else: change the logger between macros, for the
  * entry of an open macro stays with the stack until a macro is ended with a logger attached.
@@ -76,7 +85,10 @@ public:
 
     void setLogging(AuditTrailLoggingInterface *logging);
 
-    /// The entry that the most recent push left in the trail.
+    /// Tells when a record could not be stored. Never null; lives as long as the stack.
+    [[nodiscard]] AuditTrailMonitor *auditTrailMonitor();
+
+    /// The entry that the most recent push left in the trail; null also when the logger does not hold it.
     [[nodiscard]] QWeakPointer<OperationLogItem> recentLogItem() const;
 
 protected:
@@ -86,6 +98,7 @@ protected:
 
 private:
     friend class UndoCommand;
+    friend class UndoMacro;
     friend class UndoStackPrivate;
 
     const std::unique_ptr<UndoStackPrivate> d;
