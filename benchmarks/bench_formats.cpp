@@ -129,7 +129,7 @@ void mixedAny(benchmark::State &state)
 
 void mixedNearest(benchmark::State &state)
 {
-    askMixed(state, [](const DataSourceLocation &sample) { return nearestFormat(sample); });
+    askMixed(state, [](const DataSourceLocation &sample) { return nearestFormat(sample.localPath); });
 }
 
 #ifdef Q_OS_UNIX
@@ -160,7 +160,8 @@ void largeFolder(benchmark::State &state)
         if constexpr (wantsAll)
             benchmark::DoNotOptimize(detectFormats(location, false, false));
         else
-            benchmark::DoNotOptimize(nearestFormat(location));
+            benchmark::DoNotOptimize(nearestFormat(location.localPath));
+}
 }
 
 /// A study folder of ten thousand samples, files and folders by turns.

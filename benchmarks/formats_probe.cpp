@@ -32,7 +32,7 @@ bool ask(const QString &how, const QString &path)
     if (how == u"literal")
         return !ozm::test::literalFormats(path).isEmpty();
     if (how == u"nearest")
-        return nearestFormat(location) != VendorDataFormat::Unknown;
+        return nearestFormat(path) != VendorDataFormat::Unknown;
     if (how == u"any")
         return hasDetectableFormat(location, false);
     return !detectFormats(location, how == u"name", false).isEmpty();

@@ -1,7 +1,8 @@
 #include <ozm_widgets/IFileAccessor.h>
 
+#include <disk/DiskEntry.h>
+
 #include <ozm_common_core_mini/CsvWriter.h>
-#include <ozm_common_core_mini/PathUtils.h>
 #include <ozm_qt_shared_libs_core/FileUtilsGeneric.h>
 
 #include <QFile>
@@ -31,8 +32,8 @@ QSharedPointer<ResourceReference> referenceFromString(const QString &text)
 
 bool isFileOrNew(const QString &path)
 {
-    const PathUtils::Kind kind = PathUtils::kind(path);
-    return kind == PathUtils::Kind::File || kind == PathUtils::Kind::Missing;
+    const EntryKind kind = disk::kindAt(path);
+    return kind == EntryKind::File || kind == EntryKind::Missing;
 }
 
 } // namespace

@@ -1149,4 +1149,106 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
         <translation>Farbe hinter dem Text</translation>
     </message>
 </context>
+<context>
+    <name>ozm::msreader::FolderSearch</name>
+    <message>
+        <source>The search path is a file, not a folder: %1</source>
+        <translation>Der Suchpfad ist eine Datei, kein Ordner: %1</translation>
+    </message>
+    <message>
+        <source>Search path does not exist</source>
+        <translation>Der Suchpfad existiert nicht</translation>
+    </message>
+    <message>
+        <source>The search path cannot be read: %1</source>
+        <translation>Der Suchpfad kann nicht gelesen werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::msreader::RefusalReason</name>
+    <message>
+        <source>The folder holds neither an &quot;AcqData&quot; folder (Agilent) nor &quot;fid&quot; files or a complete set of &quot;analysis&quot; files (Bruker).</source>
+        <translation>Der Ordner enthält weder einen Ordner „AcqData“ (Agilent) noch „fid“-Dateien oder einen vollständigen Satz „analysis“-Dateien (Bruker).</translation>
+    </message>
+    <message>
+        <source>The folder holds no &quot;_FUNC001.DAT&quot; file (Waters).</source>
+        <translation>Der Ordner enthält keine Datei „_FUNC001.DAT“ (Waters).</translation>
+    </message>
+    <message>
+        <source>The &quot;.wiff.scan&quot; file that belongs to it is missing.</source>
+        <translation>Die zugehörige Datei „.wiff.scan“ fehlt.</translation>
+    </message>
+    <message>
+        <source>It changed while it was looked at.</source>
+        <translation>Der Inhalt hat sich währenddessen geändert.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; would have to be called &quot;%2&quot;: here, capital and small letters count.</source>
+        <translation>„%1“ müsste „%2“ heißen: Hier zählen Groß- und Kleinbuchstaben.</translation>
+    </message>
+    <message>
+        <source>The folder holds &quot;%1&quot;, but not &quot;%2&quot;, which belongs to it (Bruker).</source>
+        <translation>Der Ordner enthält „%1“, aber nicht das zugehörige „%2“ (Bruker).</translation>
+    </message>
+    <message>
+        <source>Data with this name (%1) is a file, but this is a folder.</source>
+        <translation>Daten mit diesem Namen (%1) sind eine Datei, dies ist aber ein Ordner.</translation>
+    </message>
+    <message>
+        <source>Data with this name (%1) is a folder, but this is a file.</source>
+        <translation>Daten mit diesem Namen (%1) sind ein Ordner, dies ist aber eine Datei.</translation>
+    </message>
+    <message>
+        <source>A folder above it does not allow access.</source>
+        <translation>Ein übergeordneter Ordner erlaubt keinen Zugriff.</translation>
+    </message>
+    <message>
+        <source>The path is too long for this system.</source>
+        <translation>Der Pfad ist zu lang für dieses System.</translation>
+    </message>
+    <message>
+        <source>The link leads back to itself.</source>
+        <translation>Die Verknüpfung führt zu sich selbst zurück.</translation>
+    </message>
+    <message>
+        <source>Too many files are open. Close some windows and try again.</source>
+        <translation>Es sind zu viele Dateien geöffnet. Schließen Sie einige Fenster und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The disk or the share does not answer.</source>
+        <translation>Der Datenträger oder die Freigabe antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The link leads to nothing.</source>
+        <translation>Die Verknüpfung führt ins Leere.</translation>
+    </message>
+    <message>
+        <source>There is no such file or folder.</source>
+        <translation>Eine solche Datei oder einen solchen Ordner gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>This is neither a file nor a folder.</source>
+        <translation>Dies ist weder eine Datei noch ein Ordner.</translation>
+    </message>
+    <message>
+        <source>The name has none of the extensions of mass-spectrometry data.</source>
+        <translation>Der Name hat keine der Endungen von Massenspektrometrie-Daten.</translation>
+    </message>
+    <message>
+        <source>The folder is no longer there.</source>
+        <translation>Der Ordner ist nicht mehr vorhanden.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be read. Access is not allowed.</source>
+        <translation>Der Ordner kann nicht gelesen werden. Der Zugriff ist nicht erlaubt.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be read. The disk or the share does not answer.</source>
+        <translation>Der Ordner kann nicht gelesen werden. Der Datenträger oder die Freigabe antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The name is not valid text. Rename it to use the data.</source>
+        <translation>Der Name ist kein gültiger Text. Benennen Sie den Eintrag um, damit die Daten verwendet werden können.</translation>
+    </message>
+</context>
 </TS>

@@ -7,7 +7,7 @@
 #include "window/MainWindow.h"
 
 #include <ozm_common_core_mini/ColumnNames.h>
-#include <ozm_common_ms/MsDataFileUtils.h>
+#include <ozm_widgets/MsDataSearch.h>
 
 #include <QApplication>
 #include <QDir>
@@ -20,7 +20,7 @@
 using namespace Qt::StringLiterals;
 using ozm::Error;
 using ozm::ErrorCode;
-using ozm::msreader::MsDataFileInfo;
+using ozm::msreader::MsSample;
 
 namespace workbench {
 
@@ -50,7 +50,7 @@ void tellRecord(const AuditEntry &entry)
     tell(line);
 }
 
-void tellData(const MsDataFileInfo &info, const QDir &folder)
+void tellData(const MsSample &info, const QDir &folder)
 {
     const QString size = info.size < 0 ? tr("size unknown") : tr("%1 bytes").arg(info.size);
     tell(tr("found %1: %2 (%3), %4, %5")
@@ -59,17 +59,17 @@ void tellData(const MsDataFileInfo &info, const QDir &folder)
 }
 
 /// All data in @p folder, in the order in which it is listed.
-ozm::Result<QList<MsDataFileInfo>> findData(const QString &folder)
+ozm::Result<QList<MsSample>> findData(const QString &folder)
 {
-    QList<MsDataFileInfo> samples;
+    QList<MsSample> samples;
     ozm::msreader::MsDataSearchOptions options;
     options.measureFolders = true;
     ozm::msreader::MsDataSearchCallbacks callbacks;
-    callbacks.found = [&samples](const MsDataFileInfo &sample) { samples.append(sample); };
+    callbacks.found = [&samples](const MsSample &sample) { samples.append(sample); };
     callbacks.passedOver = [](const QString &path, const QString &reason) {
         tell(tr("passed over %1: %2").arg(QDir::toNativeSeparators(path), reason));
     };
-    Error error = ozm::msreader::MsDataFileUtils::search(folder, options, callbacks);
+    Error error = ozm::msreader::MsDataSearch::run(folder, options, callbacks);
     if (error.hasError())
         return error;
     return sortedBelow(folder, samples);
@@ -133,7 +133,7 @@ private:
         const auto found = findData(folder);
         if (!found)
             return found.error();
-        for (const MsDataFileInfo &info : found.value())
+        for (const MsSample &info : found.value())
             tellData(info, QDir(folder));
         Error error = writeFormats(found.value(), folder, m_out.filePath(u"formats.csv"_s));
         return error.hasError() ? error : m_editor.addData(found.value(), folder);

@@ -59,7 +59,7 @@ public Q_SLOTS:
 
 protected:
     /// The data to list. An error (code 1, "Search path does not exist", when there is no such folder, or as
-    /// in MsDataFileUtils::search) is shown, and the dialog stays. The dialog may be gone on return.
+    /// in MsDataSearch::run) is shown, and the dialog stays. The dialog may be gone on return.
     [[nodiscard]] virtual ozm::Result<QList<QString>> retrieveMsReferences();
 
 private Q_SLOTS:

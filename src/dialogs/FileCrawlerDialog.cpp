@@ -5,8 +5,8 @@
 
 #include <ozm_common_core/CustomFieldsStringConstants.h>
 #include <ozm_common_core_mini/CsvWriter.h>
-#include <ozm_common_ms/MsDataSearch.h>
 #include <ozm_widgets/DefaultWidgetCreator.h>
+#include <ozm_widgets/MsDataSearch.h>
 #include <ozm_widgets/OZMStyle.h>
 #include <ozm_widgets/openfilefolderdialog.h>
 
@@ -22,8 +22,8 @@ using ozm::DefaultWidgetCreator;
 using ozm::Error;
 using ozm::ErrorCode;
 using ozm::GuardedDialog;
-using ozm::msreader::MsDataFileInfo;
 using ozm::msreader::MsDataSearch;
+using ozm::msreader::MsSample;
 
 namespace {
 
@@ -136,7 +136,7 @@ ozm::Result<QList<QString>> FileCrawlerDialog::Private::search(const QString &fo
 
     ozm::msreader::MsDataSearchOptions options;
     options.recursive = qptr->recursiveSearch();
-    options.checkLevel = MsDataFileInfo::CheckLevel::Content;
+    options.measureFiles = false;
     form.setSearching(true);
     search->start(folder, options);
     loop.exec();
@@ -158,8 +158,8 @@ void FileCrawlerDialog::Private::follow(MsDataSearch *search)
     passedOver.clear();
     foldersSearched = 0;
     wasCanceled = false;
-    connect(search, &MsDataSearch::found, qptr, [this](const QList<MsDataFileInfo> &samples) {
-        for (const MsDataFileInfo &sample : samples)
+    connect(search, &MsDataSearch::found, qptr, [this](const QList<MsSample> &samples) {
+        for (const MsSample &sample : samples)
             references.append(sample.path);
     });
     connect(search, &MsDataSearch::passedOver, qptr, [this](const QString &folder, const QString &reason) {

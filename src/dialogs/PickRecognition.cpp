@@ -1,6 +1,6 @@
 #include "dialogs/PickRecognition.h"
 
-#include <ozm_common_ms/MsDataFileUtils.h>
+#include <ozm_widgets/MsDataSearch.h>
 #include <ozm_widgets/SpectrumFileDialog.h>
 
 #include <QFileInfo>
@@ -15,13 +15,13 @@ namespace ozm {
 
 namespace {
 
-using msreader::MsDataFileInfo;
-using msreader::MsDataFileUtils;
+using msreader::MsDataSearch;
+using msreader::MsSample;
 
 // Enough for what fits beneath a dialog; of more, the numbers tell.
 constexpr qsizetype kMostLines = 3;
 
-QString lineFor(const QString &path, const MsDataFileInfo &info, bool isAlone)
+QString lineFor(const QString &path, const MsSample &info, bool isAlone)
 {
     const QString name = QFileInfo(path).fileName();
     if (info.isData())
@@ -55,7 +55,7 @@ QStringList linesFor(const QStringList &paths, const std::function<bool()> &isOu
         if (isOutdated())
             return {};
         const QString path = withoutSlashAtEnd(entry);
-        const MsDataFileInfo info = MsDataFileUtils::inspect(path);
+        const MsSample info = MsDataSearch::sampleAt(path);
         dataCount += info.isData() ? 1 : 0;
         if (lines.size() < kMostLines)
             lines.append(lineFor(path, info, paths.size() == 1));

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <filesystem>
 #include <functional>
 #include <vector>
 
@@ -19,6 +20,12 @@ using Formats = QSet<msreader::VendorDataFormat>;
 bool isFile(const QString &path)
 {
     return !path.isEmpty() && QFileInfo(path).isFile();
+}
+
+bool exists(const QString &path)
+{
+    std::error_code ignored;
+    return std::filesystem::exists(QFileInfo(path).filesystemFilePath(), ignored);
 }
 
 bool isDir(const QString &path)
@@ -137,14 +144,14 @@ const std::vector<Detector> &detectors()
         simple(u".vacq"_s, Vacq, [](const QString &path) { return isDir(path) || isFile(path); }),
         simple(u".mbi"_s, Mobilion),
         simple(u".wiff"_s, SciexWiff,
-               [](const QString &path) { return isFile(path) && isFile(path + u".scan"_s); }),
+               [](const QString &path) { return isFile(path) && exists(path + u".scan"_s); }),
         simple(u".wiff2"_s, SciexWiff2,
-               [](const QString &path) { return isFile(path) && isFile(path.chopped(1) + u".scan"_s); }),
+               [](const QString &path) { return isFile(path) && exists(path.chopped(1) + u".scan"_s); }),
         simple(u".lcd"_s, Shimadzu),
         simple(u".raw"_s, Thermo),
         simple(u"MAGIC_STRING_GOES_HERE_ozm_testing"_s, Testing, [](const QString &) { return true; }),
         simple(u".raw"_s, Waters,
-               [](const QString &path) { return isDir(path) && QDir(path).exists(u"_FUNC001.DAT"_s); }),
+               [](const QString &path) { return isDir(path) && exists(path + u"/_FUNC001.DAT"_s); }),
     };
     return list;
 }

@@ -226,7 +226,7 @@ private:
         QCOMPARE(textOf(detectFormats(location, false, true)), textOf(ozm::test::firstLiteralFormats(path)));
         QCOMPARE(textOf(detectFormats(location, true, false)), textOf(ozm::test::literalFormatsByName(path)));
         QCOMPARE(hasDetectableFormat(location, false), !expected.isEmpty());
-        const VendorDataFormat nearest = nearestFormat(location);
+        const VendorDataFormat nearest = nearestFormat(path);
         QVERIFY(expected.isEmpty() ? nearest == VendorDataFormat::Unknown : expected.contains(nearest));
     }
 };

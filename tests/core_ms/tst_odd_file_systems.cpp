@@ -1,11 +1,11 @@
 #include "support/StrictTest.h"
 #include "support/WithoutRights.h"
 
+#include "core_ms/LiteralRules.h"
 #include "core_ms/SampleTree.h"
 
 #include <FormatDetection.h>
-#include <internal/FolderReader.h>
-#include <internal/RefusalReason.h>
+#include <disk/FolderReader.h>
 
 #include <ozm_common_core_mini/PathUtils.h>
 
@@ -128,10 +128,10 @@ private Q_SLOTS:
         QVERIFY2(!isData(tree.path(u"a.d"_s)), "no path can name it, so nothing could read it");
         QVERIFY(!isData(QFile::decodeName(folder + "/\xc3.d")));
 
-        internal::FolderReader reader(tree.path(u"a.d"_s));
-        QVERIFY(reader.next());
+        ozm::disk::FolderReader reader(tree.path(u"a.d"_s));
+        QVERIFY(reader.nextNamed());
         QCOMPARE(reader.name(), u"good"_s);
-        QVERIFY(!reader.next() && reader.isComplete());
+        QVERIFY(!reader.nextNamed() && reader.isComplete());
 
         tree.makeOne(u"a.d/fine.d/AcqData/"_s);
         QVERIFY(isData(tree.path(u"a.d"_s)));
@@ -149,33 +149,68 @@ private Q_SLOTS:
             QVERIFY2(!isData(tree.path(name)), qPrintable(name));
     }
 
-    void unreadableFolders()
+    void rights_data()
     {
+        QTest::addColumn<QStringList>("entries");
+        QTest::addColumn<QString>("shut");
+        QTest::addColumn<uint>("mode");
+        QTest::addColumn<QString>("formats");
+        constexpr uint kNothing = 0;
+        constexpr uint kListed = 0444;
+        constexpr uint kEntered = 0111;
+        const auto row = [](const char *tag, const QStringList &entries, const QString &shut, uint mode,
+                            const char *formats) {
+            QTest::newRow(tag) << entries << shut << mode << QString::fromLatin1(formats);
+        };
+        const QStringList acq{u"a.d/AcqData/"_s};
+        const QStringList tdf{u"a.d/analysis.tdf"_s, u"a.d/analysis.tdf_bin"_s};
+        const QStringList fid{u"a.d/0_A1/1/1SRef/fid"_s};
+        row("Agilent, closed", acq, u"a.d"_s, kNothing, "");
+        row("Agilent, listed but not entered", acq, u"a.d"_s, kListed, "");
+        row("Agilent, entered but not listed", acq, u"a.d"_s, kEntered, "");
+        row("AcqData closed", acq, u"a.d/AcqData"_s, kNothing, "AgilentAcqData");
+        const QStringList deep{u"a.d/x.d/AcqData/"_s, u"a.d/open.d/"_s};
+        row("Agilent further down, closed", deep, u"a.d/x.d"_s, kNothing, "");
+        row("Agilent further down, listed", deep, u"a.d/x.d"_s, kListed, "");
+        row("Agilent further down, entered", deep, u"a.d/x.d"_s, kEntered, "");
+        row("TDF, listed but not entered", tdf, u"a.d"_s, kListed, "");
+        row("TDF, entered but not listed", tdf, u"a.d"_s, kEntered, "BrukerTims");
+        row("BAF, entered but not listed", {u"a.d/Analysis.baf"_s}, u"a.d"_s, kEntered, "BrukerBAF");
+        row("fid folder, entered but not listed", {u"a.d/fid/"_s}, u"a.d"_s, kEntered, "");
+        row("spot listed but not entered", fid, u"a.d/0_A1"_s, kListed, "");
+        row("spot entered but not listed", fid, u"a.d/0_A1"_s, kEntered, "BrukerFID");
+        row("spot below entered but not listed", fid, u"a.d/0_A1/1"_s, kEntered, "BrukerFID");
+        row("Waters, closed", {u"a.raw/_FUNC001.DAT"_s}, u"a.raw"_s, kNothing, "");
+        row("Waters, listed but not entered", {u"a.raw/_FUNC001.DAT"_s}, u"a.raw"_s, kListed, "");
+        row("Waters, entered but not listed", {u"a.raw/_FUNC001.DAT"_s}, u"a.raw"_s, kEntered, "Waters");
+    }
+    void rights()
+    {
+        QFETCH(QStringList, entries);
+        QFETCH(QString, shut);
+        QFETCH(uint, mode);
         const SampleTree tree;
-        tree.make({u"hidden.d/AcqData/"_s, u"sealed.d/analysis.tdf"_s, u"sealed.d/analysis.tdf_bin"_s,
-                   u"part.d/shut/x.d/AcqData/"_s, u"part.d/open.d/"_s, u"shut.raw/_FUNC001.DAT"_s});
+        tree.make(entries);
+        const QString path = tree.path(shut.section(u'/', 0, 0));
         setMode(tree.path(), 0755);
-        setMode(tree.path(u"hidden.d"_s), 0);
-        setMode(tree.path(u"sealed.d"_s), 0711);
-        setMode(tree.path(u"part.d/shut"_s), 0);
-        setMode(tree.path(u"shut.raw"_s), 0);
+        setMode(tree.path(shut), mode);
+        QSet<VendorDataFormat> found;
+        QSet<VendorDataFormat> literal;
+        bool has = false;
+        VendorDataFormat nearest = VendorDataFormat::Unknown;
         {
             const WithoutRights rights;
-            QVERIFY2(!ozm::PathUtils::exists(tree.path(u"hidden.d/AcqData"_s)),
-                     "the test sees what it must not");
-            QVERIFY(!isData(tree.path(u"hidden.d"_s)));
-            QVERIFY(formats(tree.path(u"hidden.d"_s)).isEmpty());
-            QVERIFY(!isData(tree.path(u"part.d"_s)));
-            QVERIFY(!isData(tree.path(u"shut.raw"_s)));
-            QCOMPARE(internal::refusalReason(tree.path(u"hidden.d"_s)), u"The folder cannot be read."_s);
-            // Its entries cannot be listed, but those that are known by name can be asked for.
-            QCOMPARE(formats(tree.path(u"sealed.d"_s)), QSet{VendorDataFormat::BrukerTims});
-            QVERIFY(isData(tree.path(u"sealed.d"_s)));
+            found = formats(path);
+            literal = ozm::test::literalFormats(path);
+            has = isData(path);
+            nearest = nearestFormat(path);
         }
-        setMode(tree.path(u"hidden.d"_s), 0755);
-        setMode(tree.path(u"part.d/shut"_s), 0755);
-        setMode(tree.path(u"shut.raw"_s), 0755);
-        QVERIFY(isData(tree.path(u"hidden.d"_s)) && isData(tree.path(u"part.d"_s)));
+        setMode(tree.path(shut), 0755);
+        QTEST(found.isEmpty() ? QString() : MsDataFormat::toString(*found.cbegin()), "formats");
+        QCOMPARE(found, literal);
+        QCOMPARE(has, !found.isEmpty());
+        QCOMPARE(nearest, found.isEmpty() ? VendorDataFormat::Unknown : *found.cbegin());
+        QVERIFY(isData(path));
     }
 
     // Without a way past the C library's, a folder like this one took a call for every 700 entries.
@@ -189,9 +224,9 @@ private Q_SLOTS:
             const QByteArray name = folder + "/some file of a long name " + QByteArray::number(i);
             QCOMPARE(::mknod(name.constData(), S_IFREG | 0644, 0), 0);
         }
-        internal::FolderReader reader(tree.path(u"a.d"_s));
+        ozm::disk::FolderReader reader(tree.path(u"a.d"_s));
         QSet<QString> names;
-        while (reader.next())
+        while (reader.nextNamed())
             names.insert(reader.name());
         QCOMPARE(names.size(), kFiles);
         QVERIFY(reader.isComplete());
@@ -218,34 +253,6 @@ private Q_SLOTS:
         destroyer.join();
         QVERIFY(wasPossible);
         QVERIFY(!isData(tree.path(u"a.d"_s)));
-    }
-
-    void reasons_data()
-    {
-        QTest::addColumn<QStringList>("entries");
-        QTest::addColumn<QString>("asked");
-        QTest::addColumn<QString>("part");
-        const auto row = [](const char *tag, const QStringList &entries, const char *part) {
-            QTest::newRow(tag) << entries << entries.constFirst().section(u'/', 0, 0)
-                               << QString::fromLatin1(part);
-        };
-        row("name", {u"notes.txt"_s}, "none of the extensions");
-        row("empty .d folder", {u"a.d/"_s}, "neither an \"AcqData\" folder (Agilent) nor");
-        row(".d file", {u"a.d"_s},
-            "(Agilent, Bruker, Bruker Tims, Bruker Tsf) is a folder, but this is a file");
-        row("raw folder", {u"a.raw/x"_s}, "_FUNC001.DAT");
-        row("mzML folder", {u"a.mzml/x"_s}, "(Open data format mzml) is a file, but this is a folder");
-        QTest::newRow("missing") << QStringList() << u"a.mzml"_s << u"no such file"_s;
-    }
-    void reasons()
-    {
-        QFETCH(QStringList, entries);
-        QFETCH(QString, asked);
-        QFETCH(QString, part);
-        const SampleTree tree;
-        tree.make(entries);
-        const QString reason = internal::refusalReason(tree.path(asked));
-        QVERIFY2(reason.contains(part), qPrintable(reason));
     }
 };
 

@@ -21,7 +21,7 @@
 using namespace Qt::StringLiterals;
 using namespace ozm::test;
 using namespace workbench;
-using ozm::msreader::MsDataFileInfo;
+using ozm::msreader::MsSample;
 
 namespace {
 
@@ -321,9 +321,9 @@ void TestFindData::namesOfSamples()
 {
     QFETCH(QStringList, paths);
     const SampleFixture fixture;
-    QList<MsDataFileInfo> found;
+    QList<MsSample> found;
     for (const QString &path : paths)
-        found.append({path, u"Thermo"_s, u"Thermo"_s, MsDataFileInfo::Kind::File, 1, {}});
+        found.append({path, u"Thermo"_s, u"Thermo"_s, ozm::EntryKind::File, 1, {}});
     QVERIFY(!fixture.editor->addData(found, u"/a"_s).hasError());
     QStringList names;
     for (int row = 3; row < fixture.editor->table().rowCount(); ++row)

@@ -6,7 +6,7 @@
 using namespace Qt::StringLiterals;
 using namespace ozm::test;
 using namespace workbench;
-using ozm::msreader::MsDataFileInfo;
+using ozm::msreader::MsSample;
 
 class TestSampleFile : public ozm::test::StrictTest
 {
@@ -135,15 +135,14 @@ void TestSampleFile::readsDataItWrote()
     // Blanks at the ends of a path, a size beyond 32 bits, and one that is not known.
     QVERIFY(
         !fixture.editor
-             ->addData(
-                 {{u" /a, \"b\"/x.mzml "_s,
-                   u"Mzml"_s,
-                   u"Open, \"data\""_s,
-                   MsDataFileInfo::Kind::File,
-                   5'000'000'000,
-                   {}},
-                  {u"/質量/y.d"_s, u"BrukerTims"_s, u"Bruker Tims"_s, MsDataFileInfo::Kind::Folder, -1, {}}},
-                 u"/a"_s)
+             ->addData({{u" /a, \"b\"/x.mzml "_s,
+                         u"Mzml"_s,
+                         u"Open, \"data\""_s,
+                         ozm::EntryKind::File,
+                         5'000'000'000,
+                         {}},
+                        {u"/質量/y.d"_s, u"BrukerTims"_s, u"Bruker Tims"_s, ozm::EntryKind::Folder, -1, {}}},
+                       u"/a"_s)
              .hasError());
     QVERIFY(!fixture.editor->save(out).hasError());
     QVERIFY(!fixture.editor->load(out).hasError());

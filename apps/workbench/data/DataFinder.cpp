@@ -1,6 +1,6 @@
 #include "data/DataFinder.h"
 
-#include <ozm_common_ms/MsDataFileUtils.h>
+#include <ozm_widgets/MsDataSearch.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -14,7 +14,7 @@ DataFinder::DataFinder(QObject *parent)
     : QObject(parent)
 {
     connect(&m_search, &MsDataSearch::found, this,
-            [this](const QList<MsDataFileInfo> &samples) { m_findings.samples += samples; });
+            [this](const QList<MsSample> &samples) { m_findings.samples += samples; });
     connect(&m_search, &MsDataSearch::progressed, this,
             [this](int folders, int samples) { Q_EMIT progressed(folders, samples); });
     connect(&m_search, &MsDataSearch::passedOver, this, [this](const QString &folder, const QString &reason) {
@@ -80,9 +80,9 @@ DataFindings DataFinder::inspected(const QStringList &paths)
     findings.source = QFileInfo(paths.constFirst()).absolutePath();
     int searched = 0;
     for (const QString &path : paths) {
-        MsDataFileInfo info = MsDataFileUtils::inspect(QDir::cleanPath(path));
-        if (info.kind == MsDataFileInfo::Kind::Folder && info.isData())
-            info.size = MsDataFileUtils::sizeOnDisk(info.path, [this] { return m_isCanceled.load(); });
+        MsSample info = MsDataSearch::sampleAt(QDir::cleanPath(path));
+        if (info.kind == ozm::EntryKind::Folder && info.isData())
+            info.size = MsDataSearch::sizeOnDisk(info.path, [this] { return m_isCanceled.load(); });
         if (m_isCanceled)
             break;
         if (info.isData())

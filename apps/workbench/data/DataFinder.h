@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ozm_common_ms/MsDataSearch.h>
+#include <ozm_widgets/MsDataSearch.h>
 
 #include <QList>
 #include <QStringList>
@@ -16,7 +16,7 @@ namespace workbench {
 struct DataFindings
 {
     QString source; ///< The folder that was searched, or that holds what was dropped.
-    QList<ozm::msreader::MsDataFileInfo> samples;
+    QList<ozm::msreader::MsSample> samples;
     QStringList refusals; ///< What is not among the samples, and why, a sentence each.
     ozm::Error error;     ///< The folder itself cannot be searched.
     bool wasCanceled = false;

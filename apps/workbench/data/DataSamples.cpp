@@ -16,7 +16,7 @@
 using namespace Qt::StringLiterals;
 using ozm::Error;
 using ozm::ErrorCode;
-using ozm::msreader::MsDataFileInfo;
+using ozm::msreader::MsSample;
 
 namespace workbench {
 
@@ -75,25 +75,26 @@ QString sizeText(qint64 size)
 
 } // namespace
 
-QString kindText(MsDataFileInfo::Kind kind)
+QString kindText(ozm::EntryKind kind)
 {
     switch (kind) {
-    case MsDataFileInfo::Kind::File:
+    case ozm::EntryKind::File:
         return kFileKind;
-    case MsDataFileInfo::Kind::Folder:
+    case ozm::EntryKind::Folder:
         return kFolderKind;
-    case MsDataFileInfo::Kind::None:
+    case ozm::EntryKind::Missing:
+    case ozm::EntryKind::Other:
         break;
     }
     return {};
 }
 
-QList<QMap<QString, QString>> samplesOf(const QList<MsDataFileInfo> &found, const SampleTable &table)
+QList<QMap<QString, QString>> samplesOf(const QList<MsSample> &found, const SampleTable &table)
 {
     QList<QMap<QString, QString>> samples;
     QSet<QString> known = pathsIn(table);
     Names names(table);
-    for (const MsDataFileInfo &info : found) {
+    for (const MsSample &info : found) {
         if (known.contains(info.path))
             continue;
         known.insert(info.path);
@@ -107,18 +108,18 @@ QList<QMap<QString, QString>> samplesOf(const QList<MsDataFileInfo> &found, cons
     return samples;
 }
 
-QList<MsDataFileInfo> sortedBelow(const QString &folder, QList<MsDataFileInfo> found)
+QList<MsSample> sortedBelow(const QString &folder, QList<MsSample> found)
 {
     const QDir root(folder);
-    std::ranges::stable_sort(
-        found, {}, [&root](const MsDataFileInfo &info) { return root.relativeFilePath(info.path); });
+    std::ranges::stable_sort(found, {},
+                             [&root](const MsSample &info) { return root.relativeFilePath(info.path); });
     return found;
 }
 
-Error writeFormats(const QList<MsDataFileInfo> &found, const QString &folder, const QString &path)
+Error writeFormats(const QList<MsSample> &found, const QString &folder, const QString &path)
 {
     QList<QList<QString>> lines{{kPath, kFormat, kDescription, kKind, kSize}};
-    for (const MsDataFileInfo &info : sortedBelow(folder, found)) {
+    for (const MsSample &info : sortedBelow(folder, found)) {
         lines.append({QDir(folder).relativeFilePath(info.path), info.formatName, info.description,
                       kindText(info.kind), sizeText(info.size)});
     }

@@ -95,7 +95,7 @@ Error SampleEditor::addSample(const QMap<QString, QString> &texts)
     return push(std::make_unique<AddSampleCommand>(target(), texts));
 }
 
-Error SampleEditor::addData(const QList<ozm::msreader::MsDataFileInfo> &found, const QString &source)
+Error SampleEditor::addData(const QList<ozm::msreader::MsSample> &found, const QString &source)
 {
     const auto samples = samplesOf(found, m_table);
     Commands commands;

@@ -4,7 +4,7 @@
 #include "audit/AuditTrail.h"
 #include "samples/SampleTable.h"
 
-#include <ozm_common_ms/MsDataFileInfo.h>
+#include <ozm_widgets/MsSample.h>
 #include <ozm_widgets/db/common/UndoStack.h>
 
 #include <QMap>
@@ -58,7 +58,7 @@ public:
     ozm::Error addSample(const QMap<QString, QString> &texts);
     /// Adds a sample for each of @p found that the table does not have yet, as one step; @p source is the
     /// folder they were found in.
-    ozm::Error addData(const QList<ozm::msreader::MsDataFileInfo> &found, const QString &source);
+    ozm::Error addData(const QList<ozm::msreader::MsSample> &found, const QString &source);
     ozm::Error deleteSamples(const QList<qint64> &ids);
     /// Names the samples after @p pattern, in which "*" is the old name and "#" a number from 1 up.
     ozm::Error renameSamples(const QList<qint64> &ids, const QString &pattern);

@@ -4,7 +4,10 @@
 #include "internal/BrukerFolder.h"
 #include "internal/DetectionScope.h"
 #include "internal/FormatRegistry.h"
+#include "internal/FormatTable.h"
 #include "internal/Logging.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -46,23 +49,55 @@ FormatSet detectOnDisk(const QString &path, bool stopAtFirst)
                         [&path](const FormatDetectorBase &detector) { return detector.detectFormat(path); });
 }
 
-// The two detectors whose questions can be many are those of the folders named so; no other name ends thus.
-bool isNamedD(const QString &path)
+bool canBe(const internal::FormatRow &row, EntryKind kind)
 {
-    return path.endsWith(".d"_L1, Qt::CaseInsensitive);
+    using internal::Storage;
+    switch (kind) {
+    case EntryKind::File:
+        return row.storage == Storage::File || row.storage == Storage::FileOrFolder;
+    case EntryKind::Folder:
+        return row.storage == Storage::Folder || row.storage == Storage::FileOrFolder;
+    case EntryKind::Missing:
+    case EntryKind::Other:
+        break;
+    }
+    return false;
 }
 
-/// From the cheapest question to the walk of a whole tree; where each stands does not change the answer.
+/// Reads the start of the folder's listing, which for nearly all data holds the answer.
+bool isVendorFolderAtOnce(const disk::FolderOnDisk &folder, const QString &path)
+{
+    bool isData = false;
+    internal::BrukerFilesSeen files;
+    std::ignore = DetectionScope::firstListing(path, [&](const disk::FolderListing::Entry &entry) {
+        isData = files.decide(entry) || internal::isAcqData(folder, entry);
+        return isData;
+    });
+    return isData;
+}
+
+/// From the cheapest question to the walk of a whole tree; the place of each does not change the answer.
 bool isVendorFolder(const QString &path)
 {
-    return internal::holdsAcqDataDirectly(path) || internal::holdsCommonBrukerFile(path) ||
-           internal::classifyBrukerFolder(path) != VendorDataFormat::Unknown ||
+    const disk::FolderOnDisk folder(path);
+    if (isVendorFolderAtOnce(folder, path))
+        return true;
+    const bool isListed = DetectionScope::hasListing(path);
+    if (!isListed && (internal::holdsAcqDataDirectly(folder) || internal::holdsCommonBrukerFile(folder)))
+        return true;
+    return internal::classifyBrukerFolder(path) != VendorDataFormat::Unknown ||
            internal::holdsAcqDataBelow(path);
 }
 
 VendorDataFormat nearestFolderFormat(const QString &path)
 {
-    if (internal::holdsAcqDataDirectly(path))
+    const disk::FolderOnDisk folder(path);
+    bool isAgilent = false;
+    std::ignore = DetectionScope::firstListing(path, [&](const disk::FolderListing::Entry &entry) {
+        isAgilent = internal::isAcqData(folder, entry);
+        return isAgilent;
+    });
+    if (isAgilent || (!DetectionScope::hasListing(path) && internal::holdsAcqDataDirectly(folder)))
         return VendorDataFormat::AgilentAcqData;
     const VendorDataFormat bruker = internal::classifyBrukerFolder(path);
     if (bruker != VendorDataFormat::Unknown)
@@ -86,8 +121,8 @@ FormatSet detectFormats(const DataSourceLocation &location, bool byNameOnly, boo
 
 bool hasDetectableFormat(const DataSourceLocation &location, bool byNameOnly)
 {
-    const bool isFolderOnDisk =
-        location.kind == DataSourceLocation::LocalPath && !byNameOnly && isNamedD(location.localPath);
+    const bool isFolderOnDisk = location.kind == DataSourceLocation::LocalPath && !byNameOnly &&
+                                internal::isNamedD(location.localPath);
     if (!isFolderOnDisk)
         return !detectFormats(location, byNameOnly, true).isEmpty();
     const DetectionScope scope(location.localPath);
@@ -96,16 +131,29 @@ bool hasDetectableFormat(const DataSourceLocation &location, bool byNameOnly)
     return found;
 }
 
-VendorDataFormat nearestFormat(const DataSourceLocation &location)
+VendorDataFormat nearestFormat(const QString &path, const std::optional<disk::DiskEntry> &entry)
 {
-    if (location.kind == DataSourceLocation::LocalPath && isNamedD(location.localPath)) {
-        const DetectionScope scope(location.localPath);
-        const VendorDataFormat format = nearestFolderFormat(location.localPath);
-        scope.report(format != VendorDataFormat::Unknown ? FormatSet{format} : FormatSet());
-        return format;
-    }
-    const FormatSet found = detectFormats(location, false, true);
+    const DetectionScope scope(path, entry);
+    FormatSet found;
+    if (!internal::isNamedD(path))
+        found = detectOnDisk(path, true);
+    else if (const VendorDataFormat format = nearestFolderFormat(path); format != VendorDataFormat::Unknown)
+        found = {format};
+    scope.report(found);
     return found.isEmpty() ? VendorDataFormat::Unknown : *found.cbegin();
+}
+
+VendorDataFormat formatByName(const QString &path, EntryKind kind)
+{
+    const auto row = std::ranges::find_if(internal::kFormats, [&path, kind](const internal::FormatRow &each) {
+        return !each.extension.isEmpty() && canBe(each, kind) &&
+               path.endsWith(each.extension, Qt::CaseInsensitive);
+    });
+    if (row != internal::kFormats.end())
+        return row->format;
+    const FormatDetectorBase *testing = internal::detectorOf(VendorDataFormat::Testing);
+    const bool isTest = kind == EntryKind::File && !testing->detectFormatByName(path).isEmpty();
+    return isTest ? VendorDataFormat::Testing : VendorDataFormat::Unknown;
 }
 
 } // namespace ozm::msreader

@@ -2,8 +2,11 @@
 
 #include "DataSourceLocation.h"
 #include "MsDataFormat.h"
+#include "disk/DiskEntry.h"
 
 #include <QSet>
+
+#include <optional>
 
 namespace ozm::msreader {
 
@@ -17,15 +20,22 @@ namespace ozm::msreader {
 [[nodiscard]] QSet<VendorDataFormat> detectFormats(const DataSourceLocation &location, bool byNameOnly,
                                                    bool stopAtFirst);
 
-/// Whether detectFormats() finds anything, at the price of a few questions to the disk where they suffice.
+/// Returns true when detectFormats() finds anything, at the price of a few questions to the disk where they
+/// suffice.
 [[nodiscard]] bool hasDetectableFormat(const DataSourceLocation &location, bool byNameOnly);
 
 /**
- * The one format under which the data at @p location is listed, or Unknown.
+ * The one format under which the data at @p path is listed, or Unknown.
  *
  * Where several fit, data that lies directly in a folder goes before data of another vendor somewhere below
  * it; otherwise the registry's order holds. The tree below a folder is walked only when nothing else fits.
+ * @p entry is what the caller knows of the path already, which is then not asked again.
  */
-[[nodiscard]] VendorDataFormat nearestFormat(const DataSourceLocation &location);
+[[nodiscard]] VendorDataFormat nearestFormat(const QString &path,
+                                             const std::optional<disk::DiskEntry> &entry = {});
+
+/// The first format, by value, that a file (or a folder) of this name can have, or Unknown. Looks at the text
+/// only. This is the one place that says what a raw folder is called.
+[[nodiscard]] VendorDataFormat formatByName(const QString &path, EntryKind kind);
 
 } // namespace ozm::msreader

@@ -4,7 +4,7 @@
 #include "templates/files/WebReader.h"
 #include "templates/syntax/Envelope.h"
 
-#include <ozm_common_core_mini/PathUtils.h>
+#include <disk/DiskEntry.h>
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -47,8 +47,8 @@ QString tooLarge()
 /// A folder, or a pipe or device, which would be waited for.
 bool isNoFile(const QString &path)
 {
-    const PathUtils::Kind kind = PathUtils::kind(path);
-    return kind == PathUtils::Kind::Folder || kind == PathUtils::Kind::Other;
+    const EntryKind kind = disk::kindAt(path);
+    return kind == EntryKind::Folder || kind == EntryKind::Other;
 }
 
 Result<QByteArray> bytesOf(const QString &path)

@@ -1,6 +1,8 @@
 #include "internal/AcqDataSearch.h"
 
+#include "internal/BrukerFolder.h"
 #include "internal/DetectionScope.h"
+#include "internal/FormatTable.h"
 
 #include <QFileInfo>
 #include <QHash>
@@ -60,17 +62,21 @@ private:
     QHash<QString, bool> m_read;
 };
 
-bool listsAcqData(const QString &folder, const FolderListing &listing)
+bool listsAcqData(const QString &folder, const disk::FolderListing &listing)
 {
-    return std::ranges::any_of(listing.folders, [&folder](const FolderListing::Entry &entry) {
-        return entry.name.compare(kAcqData, Qt::CaseInsensitive) == 0 && leadsToFolder(folder, entry);
+    return std::ranges::any_of(listing.folders, [&folder](const disk::FolderListing::Entry &entry) {
+        return entry.name.compare(kAcqData, Qt::CaseInsensitive) == 0 && disk::leadsToFolder(folder, entry);
     });
 }
 
 class Walk
 {
 public:
-    explicit Walk(const QString &folder) { m_waiting.push_back({folder, true, true}); }
+    explicit Walk(const QString &folder)
+        : m_root(folder)
+    {
+        m_waiting.push_back({folder, true, true});
+    }
 
     bool findsAcqData()
     {
@@ -86,7 +92,7 @@ public:
 private:
     bool decides(const Candidate &candidate)
     {
-        if (!candidate.isSettled && !PathUtils::isDirectory(candidate.path))
+        if (!candidate.isSettled && disk::kindAt(candidate.path) != EntryKind::Folder)
             return false;
         // The same folder may count under one name and not under another.
         if (const std::optional<bool> holds = m_read.holdsAcqData(candidate))
@@ -96,29 +102,48 @@ private:
 
     bool read(const Candidate &candidate)
     {
-        const FolderListing listing = DetectionScope::listing(candidate.path);
+        const disk::FolderListing listing =
+            candidate.path == m_root ? DetectionScope::listing(m_root) : disk::listFoldersIn(candidate.path);
         const bool holds = listsAcqData(candidate.path, listing);
         m_read.add(candidate.path, holds);
-        for (const FolderListing::Entry &entry : listing.folders) {
-            m_waiting.push_back({candidate.path + u'/' + entry.name,
-                                 entry.name.endsWith(".d"_L1, Qt::CaseInsensitive),
-                                 entry.kind == EntryKind::Folder});
+        if (isDirectEntry(candidate.path) && lacksSpectra(listing))
+            DetectionScope::noteNoSpot(m_root, candidate.path.sliced(m_root.size() + 1));
+        for (const disk::FolderListing::Entry &entry : listing.folders) {
+            m_waiting.push_back(
+                {candidate.path + u'/' + entry.name, isNamedD(entry.name), entry.kind == EntryKind::Folder});
         }
         return holds;
     }
 
+    [[nodiscard]] bool isDirectEntry(const QString &path) const
+    {
+        return path.size() > m_root.size() && path.lastIndexOf(u'/') == m_root.size();
+    }
+
+    const QString m_root;
     std::deque<Candidate> m_waiting;
     ReadFolders m_read;
 };
 
 } // namespace
 
-bool holdsAcqDataDirectly(const QString &folder)
+bool holdsAcqDataDirectly(const disk::FolderOnDisk &folder)
 {
-    const bool holds = PathUtils::isDirectory(folder + u'/' + kAcqData);
+    // An entry counts when a listing shows it: a folder that may be entered but not listed holds no data.
+    const bool holds = folder.holdsFolder(kAcqData) && folder.mayBeListed();
     if (holds)
         DetectionScope::note("Agilent: AcqData folder"_L1);
     return holds;
+}
+
+bool isAcqData(const disk::FolderOnDisk &folder, const disk::FolderListing::Entry &entry)
+{
+    if (entry.name.compare(kAcqData, Qt::CaseInsensitive) != 0)
+        return false;
+    const EntryKind kind = entry.kind ? *entry.kind : folder.kindOf(entry.name);
+    if (kind == EntryKind::Folder)
+        DetectionScope::note("Agilent: AcqData folder"_L1);
+    return kind == EntryKind::Folder;
 }
 
 bool holdsAcqDataBelow(const QString &folder)

@@ -1,15 +1,22 @@
 #pragma once
 
-class QString;
+#include "disk/FolderListing.h"
+
+namespace ozm::disk {
+class FolderOnDisk;
+}
 
 namespace ozm::msreader::internal {
 
-/// Whether @p folder, whose name ends in ".d", holds its "AcqData" folder where acquisitions put it: one
-/// question, which also a folder that may not be listed answers.
-[[nodiscard]] bool holdsAcqDataDirectly(const QString &folder);
+/// Returns true when @p folder, whose name ends in ".d", holds its "AcqData" folder where acquisitions put it
+/// and may be listed: two questions, however large the folder is. False leaves it open.
+[[nodiscard]] bool holdsAcqDataDirectly(const disk::FolderOnDisk &folder);
+
+/// Returns true when @p entry of a folder whose name ends in ".d" makes it an acquisition.
+[[nodiscard]] bool isAcqData(const disk::FolderOnDisk &folder, const disk::FolderListing::Entry &entry);
 
 /**
- * Whether a folder "AcqData", in any letter case, lies in @p folder, whose name ends in ".d", or in another
+ * Returns true when a folder "AcqData", in any letter case, lies in @p folder, whose name ends in ".d", or in another
  * folder of such a name anywhere below it, links followed.
  *
  * Looks at folders only. The files that also mark an acquisition ("msprofile.bin", "mspeak.bin" and

@@ -31,17 +31,19 @@ QString textOf(const Rules &rules)
 }
 
 /// As visiting while reading, over what was read before.
-void revisit(const FolderListing &listing, const FolderVisitor &visit)
+void revisit(const disk::FolderListing &listing, const disk::FolderVisitor &visit)
 {
     if (visit)
-        std::ignore = std::ranges::any_of(listing.folders, visit);
+        std::ignore =
+            std::ranges::any_of(listing.folders, visit) || std::ranges::any_of(listing.others, visit);
 }
 
 } // namespace
 
-DetectionScope::DetectionScope(const QString &path)
+DetectionScope::DetectionScope(const QString &path, const std::optional<disk::DiskEntry> &entry)
     : m_path(path)
     , m_outer(std::exchange(t_current, this))
+    , m_entry(entry)
 {}
 
 DetectionScope::~DetectionScope()
@@ -49,30 +51,74 @@ DetectionScope::~DetectionScope()
     t_current = m_outer;
 }
 
-PathUtils::Kind DetectionScope::kind(const QString &path)
+DetectionScope *DetectionScope::current(const QString &path)
 {
     DetectionScope *scope = t_current;
-    if (!scope || scope->m_path != path)
-        return PathUtils::kind(path);
-    if (!scope->m_kind)
-        scope->m_kind = PathUtils::kind(path);
-    return *scope->m_kind;
+    if (!scope)
+        return nullptr;
+    // Nearly always the very same text, which needs no comparison.
+    const bool isOwn = scope->m_path.constData() == path.constData() || scope->m_path == path;
+    return isOwn ? scope : nullptr;
 }
 
-FolderListing DetectionScope::listing(const QString &folder, const FolderVisitor &visit)
+const disk::DiskEntry &DetectionScope::entry()
 {
-    DetectionScope *scope = t_current;
-    if (!scope || scope->m_path != folder)
-        return listFolder(folder, visit);
+    if (!m_entry)
+        m_entry = disk::entryAt(m_path);
+    return *m_entry;
+}
+
+EntryKind DetectionScope::kind(const QString &path)
+{
+    DetectionScope *scope = current(path);
+    return scope ? scope->entry().kind : disk::kindAt(path);
+}
+
+disk::FolderListing DetectionScope::listing(const QString &folder, const disk::FolderVisitor &visit)
+{
+    DetectionScope *scope = current(folder);
+    if (!scope)
+        return disk::listFolder(folder, visit);
     if (scope->m_listing) {
         revisit(*scope->m_listing, visit);
         return *scope->m_listing;
     }
-    FolderListing listing = listFolder(folder, visit);
+    disk::FolderListing listing = disk::listFolder(folder, visit);
+    scope->keep(listing);
+    return listing;
+}
+
+disk::FolderListing DetectionScope::firstListing(const QString &folder, const disk::FolderVisitor &visit)
+{
+    disk::FolderListing listing = disk::listSmallFolder(folder, visit);
+    if (DetectionScope *scope = current(folder))
+        scope->keep(listing);
+    return listing;
+}
+
+bool DetectionScope::hasListing(const QString &folder)
+{
+    const DetectionScope *scope = current(folder);
+    return scope && scope->m_listing;
+}
+
+void DetectionScope::keep(const disk::FolderListing &listing)
+{
     // A visitor that has seen enough leaves a part, of no use to the next.
     if (listing.isComplete || !listing.isFolder)
-        scope->m_listing = listing;
-    return listing;
+        m_listing = listing;
+}
+
+void DetectionScope::noteNoSpot(const QString &folder, const QString &name)
+{
+    if (DetectionScope *scope = current(folder))
+        scope->m_noSpots.insert(name);
+}
+
+bool DetectionScope::isKnownNoSpot(const QString &folder, const QString &name)
+{
+    const DetectionScope *scope = current(folder);
+    return scope && scope->m_noSpots.contains(name);
 }
 
 void DetectionScope::note(QLatin1StringView rule)

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "MsDataFormat.h"
-#include "internal/FolderListing.h"
-
-#include <ozm_common_core_mini/PathUtils.h>
+#include "disk/FolderListing.h"
+#include "disk/FolderOnDisk.h"
 
 #include <QLatin1StringView>
 #include <QSet>
@@ -15,11 +14,12 @@
 namespace ozm::msreader::internal {
 
 /**
- * One detection, while it runs: what it learned about its path, and which rules decided.
+ * One detection, while it runs: everything it learned about its path, and which rules decided.
  *
  * Detectors hold nothing and know only the path, so that each would ask the disk again what another just
- * asked. Inside a scope the kind and the listing of the detection's own path are asked once; every other
- * path, and a detector called without a scope, asks the disk each time.
+ * asked. Inside a scope the kind and the listing of the detection's own path are asked once, and a folder in
+ * it that one detector has read need not be read by the next; every other path, and a detector called without
+ * a scope, asks the disk each time.
  *
  *     DetectionScope scope(path);
  *     found = detector.detectFormat(path);
@@ -30,12 +30,28 @@ namespace ozm::msreader::internal {
 class DetectionScope
 {
 public:
-    explicit DetectionScope(const QString &path);
+    /// @p entry is what the caller knows of the path already.
+    explicit DetectionScope(const QString &path, const std::optional<disk::DiskEntry> &entry = {});
     ~DetectionScope();
     Q_DISABLE_COPY_MOVE(DetectionScope)
 
-    [[nodiscard]] static PathUtils::Kind kind(const QString &path);
-    [[nodiscard]] static FolderListing listing(const QString &folder, const FolderVisitor &visit = {});
+    /// The entry at the scope's path, asked for once.
+    [[nodiscard]] const disk::DiskEntry &entry();
+
+    [[nodiscard]] static EntryKind kind(const QString &path);
+    [[nodiscard]] static disk::FolderListing listing(const QString &folder,
+                                                     const disk::FolderVisitor &visit = {});
+
+    /// The same for a start: it ends where the listing stops being cheap.
+    [[nodiscard]] static disk::FolderListing firstListing(const QString &folder,
+                                                          const disk::FolderVisitor &visit);
+
+    /// Returns true when the whole listing is known.
+    [[nodiscard]] static bool hasListing(const QString &folder);
+
+    /// Remembers that the entry @p name of @p folder is no spot of FID spectra, and tells whether it is known.
+    static void noteNoSpot(const QString &folder, const QString &name);
+    [[nodiscard]] static bool isKnownNoSpot(const QString &folder, const QString &name);
 
     /// Remembers, for the line to support, the rule that led to an answer.
     static void note(QLatin1StringView rule);
@@ -46,12 +62,15 @@ public:
     void reportWhether(bool isData) const;
 
 private:
+    [[nodiscard]] static DetectionScope *current(const QString &path);
+    void keep(const disk::FolderListing &listing);
     void write(const QString &answer) const;
 
     const QString m_path;
     DetectionScope *const m_outer;
-    std::optional<PathUtils::Kind> m_kind;
-    std::optional<FolderListing> m_listing;
+    std::optional<disk::DiskEntry> m_entry;
+    std::optional<disk::FolderListing> m_listing;
+    QSet<QString> m_noSpots;
     QVarLengthArray<QLatin1StringView, 4> m_rules;
 };
 

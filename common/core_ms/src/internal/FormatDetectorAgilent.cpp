@@ -13,8 +13,7 @@ QSet<VendorDataFormat> FormatDetectorAgilent::detectFormat(const QString &path) 
 {
     if (!isNameRight(path))
         return {};
-    const bool holds = holdsAcqDataDirectly(path) || holdsAcqDataBelow(path);
-    return holds ? supportedFormats() : QSet<VendorDataFormat>();
+    return holdsAcqDataBelow(path) ? supportedFormats() : QSet<VendorDataFormat>();
 }
 
 } // namespace ozm::msreader::internal

@@ -11,7 +11,8 @@ namespace {
 /// A lone ".wiff" is what users get wrong most often when they copy data, so it is worth a warning.
 bool hasScanFile(const QString &path, const QString &scanFile, const char *warning)
 {
-    if (PathUtils::isExistingFile(scanFile))
+    // Of whatever kind: a folder of this name does as well.
+    if (disk::kindAt(scanFile) != EntryKind::Missing)
         return true;
     qCWarning(lcGeneric) << "File" << path << warning;
     return false;

@@ -91,7 +91,7 @@ bool FormatDetectorSimple::isNameRight(const QString &path) const
 
 bool FormatDetectorSimple::isKindRight(const QString &path) const
 {
-    return DetectionScope::kind(path) == (m_isFolder ? PathUtils::Kind::Folder : PathUtils::Kind::File);
+    return DetectionScope::kind(path) == (m_isFolder ? EntryKind::Folder : EntryKind::File);
 }
 
 QSet<VendorDataFormat> FormatDetectorSimple::formatsIf(bool holds, QLatin1StringView rule,

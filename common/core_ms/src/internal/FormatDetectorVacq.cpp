@@ -13,9 +13,9 @@ QSet<VendorDataFormat> FormatDetectorVacq::detectFormat(const QString &path) con
 {
     if (!isNameRight(path))
         return {};
-    const PathUtils::Kind kind = DetectionScope::kind(path);
-    return formatsIf(kind == PathUtils::Kind::Folder || kind == PathUtils::Kind::File,
-                     "extension and kind"_L1, "extension, but neither file nor folder"_L1);
+    const EntryKind kind = DetectionScope::kind(path);
+    return formatsIf(kind == EntryKind::Folder || kind == EntryKind::File, "extension and kind"_L1,
+                     "extension, but neither file nor folder"_L1);
 }
 
 bool FormatDetectorVacq::isFile(VendorDataFormat) const

@@ -14,8 +14,8 @@ QSet<VendorDataFormat> FormatDetectorWaters::detectFormat(const QString &path) c
     if (!isNameRight(path) || !isKindRight(path))
         return FormatDetectorSimple::detectFormat(path);
     // Of whatever kind, and in whatever letter case the file system takes for the same.
-    return formatsIf(PathUtils::exists(path + "/_FUNC001.DAT"_L1), "Waters: _FUNC001.DAT"_L1,
-                     "Waters: no _FUNC001.DAT"_L1);
+    const bool isThere = disk::FolderOnDisk(path).kindOf("_FUNC001.DAT"_L1) != EntryKind::Missing;
+    return formatsIf(isThere, "Waters: _FUNC001.DAT"_L1, "Waters: no _FUNC001.DAT"_L1);
 }
 
 } // namespace ozm::msreader::internal

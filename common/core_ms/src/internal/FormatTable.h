@@ -3,6 +3,7 @@
 #include "MsDataFormat.h"
 
 #include <QLatin1StringView>
+#include <QStringView>
 
 #include <array>
 #include <string_view>
@@ -88,6 +89,12 @@ static_assert(rowsAreInOrder(), "a format is found by its value: rows stand in t
 static_assert(hasEnumerator<VendorDataFormat{25}>() &&
                   !hasEnumerator<static_cast<VendorDataFormat>(kFormats.size())>(),
               "every format needs a row");
+
+/// Returns true for the name of a folder that Agilent and Bruker data share.
+[[nodiscard]] inline bool isNamedD(QStringView name)
+{
+    return name.endsWith(".d"_L1, Qt::CaseInsensitive);
+}
 
 /// Null for a value without an enumerator.
 [[nodiscard]] const FormatRow *formatRow(VendorDataFormat format);

@@ -1,6 +1,7 @@
-#include <ozm_common_ms/MsDataSearch.h>
+#include <ozm_widgets/MsDataSearch.h>
 
-#include <ozm_common_ms/MsDataFileUtils.h>
+#include "search/FolderSearch.h"
+#include "search/SampleRecognition.h"
 
 #include <QElapsedTimer>
 #include <QThread>
@@ -50,7 +51,7 @@ public:
 
         Private &m_search;
         QElapsedTimer m_sinceHandover;
-        QList<MsDataFileInfo> m_samples;
+        QList<MsSample> m_samples;
         int m_foldersSearched = 0;
         int m_samplesFound = 0;
         QString m_folder;
@@ -63,7 +64,7 @@ public:
 
 void MsDataSearch::Private::Courier::run(const QString &folder, const MsDataSearchOptions &options)
 {
-    const Error error = MsDataFileUtils::search(folder, options, callbacks());
+    const Error error = MsDataSearch::run(folder, options, callbacks());
     handOver();
     inOwnersThread([search = &m_search, error] {
         // A thread that has handed this over has nothing left to do: the wait is short.
@@ -76,7 +77,7 @@ void MsDataSearch::Private::Courier::run(const QString &folder, const MsDataSear
 MsDataSearchCallbacks MsDataSearch::Private::Courier::callbacks()
 {
     MsDataSearchCallbacks calls;
-    calls.found = [this](const MsDataFileInfo &sample) {
+    calls.found = [this](const MsSample &sample) {
         m_samples.append(sample);
         ++m_samplesFound;
         handOverIfDue();
@@ -122,6 +123,22 @@ MsDataSearch::~MsDataSearch()
     cancel();
     if (d->thread)
         d->thread->wait();
+}
+
+Error MsDataSearch::run(const QString &folder, const MsDataSearchOptions &options,
+                        const MsDataSearchCallbacks &callbacks)
+{
+    return FolderSearch(options, callbacks).search(folder);
+}
+
+MsSample MsDataSearch::sampleAt(const QString &path)
+{
+    return msreader::sampleAt(path);
+}
+
+qint64 MsDataSearch::sizeOnDisk(const QString &path, const std::function<bool()> &isCanceled)
+{
+    return msreader::sizeOnDisk(path, isCanceled);
 }
 
 bool MsDataSearch::isRunning() const
