@@ -110,7 +110,7 @@ class Check:
             else:
                 moved = own and entry.get("number") != number
                 if moved and computed != stored:
-                    moved = (computed,) == self.one("SELECT hash FROM entry WHERE number = ?", entry["number"])
+                    moved = (computed,) == self.one("SELECT hash FROM entry WHERE number = ?", entry.get("number"))
                 self.find("reordered" if moved else "changed", number, number)
                 self.last_damaged = number
         if self.known:

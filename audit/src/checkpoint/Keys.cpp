@@ -28,7 +28,7 @@ constexpr qsizetype kHashSize = 4;
 // Of the kinds of signatures in notes, Ed25519.
 constexpr char kAlgorithm = 1;
 constexpr auto kDash = "\xe2\x80\x94 ";
-constexpr auto kNameComment = "Name: ";
+constexpr QByteArrayView kNameComment = "Name: ";
 
 const unsigned char *raw(const QByteArray &bytes)
 {
@@ -177,7 +177,7 @@ Result<SigningKey> SigningKey::load(const QString &path)
     const Key key(PEM_read_bio_PrivateKey(bio.get(), nullptr, nullptr, nullptr), &EVP_PKEY_free);
     QByteArray seed(kKeySize, '\0');
     std::size_t size = kKeySize;
-    const QString name = QString::fromUtf8(text.left(text.indexOf('\n')).mid(qstrlen(kNameComment)));
+    const QString name = QString::fromUtf8(text.left(text.indexOf('\n')).mid(kNameComment.size()));
     if (!text.startsWith(kNameComment) || !isName(name) || !key ||
         EVP_PKEY_get_raw_private_key(key.get(), raw(seed), &size) != 1) {
         return keyError(ErrorCode::FileAccess,
@@ -188,7 +188,8 @@ Result<SigningKey> SigningKey::load(const QString &path)
 
 Error SigningKey::save(const QString &path) const
 {
-    const QByteArray text = kNameComment + m_name.toUtf8() + '\n' + pem(privateKey(m_seed).get(), true);
+    const QByteArray text =
+        kNameComment.toByteArray() + m_name.toUtf8() + '\n' + pem(privateKey(m_seed).get(), true);
     QFile file(path);
     constexpr auto kOwner = QFile::ReadOwner | QFile::WriteOwner;
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly, kOwner) || file.write(text) != text.size() ||

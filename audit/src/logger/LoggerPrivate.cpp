@@ -250,7 +250,7 @@ Result<QString> Logger::Private::reasonFor(const QList<OperationLogItemData> &da
     const Demand demand = options.reasons->demand(*asking);
     if (demand == Demand::None)
         return QString();
-    const QString reason = options.reasons->reason(*asking).trimmed();
+    QString reason = options.reasons->reason(*asking).trimmed();
     if (reason.isEmpty() && demand != Demand::Optional) {
         return Error(ErrorCode::NotAllowed, Texts::tr("This step needs a reason. It was not made."))
             .ecatch(OZM_HERE);

@@ -138,8 +138,9 @@ QList<Draft> WriteQueue::nextGroup(qint64 firstTicket) const
     for (const Waiting *waiting : front)
         group.append(m_facts.draftOf(waiting->record));
     m_mutex.lock();
-    for (qsizetype i = 0; i < group.size(); ++i)
-        group[i].parent = parentOf(*front.at(std::size_t(i)), firstTicket);
+    auto waiting = front.cbegin();
+    for (Draft &draft : group)
+        draft.parent = parentOf(**waiting++, firstTicket);
     return group;
 }
 

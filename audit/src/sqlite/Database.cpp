@@ -217,7 +217,7 @@ Result<qint64> Database::number(const char *sql)
 Result<QByteArray> Database::text(const char *sql)
 {
     Statement statement(*this, sql);
-    const QByteArray value = statement.step() ? statement.text(0) : QByteArray();
+    QByteArray value = statement.step() ? statement.text(0) : QByteArray();
     if (statement.error().hasError())
         return statement.error();
     return value;
@@ -240,21 +240,6 @@ bool Database::hasMoved() const
 {
     int moved = 0;
     return sqlite3_file_control(m_handle, "main", SQLITE_FCNTL_HAS_MOVED, &moved) == SQLITE_OK && moved != 0;
-}
-
-Error Database::copyTo(const QString &path)
-{
-    auto target = open(path, Access::Create, 0);
-    if (!target)
-        return target.error();
-    sqlite3_backup *backup = sqlite3_backup_init(target.value()->m_handle, "main", m_handle, "main");
-    if (backup)
-        sqlite3_backup_step(backup, -1);
-    const int code = backup ? sqlite3_backup_finish(backup) : sqlite3_errcode(target.value()->m_handle);
-    if (code != SQLITE_OK)
-        return target.value()->failure(code);
-    // A copy is read, perhaps from a medium that cannot be written: no log beside it.
-    return target.value()->run("PRAGMA journal_mode = DELETE");
 }
 
 Error Database::failure(int code) const

@@ -83,8 +83,6 @@ public:
 
     /// True when the file was deleted or replaced under the connection.
     [[nodiscard]] bool hasMoved() const;
-    /// Copies the whole database to a new file at @p path.
-    [[nodiscard]] Error copyTo(const QString &path);
 
     [[nodiscard]] Error failure(int code) const;
 

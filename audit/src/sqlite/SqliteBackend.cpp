@@ -6,6 +6,7 @@
 #include "Database.h"
 #include "FileSystems.h"
 #include "SqliteSchema.h"
+#include "SqliteTables.h"
 
 #include <QFileInfo>
 
@@ -23,8 +24,6 @@ constexpr int kPatienceMs = 1000;
 constexpr int kSharedPatienceMs = 20'000;
 // Columns are made for so many entries at a time: a commit of one entry then touches two pages, not six.
 constexpr qint64 kIndexBatch = 256;
-
-constexpr const char *kInsertIndex = "INSERT OR REPLACE INTO entry_index VALUES (?, ?, ?, ?, ?, ?, ?, ?)";
 
 class SqliteBackend : public StoreBackend
 {
@@ -49,8 +48,6 @@ public:
 private:
     [[nodiscard]] Error appendLocked(const QList<NewEntry> &entries, qint64 &first);
     [[nodiscard]] Error insert(const NewEntry &entry, qint64 first, Frontier &frontier);
-    [[nodiscard]] Error keepSubtrees();
-    [[nodiscard]] Error indexUpTo(qint64 first, qint64 last);
     [[nodiscard]] Error findIndexed(const Query &query, qint64 indexed, QList<Entry> &page);
 
     const std::unique_ptr<Database> m_database;
@@ -122,11 +119,11 @@ Error SqliteBackend::appendLocked(const QList<NewEntry> &entries, qint64 &first)
     }
     qint64 indexed = head.value().indexed;
     if (frontier->size() - indexed >= kIndexBatch) {
-        if (Error error = indexUpTo(indexed + 1, frontier->size()); error.hasError())
+        if (Error error = indexEntries(*m_database, indexed + 1, frontier->size()); error.hasError())
             return error;
         indexed = frontier->size();
     }
-    if (Error error = keepSubtrees(); error.hasError())
+    if (Error error = keepSubtrees(*m_database, m_completed); error.hasError())
         return error;
     const QByteArray edge = frontier->toBytes();
     return m_setHead.bind(1, frontier->size()).bindBlob(2, edge).bind(3, indexed).run();
@@ -142,46 +139,6 @@ Error SqliteBackend::insert(const NewEntry &entry, qint64 first, Frontier &front
         .bindBlob(2, {leaf.data(), qsizetype(leaf.size())})
         .bindBlob(3, bytes)
         .run();
-}
-
-Error SqliteBackend::keepSubtrees()
-{
-    for (const Subtree &subtree : m_completed) {
-        Statement keep(*m_database, "INSERT INTO subtree VALUES (?, ?, ?)");
-        Error error = keep.bind(1, subtree.level)
-                          .bind(2, subtree.position)
-                          .bindBlob(3, {subtree.hash.data(), qsizetype(subtree.hash.size())})
-                          .run();
-        if (error.hasError())
-            return error;
-    }
-    return {};
-}
-
-Error SqliteBackend::indexUpTo(qint64 first, qint64 last)
-{
-    Statement entries(*m_database,
-                      "SELECT number, bytes FROM entry WHERE number BETWEEN ? AND ? AND bytes IS NOT NULL");
-    Statement insert(*m_database, kInsertIndex);
-    entries.bind(1, first).bind(2, last);
-    while (entries.step()) {
-        EntryMembers members;
-        if (!members.read(entries.bytesHere(1)))
-            continue;
-        const IndexRow row = IndexRow::of(members);
-        Error error = insert.bind(1, entries.number(0))
-                          .bind(2, row.timeMs)
-                          .bindText(3, row.kind)
-                          .bindText(4, row.user)
-                          .bind(5, row.outcome)
-                          .bind(6, row.parent)
-                          .bindText(7, row.subject)
-                          .bindText(8, row.attributes)
-                          .run();
-        if (error.hasError())
-            return error;
-    }
-    return entries.error();
 }
 
 Error SqliteBackend::rows(qint64 first, qint64 last, const std::function<bool(const StoredRow &)> &show)
@@ -296,7 +253,7 @@ Error SqliteBackend::setHead(const Frontier &frontier)
 {
     return m_database->transact([&] {
         const QByteArray edge = frontier.toBytes();
-        if (Error error = indexUpTo(1, frontier.size()); error.hasError())
+        if (Error error = indexEntries(*m_database, 1, frontier.size()); error.hasError())
             return error;
         return m_setHead.bind(1, frontier.size()).bindBlob(2, edge).bind(3, frontier.size()).run();
     });

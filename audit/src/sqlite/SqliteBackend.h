@@ -15,8 +15,7 @@ namespace ozm::audit {
  */
 [[nodiscard]] Result<std::unique_ptr<StoreBackend>> openSqlite(const Address &address, Store::Mode mode);
 
-/// Writes the entries of @p store up to @p last, or those that @p wanted accepts, to a new file at @p path
-/// that opens as a store. With entries left out it cannot be verified as a whole; their hashes are there.
-[[nodiscard]] Error copyToSqlite(const Store &store, const QString &path);
+/// Writes the entries of @p store up to @p last to a new file at @p path, which opens as a store.
+[[nodiscard]] Error copyToSqlite(const Store &store, const QString &path, qint64 last);
 
 } // namespace ozm::audit

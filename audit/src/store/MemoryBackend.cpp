@@ -88,7 +88,7 @@ Error MemoryBackend::setHead(const Frontier &frontier)
 
 Result<qint64> MemoryBackend::dispose(Range range, const NewEntry &record)
 {
-    const auto number = append({record});
+    auto number = append({record});
     for (qint64 i = range.first; i <= range.last; ++i) {
         m_rows[i - 1].bytes.clear();
         m_rows[i - 1].index.reset();

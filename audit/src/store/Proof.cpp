@@ -8,7 +8,7 @@ namespace ozm::audit {
 namespace {
 
 constexpr auto kHeader = "c2sp.org/tlog-proof@v1";
-constexpr auto kIndex = "index ";
+constexpr QByteArrayView kIndex = "index ";
 
 } // namespace
 
@@ -27,7 +27,7 @@ Result<Proof> Proof::fromText(const QByteArray &text)
         return fault();
     bool ok = false;
     Proof proof;
-    proof.number = lines.at(1).sliced(qstrlen(kIndex)).toLongLong(&ok) + 1;
+    proof.number = lines.at(1).sliced(kIndex.size()).toLongLong(&ok) + 1;
     for (const QByteArray &line : lines.sliced(2))
         proof.hashes.append(QByteArray::fromBase64(line));
     auto checkpoint = Checkpoint::fromNote(text.sliced(end + 2));
@@ -39,7 +39,8 @@ Result<Proof> Proof::fromText(const QByteArray &text)
 
 QByteArray Proof::toText() const
 {
-    QByteArray text = QByteArray(kHeader) + '\n' + kIndex + QByteArray::number(number - 1) + '\n';
+    QByteArray text =
+        QByteArray(kHeader) + '\n' + kIndex.toByteArray() + QByteArray::number(number - 1) + '\n';
     for (const QByteArray &hash : hashes)
         text += hash.toBase64() + '\n';
     return text + '\n' + checkpoint.note;
