@@ -2,7 +2,6 @@
 
 #include <QElapsedTimer>
 #include <QFile>
-#include <QThread>
 
 using namespace Qt::StringLiterals;
 
@@ -93,8 +92,6 @@ int watch(const Options &options)
     const auto store = options.open(Store::Mode::ReadOnly);
     if (!store)
         return complain(store.error());
-    // Soon enough for eyes.
-    constexpr unsigned long kPauseMs = 500;
     const qint64 end = options.value(u"seconds"_s).toLongLong() * 1000;
     QElapsedTimer time;
     time.start();
@@ -111,7 +108,7 @@ int watch(const Options &options)
             query.after = entry.number;
         }
         if (page.value().isEmpty())
-            QThread::msleep(kPauseMs);
+            (void)store.value()->waitForEntries(store.value()->size().valueOr(0), QDeadlineTimer(1000));
     }
     return Good;
 }

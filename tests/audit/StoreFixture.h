@@ -33,7 +33,7 @@ public:
         if (kind == "memory"_L1)
             return u"memory:"_s;
         if (kind == "postgresql"_L1)
-            return server() + u"?trail="_s + m_name;
+            return server() + u"&trail="_s + m_name;
         return u"sqlite:"_s + path() + (kind == "shared"_L1 ? u"?sharing=processes"_s : QString());
     }
     [[nodiscard]] QString path() const { return m_folder.filePath(u"trail.sqlite"_s); }

@@ -7,6 +7,7 @@
 #include <ozm_audit/Verification.h>
 #include <ozm_audit/ozm_audit_export.h>
 
+#include <QDeadlineTimer>
 #include <QList>
 #include <QString>
 
@@ -74,6 +75,10 @@ public:
     /// Shows each entry from @p first to @p last in order, until @p show returns false.
     [[nodiscard]] Error forEach(qint64 first, qint64 last,
                                 const std::function<bool(const Entry &)> &show) const;
+
+    /// Waits until there may be entries after the one numbered @p known, written by anybody; false at the
+    /// deadline. Others use the store meanwhile.
+    [[nodiscard]] bool waitForEntries(qint64 known, QDeadlineTimer deadline) const;
 
     /// States the trail as it is now, signed by @p key unless that is null, and keeps a copy in the store.
     [[nodiscard]] Result<Checkpoint> makeCheckpoint(const SigningKey *key = nullptr);

@@ -52,7 +52,14 @@ Result<Address> Address::parse(const QString &text)
 
 QString Address::shown() const
 {
-    return scheme == "sqlite"_L1 ? path : url.toString(QUrl::RemovePassword);
+    if (scheme == "sqlite"_L1)
+        return path;
+    // A password may be in either place.
+    QUrl plain = url;
+    QUrlQuery query(url);
+    query.removeAllQueryItems(u"password"_s);
+    plain.setQuery(query);
+    return plain.toString(QUrl::RemovePassword);
 }
 
 } // namespace ozm::audit

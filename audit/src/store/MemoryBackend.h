@@ -38,6 +38,6 @@ private:
                                                  qint64 last);
 
 /// The name of a new trail: @p name, and digits that no other trail has.
-[[nodiscard]] QString newTrailName(const QString &name);
+[[nodiscard]] OZM_AUDIT_EXPORT QString newTrailName(const QString &name);
 
 } // namespace ozm::audit

@@ -7,6 +7,7 @@
 #include "PluginBackend.h"
 
 #include <QRecursiveMutex>
+#include <QThread>
 #include <QTimeZone>
 #include <QUuid>
 
@@ -210,6 +211,23 @@ Error Store::forEach(qint64 first, qint64 last, const std::function<bool(const E
         }
     }
     return {};
+}
+
+bool Store::waitForEntries(qint64 known, QDeadlineTimer deadline) const
+{
+    // Soon enough for eyes, and next to no work for a server that tells of its own accord.
+    constexpr unsigned long kPauseMs = 100;
+    while (true) {
+        {
+            const QMutexLocker lock(&d->mutex);
+            const auto changed = d->backend->hasChanged(known);
+            if (changed && changed.value())
+                return true;
+        }
+        if (deadline.hasExpired())
+            return false;
+        QThread::msleep(kPauseMs);
+    }
 }
 
 Result<Checkpoint> Store::makeCheckpoint(const SigningKey *key)

@@ -84,6 +84,15 @@ public:
     /// Number of the last row, whatever the head says.
     [[nodiscard]] virtual Result<qint64> lastRow() = 0;
 
+    /// Tells whether there may be entries after the one numbered @p known.
+    [[nodiscard]] virtual Result<bool> hasChanged(qint64 known)
+    {
+        const auto last = head();
+        if (!last)
+            return last.error();
+        return last.value().size > known;
+    }
+
     virtual Error keepCheckpoint(const Checkpoint &checkpoint) = 0;
     [[nodiscard]] virtual Result<QList<Checkpoint>> keptCheckpoints() = 0;
 

@@ -35,7 +35,7 @@ struct Subtree
 inline constexpr int kKeptLevels = 8;
 
 /// The right edge of a tree: enough to append to it and to know its root, whatever its size.
-class Frontier
+class OZM_AUDIT_EXPORT Frontier
 {
 public:
     [[nodiscard]] qint64 size() const { return m_size; }
