@@ -44,7 +44,7 @@ OperationLogItemData *UndoCommand::logData()
 
 QList<OperationLogItemData> UndoCommand::childLogData() const
 {
-    return d->childLogData;
+    return d->childLogData ? *d->childLogData : QList<OperationLogItemData>();
 }
 
 void UndoCommand::setLogData(const OperationLogItemData &data)
@@ -54,7 +54,7 @@ void UndoCommand::setLogData(const OperationLogItemData &data)
 
 void UndoCommand::setChildLogData(const QList<OperationLogItemData> &data)
 {
-    d->childLogData = data;
+    d->childLogData = std::make_unique<const QList<OperationLogItemData>>(data);
 }
 
 void UndoCommand::setAuditTrailEnabled(bool enabled)

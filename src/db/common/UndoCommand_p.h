@@ -14,13 +14,14 @@ public:
         : parentCommand(parent)
     {}
 
-    bool auditTrailEnabled = true;
+    // Each edit of the history has one of these: what is rarely there takes a pointer only.
     Error error;
     UndoCommand *const parentCommand;
     QPointer<UndoStack> stack;
     QWeakPointer<OperationLogItem> recentLogItem;
     OperationLogItemData logData;
-    QList<OperationLogItemData> childLogData;
+    std::unique_ptr<const QList<OperationLogItemData>> childLogData;
+    bool auditTrailEnabled = true;
     bool firstRedo = true;
 };
 
