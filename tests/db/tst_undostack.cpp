@@ -1,3 +1,4 @@
+#include "GuideLogger.h"
 #include "UndoTestTools.h"
 #include "support/StrictTest.h"
 
@@ -291,6 +292,37 @@ private Q_SLOTS:
         QVERIFY(!m_stack->push(mourner).hasError());
         m_stack.reset();
         QCOMPARE(className, QByteArray("ozm::UndoStack"));
+    }
+
+    void loggerOfTheGuide()
+    {
+        guide::TrailLogger logger(u"jdoe"_s);
+        m_stack->setLogging(&logger);
+        QVERIFY(!push({.name = u"a"_s}).hasError());
+        m_stack->undo();
+        for (const int commands : {0, 1, 2}) {
+            UndoMacro macro(*m_stack, recordOf(u"m"_s));
+            for (int i = 0; i < commands; ++i)
+                QVERIFY(!push({.name = u"b"_s}).hasError());
+            QVERIFY(macro.end());
+        }
+        QStringList rows;
+        for (qint64 id = 1; logger.records().contains(id); ++id) {
+            const auto record = logger.records().value(id);
+            rows.append(u"%1<%2"_s.arg(id).arg(record.parent) + (record.complete ? u""_s : u" open"_s));
+        }
+        QCOMPARE(rows, QStringList({u"1<0"_s, u"2<0"_s, u"3<0 open"_s, u"4<0 open"_s, u"5<0"_s, u"6<0"_s,
+                                    u"7<6"_s, u"8<6"_s}));
+        m_stack.reset();
+
+        const auto read = [](const QString &path) {
+            QFile file(QStringLiteral(OZM_SOURCE_DIR) + path);
+            return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+        };
+        const QString shown =
+            read(u"/tests/db/GuideLogger.h"_s).section(u"// [begin]\n"_s, 1).section(u"// [end]"_s, 0, 0);
+        QVERIFY(!shown.isEmpty());
+        QVERIFY2(read(u"/docs/audit-trail.md"_s).contains(shown), "copy GuideLogger.h into the guide");
     }
 
     void eventsAreMacrosWithoutCommands()
