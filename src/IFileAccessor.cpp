@@ -1,6 +1,6 @@
 #include <ozm_widgets/IFileAccessor.h>
 
-#include <disk/DiskEntry.h>
+#include "dialogs/SaveProbe.h"
 
 #include <ozm_common_core_mini/CsvWriter.h>
 #include <ozm_qt_shared_libs_core/FileUtilsGeneric.h>
@@ -28,12 +28,6 @@ QSharedPointer<ResourceReference> referenceFromString(const QString &text)
     Error error = reference.error();
     error.ecatch(QString::fromUtf8(Q_FUNC_INFO), kSource, kReferenceLine);
     return {};
-}
-
-bool isFileOrNew(const QString &path)
-{
-    const EntryKind kind = disk::kindAt(path);
-    return kind == EntryKind::File || kind == EntryKind::Missing;
 }
 
 } // namespace
@@ -119,8 +113,7 @@ Error IFileAccessor::saveFile(const DestinationFileLocation &location, const QBy
 {
     return saveFile(location, [data](const QString &path) {
         QFile file(path);
-        // A pipe would be waited for, without end when nobody reads it.
-        if (isFileOrNew(path) && file.open(QIODevice::WriteOnly)) {
+        if (!mayBlock(path) && file.open(QIODevice::WriteOnly)) {
             // A short write still counts as saved: callers rely on the error meaning that nothing was
             // touched.
             file.write(data);

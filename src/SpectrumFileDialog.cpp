@@ -1,5 +1,6 @@
 #include <ozm_widgets/SpectrumFileDialog.h>
 
+#include "dialogs/DataDelegate.h"
 #include "dialogs/DialogParts.h"
 #include "dialogs/GuardedDialog.h"
 #include "dialogs/MsFileTypes.h"
@@ -9,6 +10,7 @@
 #include <FormatDetection.h>
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QFileInfo>
 #include <QFileSystemModel>
 #include <QKeyEvent>
@@ -16,6 +18,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using ozm::GuardedDialog;
@@ -72,6 +75,8 @@ void SpectrumFileDialog::rewire(QWidget *openButton)
     connect(this, &QFileDialog::currentChanged, this, &SpectrumFileDialog::currentChanged_custom);
     connect(this, &QFileDialog::directoryEntered, this, &SpectrumFileDialog::directoryEntered_custom);
 
+    auto *delegate = new ozm::DataDelegate(this);
+    setItemDelegate(delegate);
     m_recognition = new ozm::PickRecognition(this);
     ozm::addToFileDialog(*this, m_recognition);
     if (const QItemSelectionModel *selection = ozm::selectionModel(*this)) {
@@ -82,6 +87,9 @@ void SpectrumFileDialog::rewire(QWidget *openButton)
         connect(name, &QLineEdit::textEdited, this, &SpectrumFileDialog::recognise);
     for (QAbstractItemView *view : findChildren<QAbstractItemView *>())
         view->installEventFilter(this);
+    for (QAbstractItemView *view : findChildren<QAbstractItemView *>())
+        connect(delegate, &ozm::DataDelegate::looked, view->viewport(), qOverload<>(&QWidget::update));
+    connect(this, &QFileDialog::directoryEntered, delegate, &ozm::DataDelegate::clear);
 }
 
 // By value, as in the suite's other libraries, which are built against it.
@@ -95,13 +103,40 @@ bool SpectrumFileDialog::isVendorRawFolder(QString path, bool checkExistingDir)
 
 void SpectrumFileDialog::currentChanged_custom(const QString &path)
 {
-    // Not selectFile(), which would drop the other picks and the keyboard's place in the list.
-    if (isVendorRawFolder(path, true))
+    if (!isVendorRawFolder(path, true))
+        return;
+    QItemSelectionModel *selection = ozm::selectionModel(*this);
+    const bool picksSeveral = QApplication::keyboardModifiers() & (Qt::ControlModifier | Qt::ShiftModifier);
+    if (!selection || isPicked(path) || picksSeveral) {
         showPicks();
+        return;
+    }
+    selectFile(path);
+    // The toolkit forgets the highlighted entry over that, and with it the keyboard's place in the list.
+    const auto *files = qobject_cast<const QFileSystemModel *>(selection->model());
+    const QSignalBlocker quiet(this);
+    if (files)
+        selection->setCurrentIndex(files->index(path),
+                                   QItemSelectionModel::SelectCurrent | QItemSelectionModel::Rows);
+}
+
+bool SpectrumFileDialog::isPicked(const QString &path) const
+{
+    const QItemSelectionModel *selection = ozm::selectionModel(*this);
+    return std::ranges::any_of(selection->selectedRows(), [&path](const QModelIndex &row) {
+        return row.data(QFileSystemModel::FilePathRole).toString() == path;
+    });
 }
 
 void SpectrumFileDialog::directoryEntered_custom(const QString &path)
 {
+    const QString before = std::exchange(m_folder, path);
+    // From inside, the way up leads past the raw folder: it would be chosen otherwise.
+    if (isVendorRawFolder(path, true) && before.startsWith(path + u'/')) {
+        m_folder = QFileInfo(path).absolutePath();
+        enter(m_folder);
+        return;
+    }
     if (!isVendorRawFolder(path, true)) {
         // The name of what was highlighted in the folder above means nothing in this one.
         if (QLineEdit *name = ozm::nameBox(*this); name && !name->hasFocus())
@@ -193,8 +228,10 @@ void SpectrumFileDialog::showPicks()
     if (!name || !selection || name->hasFocus())
         return;
     const QModelIndexList rows = selection->selectedRows();
-    if (rows.size() > kMostNamesShown)
+    if (rows.size() > kMostNamesShown) {
+        name->setText(tr("%n file(s) and folder(s)", nullptr, static_cast<int>(rows.size())));
         return;
+    }
     QStringList names;
     bool hasFolder = false;
     for (const QModelIndex &row : rows) {
@@ -222,9 +259,12 @@ QList<QString> SpectrumFileDialog::_internalGetOpenFunction(QWidget *parent, con
 {
     GuardedDialog dialog(new SpectrumFileDialog(parent));
     QDir start(dir);
-    // A raw folder is shown among its neighbours, not from inside.
+    // A raw folder is shown among its neighbours, not from inside; so is a file.
     if (isVendorRawFolder(dir, true) && start.cdUp())
         start.setPath(start.absolutePath());
+    else if (QFileInfo(dir).isFile())
+        start.setPath(QFileInfo(dir).absolutePath());
+    dialog->m_folder = start.absolutePath();
     dialog->setDirectory(start);
     dialog->setNameFilter(filter);
     dialog->setWindowTitle(caption);

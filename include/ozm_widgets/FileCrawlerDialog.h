@@ -22,6 +22,8 @@
 class OZM_WIDGETS_EXPORT FileCrawlerDialog : public QDialog
 {
     Q_OBJECT
+    Q_PROPERTY(QString crawlFolderReference READ crawlFolderReference WRITE setCrawlFolderReference)
+    Q_PROPERTY(bool recursiveSearch READ recursiveSearch)
 
 public:
     using DestinationFileLocation = ozm::IFileAccessor::DestinationFileLocation;
@@ -37,8 +39,10 @@ public:
     [[nodiscard]] QList<QString> generateMSDataPaths();
     void generateMSDataPathsCsv();
 
-    /// The folder to search, as it stands in the dialog.
+    /// The folder to search, as it is written in the dialog. Blanks around it and "~" for the home folder are
+    /// understood when it is searched.
     [[nodiscard]] QString crawlFolderReference() const;
+    void setCrawlFolderReference(const QString &folder);
     [[nodiscard]] bool recursiveSearch() const;
 
     /// The data that the last search found, and the folders that it could not read.
@@ -67,5 +71,8 @@ private Q_SLOTS:
 
 private:
     class Private;
+
+    void acceptFound();
+
     const std::unique_ptr<Private> d;
 };

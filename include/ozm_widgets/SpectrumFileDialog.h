@@ -61,7 +61,9 @@ private:
     void finish();
     void showPicks();
     void recognise();
+    [[nodiscard]] bool isPicked(const QString &path) const;
 
     // Null in the plain dialog.
     ozm::PickRecognition *m_recognition = nullptr;
+    QString m_folder; ///< The one shown last, to tell the way up from the way down.
 };

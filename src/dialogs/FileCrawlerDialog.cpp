@@ -73,7 +73,21 @@ Error writeCsv(const QString &path, const Rows &rows)
 {
     if (ozm::CsvWriter::writeFile(path, rows))
         return {};
-    return Error(ErrorCode::Failed, u"Writing to csv file failed"_s).ecatch(OZM_HERE);
+    Error error(ErrorCode::Failed, u"Writing to csv file failed"_s);
+    error.addWarning(FileCrawlerDialog::tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(path)));
+    return error.ecatch(OZM_HERE);
+}
+
+/// A path as people write it: with blanks around it, or beginning at their home. A folder that is really
+/// called so comes first.
+QString meantFolder(const QString &typed)
+{
+    if (QFileInfo(typed).isDir())
+        return typed;
+    const QString path = typed.trimmed();
+    if (path == "~"_L1 || path.startsWith("~/"_L1))
+        return QDir::homePath() + path.sliced(1);
+    return path;
 }
 
 QString passedOverText(const QStringList &folders)
@@ -115,6 +129,7 @@ public:
     DestinationFileLocation destination;
     int foldersSearched = 0;
     bool asksForDestination = false;
+    bool isAccepting = false;
     bool wasCanceled = false;
 };
 
@@ -213,6 +228,11 @@ QString FileCrawlerDialog::crawlFolderReference() const
     return d->form.crawlPathLine->text();
 }
 
+void FileCrawlerDialog::setCrawlFolderReference(const QString &folder)
+{
+    d->form.crawlPathLine->setText(folder);
+}
+
 bool FileCrawlerDialog::recursiveSearch() const
 {
     return d->form.enableRecursiveSearch->isChecked();
@@ -246,8 +266,22 @@ int FileCrawlerDialog::exec()
 
 void FileCrawlerDialog::accept()
 {
+    // A second search beside the first would list everything twice.
+    if (d->isAccepting)
+        return;
+    const QPointer<FileCrawlerDialog> self(this);
+    d->isAccepting = true;
+    acceptFound();
+    if (self)
+        d->isAccepting = false;
+}
+
+void FileCrawlerDialog::acceptFound()
+{
     // Every step may run an event loop, in which the dialog's parent may go.
     const QPointer<FileCrawlerDialog> self(this);
+    // A derived dialog may search in its own way, which knows nothing of an earlier cancel.
+    d->wasCanceled = false;
     const auto found = retrieveMsReferences();
     if (!self || d->wasCanceled)
         return;
@@ -260,6 +294,7 @@ void FileCrawlerDialog::accept()
         return;
     }
     d->references = found.value();
+    d->form.showFound(static_cast<int>(d->references.size()));
     if (!d->passedOver.isEmpty()) {
         OZMStyle::information(this, ozm::OzmMessageBoxSignal::FileNotReadable, tr("Information"),
                               passedOverText(d->passedOver));
@@ -278,8 +313,7 @@ void FileCrawlerDialog::reject()
 
 ozm::Result<QList<QString>> FileCrawlerDialog::retrieveMsReferences()
 {
-    const QString folder = crawlFolderReference();
-    d->wasCanceled = false;
+    const QString folder = meantFolder(crawlFolderReference());
     d->passedOver.clear();
     if (folder.isEmpty() || !QFileInfo(folder).isDir())
         return Error(ErrorCode::Failed, u"Search path does not exist"_s).ecatch(OZM_HERE);

@@ -120,6 +120,11 @@ void FileCrawlerForm::showCanceled(int foldersSearched, int found)
                           .arg(found));
 }
 
+void FileCrawlerForm::showFound(int found)
+{
+    m_status->setText(FileCrawlerDialog::tr("Data found: %1.").arg(found));
+}
+
 void FileCrawlerForm::showPassedOver(const QStringList &folders)
 {
     m_passedOver->setPlainText(FileCrawlerDialog::tr("Passed over:\n%1").arg(folders.join(u'\n')));

@@ -23,6 +23,7 @@ public:
     void setSearching(bool isSearching);
     void showProgress(int foldersSearched, int found);
     void showCanceled(int foldersSearched, int found);
+    void showFound(int found);
     void showPassedOver(const QStringList &folders);
 
     QCheckBox *enableRecursiveSearch;

@@ -127,6 +127,9 @@ void PickRecognition::recognise(const QStringList &paths)
         showLines({});
         return;
     }
+    // The text about the former entry would be taken for one about this.
+    m_lines = {tr("Looking at %1 …").arg(QFileInfo(withoutSlashAtEnd(paths.constFirst())).fileName())};
+    elide();
     threads().start([requests = m_requests, number, paths] {
         const QStringList lines = linesFor(paths, [&] { return requests->latest != number; });
         requests->answer(number, lines);

@@ -1,16 +1,16 @@
 #include "dialogs/SaveProbe.h"
 
-#include <ozm_common_core_mini/PathUtils.h>
-
 #include <QFile>
 #include <QFileInfo>
 
-#ifdef Q_OS_LINUX
+#ifdef Q_OS_UNIX
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
+
+using namespace Qt::StringLiterals;
 
 namespace ozm {
 
@@ -34,8 +34,13 @@ QString targetOf(const QString &path)
 
 bool canBeOpened(const QString &path)
 {
+    if (mayBlock(path))
+        return false;
+    // Appending is to seek, which a device cannot; nor can it be cut short by a plain opening.
+    const QFileInfo entry(path);
+    const bool isDevice = entry.exists() && !entry.isFile() && !entry.isDir();
     QFile file(path);
-    return PathUtils::isExistingFile(path) && file.open(QIODevice::Append | QIODevice::ExistingOnly);
+    return file.open((isDevice ? QIODevice::WriteOnly : QIODevice::Append) | QIODevice::ExistingOnly);
 }
 
 #ifdef Q_OS_LINUX
@@ -75,8 +80,21 @@ bool canBeMade(const QString &path)
 
 } // namespace
 
+bool mayBlock(const QString &path)
+{
+#ifdef Q_OS_UNIX
+    struct stat entry = {};
+    return ::stat(QFile::encodeName(path).constData(), &entry) == 0 && S_ISFIFO(entry.st_mode);
+#else
+    return path.startsWith(R"(\\.\pipe\)"_L1, Qt::CaseInsensitive);
+#endif
+}
+
 SaveProbe probeSave(const QString &path)
 {
+    // The system would stop reading at a null character, and answer for another file.
+    if (path.contains(QChar::Null))
+        return SaveProbe::NotCreatable;
     if (QFile::exists(path))
         return canBeOpened(path) ? SaveProbe::Writable : SaveProbe::Locked;
     return canBeMade(targetOf(path)) ? SaveProbe::Writable : SaveProbe::NotCreatable;

@@ -12,11 +12,14 @@ enum class SaveProbe
 };
 
 /**
- * True when the file at @p path could be saved: it is opened for writing, or made and taken away again.
+ * Tries to write the file at @p path: opens it, or makes it and takes it away again.
  *
- * Leaves the disk as it was. Never opens what is not a file (a pipe would be waited for), never makes what a
- * link points at and then removes the link, and never removes what somebody else made in the meantime.
+ * Leaves the disk as it was. Never opens a pipe, never makes the target of a link and then removes the link,
+ * and never removes a file that somebody else made in the meantime.
  */
 [[nodiscard]] SaveProbe probeSave(const QString &path);
+
+/// True for a pipe: to open it for writing is to wait for a reader, without end when none comes.
+[[nodiscard]] bool mayBlock(const QString &path);
 
 } // namespace ozm

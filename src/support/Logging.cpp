@@ -1,3 +1,4 @@
 #include "support/Logging.h"
 
-Q_LOGGING_CATEGORY(lcOzmWidgets, "ozm.widgets")
+// Debug lines, one for each pick in a dialog, are off unless a rule asks for them.
+Q_LOGGING_CATEGORY(lcOzmWidgets, "ozm.widgets", QtInfoMsg)

@@ -334,7 +334,8 @@ void TestFileDialog::probeLeavesTheDiskAsItWas_data()
     QTest::newRow("dangling link into a folder without rights") << u"dangling locked"_s << kNotCreatable;
     QTest::newRow("link to itself") << u"loop"_s << kNotCreatable;
     QTest::newRow("pipe") << u"pipe"_s << kLocked;
-    QTest::newRow("link to a device") << u"to device"_s << kLocked;
+    QTest::newRow("link to a device") << u"to device"_s << writable;
+    QTest::newRow("null character") << u"file.csv"_s + QChar(u'\0') + u".csv"_s << kNotCreatable;
     QTest::newRow("socket") << u"socket"_s << kLocked;
     QTest::newRow("name too long") << QString(300, u'n') << kNotCreatable;
     QTest::newRow("below a device") << u"/dev/full/new.csv"_s << kNotCreatable;

@@ -105,6 +105,7 @@ private Q_SLOTS:
     void staysOpen();
     void droppedPicksAreLogged();
     void startsBesideARawFolder();
+    void pathsAreSelectedAndLeft();
     void staysWithTheToolkit();
     void showsWhatIsHighlighted_data();
     void showsWhatIsHighlighted();
@@ -289,6 +290,34 @@ void TestSpectrumFileDialog::startsBesideARawFolder()
         },
         picks.path(u"Run.d"_s));
     QCOMPARE(picked, QStringList{u"Run.d"_s});
+}
+
+void TestSpectrumFileDialog::pathsAreSelectedAndLeft()
+{
+    const Picks picks;
+    const auto answer = picks.ask(
+        [&](QDialog *shown) {
+            auto *dialog = qobject_cast<QFileDialog *>(shown);
+            QCOMPARE(dialog->directory().absolutePath(), picks.path());
+            const FileDialogDriver files(dialog);
+            QVERIFY(files.click(picks.path(u"one.mzml"_s)));
+            const auto call = [dialog](const char *slot, const QString &path) {
+                return QMetaObject::invokeMethod(dialog, slot, Q_ARG(QString, path));
+            };
+            QVERIFY(call("currentChanged_custom", picks.path(u"Run.d"_s)));
+            QCOMPARE(dialog->selectedFiles(), QStringList{picks.path(u"Run.d"_s)});
+            QCOMPARE(files.name()->text(), u"Run.d"_s);
+            // The way up from inside a raw folder leads past it.
+            dialog->setDirectory(picks.path(u"Run.d/AcqData"_s));
+            QVERIFY(call("directoryEntered_custom", picks.path(u"Run.d/AcqData"_s)));
+            dialog->setDirectory(picks.path(u"Run.d"_s));
+            QVERIFY(call("directoryEntered_custom", picks.path(u"Run.d"_s)));
+            QVERIFY(dialog->isVisible());
+            QCOMPARE(dialog->directory().absolutePath(), picks.path());
+            dialog->reject();
+        },
+        picks.path(u"one.mzml"_s));
+    QCOMPARE(answer, QStringList());
 }
 
 void TestSpectrumFileDialog::staysWithTheToolkit()

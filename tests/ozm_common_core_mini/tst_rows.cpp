@@ -204,8 +204,30 @@ private Q_SLOTS:
         QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
         QVERIFY(!ozm::CsvWriter::writeFile(pipe, {{u"a"_s}}));
         QVERIFY2(!QFileInfo(pipe).isFile(), "the pipe is still one");
+        QVERIFY(ozm::CsvWriter::writeFile(u"/dev/null"_s, {{u"a"_s}}));
+        QVERIFY(!ozm::CsvWriter::writeFile(u"/dev/full"_s, {{u"a"_s}}));
 #endif
+        const QString cut = folder.filePath(u"cut"_s);
+        QVERIFY(!ozm::CsvWriter::writeFile(cut + QChar(u'\0') + u".csv"_s, {{u"a"_s}}));
+        QVERIFY2(!QFile::exists(cut), "the file of the name up to the null character");
     }
+
+#ifdef Q_OS_UNIX
+    void csvKeepsSharedFiles()
+    {
+        const QTemporaryDir folder;
+        const QByteArray path = QFile::encodeName(folder.filePath(u"table.csv"_s));
+        const QByteArray other = QFile::encodeName(folder.filePath(u"other.csv"_s));
+        QFile old(QFile::decodeName(path));
+        QVERIFY(old.open(QIODevice::WriteOnly));
+        QCOMPARE(old.write("a much longer content than the new one"), 38);
+        old.close();
+        QCOMPARE(::link(path.constData(), other.constData()), 0);
+        QVERIFY(ozm::CsvWriter::writeFile(QFile::decodeName(path), {{u"a"_s}}));
+        QCOMPARE(contentOf(QFile::decodeName(other)), QByteArray("\xef\xbb\xbf"
+                                                                 "a\r\n"));
+    }
+#endif
 };
 
 QTEST_GUILESS_MAIN(TestRows)

@@ -19,8 +19,9 @@ class OZM_COMMON_CORE_MINI_EXPORT CsvWriter
 {
 public:
     /**
-     * Replaces the file at @p path by @p rows, once all of them are written; false leaves it as it was.
-     * Folders, devices and pipes are refused.
+     * Replaces the file at @p path by @p rows, once all of them are written; false leaves it as it was. A file
+     * with hard links, or of another owner or group, stays that file. Folders, pipes, and names with a null
+     * character are refused. The whole table is in memory once more while it is written.
      *
      * @p text is the text qualifier, one character; empty means the double quote.
      */
