@@ -44,8 +44,9 @@ class UndoStack;
  *         ozm::Error set(const QVariant &charge)
  *         {
  *             using namespace ozm;
- *             return m_row->setDataAt(kCharge, charge) ? Error() : Error(ErrorCode::Failed, tr("No such
- * row."));
+ *             if (!m_row->setDataAt(kCharge, charge))
+ *                 return Error(ErrorCode::Failed, tr("There is no such row."));
+ *             return {};
  *         }
  *
  *         RowNode *m_row;
