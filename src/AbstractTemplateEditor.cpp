@@ -3,6 +3,7 @@
 #include "editor/TemplateEditorPrivate.h"
 #include "templates/syntax/Envelope.h"
 
+#include "support/Platform.h"
 #include <ozm_common_core_mini/RowNode.h>
 
 #include <QCloseEvent>
@@ -26,7 +27,8 @@ QList<RowNode *> AbstractTemplateEditor::previewRows() const
 
 QString AbstractTemplateEditor::previewName(const RowNode &row) const
 {
-    return row.columnCount() > 0 ? row.getDataAt(0).toString() : QString();
+    const QStringList columns = ozm::platform::columnsOf(row);
+    return columns.isEmpty() ? QString() : row.getDataAt(columns.constFirst(), nullptr, false).toString();
 }
 
 QList<DecodeTecExtraData> AbstractTemplateEditor::extraData(const RowNode *row) const

@@ -3,6 +3,7 @@
 #include <ozm_references/LocalResourceReference.h>
 #include <ozm_references/ResourceReferenceUtils.h>
 #include <ozm_widgets/OZMFileDialog.h>
+#include <platform/Errors.h>
 
 #include <QFileInfo>
 
@@ -33,7 +34,7 @@ DefaultFileAccessor::getOpenFileReference(QWidget *parent, const QString &captio
     const auto reference = localReference(path);
     if (reference)
         return reference.value();
-    Error(reference.error()).ecatch(OZM_HERE);
+    Error(reference.error()).ecatch(OZM_PLACE);
     return {};
 }
 
@@ -63,7 +64,7 @@ DefaultFileAccessor::getOpenFileReferences(QWidget *parent, const QString &capti
         getOpenFileNames(parent, caption, dir, filter, selectedFilter, options, dirLocation));
     if (references)
         return references.value();
-    Error(references.error()).ecatch(OZM_HERE);
+    Error(references.error()).ecatch(OZM_PLACE);
     return {};
 }
 
@@ -86,14 +87,14 @@ DefaultFileAccessor::getSaveFileName(QWidget *parent, const QString &caption, co
     const auto reference = localReference(path);
     if (reference)
         return {reference.value(), QFileInfo(path).fileName()};
-    Error(reference.error()).ecatch(OZM_HERE);
+    Error(reference.error()).ecatch(OZM_PLACE);
     return {};
 }
 
 Error DefaultFileAccessor::saveFile(const DestinationFileLocation &location, const Writer &writer) const
 {
     if (location.isCanceled())
-        return Error(ErrorCode::BadParameter, u"There is no place to save to."_s).ecatch(OZM_HERE);
+        return Error(ozm::codes::BadParameter, u"There is no place to save to."_s).ecatch(OZM_PLACE);
     return writer(location.reference->location());
 }
 
@@ -109,7 +110,7 @@ DefaultFileAccessor::getLocalPathToFileToBeOpened(const QSharedPointer<ResourceR
     Q_UNUSED(parent);
     if (reference)
         return reference->location();
-    return Error(ErrorCode::BadParameter, u"Selected file reference is empty!"_s);
+    return Error(ozm::codes::BadParameter, u"Selected file reference is empty!"_s);
 }
 
 } // namespace ozm

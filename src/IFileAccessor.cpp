@@ -2,8 +2,10 @@
 
 #include "dialogs/SaveProbe.h"
 
+#include "support/Platform.h"
 #include <ozm_common_core_mini/CsvWriter.h>
 #include <ozm_qt_shared_libs_core/FileUtilsGeneric.h>
+#include <platform/Errors.h>
 
 #include <QFile>
 #include <QFileInfo>
@@ -56,7 +58,7 @@ QString IFileAccessor::DestinationFileLocation::toString() const
         return u"%1: %2"_s.arg(location, path);
     if (!QFileInfo(location).isDir())
         return location;
-    return FileUtilsGeneric::createFilePathForLocalResource(location, path).valueOr({});
+    return platform::valueOr(FileUtilsGeneric::createFilePathForLocalResource(location, path), QString());
 }
 
 IFileAccessor::~IFileAccessor() = default;
@@ -120,7 +122,7 @@ Error IFileAccessor::saveFile(const DestinationFileLocation &location, const QBy
             file.close();
             return Error();
         }
-        Error error(ErrorCode::FileAccess, u"Couldn't open save file."_s);
+        Error error(ozm::codes::FileAccess, u"Couldn't open save file."_s);
         return error.ecatch(QString::fromUtf8(Q_FUNC_INFO), kSource, kBytesLine);
     });
 }
@@ -131,7 +133,7 @@ Error IFileAccessor::saveCsvFile(const DestinationFileLocation &location, const 
     return saveFile(location, [rows, text, separator](const QString &path) {
         if (CsvWriter::writeFile(path, rows, text, separator))
             return Error();
-        Error error(ErrorCode::Failed, u"Writing to csv file failed"_s);
+        Error error(ozm::codes::Failed, u"Writing to csv file failed"_s);
         return error.ecatch(QString::fromUtf8(Q_FUNC_INFO), kSource, kCsvLine);
     });
 }

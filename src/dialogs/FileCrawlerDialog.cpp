@@ -3,12 +3,14 @@
 #include "dialogs/FileCrawlerForm.h"
 #include "dialogs/GuardedDialog.h"
 
+#include "support/Platform.h"
 #include <ozm_common_core/CustomFieldsStringConstants.h>
 #include <ozm_common_core_mini/CsvWriter.h>
 #include <ozm_widgets/DefaultWidgetCreator.h>
 #include <ozm_widgets/MsDataSearch.h>
 #include <ozm_widgets/OZMStyle.h>
 #include <ozm_widgets/openfilefolderdialog.h>
+#include <platform/Errors.h>
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -20,7 +22,6 @@
 using namespace Qt::StringLiterals;
 using ozm::DefaultWidgetCreator;
 using ozm::Error;
-using ozm::ErrorCode;
 using ozm::GuardedDialog;
 using ozm::msreader::MsDataSearch;
 using ozm::msreader::MsSample;
@@ -32,15 +33,15 @@ using Rows = QList<QList<QString>>;
 // More than that nobody reads in a message.
 constexpr qsizetype kMostPassedOverShown = 10;
 
-FileSystemSettings::DirLocation crawlLocation()
+ExtendableEnumRef<FileSystemSettings::DirLocationData> crawlLocation()
 {
-    static const auto location = FileSystemSettings::addLocation(u"msDataSearch"_s);
+    static const auto location = ozm::platform::dirLocation(u"msDataSearch"_s);
     return location;
 }
 
-FileSystemSettings::DirLocation csvLocation()
+ExtendableEnumRef<FileSystemSettings::DirLocationData> csvLocation()
 {
-    static const auto location = FileSystemSettings::addLocation(u"msDataPathsCsv"_s);
+    static const auto location = ozm::platform::dirLocation(u"msDataPathsCsv"_s);
     return location;
 }
 
@@ -71,11 +72,12 @@ Rows csvRows(const QList<QString> &paths)
 
 Error writeCsv(const QString &path, const Rows &rows)
 {
-    if (ozm::CsvWriter::writeFile(path, rows))
+    if (ozm::CsvWriter::writeFile(path, rows, {}, u','))
         return {};
-    Error error(ErrorCode::Failed, u"Writing to csv file failed"_s);
-    error.addWarning(FileCrawlerDialog::tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(path)));
-    return error.ecatch(OZM_HERE);
+    const QString warning =
+        FileCrawlerDialog::tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(path));
+    return ozm::platform::withWarning(Error(ozm::codes::Failed, u"Writing to csv file failed"_s), warning)
+        .ecatch(OZM_PLACE);
 }
 
 /// A path as people write it: with blanks around it, or beginning at their home. A folder that is really
@@ -162,7 +164,7 @@ ozm::Result<QList<QString>> FileCrawlerDialog::Private::search(const QString &fo
     if (wasCanceled)
         form.showCanceled(foldersSearched, static_cast<int>(references.size()));
     if (failure.hasError())
-        return failure.ecatch(OZM_HERE);
+        return failure.ecatch(OZM_PLACE);
     return references;
 }
 
@@ -316,7 +318,7 @@ ozm::Result<QList<QString>> FileCrawlerDialog::retrieveMsReferences()
     const QString folder = meantFolder(crawlFolderReference());
     d->passedOver.clear();
     if (folder.isEmpty() || !QFileInfo(folder).isDir())
-        return Error(ErrorCode::Failed, u"Search path does not exist"_s).ecatch(OZM_HERE);
+        return Error(ozm::codes::Failed, u"Search path does not exist"_s).ecatch(OZM_PLACE);
     return d->search(folder);
 }
 

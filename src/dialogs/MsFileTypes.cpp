@@ -10,9 +10,9 @@ namespace {
 
 struct MsFileTypes
 {
-    FileTypes::Ref any;
-    FileTypes::Ref file;
-    FileTypes::Ref folder;
+    FileTypeRef any;
+    FileTypeRef file;
+    FileTypeRef folder;
 };
 
 /// In an order that is the same in every process.
@@ -38,12 +38,12 @@ const MsFileTypes &types()
 
 } // namespace
 
-FileTypes::Ref msFileType()
+FileTypeRef msFileType()
 {
     return types().any;
 }
 
-FileTypes::Ref msFolderType()
+FileTypeRef msFolderType()
 {
     return types().folder;
 }

@@ -4,11 +4,13 @@
 
 namespace ozm {
 
+using FileTypeRef = ExtendableEnumRef<FileTypes::FileTypeData>;
+
 // The file types of mass-spectrometry data, which are registered when the library is loaded.
 
 /// "MS": files and folders.
-[[nodiscard]] FileTypes::Ref msFileType();
+[[nodiscard]] FileTypeRef msFileType();
 /// "MS_DIR": folders.
-[[nodiscard]] FileTypes::Ref msFolderType();
+[[nodiscard]] FileTypeRef msFolderType();
 
 } // namespace ozm

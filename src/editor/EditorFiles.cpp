@@ -1,9 +1,11 @@
 #include "editor/EditorFiles.h"
 
+#include "support/Platform.h"
 #include <ozm_references/LocalResourceReference.h>
 #include <ozm_widgets/AbstractTemplateEditor.h>
 #include <ozm_widgets/DefaultWidgetCreator.h>
 #include <ozm_widgets/OZMStyle.h>
+#include <platform/Errors.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -26,7 +28,7 @@ constexpr auto kRecentKey = "templateEditor/recentFiles"_L1;
 
 IFileAccessor::DirLocation templateLocation()
 {
-    static const auto location = FileSystemSettings::addLocation(u"templates"_s);
+    static const auto location = ozm::platform::dirLocation(u"templates"_s);
     return location;
 }
 
@@ -138,7 +140,7 @@ Result<TemplateFile::Loaded> EditorFiles::read(const QString &path)
     // Reading a page lets events through.
     const QScopedValueRollback asking(m_isAsking, true);
     auto loaded = TemplateFile::read(path);
-    if (loaded || loaded.error().errorCode() != ErrorCode::NotAllowed)
+    if (loaded || loaded.error().errorCode() != ozm::codes::NotAllowed)
         return loaded;
     const auto answer =
         OZMStyle::question(m_editor, Signal::FileNotReadable, tr("Page without its reader"),
@@ -151,7 +153,7 @@ bool EditorFiles::open(const QString &path)
     const auto loaded = read(path);
     if (!loaded) {
         // Said already, as the question.
-        if (loaded.error().errorCode() != ErrorCode::NotAllowed) {
+        if (loaded.error().errorCode() != ozm::codes::NotAllowed) {
             OZMStyle::critical(m_editor, Signal::FileNotReadable, tr("Template not opened"),
                                QDir::toNativeSeparators(path), loaded.error());
         }

@@ -4,8 +4,10 @@
 #include "templates/document/InlineHtml.h"
 #include "templates/paper/TemplatePrinting.h"
 
+#include "support/Platform.h"
 #include <ozm_widgets/DefaultWidgetCreator.h>
 #include <ozm_widgets/OZMStyle.h>
+#include <platform/Errors.h>
 
 #include <QBuffer>
 #include <QDialog>
@@ -37,11 +39,11 @@ Result<QString> readImage(const QString &path)
     QFile file(path);
     const QString name = QDir::toNativeSeparators(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return Error(ErrorCode::FileAccess,
+        return Error(ozm::codes::FileAccess,
                      EditorQuestions::tr("\"%1\" cannot be read: %2").arg(name, file.errorString()));
     }
     if (file.size() > kLargestImage) {
-        return Error(ErrorCode::BadParameter,
+        return Error(ozm::codes::BadParameter,
                      EditorQuestions::tr("\"%1\" is too large for a template.").arg(name));
     }
     QByteArray bytes = file.readAll();
@@ -49,7 +51,7 @@ Result<QString> readImage(const QString &path)
     QImageReader reader(&buffer);
     const QByteArray format = reader.format();
     if (reader.read().isNull()) {
-        return Error(ErrorCode::BadParameter,
+        return Error(ozm::codes::BadParameter,
                      EditorQuestions::tr("\"%1\" is not an image that can be shown.").arg(name));
     }
     return imageSource(bytes, format == "svg" ? QByteArray("svg+xml") : format);
@@ -68,7 +70,7 @@ EditorQuestions::EditorQuestions(EditorViews &views, TemplatePrinting &printing,
 
 void EditorQuestions::askImage()
 {
-    static const auto location = FileSystemSettings::addLocation(u"templateImages"_s);
+    static const auto location = ozm::platform::dirLocation(u"templateImages"_s);
     const QString path = DefaultWidgetCreator::fileAccessor()->getOpenFileName(
         m_window, tr("Insert image"), {},
         FileExtensionsNameFilter(tr("Images (*.png *.jpg *.jpeg *.gif *.bmp *.svg);;All files (*)")),
@@ -115,7 +117,7 @@ void EditorQuestions::askLink()
 
 void EditorQuestions::askPdf()
 {
-    static const auto location = FileSystemSettings::addLocation(u"templatePdfs"_s);
+    static const auto location = ozm::platform::dirLocation(u"templatePdfs"_s);
     const auto accessor = DefaultWidgetCreator::fileAccessor(IFileAccessor::FileAccessorType::Report);
     const QString name = m_report.name();
     const auto target =

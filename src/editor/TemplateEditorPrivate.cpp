@@ -8,6 +8,7 @@
 #include "editor/TextFormatting.h"
 #include "templates/decoding/TemplateDecoder.h"
 
+#include "support/Platform.h"
 #include <ozm_common_core_mini/RowNode.h>
 #include <ozm_widgets/OZMDockWidgetTitleBar.h>
 
@@ -223,8 +224,8 @@ void AbstractTemplateEditor::Private::refresh()
     for (const RowNode *row : rows)
         names.append(qptr->previewName(*row));
     if (!rows.isEmpty()) {
-        for (const QString &column : rows.constFirst()->columnNames())
-            parameters.insert(u'[' + column + u']', rows.constFirst()->getDataAt(column));
+        for (const QString &column : ozm::platform::columnsOf(*rows.constFirst()))
+            parameters.insert(u'[' + column + u']', rows.constFirst()->getDataAt(column, nullptr, false));
     }
     m_codes->setCodes(qptr->shortCodes(), parameters);
     m_views.refresh(m_history->session());

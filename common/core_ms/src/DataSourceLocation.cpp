@@ -1,6 +1,7 @@
 #include "DataSourceLocation.h"
 
 #include <ozm_common_core_mini/FilePathUtils.h>
+#include <platform/Errors.h>
 
 #include <QDebug>
 
@@ -32,10 +33,10 @@ DataSourceLocation DataSourceLocation::fromDatabaseHandler(const void *handler)
 Error DataSourceLocation::checkValidVendorFilePath(const QString &path)
 {
     if (path.isEmpty())
-        return Error(ErrorCode::BadParameter, u"Vendor file name is empty"_s).ecatch(OZM_HERE);
+        return Error(ozm::codes::BadParameter, u"Vendor file name is empty"_s).ecatch(OZM_PLACE);
     if (FilePathUtils::isWinLongPath(path) && !FilePathUtils::hasWinLongPathPrefix(path)) {
-        return Error(ErrorCode::BadParameter, u"The path exceeds %1"_s.arg(FilePathUtils::winMaxPathLength))
-            .ecatch(OZM_HERE);
+        return Error(ozm::codes::BadParameter, u"The path exceeds %1"_s.arg(FilePathUtils::winMaxPathLength))
+            .ecatch(OZM_PLACE);
     }
     return {};
 }

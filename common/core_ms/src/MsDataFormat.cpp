@@ -1,4 +1,5 @@
 #include "MsDataFormat.h"
+#include <platform/Errors.h>
 
 #include "internal/FormatTable.h"
 
@@ -22,9 +23,9 @@ Result<VendorDataFormat> MsDataFormat::fromString(const QString &text)
     if (row != internal::kFormats.end())
         return row->format;
     // "to string" although it is from: the text is in the tests and manuals of the applications.
-    return Error(ErrorCode::BadParameter,
+    return Error(ozm::codes::BadParameter,
                  u"Could not find match for converting vendor data format to string: %1"_s.arg(text))
-        .ecatch(OZM_HERE);
+        .ecatch(OZM_PLACE);
 }
 
 } // namespace ozm::msreader

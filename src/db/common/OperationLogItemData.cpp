@@ -6,6 +6,7 @@
 #include <QDebug>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <platform/Errors.h>
 
 using namespace Qt::StringLiterals;
 
@@ -93,17 +94,17 @@ Result<OperationLogItemData> OperationLogItemData::fromJson(const QByteArray &js
     QJsonParseError problem;
     const QJsonDocument document = QJsonDocument::fromJson(json, &problem);
     if (problem.error != QJsonParseError::NoError) {
-        return Error(ErrorCode::BadParameter,
+        return Error(ozm::codes::BadParameter,
                      tr("The record cannot be read from byte %1 on: %2.")
                          .arg(QString::number(problem.offset), problem.errorString()))
-            .ecatch(OZM_HERE);
+            .ecatch(OZM_PLACE);
     }
     OperationLogItemData data;
     data.read(document.object());
     if (!data.isValid()) {
-        return Error(ErrorCode::BadParameter,
+        return Error(ozm::codes::BadParameter,
                      tr("The record has no known operation, subject, attributes or undo context."))
-            .ecatch(OZM_HERE);
+            .ecatch(OZM_PLACE);
     }
     return data;
 }

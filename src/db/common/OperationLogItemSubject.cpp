@@ -3,6 +3,7 @@
 #include "LogValue.h"
 #include "OperationLogTables.h"
 
+#include "support/Platform.h"
 #include <ozm_common_core_mini/ColumnFriendlyName.h>
 #include <ozm_common_core_mini/RowNode.h>
 
@@ -19,7 +20,7 @@ void insertKey(QMap<QString, QVariant> &key, OperationLogItemSubject::Type type,
         return;
     for (const QString &column : *columns) {
         bool found = false;
-        const QVariant value = row.getDataAt(column, &found);
+        const QVariant value = row.getDataAt(column, &found, false);
         if (found)
             key.insert(column, value);
     }
@@ -29,7 +30,7 @@ QString valuesToString(const QMap<QString, QVariant> &values)
 {
     QStringList texts;
     for (auto value = values.constBegin(); value != values.constEnd(); ++value)
-        texts.append(ColumnFriendlyName::friendlyName(value.key()) + ": "_L1 +
+        texts.append(platform::displayName(value.key()) + ": "_L1 +
                      logvalue::toText(logvalue::toJson(value.value())));
     return logvalue::onOneLine(texts.join(", "_L1));
 }

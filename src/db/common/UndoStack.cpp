@@ -5,6 +5,7 @@
 
 #include <ozm_widgets/db/common/AuditTrailLoggingInterface.h>
 #include <ozm_widgets/db/common/AuditTrailMonitor.h>
+#include <platform/Errors.h>
 
 #include <QScopedValueRollback>
 
@@ -32,9 +33,9 @@ Error UndoStack::push(UndoCommand *command)
     if (d->historySteps > 0) {
         OZM_WIDGETS_WARNING() << "Push refused while an undo or redo runs:" << command->text();
         delete command;
-        return Error(ErrorCode::NotAllowed,
+        return Error(ozm::codes::NotAllowed,
                      tr("A new edit cannot be made while another is being undone or redone."))
-            .ecatch(OZM_HERE);
+            .ecatch(OZM_PLACE);
     }
     d->adoptLatest();
     command->setStack(this);

@@ -2,6 +2,7 @@
 
 #include "support/Logging.h"
 
+#include "support/Platform.h"
 #include <ozm_common_core_mini/AsyncUtils.h>
 #include <ozm_widgets/OzmMessageBox.h>
 
@@ -166,7 +167,7 @@ Button runMessageBox(const MessageBoxDescription &description, QWidget *parent)
     if (!isGuiThread()) {
         const auto answer =
             AsyncUtils::executeInThread<Button>(qApp, [&] { return runMessageBox(description, parent); });
-        return answer.valueOr(description.answerUnshown());
+        return platform::valueOr(answer, description.answerUnshown());
     }
     // The parent may go, and the box with it, while its event loop runs.
     const QPointer<OzmMessageBox> box = buildMessageBox(description, parent);
@@ -184,12 +185,13 @@ Button askOnThreadOf(QWidget *parent, const MessageBoxDescription &description,
                      const std::function<Button()> &work)
 {
     if (isGuiThread())
-        return AsyncUtils::executeInThread<Button>(parent, work).valueOr(description.answerUnshown());
+        return platform::valueOr(AsyncUtils::executeInThread<Button>(parent, work),
+                                 description.answerUnshown());
     // Widgets live on the GUI thread, so that is where to go; the parent itself cannot be asked from here,
     // as it may be deleted in the middle of that.
     const auto answer = AsyncUtils::executeInThread<std::optional<Button>>(
         qApp, [&] { return isLivingWidget(parent) ? std::optional(work()) : std::nullopt; });
-    return answer.valueOr(std::nullopt).value_or(description.answerUnshown());
+    return platform::valueOr(answer, std::optional<Button>()).value_or(description.answerUnshown());
 }
 
 void openMessageBox(const MessageBoxDescription &description, QWidget *parent, QObject *context,

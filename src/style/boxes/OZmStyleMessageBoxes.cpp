@@ -3,6 +3,7 @@
 #include "style/boxes/MessageBoxDescription.h"
 #include "support/Logging.h"
 
+#include "support/Platform.h"
 #include <QWidget>
 
 #include <algorithm>
@@ -37,7 +38,7 @@ DisplayString withError(const DisplayString &text, const Error &error)
 {
     const bool rich = text.format() == Qt::RichText;
     const bool unnamed = error.errorMessage().isEmpty();
-    QString reason = unnamed ? error.errorString() : error.errorMessage();
+    QString reason = unnamed ? ozm::platform::codeText(error) : error.errorMessage();
     if (rich)
         reason = reason.toHtmlEscaped();
     const QString whole =

@@ -4,6 +4,7 @@
 #include "support/Logging.h"
 #include "templates/syntax/NamePattern.h"
 
+#include "support/Platform.h"
 #include <ozm_common_core_mini/ColumnFriendlyName.h>
 #include <ozm_common_core_mini/GroupSummary.h>
 #include <ozm_common_core_mini/RowNode.h>
@@ -211,7 +212,7 @@ QString TemplateDecoder::read(const ozm::TemplateText &parsed, const QMap<QStrin
 }
 
 SummaryRow::SummaryRow(const QList<RowNode *> &rows)
-    : m_root(std::make_unique<RowNode>(*rows.constFirst()->root()))
+    : m_root(std::make_unique<RowNode>(*ozm::platform::rootOf(rows.constFirst())))
     , m_row(m_root->addNewChildMatchRootDataSize())
 {
     for (const RowNode *row : rows)

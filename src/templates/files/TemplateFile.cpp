@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
+#include <platform/Errors.h>
 
 using namespace Qt::StringLiterals;
 
@@ -24,19 +25,19 @@ QByteArray digestOf(const QByteArray &bytes)
 
 Error notRead(const QString &path, const QString &why)
 {
-    return Error(ErrorCode::FileAccess,
+    return Error(ozm::codes::FileAccess,
                  TemplateFile::tr("\"%1\" cannot be read: %2").arg(QDir::toNativeSeparators(path), why));
 }
 
 Error notWritten(const QString &path, const QString &why)
 {
-    return Error(ErrorCode::FileAccess,
+    return Error(ozm::codes::FileAccess,
                  TemplateFile::tr("\"%1\" cannot be written: %2").arg(QDir::toNativeSeparators(path), why));
 }
 
 Error refused(const QString &why)
 {
-    return Error(ErrorCode::BadParameter, why);
+    return Error(ozm::codes::BadParameter, why);
 }
 
 QString tooLarge()
@@ -147,11 +148,11 @@ Error TemplateFile::write(const QString &path, const QString &content)
     if (!bytes)
         return bytes.error();
     if (isNoFile(path))
-        return notWritten(path, tr("This is not a file.")).ecatch(OZM_HERE);
+        return notWritten(path, tr("This is not a file.")).ecatch(OZM_PLACE);
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeAll(file, bytes.value()) ||
         !file.commit())
-        return notWritten(path, file.errorString()).ecatch(OZM_HERE);
+        return notWritten(path, file.errorString()).ecatch(OZM_PLACE);
     return {};
 }
 

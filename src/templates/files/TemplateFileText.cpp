@@ -3,7 +3,9 @@
 #include "templates/syntax/Envelope.h"
 #include "templates/syntax/HtmlScanner.h"
 
+#include "support/Platform.h"
 #include <ozm_widgets/TemplateFile.h>
+#include <platform/Errors.h>
 
 #include <QRegularExpression>
 #include <QTextCodec>
@@ -99,7 +101,7 @@ Result<DecodedText> decodePage(const QByteArray &bytes)
     QTextCodec *codec = codecFor(charset);
     if (!codec) {
         return Error(
-            ErrorCode::BadParameter,
+            ozm::codes::BadParameter,
             TemplateFile::tr("The page says that it is written in the character set \"%1\", which is not "
                              "known here.")
                 .arg(QString::fromLatin1(charset)));
@@ -107,7 +109,7 @@ Result<DecodedText> decodePage(const QByteArray &bytes)
     if (const std::optional<DecodedText> text = decoded(codec, bytes))
         return *text;
     return Error(
-        ErrorCode::BadParameter,
+        ozm::codes::BadParameter,
         TemplateFile::tr("The page says that it is written in the character set \"%1\", but it holds "
                          "bytes that mean nothing in it.")
             .arg(QString::fromLatin1(charset)));
@@ -117,10 +119,8 @@ Result<DecodedText> decodePage(const QByteArray &bytes)
 
 Error wrongTemplateFormat(const QString &detail)
 {
-    Error error(ErrorCode::BadParameter, TemplateFile::tr("Wrong template editor content format."));
-    if (!detail.isEmpty())
-        error.addWarning(detail);
-    return error;
+    const Error error(ozm::codes::BadParameter, TemplateFile::tr("Wrong template editor content format."));
+    return detail.isEmpty() ? error : platform::withWarning(error, detail);
 }
 
 Result<DecodedText> decodeTemplateFile(const QByteArray &bytes)

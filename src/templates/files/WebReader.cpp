@@ -7,6 +7,7 @@
 #include "templates/syntax/ScriptTags.h"
 
 #include <ozm_widgets/TemplateFile.h>
+#include <platform/Errors.h>
 
 #include <QGuiApplication>
 #include <QThread>
@@ -82,7 +83,7 @@ Result<WebReaderInterface *> webReader()
     auto *application = qobject_cast<QGuiApplication *>(QCoreApplication::instance());
     if (!application || QThread::currentThread() != application->thread()) {
         return Error(
-            ErrorCode::NotAllowed,
+            ozm::codes::NotAllowed,
             TemplateFile::tr("The body of a web page can only be read on the main thread of a program with "
                              "windows."));
     }
@@ -91,7 +92,7 @@ Result<WebReaderInterface *> webReader()
     if (!reader)
         reader = findReader();
     if (!reader)
-        return Error(ErrorCode::NotAllowed, notThereText());
+        return Error(ozm::codes::NotAllowed, notThereText());
     return reader;
 }
 

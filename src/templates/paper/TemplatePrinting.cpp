@@ -3,6 +3,7 @@
 #include "templates/syntax/ScriptTags.h"
 
 #include <ozm_widgets/TemplateDocument.h>
+#include <platform/Errors.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -85,8 +86,8 @@ Error TemplatePrinting::writePdf(const QString &path, const QString &decoded, co
     }
     if (file.commit())
         return {};
-    return Error(ErrorCode::FileAccess, tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(path)))
-        .ecatch(OZM_HERE);
+    return Error(ozm::codes::FileAccess, tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(path)))
+        .ecatch(OZM_PLACE);
 }
 
 } // namespace ozm::editor

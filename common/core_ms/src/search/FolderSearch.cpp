@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <platform/Errors.h>
 
 #include <algorithm>
 #include <ranges>
@@ -61,20 +62,20 @@ Error FolderSearch::checkStart(const QString &folder)
         return {};
     case EntryKind::File:
     case EntryKind::Other:
-        return Error(ErrorCode::BadParameter,
+        return Error(ozm::codes::BadParameter,
                      Text::tr("The search path is a file, not a folder: %1").arg(folder));
     case EntryKind::Missing:
         break;
     }
     if (entry.obstacle == Obstacle::Missing || entry.obstacle == Obstacle::NotText)
-        return Error(ErrorCode::Failed, Text::tr("Search path does not exist"));
-    return Error(ErrorCode::FileAccess, folder + u": "_s + refusalReason(folder, entry));
+        return Error(ozm::codes::Failed, Text::tr("Search path does not exist"));
+    return Error(ozm::codes::FileAccess, folder + u": "_s + refusalReason(folder, entry));
 }
 
 Error FolderSearch::search(const QString &folder)
 {
     if (Error error = checkStart(folder); error.hasError())
-        return error.ecatch(OZM_HERE);
+        return error.ecatch(OZM_PLACE);
     // As the user wrote it, but from the root.
     const QString path = disk::withoutSlashAtEnd(QFileInfo(folder).absoluteFilePath());
     m_realStart = realPathOf(path);
@@ -82,9 +83,9 @@ Error FolderSearch::search(const QString &folder)
     if (listIfData(start))
         return {};
     if (const Obstacle obstacle = readFolder(start); obstacle != Obstacle::None) {
-        return Error(ErrorCode::FileAccess, Text::tr("The search path cannot be read: %1").arg(folder) +
-                                                u'\n' + folderReason(obstacle))
-            .ecatch(OZM_HERE);
+        return Error(ozm::codes::FileAccess, Text::tr("The search path cannot be read: %1").arg(folder) +
+                                                 u'\n' + folderReason(obstacle))
+            .ecatch(OZM_PLACE);
     }
     searchWaiting();
     return {};

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QString>
+
+namespace ozm {
+
+[[nodiscard]] QString adjustBrukerFilenPathToFolderPath(const QString &path, bool *changed);
+
+} // namespace ozm

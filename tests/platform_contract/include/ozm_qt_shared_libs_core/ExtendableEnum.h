@@ -1,0 +1,8 @@
+#pragma once
+
+template <typename Data>
+class ExtendableEnumRef
+{
+public:
+    ExtendableEnumRef();
+};
