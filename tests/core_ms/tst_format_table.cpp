@@ -1,12 +1,16 @@
 #include "support/StrictTest.h"
 
+#include <FormatDetection.h>
 #include <MsDataFormat.h>
 #include <MsFileInfo.h>
 #include <internal/FormatDetectorSimple.h>
 #include <internal/FormatRegistry.h>
 #include <internal/FormatTable.h>
 
+#include <atomic>
 #include <stdexcept>
+#include <thread>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 using namespace ozm::msreader;
@@ -61,7 +65,30 @@ class TestFormatTable : public ozm::test::StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    // First: a warning at the making of the collections would come here, on first use.
+    // First, as the registry is built once. Fails under the thread sanitizer, or at the count, when a thread sees
+    // a table half built.
+    void firstUseFromManyThreads()
+    {
+        constexpr int kThreads = 16;
+        std::atomic<bool> go = false;
+        std::atomic<int> right = 0;
+        std::vector<std::thread> threads;
+        for (int i = 0; i < kThreads; ++i) {
+            threads.emplace_back([&go, &right, i] {
+                while (!go) {
+                }
+                const auto location = DataSourceLocation::fromLocalPath(u"/no/such/run.d"_s);
+                right += i % 2 == 0 ? detectFormats(location, true, false).size() == 8
+                                    : MsFileInfo::allExtensions().size() == 15;
+            });
+        }
+        go = true;
+        for (std::thread &thread : threads)
+            thread.join();
+        QCOMPARE(right.load(), kThreads);
+    }
+
+    // Second: a warning at the making of the collections would come here, on first use.
     void extensionCollections()
     {
         const QSet<QString> files{u"zuspec2"_s, u"mbi"_s,     u"lcd"_s,      u"wiff"_s, u"wiff2"_s,
@@ -81,19 +108,10 @@ private Q_SLOTS:
         QTEST(MsFileInfo::fileNameExtension(format(value)), "extension");
         QTEST(MsFileInfo::isFile(format(value)), "isFile");
         QTEST(MsFileInfo::isFolder(format(value)), "isFolder");
-    }
-
-    void names_data() { addFormats(); }
-    void names()
-    {
-        QFETCH(int, value);
         const QString name = QString::fromLatin1(QTest::currentDataTag());
         QCOMPARE(MsDataFormat::toString(format(value)), name);
-        for (const QString &text : {name, name.toLower(), name.toUpper()}) {
-            const auto converted = MsDataFormat::fromString(text);
-            QVERIFY(converted);
-            QCOMPARE(converted.value(), format(value));
-        }
+        for (const QString &text : {name, name.toLower(), name.toUpper()})
+            QCOMPARE(MsDataFormat::fromString(text).value(), format(value));
         // The meta-object knows the same names, for settings that are written through it.
         QCOMPARE(QString::fromLatin1(QMetaEnum::fromType<VendorDataFormat>().valueToKey(value)), name);
     }
@@ -146,21 +164,6 @@ private Q_SLOTS:
         QCOMPARE(int(converted.error().errorCode()), 2);
         QCOMPARE(converted.error().errorMessage(),
                  u"Could not find match for converting vendor data format to string: "_s + text);
-    }
-
-    void registryOrder()
-    {
-        QStringList order;
-        for (const auto &detector : internal::detectors()) {
-            const auto formats = detector->supportedFormats();
-            order.append(formats.size() > 1 ? u"Bruker"_s : MsDataFormat::toString(*formats.cbegin()));
-        }
-        const QStringList expected{
-            u"AgilentAcqData"_s,  u"Bruker"_s, u"Zuspec2"_s,  u"Csv2d"_s,     u"DataCut"_s,
-            u"DataCutEmbedded"_s, u"MsFaux"_s, u"MsFaux2"_s,  u"Mgf"_s,       u"Mzml"_s,
-            u"Mzxml"_s,           u"Vacq"_s,   u"Mobilion"_s, u"SciexWiff"_s, u"SciexWiff2"_s,
-            u"Shimadzu"_s,        u"Thermo"_s, u"Testing"_s,  u"Waters"_s};
-        QCOMPARE(order, expected);
     }
 
     void everyFormatHasOneDetector()
