@@ -8,6 +8,8 @@
 
 #include <memory>
 
+class QLockFile;
+
 namespace ozm {
 
 /**
@@ -16,11 +18,13 @@ namespace ozm {
  *     ozm::TemplateAutosave autosave(u"report-templates"_s);
  *     autosave.store(path, content);             // every now and then while there is unsaved work
  *
- *     for (const auto &rescued : ozm::TemplateAutosave::takeRescued(u"report-templates"_s))
- *         openAsModified(rescued);               // at the next start
+ *     for (const auto &rescued : ozm::TemplateAutosave::rescued(u"report-templates"_s)) {
+ *         if (openAsModified(rescued))           // at the next start
+ *             ozm::TemplateAutosave::discard(rescued);
+ *     }
  *
  * Each object has a copy of its own, which only the user can read and which goes with the object. Copies of
- * programs that still run are never taken. GUI thread only.
+ * programs that still run are never given out. GUI thread only.
  */
 class OZM_WIDGETS_EXPORT TemplateAutosave
 {
@@ -30,17 +34,25 @@ public:
         QString path; ///< Of the file that was edited; empty for a new template.
         QString content;
         QDateTime when;
+        QString file;                    ///< The copy itself.
+        std::shared_ptr<QLockFile> hold; ///< Nobody else is offered the copy as long as this lives.
     };
 
     /// Copies are kept by @p storageName in @p directory, by default the application's data folder.
     explicit TemplateAutosave(const QString &storageName, const QString &directory = {});
     ~TemplateAutosave();
 
-    /// Replaces this object's copy. That it cannot be written is logged; the copy before it then stays.
-    void store(const QString &path, const QString &content);
+    /// Replaces this object's copy. False, with a warning, when it cannot be written; the copy before it then
+    /// stays.
+    bool store(const QString &path, const QString &content);
 
-    /// The copies whose program no longer runs, the oldest first. They are removed; one that cannot be read
-    /// is set aside as "*.damaged".
+    /// The copies whose program no longer runs, the oldest first; one that cannot be read is set aside as
+    /// "*.damaged". They stay on the disk until they are discarded, so that a program that ends over the
+    /// question loses nothing.
+    [[nodiscard]] static QList<Rescued> rescued(const QString &storageName, const QString &directory = {});
+    static void discard(const Rescued &rescued);
+
+    /// The same, discarded at once.
     [[nodiscard]] static QList<Rescued> takeRescued(const QString &storageName,
                                                     const QString &directory = {});
 

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QMenu>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QSettings>
 
@@ -85,7 +86,7 @@ EditorFiles::EditorFiles(AbstractTemplateEditor *editor, const Template &shown)
 {
     m_storeTimer.setSingleShot(true);
     m_storeTimer.setInterval(kStoreAfterMs);
-    connect(&m_storeTimer, &QTimer::timeout, this, &EditorFiles::storeNow);
+    connect(&m_storeTimer, &QTimer::timeout, this, [this] { storeNow(); });
 }
 
 EditorFiles::~EditorFiles() = default;
@@ -290,29 +291,39 @@ void EditorFiles::storeSoon()
         m_storeTimer.start();
 }
 
-void EditorFiles::storeNow()
+bool EditorFiles::storeNow()
 {
     if (!m_autosave)
         m_autosave = std::make_unique<TemplateAutosave>(storageName(*m_editor));
-    m_autosave->store(isLocal(m_location) ? path() : QString(), m_shown.content());
+    return m_autosave->store(isLocal(m_location) ? path() : QString(), m_shown.content());
 }
 
 void EditorFiles::offerRescued()
 {
     const QScopedValueRollback asking(m_isAsking, true);
-    const QList<TemplateAutosave::Rescued> copies = TemplateAutosave::takeRescued(storageName(*m_editor));
+    const QPointer<EditorFiles> self(this);
+    const QList<TemplateAutosave::Rescued> copies = TemplateAutosave::rescued(storageName(*m_editor));
     for (const TemplateAutosave::Rescued &copy : copies) {
-        const QString name = copy.path.isEmpty() ? tr("a new template") : QDir::toNativeSeparators(copy.path);
-        const auto answer =
-            OZMStyle::question(m_editor, Signal::Unspecified, tr("Rescued template"),
-                               tr("The program ended while %1 was not saved. Open what was kept of it at %2?")
-                                   .arg(name, QLocale().toString(copy.when, QLocale::ShortFormat)),
-                               QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
-        if (answer == QMessageBox::Yes && !openRescued(copy)) {
-            // Never deleted, as that would delete the copy, which is to be offered at the next start again.
-            (new TemplateAutosave(storageName(*m_editor)))->store(copy.path, copy.content);
-        }
+        const bool isWanted = isRescuedWanted(copy);
+        if (!self)
+            return;
+        // A copy that is wanted but not opened is offered at the next start again.
+        if (!isWanted || openRescued(copy))
+            TemplateAutosave::discard(copy);
+        if (!self)
+            return;
     }
+}
+
+bool EditorFiles::isRescuedWanted(const TemplateAutosave::Rescued &copy)
+{
+    const QString name = copy.path.isEmpty() ? tr("a new template") : QDir::toNativeSeparators(copy.path);
+    QString text = tr("The program ended while %1 was not saved. Open what was kept of it at %2?")
+                       .arg(name, QLocale().toString(copy.when, QLocale::ShortFormat));
+    if (!m_shown.content().isEmpty())
+        text += u"\n\n"_s + tr("It takes the place of the template that is open in this window.");
+    return OZMStyle::question(m_editor, Signal::Unspecified, tr("Rescued template"), text,
+                              QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) == QMessageBox::Yes;
 }
 
 bool EditorFiles::openRescued(const TemplateAutosave::Rescued &copy)
@@ -327,8 +338,7 @@ bool EditorFiles::openRescued(const TemplateAutosave::Rescued &copy)
         m_file->opened(copy.path);
     m_shown.setUnsaved();
     Q_EMIT pathChanged();
-    storeNow();
-    return true;
+    return storeNow();
 }
 
 } // namespace ozm::editor

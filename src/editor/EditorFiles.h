@@ -69,7 +69,8 @@ private:
     void setLocation(const IFileAccessor::DestinationFileLocation &location, const QByteArray &digest);
     [[nodiscard]] bool openRescued(const TemplateAutosave::Rescued &copy);
     void remember(const QString &path);
-    void storeNow();
+    bool storeNow();
+    [[nodiscard]] bool isRescuedWanted(const TemplateAutosave::Rescued &copy);
 
     AbstractTemplateEditor *m_editor;
     const Template m_shown;

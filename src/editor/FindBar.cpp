@@ -1,6 +1,8 @@
 #include "editor/FindBar.h"
 
 #include "editor/EditorViews.h"
+#include "editor/RichTextView.h"
+#include "templates/document/TemplateChip.h"
 
 #include <ozm_widgets/OZMStyle.h>
 #include <ozm_widgets/TemplateDocument.h>
@@ -11,6 +13,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QToolButton>
@@ -19,13 +22,26 @@ using namespace Qt::StringLiterals;
 
 namespace ozm::editor {
 
-namespace {
-
-/// The chip after @p position, as far as it holds @p text.
-bool chipHolds(const TemplateDocument &document, int position, const QString &text, Qt::CaseSensitivity cs)
+/// A text to look for in chips, whose insides the toolkit does not search.
+struct FindBar::ChipSearch
 {
-    return document.chipAt(position).source.contains(text, cs);
-}
+    QString text;
+    Qt::CaseSensitivity cs;
+    bool wholeWords;
+
+    [[nodiscard]] bool isIn(const QString &source) const
+    {
+        if (!wholeWords)
+            return source.contains(text, cs);
+        const QRegularExpression words(u"(?<!\\w)%1(?!\\w)"_s.arg(QRegularExpression::escape(text)),
+                                       cs == Qt::CaseSensitive ? QRegularExpression::NoPatternOption
+                                                               : QRegularExpression::CaseInsensitiveOption);
+        return source.contains(words);
+    }
+    [[nodiscard]] bool isAllOf(const QString &source) const { return source.compare(text, cs) == 0; }
+};
+
+namespace {
 
 QTextCursor selected(QTextDocument *document, int position)
 {
@@ -35,24 +51,13 @@ QTextCursor selected(QTextDocument *document, int position)
     return cursor;
 }
 
-QTextCursor findChip(QTextDocument *document, int from, bool backward, const QString &text,
-                     Qt::CaseSensitivity cs)
-{
-    const auto *chips = qobject_cast<TemplateDocument *>(document);
-    if (!chips)
-        return {};
-    const int step = backward ? -1 : 1;
-    for (int at = backward ? from - 1 : from; at >= 0 && at < document->characterCount(); at += step)
-        if (chipHolds(*chips, at, text, cs))
-            return selected(document, at);
-    return {};
-}
-
-bool isChip(const QTextCursor &cursor)
+/// The document of @p cursor when that has just one chip selected; else null.
+const TemplateDocument *chipDocument(const QTextCursor &cursor)
 {
     const auto *document = qobject_cast<TemplateDocument *>(cursor.document());
-    return document && cursor.selectionEnd() - cursor.selectionStart() == 1 &&
-           document->chipAt(cursor.selectionStart()).kind != TemplateDocument::ChipKind::None;
+    const bool isChip = document && cursor.selectionEnd() - cursor.selectionStart() == 1 &&
+                        document->chipAt(cursor.selectionStart()).kind != TemplateDocument::ChipKind::None;
+    return isChip ? document : nullptr;
 }
 
 } // namespace
@@ -147,6 +152,24 @@ QTextDocument::FindFlags FindBar::flags() const
     return flags;
 }
 
+FindBar::ChipSearch FindBar::chipSearch() const
+{
+    return {m_text->text(), m_case->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive,
+            m_words->isChecked()};
+}
+
+QTextCursor FindBar::findChip(QTextDocument *document, int from, bool backward, const ChipSearch &search)
+{
+    const auto *chips = qobject_cast<TemplateDocument *>(document);
+    if (!chips)
+        return {};
+    const int step = backward ? -1 : 1;
+    for (int at = backward ? from - 1 : from; at >= 0 && at < document->characterCount(); at += step)
+        if (search.isIn(chips->chipAt(at).source))
+            return selected(document, at);
+    return {};
+}
+
 QTextCursor FindBar::found(const QTextCursor &from, bool backward) const
 {
     QTextDocument *document = from.document();
@@ -154,8 +177,7 @@ QTextCursor FindBar::found(const QTextCursor &from, bool backward) const
     how.setFlag(QTextDocument::FindBackward, backward);
     const QTextCursor text = document->find(m_text->text(), from, how);
     const int start = backward ? from.selectionStart() : from.selectionEnd();
-    const QTextCursor chip = findChip(document, start, backward, m_text->text(),
-                                      m_case->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive);
+    const QTextCursor chip = findChip(document, start, backward, chipSearch());
     if (text.isNull() || chip.isNull())
         return text.isNull() ? chip : text;
     return (text.selectionStart() < chip.selectionStart()) != backward ? text : chip;
@@ -188,31 +210,36 @@ void FindBar::findPrevious()
     find(true);
 }
 
+bool FindBar::isReplaceable(const QTextCursor &match) const
+{
+    if (!match.hasSelection() || !m_views.current().mayRemove(match))
+        return false;
+    // The inside of a code or script is changed in its own place, where it is seen as a whole.
+    if (const auto *document = chipDocument(match))
+        return chipSearch().isAllOf(document->chipAt(match.selectionStart()).source);
+    return match.selectedText().compare(m_text->text(), chipSearch().cs) == 0;
+}
+
 void FindBar::replaceAt(QTextCursor &cursor) const
 {
-    if (!isChip(cursor)) {
+    auto *document = qobject_cast<TemplateDocument *>(cursor.document());
+    if (!document) {
         cursor.insertText(m_replacement->text());
         return;
     }
-    auto *document = qobject_cast<TemplateDocument *>(cursor.document());
-    const int position = cursor.selectionStart();
-    QString source = document->chipAt(position).source;
-    source.replace(m_text->text(), m_replacement->text(),
-                   m_case->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive);
-    // A code may turn into plain text, or into nothing, when its brackets are replaced.
-    document->insertSource(cursor, source);
+    const QTextCharFormat around = cursor.charFormat();
+    cursor.removeSelectedText();
+    cursor.setCharFormat(withoutChip(around));
+    insertWithCodes(*document, cursor, m_replacement->text());
 }
 
 void FindBar::replace()
 {
     QTextCursor cursor = m_views.current().cursor();
-    const bool isMatch =
-        cursor.hasSelection() &&
-        (isChip(cursor) ? chipHolds(*qobject_cast<TemplateDocument *>(cursor.document()),
-                                    cursor.selectionStart(), m_text->text(), Qt::CaseInsensitive)
-                        : cursor.selectedText().compare(m_text->text(), Qt::CaseInsensitive) == 0);
-    if (isMatch && !m_views.isReadOnly() && m_views.current().mayRemove(cursor)) {
+    if (!m_views.isReadOnly() && isReplaceable(cursor)) {
+        cursor.beginEditBlock();
         replaceAt(cursor);
+        cursor.endEditBlock();
         m_views.current().setCursor(cursor);
     }
     findNext();
@@ -226,7 +253,7 @@ void FindBar::replaceAll()
     QTextCursor edit(m_views.current().cursor().document());
     edit.beginEditBlock();
     for (QTextCursor match = found(edit, false); !match.isNull(); match = found(match, false)) {
-        if (!m_views.current().mayRemove(match))
+        if (!isReplaceable(match))
             continue;
         replaceAt(match);
         match.clearSelection();

@@ -34,9 +34,15 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    struct ChipSearch;
+
     [[nodiscard]] QTextDocument::FindFlags flags() const;
     [[nodiscard]] QTextCursor found(const QTextCursor &from, bool backward) const;
     void find(bool backward);
+    [[nodiscard]] ChipSearch chipSearch() const;
+    [[nodiscard]] static QTextCursor findChip(QTextDocument *document, int from, bool backward,
+                                              const ChipSearch &search);
+    [[nodiscard]] bool isReplaceable(const QTextCursor &match) const;
     void replaceAt(QTextCursor &cursor) const;
     [[nodiscard]] QToolButton *makeButton(const char *name, const char *icon, const QString &text,
                                           void (FindBar::*slot)());

@@ -66,6 +66,19 @@ void setPaperColors(QWidget *widget)
     widget->setPalette(paper);
 }
 
+void insertWithCodes(TemplateDocument &document, QTextCursor &cursor, const QString &text)
+{
+    qsizetype at = 0;
+    auto codes = syntax::codePattern().globalMatch(text);
+    while (codes.hasNext()) {
+        const QRegularExpressionMatch code = codes.next();
+        cursor.insertText(text.sliced(at, code.capturedStart() - at));
+        document.insertSource(cursor, code.captured());
+        at = code.capturedEnd();
+    }
+    cursor.insertText(text.sliced(at));
+}
+
 RichTextView::RichTextView(CodeModel *codes, QWidget *parent)
     : QTextEdit(parent)
     , m_codes(codes)
@@ -118,15 +131,7 @@ void RichTextView::insertPlain(const QString &text)
     QTextCursor cursor = textCursor();
     cursor.beginEditBlock();
     cursor.removeSelectedText();
-    qsizetype at = 0;
-    auto codes = syntax::codePattern().globalMatch(text);
-    while (codes.hasNext()) {
-        const QRegularExpressionMatch code = codes.next();
-        cursor.insertText(text.sliced(at, code.capturedStart() - at));
-        templateDocument()->insertSource(cursor, code.captured());
-        at = code.capturedEnd();
-    }
-    cursor.insertText(text.sliced(at));
+    insertWithCodes(*templateDocument(), cursor, text);
     cursor.endEditBlock();
     setTextCursor(cursor);
     ensureCursorVisible();
@@ -186,6 +191,22 @@ void RichTextView::keyPressEvent(QKeyEvent *event)
     if (event->text() == "]"_L1)
         closeCode();
     m_completer->offer();
+}
+
+void RichTextView::inputMethodEvent(QInputMethodEvent *event)
+{
+    QTextCursor removed = textCursor();
+    const bool changes = !event->commitString().isEmpty() || !event->preeditString().isEmpty();
+    bool isKept = changes && removed.hasSelection() && !mayRemove(removed);
+    if (!isKept && event->replacementLength() > 0) {
+        removed.setPosition(textCursor().position() + event->replacementStart());
+        removed.setPosition(removed.position() + event->replacementLength(), QTextCursor::KeepAnchor);
+        isKept = !mayRemove(removed);
+    }
+    if (isKept)
+        event->ignore();
+    else
+        QTextEdit::inputMethodEvent(event);
 }
 
 QTextCursor RichTextView::removedBy(const QKeyEvent &event) const

@@ -12,6 +12,9 @@ class CodeModel;
 /// Paper is white, whatever the desktop is.
 void setPaperColors(QWidget *widget);
 
+/// Inserts @p text at @p cursor; codes in it become chips, tags stay text.
+void insertWithCodes(TemplateDocument &document, QTextCursor &cursor, const QString &text);
+
 /// Shows a TemplateDocument for editing. What is copied carries its source along, so that codes and scripts
 /// come whole through the clipboard; codes that may not be removed stay.
 class RichTextView : public QTextEdit
@@ -47,6 +50,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void dropEvent(QDropEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
     [[nodiscard]] QMimeData *createMimeDataFromSelection() const override;
     [[nodiscard]] bool canInsertFromMimeData(const QMimeData *source) const override;
     void insertFromMimeData(const QMimeData *source) override;

@@ -216,9 +216,16 @@ void AbstractTemplateEditor::Private::insertCode(const QString &code)
     m_views.current().widget()->setFocus();
 }
 
+QList<RowNode *> AbstractTemplateEditor::Private::rows() const
+{
+    QList<RowNode *> rows = qptr->previewRows();
+    rows.removeAll(nullptr);
+    return rows;
+}
+
 void AbstractTemplateEditor::Private::refresh()
 {
-    const QList<RowNode *> rows = qptr->previewRows();
+    const QList<RowNode *> rows = this->rows();
     QStringList names;
     QMap<QString, QVariant> parameters;
     for (const RowNode *row : rows)
@@ -244,7 +251,7 @@ bool AbstractTemplateEditor::Private::showFirstTime()
 
 ozm::TemplateReport AbstractTemplateEditor::Private::decode(const QString &content) const
 {
-    const QList<RowNode *> rows = qptr->previewRows();
+    const QList<RowNode *> rows = this->rows();
     const int index = m_preview->row();
     if (rows.isEmpty())
         return ozm::decodeContent(content, qptr->extraData(nullptr));

@@ -55,6 +55,7 @@ private:
     void connectParts();
     /// The name that is proposed for the report.
     [[nodiscard]] QString name() const;
+    [[nodiscard]] QList<RowNode *> rows() const;
     [[nodiscard]] ozm::TemplateReport decode(const QString &content) const;
     void showSession();
     void goToEdit(const QTextCursor &cursor);

@@ -47,7 +47,10 @@ public:
         codes[2].setImplementation(new Kept);
         return codes;
     }
-    [[nodiscard]] QList<RowNode *> previewRows() const override { return {m_root.child(0), m_root.child(1)}; }
+    [[nodiscard]] QList<RowNode *> previewRows() const override
+    {
+        return {m_root.child(0), nullptr, m_root.child(1)};
+    }
     [[nodiscard]] QList<DecodeTecExtraData> extraData(const RowNode *) const override
     {
         return {{SampleTemplateEditor::staticMetaObject, static_cast<const QObject *>(this)}};

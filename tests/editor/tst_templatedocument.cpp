@@ -8,6 +8,10 @@
 #include <QTextCursor>
 #include <QTextDocumentFragment>
 
+#include <QPainter>
+
+#include <QTemporaryDir>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -81,6 +85,10 @@ void TestTemplateDocument::keepsSource_data()
     QTest::newRow("formatted code") << u"<p><b>[Name]</b>, <i>[Charge]</i>+</p>"_s
                                     << u"<p><b>[Name]</b>, <i>[Charge]</i>+</p>"_s;
     QTest::newRow("code written raw") << u"<p>[A&B]</p>"_s << u"<p>[A&B]</p>"_s;
+    QTest::newRow("comparison in plain text")
+        << u"x<y [Name]\nnext"_s << u"<div>x&lt;y [Name]</div>\n<div>next</div>"_s;
+    QTest::newRow("declaration in plain text")
+        << u"a <! b\nnext"_s << u"<div>a &lt;! b</div>\n<div>next</div>"_s;
     QTest::newRow("heading stays plain") << u"<h2>[Name]</h2>"_s << u"<h2>[Name]</h2>"_s;
     QTest::newRow("script among rows keeps its table")
         << u"<table><tr><td>a</td></tr><script>rows()</script></table>"_s
@@ -170,6 +178,10 @@ void TestTemplateDocument::selectionsBecomeSource_data()
     QTest::newRow("one chip") << u"<p>a<script>x</script></p>"_s << 1 << 2 << u"<script>x</script>"_s;
     QTest::newRow("lines") << u"<p>a[A]</p><p>[B]c</p>"_s << 1 << 4 << u"<p>[A]</p>\n<p>[B]</p>"_s;
     QTest::newRow("nothing") << u"<p>a[A]</p>"_s << 1 << 1 << QString();
+    QTest::newRow("from a list into a paragraph")
+        << u"<ul><li>ab</li></ul><p>xy</p>"_s << 2 << 3 << u"<p><br/></p>\n<p><br/></p>"_s;
+    QTest::newRow("from a list into a rule")
+        << u"<ul><li>ab</li></ul><hr/><p>xy</p>"_s << 2 << 4 << u"<p><br/></p>\n<hr/>\n<p><br/></p>"_s;
 }
 
 void TestTemplateDocument::selectionsBecomeSource()
@@ -211,10 +223,22 @@ void TestTemplateDocument::placesLeadBothWays()
 
 void TestTemplateDocument::nothingIsLoaded()
 {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"red.png"_s);
+    QImage red(300, 300, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    QVERIFY(red.save(path));
     ozm::TemplateDocument document;
-    document.setSource(u"<img src=\"/etc/hostname\"><img src=\"http://localhost:9/x.png\">"_s);
-    QVERIFY(document.resource(QTextDocument::ImageResource, QUrl(u"file:///etc/hostname"_s)).isNull());
-    QVERIFY(document.resource(QTextDocument::ImageResource, QUrl(u"http://localhost:9/x.png"_s)).isNull());
+    document.setSource(
+        u"<p><img src=\"%1\"><img src=\"file://%1\"><img src=\"http://localhost:9/x.png\"></p>"_s.arg(path));
+    QImage page(400, 400, QImage::Format_RGB32);
+    page.fill(Qt::white);
+    QPainter painter(&page);
+    document.drawContents(&painter);
+    painter.end();
+    for (int x = 0; x < page.width(); x += 5)
+        QVERIFY(page.pixelColor(x, 20) != QColor(Qt::red));
+    QVERIFY2(document.size().height() < 100, "the image takes no room");
 }
 
 void TestTemplateDocument::hostileInputEnds_data()

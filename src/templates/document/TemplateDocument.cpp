@@ -6,6 +6,7 @@
 #include "templates/syntax/HtmlScanner.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QImage>
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -36,14 +37,16 @@ QStringList linesOf(const QString &text)
 {
     // Codes are cut out before the rest is read as HTML, so only the rest may be escaped.
     static const QRegularExpression ampersand(u"&(?![^\\[\\]\\n]*\\])"_s);
+    static const QRegularExpression less(u"<(?![^\\[\\]\\n]*\\])"_s);
     QStringList lines{QString()};
     for (const editor::HtmlToken &token : editor::scanHtml(text)) {
         QString part = text.sliced(token.start, token.end - token.start);
-        if (token.kind != editor::HtmlTokenKind::Text) {
-            lines.last() += part + editor::missingEnd(text, token);
+        // A "<!" that nothing ends is text: as a comment it would swallow the rest.
+        if (token.kind != editor::HtmlTokenKind::Text && editor::missingEnd(text, token).isEmpty()) {
+            lines.last() += part;
             continue;
         }
-        const QStringList parts = part.replace(ampersand, u"&amp;"_s).split(u'\n');
+        const QStringList parts = part.replace(ampersand, u"&amp;"_s).replace(less, u"&lt;"_s).split(u'\n');
         lines.last() += parts.first();
         lines += parts.sliced(1);
     }
@@ -139,6 +142,16 @@ void read(QTextDocument &document, const QString &source)
     document.setUndoRedoEnabled(undo);
 }
 
+QImage missingImage()
+{
+    static const QImage image(u":/qt-project.org/styles/commonstyle/images/file-16.png"_s);
+    if (!image.isNull())
+        return image;
+    QImage empty(16, 16, QImage::Format_ARGB32_Premultiplied);
+    empty.fill(Qt::transparent);
+    return empty;
+}
+
 } // namespace
 
 TemplateDocument::TemplateDocument(QObject *parent)
@@ -176,8 +189,11 @@ QString TemplateDocument::source(const QTextCursor &selection) const
     QTextCursor cursor(&part);
     cursor.insertFragment(selection.selection());
     if (part.blockCount() > 1 || part.begin().textList()) {
-        QTextCursor(&part).setBlockFormat(
-            QTextCursor(selection.document()->findBlock(selection.selectionStart())).blockFormat());
+        QTextBlockFormat first = selection.document()->findBlock(selection.selectionStart()).blockFormat();
+        // A list of the other document is not one of this.
+        const QTextList *list = part.begin().textList();
+        first.setObjectIndex(list ? part.begin().blockFormat().objectIndex() : -1);
+        QTextCursor(&part).setBlockFormat(first);
         return editor::writeSource(part).text;
     }
     cursor.setBlockFormat({});
@@ -259,8 +275,12 @@ bool TemplateDocument::isKnownCode(const QString &code) const
 
 QVariant TemplateDocument::loadResource(int type, const QUrl &name)
 {
-    // A template may come from anywhere: only what it carries itself is shown.
-    return name.scheme() == "data"_L1 ? QTextDocument::loadResource(type, name) : QVariant();
+    // A template may come from anywhere: only the data that it carries itself is shown.
+    QVariant data;
+    if (name.scheme() == "data"_L1)
+        data = QTextDocument::loadResource(type, name);
+    // Without an image, the toolkit would look for a file of that name.
+    return data.isNull() && type == ImageResource ? QVariant(missingImage()) : data;
 }
 
 } // namespace ozm

@@ -203,7 +203,8 @@ private:
         closeLists(listsOutside);
         if (isRuler(block))
             writeRuler(block);
-        else
+        // Text that was typed on a rule is a line behind it.
+        if (!isRuler(block) || block.length() > 1)
             writeParagraph(block, around);
     }
 

@@ -63,8 +63,11 @@ std::optional<TemplateAutosave::Rescued> readCopy(const QString &file)
     if (!object.value("content"_L1).isString())
         return std::nullopt;
     return TemplateAutosave::Rescued{
-        object.value("path"_L1).toString(), object.value("content"_L1).toString(),
-        QDateTime::fromString(object.value("when"_L1).toString(), Qt::ISODateWithMs)};
+        object.value("path"_L1).toString(),
+        object.value("content"_L1).toString(),
+        QDateTime::fromString(object.value("when"_L1).toString(), Qt::ISODateWithMs),
+        file,
+        {}};
 }
 
 QByteArray copyOf(const QString &path, const QString &content)
@@ -115,33 +118,51 @@ TemplateAutosave::~TemplateAutosave()
         QFile::remove(d->base + kCopy);
 }
 
-void TemplateAutosave::store(const QString &path, const QString &content)
+bool TemplateAutosave::store(const QString &path, const QString &content)
 {
-    if (!d->isReady() || !writeCopy(d->base + kCopy, copyOf(path, content)))
+    const bool stored = d->isReady() && writeCopy(d->base + kCopy, copyOf(path, content));
+    if (!stored)
         OZM_WIDGETS_WARNING() << "Unsaved work cannot be copied to" << d->folder;
+    return stored;
 }
 
-QList<TemplateAutosave::Rescued> TemplateAutosave::takeRescued(const QString &storageName,
-                                                               const QString &directory)
+QList<TemplateAutosave::Rescued> TemplateAutosave::rescued(const QString &storageName,
+                                                           const QString &directory)
 {
     QList<Rescued> all;
     const QDir folder(folderOf(directory));
     const QStringList names = copiesIn(folder, storageName);
     for (const QString &name : names) {
         const QString file = folder.filePath(name);
-        QLockFile lock(file + kLock);
-        prepare(lock);
-        if (!lock.tryLock(0))
+        auto lock = std::make_shared<QLockFile>(file + kLock);
+        prepare(*lock);
+        if (!lock->tryLock(0))
             continue;
-        if (const std::optional<Rescued> rescued = readCopy(file)) {
-            all.append(*rescued);
-            QFile::remove(file);
+        if (std::optional<Rescued> copy = readCopy(file)) {
+            copy->hold = std::move(lock);
+            all.append(*copy);
         } else if (QFile::exists(file)) {
             OZM_WIDGETS_WARNING() << "A copy of unsaved work is damaged:" << file;
             QFile::rename(file, file + kDamaged);
         }
     }
     std::ranges::sort(all, {}, &Rescued::when);
+    return all;
+}
+
+void TemplateAutosave::discard(const Rescued &rescued)
+{
+    QFile::remove(rescued.file);
+}
+
+QList<TemplateAutosave::Rescued> TemplateAutosave::takeRescued(const QString &storageName,
+                                                               const QString &directory)
+{
+    QList<Rescued> all = rescued(storageName, directory);
+    for (Rescued &each : all) {
+        discard(each);
+        each.hold.reset();
+    }
     return all;
 }
 
