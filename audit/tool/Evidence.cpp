@@ -114,6 +114,14 @@ int prove(const Options &options)
     const auto key = options.key();
     if (!key)
         return complain(key.error());
+    if (const Range range = options.range(); range.last > 0) {
+        const auto growth = store.value()->consistencyProof(range.first, range.last);
+        if (!growth)
+            return complain(growth.error());
+        for (const QByteArray &hash : growth.value())
+            print(QString::fromLatin1(hash.toBase64()));
+        return Good;
+    }
     const auto made = store.value()->makeCheckpoint(key.value() ? &*key.value() : nullptr);
     if (!made)
         return complain(made.error());

@@ -28,7 +28,9 @@ constexpr std::array kCommands{
     Command{"watch"_L1, watch, "watch TRAIL [filters]                    entries as they come"},
     Command{"verify"_L1, verify, "verify TRAIL [--checkpoints FOLDER] [--public-key TEXT]"},
     Command{"checkpoint"_L1, checkpoint, "checkpoint TRAIL [--key FILE] [--checkpoints FOLDER]"},
-    Command{"prove"_L1, prove, "prove TRAIL --range N                    a proof file for one entry"},
+    Command{"prove"_L1, prove,
+            "prove TRAIL --range N                    a proof file for one entry; A-B: that B entries go on "
+            "from A"},
     Command{"export"_L1, exportCopy, "export TRAIL FOLDER [filters] [--key F]  an inspection copy"},
     Command{"archive"_L1, archive,
             "archive TRAIL FOLDER [filters]           the same, recorded as an archive"},
@@ -52,9 +54,9 @@ int usage(const Options &options)
 
 int main(int argc, char *argv[])
 {
-    const QByteArrayView command(argc > 1 ? argv[1] : "");
+    const QByteArrayView wanted(argc > 1 ? argv[1] : "");
     std::unique_ptr<QCoreApplication> application;
-    if (command == "export" || command == "archive") {
+    if (wanted == "export" || wanted == "archive") {
         // For the fonts of a PDF; there need not be a display.
         if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
             qputenv("QT_QPA_PLATFORM", "offscreen");
