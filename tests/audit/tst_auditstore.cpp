@@ -127,7 +127,8 @@ private Q_SLOTS:
         check({.attribute = u"Mas_"_s}, [](int) { return false; });
         check({.outcome = Query::Outcome::Failed}, [](int i) { return i % 7 == 0; });
         check({.outcome = Query::Outcome::Succeeded}, [](int i) { return i % 7 != 0; });
-        check({.text = u"\"value\":29"_s}, [](int) { return false; });
+        check({.text = u"\"value\":29"_s}, [](int i) { return i == 29 || i / 10 == 29; });
+        check({.text = u"Jane \"j\" Doe"_s}, [](int) { return true; });
         check({.text = u"DOE\n"_s}, [](int) { return false; });
         check({.text = u"50% OF"_s}, [](int) { return true; });
         check({.text = u"50_ of"_s}, [](int) { return false; });

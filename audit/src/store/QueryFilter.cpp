@@ -1,5 +1,7 @@
 #include "QueryFilter.h"
 
+#include <algorithm>
+
 namespace ozm::audit {
 
 namespace {
@@ -17,13 +19,12 @@ QString likePattern(QString text)
     return u'%' + text + u'%';
 }
 
-/// The text as it stands inside of an entry.
-QString asInJson(const QString &text)
+/// The text as it stands in an entry: as it is in the record's own JSON, and quoted in texts.
+QStringList asInEntry(const QString &text)
 {
-    QByteArray json;
-    QByteArray quoted = text.toUtf8();
-    quoted.replace('\\', "\\\\").replace('"', "\\\"");
-    return QString::fromUtf8(quoted);
+    QString quoted = text;
+    quoted.replace(u'\\', QStringLiteral("\\\\")).replace(u'"', QStringLiteral("\\\""));
+    return quoted == text ? QStringList{text} : QStringList{text, quoted};
 }
 
 } // namespace
@@ -49,8 +50,15 @@ bool QueryFilter::accepts(const EntryMembers &members, const QByteArray &bytes) 
            (m_attribute.isEmpty() || withLines(row.attributes).contains(withLines(m_attribute))) &&
            (m_query.outcome == Query::Outcome::Any ||
             failed == (m_query.outcome == Query::Outcome::Failed)) &&
-           (m_query.text.isEmpty() ||
-            QString::fromUtf8(bytes).contains(asInJson(m_query.text), Qt::CaseInsensitive));
+           (m_query.text.isEmpty() || containsText(bytes));
+}
+
+bool QueryFilter::containsText(const QByteArray &bytes) const
+{
+    const QString entry = QString::fromUtf8(bytes);
+    const QStringList forms = asInEntry(m_query.text);
+    return std::any_of(forms.cbegin(), forms.cend(),
+                       [&entry](const QString &form) { return entry.contains(form, Qt::CaseInsensitive); });
 }
 
 QueryClauses::QueryClauses(const Query &query, const QByteArray &text)
@@ -82,8 +90,14 @@ QueryClauses::QueryClauses(const Query &query, const QByteArray &text)
             {likePattern(u'\n' + query.attribute + u'\n')});
     if (query.outcome != Query::Outcome::Any)
         add(query.outcome == Query::Outcome::Failed ? "i.outcome <> 0" : "i.outcome = 0", {});
-    if (!query.text.isEmpty())
-        add(text, {likePattern(asInJson(query.text))});
+    if (query.text.isEmpty())
+        return;
+    const QStringList forms = asInEntry(query.text);
+    if (forms.size() == 1)
+        add(text, {likePattern(forms.constFirst())});
+    else
+        add('(' + text + " OR " + text + ')',
+            {likePattern(forms.constFirst()), likePattern(forms.constLast())});
 }
 
 } // namespace ozm::audit

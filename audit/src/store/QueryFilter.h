@@ -17,6 +17,8 @@ public:
     [[nodiscard]] bool accepts(const EntryMembers &members, const QByteArray &bytes) const;
 
 private:
+    [[nodiscard]] bool containsText(const QByteArray &bytes) const;
+
     const Query &m_query;
     QByteArray m_user;
     QList<QByteArray> m_kinds;
