@@ -37,7 +37,8 @@ public:
     static bool loadTranslation(const QLocale &locale, const QString &name = QStringLiteral("ozm_widgets"));
 
     /// The user of the application, for the audit trail: the name that was set, or else the name by which the
-    /// operating system knows the user; "unknown" when it knows none. Any thread.
+    /// operating system knows the account that the process runs under. Where it knows none, the environment
+    /// (USER, USERNAME, LOGNAME) is believed; "unknown" when that is silent too. Any thread.
     [[nodiscard]] static QString userName();
     /// Empty goes back to the operating system's name. Any thread.
     static void setUserName(const QString &name);

@@ -2,6 +2,8 @@
 
 #include <ozm_widgets/OZMStyle.h>
 
+#include "style/SystemUser.h"
+
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QMutex>
@@ -36,6 +38,11 @@ User &user()
 
 QString userOfSystem()
 {
+    // Anyone can set a variable, so it counts only where the system knows nobody. A directory service may take
+    // its time, and is asked once.
+    static const QString known = systemUserName();
+    if (!known.isEmpty())
+        return known;
     for (const char *variable : {"USER", "USERNAME", "LOGNAME"}) {
         QString name = qEnvironmentVariable(variable);
         if (!name.isEmpty())
