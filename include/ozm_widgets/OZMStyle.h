@@ -45,7 +45,10 @@ struct MessageBoxDescription;
  * could not be shown (its parent was gone before, the application was ending), question() answers Cancel and
  * the others the default button they were given. The answer is never a button that could mean more than that.
  *
- * A box that is asked for from another thread deadlocks when the GUI thread waits for that thread, for
+ * As the application's event loop ends, all that wait get that answer, and so do all that ask later: the GUI
+ * thread may wait for its threads after QCoreApplication::exec().
+ *
+ * A box that is asked for from another thread deadlocks when the running GUI thread waits for that thread, for
  * instance with QThread::wait() or for a lock that the thread holds. Hold no lock while you ask, and have the
  * GUI thread told by a signal. After five seconds a warning names the waiting thread.
  *
@@ -151,8 +154,8 @@ public:
     static void about(QWidget *parent, const QString &title, const DisplayString &text);
 
     // Without waiting: the box is opened over its parent, and answered() is called once, on the thread of
-    // context, with what the modal form would have returned. Not when context is deleted before; it must be
-    // there when this is called. Any thread.
+    // context, with what the modal form would have returned. Not when context is deleted before, or its thread's
+    // event loop has ended; it must be there when this is called. Any thread.
 
     static void openCritical(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
                              QObject *context, const Answered &answered, Buttons buttons = QMessageBox::Ok,

@@ -7,8 +7,14 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTextEdit>
+#include <QTranslator>
 
 #include <memory>
+
+#ifdef Q_OS_UNIX
+#include <pwd.h>
+#include <unistd.h>
+#endif
 
 using namespace Qt::StringLiterals;
 using namespace ozm::test;
@@ -294,6 +300,21 @@ void TestMessageBoxes::indexedQuestion()
           "answer");
 }
 
+namespace {
+
+/// The toolkit in a language that calls details otherwise.
+class French : public QTranslator
+{
+public:
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return QLatin1StringView(text) == "Show Details..."_L1 ? u"Plus…"_s : QString();
+    }
+};
+
+} // namespace
+
 void TestMessageBoxes::detailsOpenAndStayOpen()
 {
     OzmMessageBox bare(kSignal);
@@ -301,15 +322,22 @@ void TestMessageBoxes::detailsOpenAndStayOpen()
     bare.showDetailsIfPresent();
     QVERIFY2(bare.detailedText().isEmpty() && !bare.clickedButton(), "pressed without any details");
 
-    OzmMessageBox box(kSignal);
-    box.setStandardButtons(Box::Ok);
-    box.setDetailedText(u"line 1"_s);
-    box.showDetailsIfPresent();
-    box.show();
-    const auto *details = box.findChild<QTextEdit *>();
-    QVERIFY(details->isVisible());
-    box.showDetailsIfPresent();
-    QVERIFY(details->isVisible());
+    French french;
+    for (const bool translated : {false, true}) {
+        if (translated)
+            QCoreApplication::installTranslator(&french);
+        OzmMessageBox box(kSignal);
+        box.setStandardButtons(Box::Ok);
+        box.setDetailedText(u"line 1"_s);
+        // Twice before it is shown, and once after.
+        box.showDetailsIfPresent();
+        box.showDetailsIfPresent();
+        box.show();
+        const auto *details = box.findChild<QTextEdit *>();
+        QVERIFY(details->isVisible());
+        box.showDetailsIfPresent();
+        QVERIFY(details->isVisible());
+    }
 }
 
 void TestMessageBoxes::warningOffScreenIsLogged()
@@ -318,8 +346,13 @@ void TestMessageBoxes::warningOffScreenIsLogged()
     parent.setAttribute(Qt::WA_DontShowOnScreen);
     const BoxDriver driver([](OzmMessageBox *box) { box->done(0); });
     QTest::ignoreMessage(QtWarningMsg,
-                         QRegularExpression(u"src/style/boxes/OZmStyleMessageBoxes\\.cpp:\\d+ x$"_s));
+                         QRegularExpression(u"src/style/boxes/MessageBoxDescription\\.cpp:\\d+ x$"_s));
     QCOMPARE(OZMStyle::warning(&parent, kSignal, kTitle, kRich, kYesNo, Box::No), Box::Ok);
+    QList<int> answers;
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"MessageBoxDescription\\.cpp:\\d+ x$"_s));
+    OZMStyle::openWarning(
+        &parent, kSignal, kTitle, kRich, this, [&](S given) { answers.append(given); }, kYesNo, Box::No);
+    QTRY_COMPARE(answers, QList<int>{int(Box::Ok)});
     QCOMPARE(driver.shown(), 0);
 }
 
@@ -374,8 +407,13 @@ void TestMessageBoxes::aboutShowsIconAndLinks()
 
 void TestMessageBoxes::userNameIsTheSystemsUntilSet()
 {
+    qputenv("USER", "somebody-else");
     const QString ofSystem = ozm::OzmCoreApplication::userName();
     QVERIFY(!ofSystem.isEmpty());
+#ifdef Q_OS_UNIX
+    const passwd *account = getpwuid(geteuid());
+    QCOMPARE(ofSystem, account ? QString::fromLocal8Bit(account->pw_name) : u"somebody-else"_s);
+#endif
     ozm::OzmCoreApplication::setUserName(u"jdoe"_s);
     QCOMPARE(ozm::OzmCoreApplication::userName(), u"jdoe"_s);
     ozm::OzmCoreApplication::setUserName({});

@@ -145,6 +145,8 @@ private Q_SLOTS:
     void boxOpensOnTheGuiThread();
     void deadParent();
     void openFromAWorker();
+    void applicationEnds_data();
+    void applicationEnds();
     void manyWorkersWithDyingParents();
 };
 
@@ -287,6 +289,49 @@ void TestMessageBoxThreads::openFromAWorker()
                            [](Box::StandardButton) { QFAIL("told a context that is gone"); });
     QTRY_VERIFY(!context);
     QCoreApplication::processEvents();
+}
+
+void TestMessageBoxThreads::applicationEnds_data()
+{
+    QTest::addColumn<bool>("asksAfter");
+    QTest::newRow("asked as the event loop ends") << false;
+    QTest::newRow("asked when it has ended") << true;
+}
+
+// The GUI thread waits for its workers when its loop has ended; nobody takes their boxes any more.
+void TestMessageBoxThreads::applicationEnds()
+{
+    QFETCH(const bool, asksAfter);
+    const BoxDriver driver([](OzmMessageBox *box) { box->done(0); });
+    QWidget parent;
+    Loop loop;
+    std::weak_ptr<int> captured;
+    QList<int> answers;
+    std::atomic<int> opened = 0;
+    const std::unique_ptr<QThread> worker(QThread::create([&] {
+        const auto capture = std::make_shared<int>();
+        captured = capture;
+        // Nobody can be told of this one, and somebody of the next.
+        OZMStyle::openWarning(&parent, kSignal, u"T"_s, "text", this, [capture](Box::StandardButton) {});
+        OZMStyle::openWarning(
+            &parent, kSignal, u"T"_s, "text", &loop.object,
+            [&](Box::StandardButton given) { opened = given; }, Box::Yes | Box::No, Box::No);
+        answers = {OZMStyle::question(&parent, kSignal, u"T"_s, "text"),
+                   OZMStyle::warning(nullptr, kSignal, u"T"_s, "text", Box::Yes | Box::No, Box::No)};
+    }));
+    QTimer::singleShot(0, this, [&] {
+        if (!asksAfter)
+            worker->start();
+        QCoreApplication::quit();
+    });
+    QCoreApplication::exec();
+    if (asksAfter)
+        worker->start();
+    QVERIFY2(worker->wait(60000), "the worker waits for ever");
+    QCOMPARE(answers, (QList<int>{Box::Cancel, Box::No}));
+    QVERIFY2(captured.expired(), "the callback is kept");
+    QTRY_COMPARE(opened.load(), int(Box::No));
+    QCOMPARE(driver.shown(), 0);
 }
 
 namespace {

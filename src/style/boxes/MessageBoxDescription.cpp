@@ -1,5 +1,6 @@
 #include "style/boxes/MessageBoxDescription.h"
 
+#include "style/boxes/BoxDesk.h"
 #include "support/Logging.h"
 
 #include "support/Platform.h"
@@ -15,6 +16,7 @@
 #include <algorithm>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace ozm {
 
@@ -88,6 +90,7 @@ OzmMessageBox *buildMessageBox(const MessageBoxDescription &description, QWidget
 }
 
 /// Where the answer of a box that nobody waits for goes: to a context that may live on any thread, and die.
+/// The function to call is let go as soon as it is certain that nobody will call it.
 class Reply
 {
 public:
@@ -98,30 +101,70 @@ public:
         auto reply = std::make_shared<Reply>();
         reply->m_context = context;
         reply->m_answered = answered;
-        QObject::connect(context, &QObject::destroyed, [reply] { reply->forget(); });
+        reply->m_forgetting =
+            QObject::connect(context, &QObject::destroyed, [reply] { reply->answer(nullptr, {}); });
         return reply;
     }
 
-    void give(Button button)
-    {
-        // The context cannot be gone before this is through: forget() would have to be through first.
-        const QMutexLocker lock(&m_mutex);
-        if (m_context && m_answered)
-            QMetaObject::invokeMethod(
-                m_context, [answered = m_answered, button] { answered(button); }, Qt::QueuedConnection);
-        m_context = nullptr;
-    }
+    /// Once; what is given later is ignored.
+    void give(Button button) { answer(&Reply::callLater, button); }
 
 private:
-    void forget()
+    static void callLater(QObject *context, Answered answered, Button button)
     {
+        if (takesCalls(context->thread()))
+            QMetaObject::invokeMethod(
+                context, [answered = std::move(answered), button] { answered(button); },
+                Qt::QueuedConnection);
+    }
+
+    /// A call posted to a thread whose event loop has ended would be kept, and never come.
+    static bool takesCalls(const QThread *thread)
+    {
+        const bool isGui = qApp && thread == qApp->thread();
+        return thread && (isGui ? BoxDesk::instance().isOpen() : !thread->isFinished());
+    }
+
+    void answer(void (*call)(QObject *, Answered, Button), Button button)
+    {
+        // Let go after the lock, as nobody knows what it holds.
+        Answered answered;
+        // The context cannot be gone before this is through: its end would have to be through here first.
         const QMutexLocker lock(&m_mutex);
-        m_context = nullptr;
+        answered = std::exchange(m_answered, {});
+        QObject *context = std::exchange(m_context, nullptr);
+        QObject::disconnect(m_forgetting);
+        if (call && context && answered)
+            call(context, std::move(answered), button);
     }
 
     QMutex m_mutex;
     QObject *m_context = nullptr;
     Answered m_answered;
+    QMetaObject::Connection m_forgetting;
+};
+
+/// Goes with a posted call, and answers in its place when the call is lost.
+class Ticket
+{
+public:
+    Ticket(std::shared_ptr<Reply> reply, Button unshown)
+        : m_reply(std::move(reply))
+        , m_unshown(unshown)
+    {}
+    ~Ticket()
+    {
+        if (m_reply)
+            m_reply->give(m_unshown);
+    }
+    Q_DISABLE_COPY_MOVE(Ticket)
+
+    /// From here on the call answers by itself.
+    void begin() { m_reply.reset(); }
+
+private:
+    std::shared_ptr<Reply> m_reply;
+    const Button m_unshown;
 };
 
 void openOnGuiThread(const MessageBoxDescription &description, QWidget *parent,
@@ -129,6 +172,10 @@ void openOnGuiThread(const MessageBoxDescription &description, QWidget *parent,
 {
     if (!canShowWidgets() || (parent && !isLivingWidget(parent))) {
         reply->give(description.answerUnshown());
+        return;
+    }
+    if (const auto answer = description.answerOffScreen(parent)) {
+        reply->give(*answer);
         return;
     }
     OzmMessageBox *box = buildMessageBox(description, parent);
@@ -155,6 +202,14 @@ Button MessageBoxDescription::answerUnshown() const
     return icon == QMessageBox::Question ? QMessageBox::Cancel : defaultButton;
 }
 
+std::optional<Button> MessageBoxDescription::answerOffScreen(const QWidget *parent) const
+{
+    if (icon != QMessageBox::Warning || !parent || !parent->testAttribute(Qt::WA_DontShowOnScreen))
+        return {};
+    OZM_WIDGETS_WARNING() << qUtf8Printable(text.toPlainText());
+    return QMessageBox::Ok;
+}
+
 Button answerOf(int code)
 {
     return code == 0 ? QMessageBox::Cancel : static_cast<Button>(code);
@@ -164,11 +219,10 @@ Button runMessageBox(const MessageBoxDescription &description, QWidget *parent)
 {
     if (!canShowWidgets())
         return description.answerUnshown();
-    if (!isGuiThread()) {
-        const auto answer =
-            AsyncUtils::executeInThread<Button>(qApp, [&] { return runMessageBox(description, parent); });
-        return platform::valueOr(answer, description.answerUnshown());
-    }
+    if (!isGuiThread())
+        return BoxDesk::instance()
+            .ask([&] { return runMessageBox(description, parent); })
+            .value_or(description.answerUnshown());
     // The parent may go, and the box with it, while its event loop runs.
     const QPointer<OzmMessageBox> box = buildMessageBox(description, parent);
     // It may also go when it is answered already, but boxes opened over it keep it from returning.
@@ -189,22 +243,26 @@ Button askOnThreadOf(QWidget *parent, const MessageBoxDescription &description,
                                  description.answerUnshown());
     // Widgets live on the GUI thread, so that is where to go; the parent itself cannot be asked from here,
     // as it may be deleted in the middle of that.
-    const auto answer = AsyncUtils::executeInThread<std::optional<Button>>(
-        qApp, [&] { return isLivingWidget(parent) ? std::optional(work()) : std::nullopt; });
-    return platform::valueOr(answer, std::optional<Button>()).value_or(description.answerUnshown());
+    return BoxDesk::instance()
+        .ask([&] { return isLivingWidget(parent) ? std::optional(work()) : std::nullopt; })
+        .value_or(description.answerUnshown());
 }
 
 void openMessageBox(const MessageBoxDescription &description, QWidget *parent, QObject *context,
                     const std::function<void(Button)> &answered)
 {
     const auto reply = Reply::create(context, answered);
-    if (!canShowWidgets())
+    if (!canShowWidgets()) {
         reply->give(description.answerUnshown());
-    else if (isGuiThread())
+    } else if (isGuiThread()) {
         openOnGuiThread(description, parent, reply);
-    else
-        QMetaObject::invokeMethod(
-            qApp, [=] { openOnGuiThread(description, parent, reply); }, Qt::QueuedConnection);
+    } else {
+        const auto ticket = std::make_shared<Ticket>(reply, description.answerUnshown());
+        BoxDesk::instance().post([=] {
+            ticket->begin();
+            openOnGuiThread(description, parent, reply);
+        });
+    }
 }
 
 } // namespace ozm

@@ -7,6 +7,7 @@
 #include <QMessageBox>
 
 #include <functional>
+#include <optional>
 
 namespace ozm {
 
@@ -28,6 +29,9 @@ struct MessageBoxDescription
 
     /// The answer when the box cannot be shown.
     [[nodiscard]] QMessageBox::StandardButton answerUnshown() const;
+    /// The answer of a warning over a @p parent that is not shown on screen, which is written to the log
+    /// instead; none for all others.
+    [[nodiscard]] std::optional<QMessageBox::StandardButton> answerOffScreen(const QWidget *parent) const;
 };
 
 /// The button for the code that a box ended with; a box closed without a button was canceled.

@@ -1,8 +1,6 @@
 #include <ozm_widgets/OZMStyle.h>
 
 #include "style/boxes/MessageBoxDescription.h"
-#include "support/Logging.h"
-
 #include "support/Platform.h"
 #include <QWidget>
 
@@ -68,10 +66,8 @@ Button OZMStyle::criticalImpl(QWidget *parent, const MessageBoxDescription &box)
 
 Button OZMStyle::warningImpl(QWidget *parent, const MessageBoxDescription &box)
 {
-    if (!parent || !parent->testAttribute(Qt::WA_DontShowOnScreen))
-        return ozm::runMessageBox(box, parent);
-    OZM_WIDGETS_WARNING() << qUtf8Printable(box.text.toPlainText());
-    return QMessageBox::Ok;
+    const auto answer = box.answerOffScreen(parent);
+    return answer ? *answer : ozm::runMessageBox(box, parent);
 }
 
 Button OZMStyle::informationImpl(QWidget *parent, const MessageBoxDescription &box)

@@ -35,6 +35,21 @@ constexpr std::array kIcons{
     IconRow{QMessageBox::Question, "dialog-question"_L1, 0xff2a6fb8, 0xff6cb2f5},
 };
 
+/// Also before the box is shown, when nothing in it is visible yet.
+bool areDetailsOpen(const QMessageBox &box)
+{
+    const QWidget *details = box.findChild<QTextEdit *>();
+    while (details && details->parentWidget() != &box)
+        details = details->parentWidget();
+    return details && !details->isHidden();
+}
+
+/// In English, or in the words of the toolkit's language.
+bool namesDetails(const QString &text)
+{
+    return text.contains("details"_L1, Qt::CaseInsensitive) || text == QMessageBox::tr("Show Details...");
+}
+
 } // namespace
 
 OzmMessageBox::OzmMessageBox(QWidget *parent)
@@ -48,13 +63,12 @@ OzmMessageBox::OzmMessageBox(OzmMessageBoxSignal signal, QWidget *parent)
 
 void OzmMessageBox::showDetailsIfPresent()
 {
-    const auto *details = findChild<QTextEdit *>();
     // The button shows and hides by turns, and must not hide what is open.
-    if (detailedText().isEmpty() || (details && details->isVisibleTo(this)))
+    if (detailedText().isEmpty() || areDetailsOpen(*this))
         return;
     const QList<QAbstractButton *> all = buttons();
     const auto found = std::ranges::find_if(all, [this](QAbstractButton *button) {
-        return buttonRole(button) == ActionRole && button->text().contains("details"_L1, Qt::CaseInsensitive);
+        return buttonRole(button) == ActionRole && namesDetails(button->text());
     });
     if (found != all.cend())
         (*found)->click();
