@@ -3,6 +3,7 @@
 #include <QLoggingCategory>
 
 #include <algorithm>
+#include <ranges>
 
 namespace ozm::audit {
 
@@ -93,9 +94,9 @@ qint64 WriteQueue::numberOf(qint64 ticket) const
 qint64 WriteQueue::numberLocked(qint64 ticket) const
 {
     // The last run first: parents are mostly recent.
-    for (auto run = m_runs.crbegin(); run != m_runs.crend(); ++run) {
-        if (ticket >= run->ticket && ticket < run->ticket + run->count)
-            return run->number + ticket - run->ticket;
+    for (const Run &run : std::ranges::reverse_view(m_runs)) {
+        if (ticket >= run.ticket && ticket < run.ticket + run.count)
+            return run.number + ticket - run.ticket;
     }
     return 0;
 }

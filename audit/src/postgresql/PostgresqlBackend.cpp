@@ -183,6 +183,7 @@ Result<std::vector<Hash>> PostgresqlBackend::hashes(int level, qint64 first, qin
     if (!answer)
         return answer.error();
     std::vector<Hash> hashes;
+    hashes.reserve(std::size_t(answer.value().rows()));
     for (int i = 0; i < answer.value().rows(); ++i)
         hashes.push_back(toHash(answer.value().bytes(i, 0)).value_or(Hash()));
     return hashes;

@@ -211,7 +211,7 @@ void Verifier::takeRecord(const StoredRow &row, const EntryMembers &members)
         return;
     }
     const QJsonArray findings = record.value("findings"_L1).toArray();
-    for (const QJsonValue &value : findings) {
+    for (const auto &value : findings) {
         const QJsonObject json = value.toObject();
         m_acknowledgements.append({row.number, json.value("first"_L1).toInteger(),
                                    json.value("last"_L1).toInteger(), base64(json.value("root"_L1))});
