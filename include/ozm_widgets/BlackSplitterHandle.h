@@ -13,7 +13,8 @@ namespace ozm {
  * keyboard's focus.
  *
  * Dragging moves it, and so do the arrow keys, in small steps with Shift. A double click, or Enter, collapses
- * the smaller neighbour that may be collapsed, and restores it.
+ * the smaller neighbour that may be collapsed, and restores it; QSplitter::setChildrenCollapsible(false) forbids
+ * it for all.
  *
  *     auto *splitter = new ozm::BlackSplitter(Qt::Horizontal, this);   // makes such handles
  */
@@ -32,6 +33,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void enterEvent(QEnterEvent *event) override;

@@ -14,7 +14,7 @@ class QDockWidget;
  *
  *     dock->setTitleBarWidget(new OZMDockWidgetTitleBar(dock));
  *
- * It follows the dock's title, its features (buttons come and go; the bar turns upright with
+ * It follows the dock's title (with a star for "[*]" while the dock is modified), its features (buttons come and go; the bar turns upright with
  * QDockWidget::DockWidgetVerticalTitleBar) and whether it floats. A double click floats the dock, or docks it
  * again; the buttons can be reached with the Tab key.
  */
@@ -33,6 +33,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void changeEvent(QEvent *event) override;
     bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     class Private;

@@ -53,7 +53,27 @@ public:
         sizes[from] = room - sizes.at(collapsed);
     }
 
+    [[nodiscard]] bool isMirrored() const
+    {
+        return qptr->orientation() == Qt::Horizontal && qptr->splitter()->isRightToLeft();
+    }
+
+    /// The place of the handle as moveSplitter() takes it: right to left, that is its right edge.
+    [[nodiscard]] int position() const
+    {
+        if (qptr->orientation() == Qt::Vertical)
+            return qptr->y();
+        return isMirrored() ? qptr->x() + qptr->width() : qptr->x();
+    }
+
+    [[nodiscard]] bool mayCollapse(int index) const
+    {
+        // A pane that nothing was said of answers true, whatever holds for all panes.
+        return qptr->splitter()->childrenCollapsible() && qptr->splitter()->isCollapsible(index);
+    }
+
     BlackSplitterHandle *const qptr;
+    int grabbedAt = 0;
     int sizeBefore = 0;
     bool hovered = false;
 };
@@ -85,15 +105,17 @@ void BlackSplitterHandle::toggleCollapsed()
         d->restore(sizes, isBefore ? before : after, isBefore ? after : before, d->sizeBefore);
     } else {
         int victim = sizes.at(before) <= sizes.at(after) ? before : after;
-        if (!splitter()->isCollapsible(victim))
+        if (!d->mayCollapse(victim))
             victim = victim == before ? after : before;
-        if (!splitter()->isCollapsible(victim))
+        if (!d->mayCollapse(victim))
             return;
         d->sizeBefore = std::exchange(sizes[victim], 0);
         sizes[victim == before ? after : before] += d->sizeBefore;
     }
     splitter()->setSizes(sizes);
-    Q_EMIT splitter()->splitterMoved(orientation() == Qt::Horizontal ? x() : y(), splitter()->indexOf(this));
+    // From where the panes begin, as the splitter itself tells it.
+    const int moved = d->isMirrored() ? splitter()->contentsRect().width() - d->position() : d->position();
+    Q_EMIT splitter()->splitterMoved(moved, splitter()->indexOf(this));
 }
 
 void BlackSplitterHandle::paintEvent(QPaintEvent *)
@@ -112,6 +134,21 @@ void BlackSplitterHandle::paintEvent(QPaintEvent *)
     painter.fillRect(line, color);
 }
 
+void BlackSplitterHandle::mousePressEvent(QMouseEvent *event)
+{
+    d->grabbedAt = event->position().toPoint().x();
+    QSplitterHandle::mousePressEvent(event);
+}
+
+void BlackSplitterHandle::mouseMoveEvent(QMouseEvent *event)
+{
+    // Right to left the toolkit jumps by the width of the handle when it is grabbed.
+    if (d->isMirrored() && splitter()->opaqueResize() && event->buttons().testFlag(Qt::LeftButton))
+        moveSplitter(d->position() + event->position().toPoint().x() - d->grabbedAt);
+    else
+        QSplitterHandle::mouseMoveEvent(event);
+}
+
 void BlackSplitterHandle::mouseDoubleClickEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton)
@@ -123,7 +160,7 @@ void BlackSplitterHandle::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         toggleCollapsed();
     else if (const int step = stepOf(*event, orientation()); step != 0)
-        moveSplitter((orientation() == Qt::Horizontal ? x() : y()) + step);
+        moveSplitter(d->position() + step);
     else
         QSplitterHandle::keyPressEvent(event);
 }

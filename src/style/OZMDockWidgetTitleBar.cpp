@@ -6,6 +6,7 @@
 #include <QDockWidget>
 #include <QHelpEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QStyle>
 #include <QToolButton>
 #include <QToolTip>
@@ -20,6 +21,27 @@ constexpr int kIconSize = 16;
 constexpr float kShade = 0.08F;
 // This much of the title is always shown, in characters of average width.
 constexpr int kLeastCharacters = 4;
+const QString kModifiedMark = u"[*]"_s;
+
+/// The title of @p dock as windows show it: the mark is a star while it is modified, and nothing else; twice,
+/// it stands for itself.
+QString titleOf(const QDockWidget &dock)
+{
+    const QString title = dock.windowTitle();
+    QString shown;
+    for (qsizetype at = 0; at < title.size();) {
+        const bool isMark = QStringView(title).sliced(at).startsWith(kModifiedMark);
+        const bool isDouble = isMark && QStringView(title).sliced(at + 3).startsWith(kModifiedMark);
+        if (isDouble)
+            shown += kModifiedMark;
+        else if (!isMark)
+            shown += title.at(at);
+        else if (dock.isWindowModified())
+            shown += u'*';
+        at += isDouble ? 6 : isMark ? 3 : 1;
+    }
+    return shown;
+}
 
 } // namespace
 
@@ -50,13 +72,17 @@ public:
         return button;
     }
 
+    [[nodiscard]] QString title() const { return dock ? titleOf(*dock) : QString(); }
+
     [[nodiscard]] bool isVertical() const
     {
-        return dock->features().testFlag(QDockWidget::DockWidgetVerticalTitleBar);
+        return dock && dock->features().testFlag(QDockWidget::DockWidgetVerticalTitleBar);
     }
 
     void follow() const
     {
+        if (!dock)
+            return;
         const QDockWidget::DockWidgetFeatures features = dock->features();
         layout->setDirection(isVertical() ? QBoxLayout::BottomToTop : QBoxLayout::LeftToRight);
         layout->setContentsMargins(isVertical() ? QMargins(2, kMargin, 2, kMargin)
@@ -71,7 +97,9 @@ public:
 
     void nameButtons() const
     {
-        const QString title = dock->windowTitle();
+        if (!dock)
+            return;
+        const QString title = this->title();
         qptr->setAccessibleName(title);
         closing->setToolTip(OZMDockWidgetTitleBar::tr("Close"));
         closing->setAccessibleName(OZMDockWidgetTitleBar::tr("Close %1").arg(title));
@@ -94,7 +122,7 @@ public:
 
     [[nodiscard]] QString shownTitle() const
     {
-        return qptr->fontMetrics().elidedText(dock->windowTitle(), Qt::ElideRight, textLength());
+        return qptr->fontMetrics().elidedText(title(), Qt::ElideRight, textLength());
     }
 
     [[nodiscard]] QSize sizeFor(int textWidth) const
@@ -107,7 +135,8 @@ public:
     }
 
     OZMDockWidgetTitleBar *const qptr;
-    QDockWidget *const dock;
+    /// A bar that was given another parent may outlive its dock.
+    const QPointer<QDockWidget> dock;
     QBoxLayout *const layout;
     QToolButton *const floating;
     QToolButton *const closing;
@@ -124,6 +153,8 @@ OZMDockWidgetTitleBar::OZMDockWidgetTitleBar(QDockWidget *dock)
     connect(dock, &QWidget::windowTitleChanged, this, follow);
     connect(d->closing, &QToolButton::clicked, dock, &QDockWidget::close);
     connect(d->floating, &QToolButton::clicked, dock, [dock] { dock->setFloating(!dock->isFloating()); });
+    // That the dock is modified or not, no signal tells.
+    dock->installEventFilter(this);
     follow();
 }
 
@@ -131,7 +162,7 @@ OZMDockWidgetTitleBar::~OZMDockWidgetTitleBar() = default;
 
 QSize OZMDockWidgetTitleBar::sizeHint() const
 {
-    return d->sizeFor(fontMetrics().horizontalAdvance(d->dock->windowTitle()) + 1);
+    return d->sizeFor(fontMetrics().horizontalAdvance(d->title()) + 1);
 }
 
 QSize OZMDockWidgetTitleBar::minimumSizeHint() const
@@ -170,11 +201,18 @@ void OZMDockWidgetTitleBar::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
 }
 
+bool OZMDockWidgetTitleBar::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == d->dock && event->type() == QEvent::ModifiedChange)
+        d->follow();
+    return QWidget::eventFilter(watched, event);
+}
+
 bool OZMDockWidgetTitleBar::event(QEvent *event)
 {
     // Where the title is cut off, it is told in full.
     if (event->type() == QEvent::ToolTip) {
-        const QString title = d->dock->windowTitle();
+        const QString title = d->title();
         QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
                            d->shownTitle() == title ? QString() : title, this);
         return true;

@@ -10,6 +10,7 @@
 #include <QThread>
 #include <QTranslator>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -51,16 +52,32 @@ QString userOfSystem()
     return u"unknown"_s;
 }
 
+const QString kTranslators = u"ozmTranslator/"_s;
+const QString kToolkit = u"qtbase"_s;
+
+void uninstall(const QString &file)
+{
+    delete qApp->findChild<QTranslator *>(kTranslators + file, Qt::FindDirectChildrenOnly);
+}
+
 /// Loads <file>_<language>.qm in place of what was loaded of that file before; false when there is none.
 bool install(const QString &file, const QLocale &locale, const QString &folder)
 {
-    const QString name = u"ozmTranslator/"_s + file;
-    delete qApp->findChild<QTranslator *>(name, Qt::FindDirectChildrenOnly);
+    uninstall(file);
     auto translator = std::make_unique<QTranslator>(qApp);
-    translator->setObjectName(name);
+    translator->setObjectName(kTranslators + file);
     if (!translator->load(locale, file, u"_"_s, folder))
         return false;
     return QCoreApplication::installTranslator(translator.release());
+}
+
+bool isAnyInstalled()
+{
+    const auto all = qApp->findChildren<QTranslator *>(Qt::FindDirectChildrenOnly);
+    return std::ranges::any_of(all, [](const QTranslator *translator) {
+        return translator->objectName().startsWith(kTranslators) &&
+               translator->objectName() != kTranslators + kToolkit;
+    });
 }
 
 } // namespace
@@ -89,8 +106,14 @@ void OzmCoreApplication::start(const QString &style)
 bool OzmCoreApplication::loadTranslation(const QLocale &locale, const QString &name)
 {
     initTranslations();
-    install(u"qtbase"_s, locale, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    return install(name, locale, u":/i18n"_s);
+    if (install(name, locale, u":/i18n"_s)) {
+        install(kToolkit, locale, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+        return true;
+    }
+    // The toolkit alone would put its words between English ones.
+    if (!isAnyInstalled())
+        uninstall(kToolkit);
+    return false;
 }
 
 QString OzmCoreApplication::userName()

@@ -16,6 +16,7 @@
 #include <QStyleFactory>
 #include <QToolBar>
 #include <QToolButton>
+#include <QTranslator>
 
 #include <cmath>
 #include <memory>
@@ -118,9 +119,10 @@ struct Dock
 
 struct Panes
 {
-    explicit Panes(Qt::Orientation orientation)
+    Panes(Qt::Orientation orientation, Qt::LayoutDirection direction)
         : splitter(orientation)
     {
+        splitter.setLayoutDirection(direction);
         splitter.addWidget(new QWidget);
         splitter.addWidget(new QWidget);
         splitter.resize(407, 407);
@@ -302,6 +304,10 @@ void TestStyle::dockTitleBar()
     fixture.dock->setWindowTitle(u"A title far too long for the narrow place that it has to be shown in"_s);
     QVERIFY(closing->accessibleName().endsWith("shown in"_L1));
     QVERIFY2(fixture.bar->minimumSizeHint().width() < 150, "a long title keeps the dock from being narrow");
+    fixture.dock->setWindowTitle(u"Trail[*] [*][*]"_s);
+    QCOMPARE(fixture.bar->accessibleName(), u"Trail [*]"_s);
+    fixture.dock->setWindowModified(true);
+    QCOMPARE(closing->accessibleName(), u"Close Trail* [*]"_s);
 
     QTest::mouseDClick(fixture.bar, Qt::LeftButton, {}, QPoint(20, fixture.bar->height() / 2));
     QVERIFY(fixture.dock->isFloating());
@@ -314,6 +320,12 @@ void TestStyle::dockTitleBar()
     QVERIFY(floating->isHidden() && !closing->isHidden());
     closing->click();
     QVERIFY(fixture.dock->isHidden());
+
+    // Kept by someone else, the bar outlives its dock.
+    QWidget keeper;
+    fixture.bar->setParent(&keeper);
+    delete fixture.dock;
+    QVERIFY(!fixture.bar->grab().isNull() && fixture.bar->sizeHint().isValid());
 }
 
 void TestStyle::dockTitleBarStandsUpright()
@@ -330,36 +342,54 @@ void TestStyle::dockTitleBarStandsUpright()
 void TestStyle::splitterHandle_data()
 {
     QTest::addColumn<Qt::Orientation>("orientation");
-    QTest::newRow("horizontal") << Qt::Horizontal;
-    QTest::newRow("vertical") << Qt::Vertical;
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("horizontal") << Qt::Horizontal << Qt::LeftToRight;
+    QTest::newRow("right to left") << Qt::Horizontal << Qt::RightToLeft;
+    QTest::newRow("vertical") << Qt::Vertical << Qt::LeftToRight;
 }
 
 void TestStyle::splitterHandle()
 {
     QFETCH(const Qt::Orientation, orientation);
+    QFETCH(const Qt::LayoutDirection, direction);
     const bool lying = orientation == Qt::Horizontal;
-    const Panes panes(orientation);
+    Panes panes(orientation, direction);
+    ozm::BlackSplitter &splitter = panes.splitter;
     ozm::BlackSplitterHandle *handle = panes.handle();
     QVERIFY(handle);
     QCOMPARE(handle->cursor().shape(), lying ? Qt::SplitHCursor : Qt::SplitVCursor);
     QVERIFY((lying ? handle->width() : handle->height()) >= 7);
 
+    // The keys and the mouse mean directions on the screen.
+    const auto place = [&] { return lying ? handle->x() : handle->y(); };
+    const int start = place();
+    const int size = panes.first();
     QTest::keyClick(handle, lying ? Qt::Key_Right : Qt::Key_Down);
-    QCOMPARE(panes.first(), 120);
+    QCOMPARE(place(), start + 20);
     QTest::keyClick(handle, lying ? Qt::Key_Left : Qt::Key_Up, Qt::ShiftModifier);
-    QCOMPARE(panes.first(), 119);
+    QCOMPARE(place(), start + 19);
+    QTest::mousePress(handle, Qt::LeftButton, {}, QPoint(2, 2));
+    QTest::mouseMove(handle, QPoint(5, 5));
+    QTest::mouseRelease(handle, Qt::LeftButton, {}, QPoint(2, 2));
+    QCOMPARE(place(), start + 22);
+    const int before = panes.first();
+    QCOMPARE(before, direction == Qt::RightToLeft ? size - 22 : size + 22);
 
+    splitter.setChildrenCollapsible(false);
+    QTest::mouseDClick(handle, Qt::LeftButton);
+    QCOMPARE(panes.first(), before);
+    splitter.setChildrenCollapsible(true);
     QTest::mouseDClick(handle, Qt::LeftButton);
     QCOMPARE(panes.first(), 0);
     QTest::keyClick(handle, Qt::Key_Return);
-    QCOMPARE(panes.first(), 119);
+    QCOMPARE(panes.first(), before);
 
     // The smaller one may not be collapsed, so the other is.
-    const_cast<ozm::BlackSplitter &>(panes.splitter).setCollapsible(0, false);
+    splitter.setCollapsible(0, false);
     QTest::mouseDClick(handle, Qt::LeftButton);
-    QCOMPARE(panes.splitter.sizes().constLast(), 0);
+    QCOMPARE(splitter.sizes().constLast(), 0);
     QTest::mouseDClick(handle, Qt::LeftButton);
-    QCOMPARE(panes.first(), 119);
+    QCOMPARE(panes.first(), before);
 }
 
 void TestStyle::germanIsComplete()
@@ -373,8 +403,9 @@ void TestStyle::germanIsComplete()
     QCOMPARE(OZMStyle::tr("Warning"), u"Warnung"_s);
     const Dock fixture;
     QCOMPARE(fixture.button(u"closeButton"_s)->toolTip(), u"Schließen"_s);
-    // No translation into it: English again, and not German left over.
-    QVERIFY(!ozm::OzmCoreApplication::loadTranslation(QLocale(QLocale::Zulu)));
+    // No translation into it: English again, not German left over, and not the toolkit alone in French.
+    QVERIFY(!ozm::OzmCoreApplication::loadTranslation(QLocale(QLocale::French)));
+    QVERIFY(qApp->findChildren<QTranslator *>().isEmpty());
     QCOMPARE(OZMStyle::tr("Warning"), u"Warning"_s);
     QTRY_COMPARE(fixture.button(u"closeButton"_s)->toolTip(), u"Close"_s);
 }
