@@ -156,8 +156,8 @@
 <context>
     <name>main</name>
     <message>
-        <source>Work on &lt;input&gt;, a CSV file or a folder of MS data, without a user, then end.</source>
-        <translation>&lt;input&gt;, eine CSV-Datei oder einen Ordner mit MS-Daten, ohne Benutzer bearbeiten, dann enden.</translation>
+        <source>Work on &lt;input&gt;, a CSV file, MS data or a folder of MS data, without a user, then end.</source>
+        <translation>&lt;input&gt;, eine CSV-Datei, MS-Daten oder einen Ordner mit MS-Daten, ohne Benutzer bearbeiten, dann enden.</translation>
     </message>
     <message>
         <source>Folder for a batch run&apos;s results.</source>
@@ -978,6 +978,10 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
     <message>
         <source>it is a folder</source>
         <translation>es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>es ist keine Datei</translation>
     </message>
     <message>
         <source>&quot;%1&quot; holds no table of samples. %2</source>

@@ -58,9 +58,11 @@ void tellData(const MsSample &info, const QDir &folder)
                   size));
 }
 
-/// All data in @p folder, in the order in which it is listed.
-ozm::Result<QList<MsSample>> findData(const QString &folder)
+/// All data in @p folder, in the order in which it is listed; @p folder itself where that is data.
+ozm::Result<QList<MsSample>> findData(const QString &folder, const MsSample &itself)
 {
+    if (itself.isData())
+        return QList<MsSample>{itself};
     QList<MsSample> samples;
     ozm::msreader::MsDataSearchOptions options;
     options.measureFolders = true;
@@ -87,6 +89,23 @@ Error prepareDirectory(const QString &path)
         .ecatch(OZM_HERE);
 }
 
+/// A run works on a CSV file of samples, on data, or on a folder in which it looks for data.
+struct Input
+{
+    [[nodiscard]] bool isOfData() const { return isFolder || sample.isData(); }
+
+    bool isFolder = false;
+    MsSample sample;
+};
+
+Input inputAt(const QString &path)
+{
+    Input input{QFileInfo(path).isDir(), ozm::msreader::MsDataSearch::sampleAt(path)};
+    if (input.sample.isData() && input.isFolder)
+        input.sample.size = ozm::msreader::MsDataSearch::sizeOnDisk(path);
+    return input;
+}
+
 /// The run itself: each function is a step, and a step that fails ends the run.
 class Run
 {
@@ -95,7 +114,7 @@ public:
         : m_editor(editor)
         , m_options(options)
         , m_out(options.outDirectory)
-        , m_isFolder(QFileInfo(options.input).isDir())
+        , m_input(inputAt(options.input))
         , m_window(editor, options.database)
     {
         m_window.setMessagesShown(false);
@@ -120,29 +139,30 @@ private:
 
     Error load()
     {
-        Error error = m_isFolder ? loadFolder() : m_editor.load(m_options.input);
+        Error error = m_input.isOfData() ? loadData() : m_editor.load(m_options.input);
         if (error.hasError() || m_editor.table().rowCount() > 0)
             return error;
         return Error(ErrorCode::BadParameter,
                      tr("\"%1\" holds no samples.").arg(QDir::toNativeSeparators(m_options.input)));
     }
 
-    Error loadFolder()
+    Error loadData()
     {
-        const QString folder = QDir::cleanPath(QFileInfo(m_options.input).absoluteFilePath());
-        const auto found = findData(folder);
+        const QString path = QDir::cleanPath(QFileInfo(m_options.input).absoluteFilePath());
+        const auto found = findData(path, m_input.sample);
         if (!found)
             return found.error();
+        const QString folder = m_input.sample.isData() ? QFileInfo(path).path() : path;
         for (const MsSample &info : found.value())
             tellData(info, QDir(folder));
         Error error = writeFormats(found.value(), folder, m_out.filePath(u"formats.csv"_s));
-        return error.hasError() ? error : m_editor.addData(found.value(), folder);
+        return error.hasError() ? error : m_editor.addData(found.value(), path);
     }
 
     Error edit()
     {
         // Data has no charge.
-        if (m_isFolder)
+        if (m_input.isOfData())
             return m_editor.setCell(idAt(0), kComment, tr("Checked by the batch run"));
         // The two charges become one step of the history, and stay two records of the trail.
         for (const auto &charge : {u"3"_s, u"4"_s})
@@ -153,7 +173,7 @@ private:
 
     Error add()
     {
-        if (m_isFolder)
+        if (m_input.isOfData())
             return {};
         QString name = tr("Batch control");
         for (int number = 2; m_editor.table().hasName(name); ++number)
@@ -243,7 +263,7 @@ private:
     SampleEditor &m_editor;
     const BatchOptions &m_options;
     const QDir m_out;
-    const bool m_isFolder;
+    const Input m_input;
     MainWindow m_window;
 };
 
@@ -254,7 +274,7 @@ void tellResults(const BatchOptions &options)
     for (const auto &name :
          {u"audit.json"_s, u"samples.csv"_s, u"report.html"_s, u"report.pdf"_s, u"window.png"_s})
         tell(QFileInfo(out.filePath(name)).absoluteFilePath());
-    if (QFileInfo(options.input).isDir())
+    if (inputAt(options.input).isOfData())
         tell(QFileInfo(out.filePath(u"formats.csv"_s)).absoluteFilePath());
 }
 

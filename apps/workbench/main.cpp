@@ -35,7 +35,7 @@ struct Options
     QCommandLineOption batch{
         u"batch"_s,
         QCoreApplication::translate(
-            "main", "Work on <input>, a CSV file or a folder of MS data, without a user, then end."),
+            "main", "Work on <input>, a CSV file, MS data or a folder of MS data, without a user, then end."),
         u"input"_s};
     QCommandLineOption out{u"out"_s, QCoreApplication::translate("main", "Folder for a batch run's results."),
                            u"folder"_s};

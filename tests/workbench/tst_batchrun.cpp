@@ -12,6 +12,10 @@
 #include <QJsonObject>
 #include <QProcess>
 
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
 using namespace Qt::StringLiterals;
 using namespace ozm::test;
 using namespace workbench;
@@ -151,6 +155,13 @@ void TestBatchRun::takesAFolder()
     QCOMPARE(samples.value().at(0).getDataAt(kName).toString(), u"Z (checked)"_s);
     QCOMPARE(samples.value().at(3).getDataAt(kName).toString(), u"Run 1 (2)"_s);
     QCOMPARE(samples.value().at(3).getDataAt(kPath).toString(), tree.path(u"c/Run 1.raw"_s));
+
+    // One acquisition alone is data as well, whether a file or a folder.
+    for (const QString &name : {u"a, b.mzML"_s, u"c/Run 1.raw"_s, u"b/Run 1.d"_s}) {
+        const Outcome single = run({u"--batch"_s, tree.path(name), u"--out"_s, folder.path()});
+        QVERIFY2(single.exitCode == 0, qUtf8Printable(single.complaint));
+        QCOMPARE(single.lines.filter(u"found "_s + QFileInfo(name).fileName() + u':').size(), 1);
+    }
 }
 
 void TestBatchRun::continuesTheTrail()
@@ -186,6 +197,10 @@ void TestBatchRun::failsWithAMessage_data()
                               << u"none.csv\" cannot be read"_s;
     QTest::newRow("malformed") << QStringList{u"--batch"_s, u"DIR/bad.csv"_s, u"--out"_s, u"DIR"_s} << 1
                                << u"Line 3: The charge must be"_s;
+#ifdef Q_OS_UNIX
+    QTest::newRow("pipe") << QStringList{u"--batch"_s, u"DIR/pipe"_s, u"--out"_s, u"DIR"_s} << 1
+                          << u"pipe\" cannot be read: it is not a file"_s;
+#endif
     QTest::newRow("no samples") << QStringList{u"--batch"_s, u"DIR/empty.csv"_s, u"--out"_s, u"DIR"_s} << 1
                                 << u"holds no samples"_s;
     QTest::newRow("no data") << QStringList{u"--batch"_s, u"DIR"_s, u"--out"_s, u"DIR/out"_s} << 1
@@ -205,6 +220,9 @@ void TestBatchRun::failsWithAMessage()
     const QTemporaryDir folder;
     QVERIFY(writeFile(folder.filePath(u"bad.csv"_s), "Name,Mass,Charge\nA,1,2\nB,1,999\n"));
     QVERIFY(writeFile(folder.filePath(u"empty.csv"_s), "Name,Mass\n"));
+#ifdef Q_OS_UNIX
+    QCOMPARE(mkfifo(QFile::encodeName(folder.filePath(u"pipe"_s)).constData(), 0600), 0);
+#endif
     arguments.replaceInStrings(u"DIR"_s, folder.path());
     const Outcome outcome = run(arguments);
     QTEST(outcome.exitCode, "exitCode");

@@ -124,13 +124,17 @@ ozm::Result<Samples> parse(const QByteArray &bytes)
 ozm::Result<Samples> read(const QString &path)
 {
     const QString shown = QDir::toNativeSeparators(path);
+    const QFileInfo info(path);
     QFile file(path);
-    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
-        return Error(ErrorCode::FileAccess,
-                     tr("\"%1\" cannot be read: %2.")
-                         .arg(shown, QFileInfo(path).isDir() ? tr("it is a folder") : file.errorString()))
+    QString reason;
+    // A pipe that nobody writes to would never end.
+    if (info.exists() && !info.isFile())
+        reason = info.isDir() ? tr("it is a folder") : tr("it is not a file");
+    else if (!file.open(QIODevice::ReadOnly))
+        reason = file.errorString();
+    if (!reason.isEmpty())
+        return Error(ErrorCode::FileAccess, tr("\"%1\" cannot be read: %2.").arg(shown, reason))
             .ecatch(OZM_HERE);
-    }
     auto samples = parse(file.readAll());
     if (!samples)
         return bad(tr("\"%1\" holds no table of samples. %2").arg(shown, samples.error().errorMessage()));
