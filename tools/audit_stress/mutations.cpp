@@ -30,7 +30,12 @@ class Bench
 {
 public:
     explicit Bench(const QString &verifier);
-    ~Bench() { sqlite3_close(m_handle); }
+    ~Bench()
+    {
+        m_python.closeWriteChannel();
+        m_python.waitForFinished();
+        sqlite3_close(m_handle);
+    }
     Q_DISABLE_COPY_MOVE(Bench)
 
     void sql(const QByteArray &statement, const QList<QByteArray> &blobs = {});
