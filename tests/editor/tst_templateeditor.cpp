@@ -188,8 +188,8 @@ void TestTemplateEditor::aTemplateIsWrittenAndPrinted()
     expected.setHtml(decoded);
     QCOMPARE(f.child<QTextBrowser>("previewText")->toPlainText(), expected.toPlainText());
     saveAndReopen(f);
-    // And the number of the page.
-    QCOMPARE(printedWords(f), words(expected.toPlainText()) << u"1"_s);
+    // And the number of the page at its foot.
+    QCOMPARE(printedWords(f), words(expected.toPlainText()) + words(u"Page 1 of 1"_s));
 }
 
 void TestTemplateEditor::codesAreInsertedInTheSource()

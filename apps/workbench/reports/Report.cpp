@@ -1,11 +1,11 @@
 #include "reports/Report.h"
 
 #include <ozm_widgets/AbstractTemplateEditor.h>
-#include <ozm_widgets/TECWrapper.h>
+#include <ozm_widgets/ReportPaper.h>
+#include <ozm_widgets/TemplateFile.h>
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QSaveFile>
 
 using namespace Qt::StringLiterals;
@@ -48,14 +48,10 @@ Error fileError(const QString &text, const QString &path)
 ozm::Result<QString> loadTemplate(const QString &path)
 {
     initReportResource();
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return fileError(tr("The template \"%1\" cannot be read."), path);
-    bool ok = false;
-    QString content = TECWrapper::unwrapTEC(QString::fromUtf8(file.readAll()), &ok);
-    if (!ok)
-        return fileError(tr("\"%1\" is not a template of this version."), path);
-    return content;
+    const auto loaded = ozm::TemplateFile::read(path);
+    if (!loaded)
+        return loaded.error();
+    return loaded.value().content;
 }
 
 ReportPages pageOf(const ozm::TemplateReport &decoded)
@@ -129,6 +125,11 @@ QString reportHtml(const ReportPages &report, PageEnd end)
         html += report.pages.at(index);
     }
     return html + u"</body></html>"_s;
+}
+
+Error saveReportPdf(const ReportPages &report, const QString &path)
+{
+    return ozm::ReportPaper(reportHtml(report), {tr("Report"), tr("Made by the workbench")}).writePdf(path);
 }
 
 Error saveReportHtml(const ReportPages &report, const QString &path)

@@ -8,7 +8,6 @@
 #include <memory>
 
 class QPrinter;
-class QTextDocument;
 class QWidget;
 
 namespace ozm::editor {
@@ -21,9 +20,6 @@ class TemplatePrinting
 public:
     TemplatePrinting();
     ~TemplatePrinting();
-
-    /// @p decoded, as decoding gives it, without script tags.
-    [[nodiscard]] static std::unique_ptr<QTextDocument> document(const QString &decoded);
 
     void askPage(QWidget *parent);
     void preview(QWidget *parent, const QString &decoded);

@@ -1,4 +1,9 @@
-#include "reports/Report.h"
+#include <ozm_widgets/ReportPaper.h>
+
+#include "templates/syntax/ScriptTags.h"
+
+#include <ozm_widgets/TemplateDocument.h>
+#include <platform/Errors.h>
 
 #include <QAbstractTextDocumentLayout>
 #include <QCoreApplication>
@@ -7,48 +12,29 @@
 #include <QPdfWriter>
 #include <QSaveFile>
 #include <QTextBlock>
-#include <QTextDocument>
 #include <QTextTable>
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 using namespace Qt::StringLiterals;
-using ozm::Error;
-using ozm::ErrorCode;
 
-namespace workbench {
+namespace ozm {
 
 namespace {
 
-const QMarginsF kMarginsMm(20, 16, 18, 14);
 constexpr double kFooterMm = 9.0;
-constexpr int kDotsPerInch = 300;
+constexpr double kMmPerInch = 25.4;
+constexpr int kPdfDotsPerInch = 300;
 // Lengths in a document are in this unit.
 constexpr double kScreenDotsPerInch = 96;
 constexpr int kFooterPoints = 7;
 
 QString tr(const char *text)
 {
-    return QCoreApplication::translate("workbench", text);
-}
-
-void preparePaper(QPdfWriter &writer)
-{
-    writer.setResolution(kDotsPerInch);
-    writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setPageMargins(kMarginsMm, QPageLayout::Millimeter);
-    writer.setTitle(tr("Report"));
-    writer.setCreator(QCoreApplication::applicationName());
-}
-
-void drawFooter(QPainter &painter, const QRectF &area, int page, int pages)
-{
-    painter.setFont(QFont(u"DejaVu Sans"_s, kFooterPoints));
-    painter.setPen(QColor(0x51, 0x60, 0x6d));
-    painter.drawText(area, Qt::AlignRight | Qt::AlignBottom, tr("Page %1 of %2").arg(page).arg(pages));
-    painter.drawText(area, Qt::AlignLeft | Qt::AlignBottom, tr("Made by the workbench"));
+    return QCoreApplication::translate("ozm::ReportPaper", text);
 }
 
 struct Extent
@@ -72,7 +58,7 @@ Extent extentOf(QTextTable &table, int row)
 }
 
 /// Makes the row higher at its foot, by a distance on paper.
-void stretchRow(QTextTable &table, int row, double distance)
+void stretchRow(QTextTable &table, int row, double distance, double dotsPerInch)
 {
     for (int column = 0; column < table.columns(); ++column) {
         QTextTableCell cell = table.cellAt(row, column);
@@ -80,43 +66,42 @@ void stretchRow(QTextTable &table, int row, double distance)
         const double padding = format.hasProperty(QTextFormat::TableCellBottomPadding)
                                    ? format.bottomPadding()
                                    : table.format().cellPadding();
-        format.setBottomPadding(padding + distance * kScreenDotsPerInch / kDotsPerInch);
+        format.setBottomPadding(padding + distance * kScreenDotsPerInch / dotsPerInch);
         cell.setFormat(format);
     }
 }
 
 /// Has each row that would be cut by the end of a sheet begin on the next one. Rows are laid out line by
 /// line otherwise, and nothing can be set on a table to prevent it.
-void keepRowsTogether(QTextTable &table, double sheetHeight)
+void keepRowsTogether(QTextTable &table, double sheetHeight, double dotsPerInch)
 {
     for (int row = std::max(1, table.format().headerRowCount() + 1); row < table.rows(); ++row) {
         const Extent extent = extentOf(table, row);
         const double sheetEnd = (std::floor(extent.top / sheetHeight) + 1) * sheetHeight;
         if (extent.bottom > sheetEnd && extent.bottom - extent.top < sheetHeight)
-            stretchRow(table, row - 1, sheetEnd - extent.top);
+            stretchRow(table, row - 1, sheetEnd - extent.top, dotsPerInch);
     }
 }
 
-void keepRowsTogether(const QTextFrame &frame, double sheetHeight)
+void keepRowsTogether(const QTextFrame &frame, double sheetHeight, double dotsPerInch)
 {
     for (QTextFrame *child : frame.childFrames()) {
         if (auto *table = qobject_cast<QTextTable *>(child))
-            keepRowsTogether(*table, sheetHeight);
-        keepRowsTogether(*child, sheetHeight);
+            keepRowsTogether(*table, sheetHeight, dotsPerInch);
+        keepRowsTogether(*child, sheetHeight, dotsPerInch);
     }
 }
 
 /// Draws the line below the last row on this sheet of a table that goes on, which has none of its own.
-void closeTables(QPainter &painter, const QTextFrame &frame, const QRectF &sheet)
+void closeTables(QPainter &painter, const QTextFrame &frame, const QRectF &sheet, double pixel)
 {
     const QAbstractTextDocumentLayout *layout = frame.document()->documentLayout();
     for (QTextFrame *child : frame.childFrames()) {
-        closeTables(painter, *child, sheet);
+        closeTables(painter, *child, sheet, pixel);
         const auto *table = qobject_cast<QTextTable *>(child);
         const QRectF area = layout->frameBoundingRect(child);
         if (!table || area.top() > sheet.bottom() || area.bottom() <= sheet.bottom())
             continue;
-        const double pixel = kDotsPerInch / kScreenDotsPerInch;
         const double padding = table->format().cellPadding() * pixel;
         const auto cell = [&](int column) {
             return layout->blockBoundingRect(table->cellAt(0, column).firstCursorPosition().block());
@@ -128,51 +113,91 @@ void closeTables(QPainter &painter, const QTextFrame &frame, const QRectF &sheet
     }
 }
 
-void drawPages(QTextDocument &document, QPdfWriter &writer)
-{
-    const double footer = kFooterMm * kDotsPerInch / 25.4;
-    const QRectF sheet(0, 0, writer.width(), writer.height());
-    const QSizeF body(sheet.width(), sheet.height() - footer);
-    document.documentLayout()->setPaintDevice(&writer);
-    document.setPageSize(body);
-    keepRowsTogether(*document.rootFrame(), body.height());
-    // Text behind a table is not moved along with the table's rows.
-    document.markContentsDirty(0, document.characterCount());
+} // namespace
 
-    QPainter painter(&writer);
-    const int pages = document.pageCount();
+class ReportPaper::Private
+{
+public:
+    [[nodiscard]] std::unique_ptr<TemplateDocument> document() const
+    {
+        auto document = std::make_unique<TemplateDocument>();
+        document->setDocumentMargin(0);
+        document->setDefaultFont(options.font);
+        if (TemplateDocument::isHtml(text))
+            document->setHtml(text);
+        else
+            document->setPlainText(text);
+        return document;
+    }
+
+    void drawFooter(QPainter &painter, const QRectF &area, int page, int pages) const
+    {
+        QFont font = options.font;
+        font.setPointSize(kFooterPoints);
+        painter.setFont(font);
+        painter.setPen(QColor(0x51, 0x60, 0x6d));
+        painter.drawText(area, Qt::AlignRight | Qt::AlignBottom, tr("Page %1 of %2").arg(page).arg(pages));
+        painter.drawText(area, Qt::AlignLeft | Qt::AlignBottom, options.footer);
+    }
+
+    QString text;
+    ReportPaperOptions options;
+};
+
+ReportPaper::ReportPaper(const QString &decoded, const ReportPaperOptions &options)
+    : d(std::make_unique<Private>(Private{syntax::withoutScriptTags(decoded), options}))
+{}
+
+ReportPaper::~ReportPaper() = default;
+
+int ReportPaper::print(QPagedPaintDevice &device) const
+{
+    const double dotsPerInch = device.logicalDpiX();
+    const QRectF sheet(0, 0, device.width(), device.height());
+    const QSizeF body(sheet.width(), sheet.height() - kFooterMm * dotsPerInch / kMmPerInch);
+    const auto document = d->document();
+    document->documentLayout()->setPaintDevice(&device);
+    document->setPageSize(body);
+    keepRowsTogether(*document->rootFrame(), body.height(), dotsPerInch);
+    // Text behind a table is not moved along with the table's rows.
+    document->markContentsDirty(0, document->characterCount());
+
+    QPainter painter(&device);
+    const int pages = document->pageCount();
+    const QPageRanges wanted = device.pageRanges();
+    bool isFirst = true;
     for (int page = 0; page < pages; ++page) {
-        if (page > 0)
-            writer.newPage();
+        if (!wanted.isEmpty() && !wanted.contains(page + 1))
+            continue;
+        if (!std::exchange(isFirst, false))
+            device.newPage();
         const QRectF part(0, page * body.height(), body.width(), body.height());
         painter.save();
         painter.translate(0, -part.top());
         painter.setClipRect(part);
-        document.drawContents(&painter, part);
-        closeTables(painter, *document.rootFrame(), part);
+        document->drawContents(&painter, part);
+        closeTables(painter, *document->rootFrame(), part, dotsPerInch / kScreenDotsPerInch);
         painter.restore();
-        drawFooter(painter, sheet, page + 1, pages);
+        d->drawFooter(painter, sheet, page + 1, pages);
     }
+    return pages;
 }
 
-} // namespace
-
-Error saveReportPdf(const ReportPages &report, const QString &path)
+Error ReportPaper::writePdf(const QString &path) const
 {
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly)) {
-        QTextDocument document;
-        document.setDocumentMargin(0);
-        document.setDefaultFont(QFont(u"DejaVu Sans"_s, 9));
-        document.setHtml(reportHtml(report));
         QPdfWriter writer(&file);
-        preparePaper(writer);
-        drawPages(document, writer);
+        writer.setResolution(kPdfDotsPerInch);
+        writer.setPageLayout(d->options.layout);
+        writer.setTitle(d->options.title);
+        writer.setCreator(QCoreApplication::applicationName());
+        print(writer);
     }
     if (file.commit())
         return {};
-    return Error(ErrorCode::FileAccess, tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(path)))
-        .ecatch(OZM_HERE);
+    return Error(codes::FileAccess, tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(path)))
+        .ecatch(OZM_PLACE);
 }
 
-} // namespace workbench
+} // namespace ozm

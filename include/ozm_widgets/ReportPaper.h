@@ -1,0 +1,61 @@
+#pragma once
+
+#include <ozm_common_stable/Error.h>
+#include <ozm_widgets/ozm_widgets_export.h>
+
+#include <QFont>
+#include <QPageLayout>
+#include <QString>
+
+#include <memory>
+
+class QPagedPaintDevice;
+
+namespace ozm {
+
+/// How a report is laid out on paper.
+struct ReportPaperOptions
+{
+    QString title;  ///< Of the file; not printed.
+    QString footer; ///< At the left of each sheet's foot; the number of the page is at its right.
+    QFont font = QFont(QStringLiteral("DejaVu Sans"), 9);
+    /// The sheet and its margins for PDF; a printer has its own.
+    QPageLayout layout = QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                                     QMarginsF(20, 16, 18, 14), QPageLayout::Millimeter);
+};
+
+/**
+ * Brings a filled template onto paper, by a printer or as PDF, always in the same way.
+ *
+ * Rows of tables are not cut by the end of a sheet, a table that goes on is closed at the foot, and each sheet
+ * has its number. Only what the text carries itself is shown: nothing is loaded from disk or from a network.
+ *
+ *     const QString decoded = AbstractTemplateEditor::decodeTEC(content, &row, {});
+ *     ozm::ReportPaper paper(decoded, {u"Certificate"_s, u"Laboratory 3"_s});
+ *     if (ozm::Error error = paper.writePdf(path); error.hasError())
+ *         show(error);
+ *
+ * GUI thread only.
+ */
+class OZM_WIDGETS_EXPORT ReportPaper
+{
+public:
+    /// @p decoded is HTML or plain text as decoding gives it; script tags in it are left out.
+    explicit ReportPaper(const QString &decoded, const ReportPaperOptions &options = {});
+    ~ReportPaper();
+    ReportPaper(const ReportPaper &) = delete;
+    ReportPaper &operator=(const ReportPaper &) = delete;
+
+    /// Draws the pages that the device was asked for; all when it was asked for none. Returns how many pages the
+    /// report has.
+    int print(QPagedPaintDevice &device) const;
+
+    /// Replaces the file at @p path only when all of it is written; code 4 otherwise.
+    [[nodiscard]] Error writePdf(const QString &path) const;
+
+private:
+    class Private;
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace ozm
