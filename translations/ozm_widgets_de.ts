@@ -4,76 +4,8 @@
 <context>
     <name>AbstractTemplateEditor</name>
     <message>
-        <source>&quot;%1&quot; cannot be read: %2</source>
-        <translation>„%1“ kann nicht gelesen werden: %2</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is too large for a template.</source>
-        <translation>„%1“ ist zu groß für eine Vorlage.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no image that can be shown.</source>
-        <translation>„%1“ ist kein Bild, das gezeigt werden kann.</translation>
-    </message>
-    <message>
-        <source>Insert image</source>
-        <translation>Bild einfügen</translation>
-    </message>
-    <message>
-        <source>Images (*.png *.jpg *.jpeg *.gif *.bmp *.svg);;All files (*)</source>
-        <translation>Bilder (*.png *.jpg *.jpeg *.gif *.bmp *.svg);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Image not inserted</source>
-        <translation>Bild nicht eingefügt</translation>
-    </message>
-    <message>
-        <source>Insert link</source>
-        <translation>Verweis einfügen</translation>
-    </message>
-    <message>
-        <source>As selected</source>
-        <translation>Wie ausgewählt</translation>
-    </message>
-    <message>
-        <source>As the address</source>
-        <translation>Wie die Adresse</translation>
-    </message>
-    <message>
-        <source>&amp;Address:</source>
-        <translation>&amp;Adresse:</translation>
-    </message>
-    <message>
-        <source>&amp;Text:</source>
-        <translation>&amp;Text:</translation>
-    </message>
-    <message>
         <source>report</source>
         <translation>Bericht</translation>
-    </message>
-    <message>
-        <source>Save as PDF</source>
-        <translation>Als PDF speichern</translation>
-    </message>
-    <message>
-        <source>PDF (*.pdf)</source>
-        <translation>PDF (*.pdf)</translation>
-    </message>
-    <message>
-        <source>PDF not saved</source>
-        <translation>PDF nicht gespeichert</translation>
-    </message>
-    <message>
-        <source>Saved to %1</source>
-        <translation>Gespeichert unter %1</translation>
-    </message>
-    <message>
-        <source>Formatted template</source>
-        <translation>Formatierte Vorlage</translation>
-    </message>
-    <message>
-        <source>Source of the template</source>
-        <translation>Quelltext der Vorlage</translation>
     </message>
     <message>
         <source>Codes</source>
@@ -90,14 +22,6 @@
     <message>
         <source>%1 may not be removed from this template.</source>
         <translation>%1 darf aus dieser Vorlage nicht entfernt werden.</translation>
-    </message>
-    <message>
-        <source>There is no script at the cursor.</source>
-        <translation>An der Schreibmarke steht kein Skript.</translation>
-    </message>
-    <message>
-        <source>The script is in the template.</source>
-        <translation>Das Skript steht in der Vorlage.</translation>
     </message>
     <message>
         <source>This place is no longer in the template.</source>
@@ -220,6 +144,14 @@ und %1 weitere</translation>
         <translation>Übergangen:
 %1</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written.</source>
+        <translation>„%1“ kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Data found: %1.</source>
+        <translation>Gefundene Daten: %1.</translation>
+    </message>
 </context>
 <context>
     <name>FileDialog</name>
@@ -308,6 +240,13 @@ Der berichtigte Pfad ist:
     </message>
 </context>
 <context>
+    <name>QMessageBox</name>
+    <message>
+        <source>Show Details...</source>
+        <translation>Details anzeigen …</translation>
+    </message>
+</context>
+<context>
     <name>SpectrumFileDialog</name>
     <message>
         <source>%1
@@ -316,6 +255,13 @@ Please verify the correct file name was given.</source>
         <translation>%1
 Datei nicht gefunden.
 Bitte prüfen Sie, ob der Dateiname stimmt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) and folder(s)</source>
+        <translation>
+            <numerusform>%n Datei oder Ordner</numerusform>
+            <numerusform>%n Dateien und Ordner</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -360,6 +306,13 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     <message>
         <source>Divider</source>
         <translation>Trennlinie</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::DataDelegate</name>
+    <message>
+        <source>no data</source>
+        <translation>keine Daten</translation>
     </message>
 </context>
 <context>
@@ -422,6 +375,21 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
         <source>Highlight files and folders to see what data they hold.</source>
         <translation>Wählen Sie Dateien und Ordner, um zu sehen, welche Daten sie enthalten.</translation>
     </message>
+    <message>
+        <source>Looking at %1 …</source>
+        <translation>%1 wird angesehen …</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::ReportPaper</name>
+    <message>
+        <source>&quot;%1&quot; cannot be written.</source>
+        <translation>„%1“ kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
 </context>
 <context>
     <name>ozm::TemplateFile</name>
@@ -436,10 +404,6 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     <message>
         <source>It is larger than %1 MB.</source>
         <translation>Der Inhalt ist größer als %1 MB.</translation>
-    </message>
-    <message>
-        <source>It is no file.</source>
-        <translation>Das ist keine Datei.</translation>
     </message>
     <message>
         <source>The file begins as a template, but is cut short or of another version.</source>
@@ -482,10 +446,6 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
         <translation>Die Datei ist nicht im Zeichensatz ihrer Bytereihenfolge-Marke geschrieben.</translation>
     </message>
     <message>
-        <source>The file holds bytes that are no UTF-8 text.</source>
-        <translation>Die Datei enthält Bytes, die kein UTF-8-Text sind.</translation>
-    </message>
-    <message>
         <source>This file is a whole web page. Its body is read by the plug-in &quot;ozm_webreader&quot;, which is not installed here (looked for in %1). The file can be opened as plain text instead.</source>
         <translation>Diese Datei ist eine ganze Webseite. Ihren Inhalt liest das Plug-in „ozm_webreader“, das hier nicht installiert ist (gesucht in %1). Die Datei kann stattdessen als reiner Text geöffnet werden.</translation>
     </message>
@@ -496,6 +456,14 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     <message>
         <source>The body of a web page can only be read on the main thread of a program with windows.</source>
         <translation>Der Inhalt einer Webseite kann nur im Hauptthread eines Programms mit Fenstern gelesen werden.</translation>
+    </message>
+    <message>
+        <source>This is not a file.</source>
+        <translation>Dies ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>The file holds bytes that are not UTF-8 text.</source>
+        <translation>Die Datei enthält Bytes, die kein UTF-8-Text sind.</translation>
     </message>
 </context>
 <context>
@@ -508,8 +476,8 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
 <context>
     <name>ozm::editor::CodeModel</name>
     <message>
-        <source>%1 is no code that can be filled.</source>
-        <translation>%1 ist kein Platzhalter, der gefüllt werden kann.</translation>
+        <source>No value is known for the code %1.</source>
+        <translation>Für den Code %1 ist kein Wert bekannt.</translation>
     </message>
 </context>
 <context>
@@ -900,6 +868,10 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
         <source>The program ended while %1 was not saved. Open what was kept of it at %2?</source>
         <translation>Das Programm endete, während %1 nicht gespeichert war. Den Stand von %2 öffnen?</translation>
     </message>
+    <message>
+        <source>It takes the place of the template that is open in this window.</source>
+        <translation>Sie tritt an die Stelle der Vorlage, die in diesem Fenster offen ist.</translation>
+    </message>
 </context>
 <context>
     <name>ozm::editor::EditorHistory</name>
@@ -910,6 +882,91 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     <message>
         <source>Change of mode</source>
         <translation>Wechsel der Ansicht</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::EditorQuestions</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>„%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large for a template.</source>
+        <translation>„%1“ ist zu groß für eine Vorlage.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an image that can be shown.</source>
+        <translation>„%1“ ist kein Bild, das gezeigt werden kann.</translation>
+    </message>
+    <message>
+        <source>Insert image</source>
+        <translation>Bild einfügen</translation>
+    </message>
+    <message>
+        <source>Images (*.png *.jpg *.jpeg *.gif *.bmp *.svg);;All files (*)</source>
+        <translation>Bilder (*.png *.jpg *.jpeg *.gif *.bmp *.svg);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Image not inserted</source>
+        <translation>Bild nicht eingefügt</translation>
+    </message>
+    <message>
+        <source>Insert link</source>
+        <translation>Verweis einfügen</translation>
+    </message>
+    <message>
+        <source>As selected</source>
+        <translation>Wie ausgewählt</translation>
+    </message>
+    <message>
+        <source>As the address</source>
+        <translation>Wie die Adresse</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>&amp;Adresse:</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation>&amp;Text:</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Als PDF speichern</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>PDF not saved</source>
+        <translation>PDF nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Saved to %1</source>
+        <translation>Gespeichert unter %1</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::EditorScripts</name>
+    <message>
+        <source>There is no script at the cursor.</source>
+        <translation>An der Schreibmarke steht kein Skript.</translation>
+    </message>
+    <message>
+        <source>The script is in the template.</source>
+        <translation>Das Skript steht in der Vorlage.</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::EditorViews</name>
+    <message>
+        <source>Formatted template</source>
+        <translation>Formatierte Vorlage</translation>
+    </message>
+    <message>
+        <source>Source of the template</source>
+        <translation>Quelltext der Vorlage</translation>
     </message>
 </context>
 <context>
@@ -1109,13 +1166,6 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     <message>
         <source>&amp;Columns:</source>
         <translation>&amp;Spalten:</translation>
-    </message>
-</context>
-<context>
-    <name>ozm::editor::TemplatePrinting</name>
-    <message>
-        <source>&quot;%1&quot; cannot be written.</source>
-        <translation>„%1“ kann nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>

@@ -137,10 +137,6 @@
         <translation>Der Audit-Trail „%1“ ist schreibgeschützt, sodass nichts aufgezeichnet werden kann. Nichts wurde geändert. Machen Sie die Datei und ihren Ordner schreibbar oder beginnen Sie mit einem anderen Audit-Trail.</translation>
     </message>
     <message>
-        <source>The audit trail &quot;%1&quot; is damaged or is no audit trail. Nothing was changed. Keep the file as it is and restore a copy, or start with another audit trail.</source>
-        <translation>Der Audit-Trail „%1“ ist beschädigt oder kein Audit-Trail. Nichts wurde geändert. Lassen Sie die Datei, wie sie ist, und stellen Sie eine Kopie wieder her oder beginnen Sie mit einem anderen Audit-Trail.</translation>
-    </message>
-    <message>
         <source>The disk that holds the audit trail &quot;%1&quot; is full. Nothing was changed. Make room on the disk, then try again.</source>
         <translation>Der Datenträger mit dem Audit-Trail „%1“ ist voll. Nichts wurde geändert. Schaffen Sie Platz und versuchen Sie es erneut.</translation>
     </message>
@@ -151,6 +147,10 @@
     <message>
         <source>The audit trail &quot;%1&quot; cannot be used. Nothing was changed. Check the disk that it is on.</source>
         <translation>Der Audit-Trail „%1“ kann nicht verwendet werden. Nichts wurde geändert. Prüfen Sie den Datenträger, auf dem er liegt.</translation>
+    </message>
+    <message>
+        <source>The audit trail &quot;%1&quot; is damaged or is not an audit trail. Nothing was changed. Keep the file as it is and restore a copy, or start with another audit trail.</source>
+        <translation>Das Audit-Protokoll „%1“ ist beschädigt oder kein Audit-Protokoll. Nichts wurde geändert. Behalten Sie die Datei, wie sie ist, und stellen Sie eine Kopie wieder her, oder beginnen Sie mit einem anderen Audit-Protokoll.</translation>
     </message>
 </context>
 <context>
@@ -223,14 +223,6 @@
         <translation>In den Ordner „%1“ kann nicht geschrieben werden. Wählen Sie mit --out einen anderen.</translation>
     </message>
     <message>
-        <source>The template &quot;%1&quot; cannot be read.</source>
-        <translation>Die Vorlage „%1“ kann nicht gelesen werden.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no template of this version.</source>
-        <translation>„%1“ ist keine Vorlage dieser Version.</translation>
-    </message>
-    <message>
         <source>%1 has no value.</source>
         <translation>%1 hat keinen Wert.</translation>
     </message>
@@ -253,10 +245,6 @@
     <message>
         <source>&quot;%1&quot; cannot be written.</source>
         <translation>„%1“ kann nicht geschrieben werden.</translation>
-    </message>
-    <message>
-        <source>Page %1 of %2</source>
-        <translation>Seite %1 von %2</translation>
     </message>
     <message>
         <source>Made by the workbench</source>

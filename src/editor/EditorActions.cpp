@@ -423,10 +423,10 @@ void EditorActions::fillCodeMenu(QMenu *menu)
 
 void EditorActions::makeToolBars()
 {
-    QToolBar *bar = m_parts.window.addToolBar(tr("Template"));
+    QToolBar *bar = m_parts.window.addToolBar(EditorActions::tr("Template"));
     bar->setObjectName(u"mainToolBar"_s);
     m_parts.window.addToolBarBreak();
-    QToolBar *format = m_parts.window.addToolBar(tr("Format"));
+    QToolBar *format = m_parts.window.addToolBar(EditorActions::tr("Format"));
     format->setObjectName(u"formatToolBar"_s);
     m_parts.format.addChoices(format);
     for (const ActionRow &row : kActions) {

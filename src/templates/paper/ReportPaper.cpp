@@ -32,11 +32,6 @@ constexpr int kPdfDotsPerInch = 300;
 constexpr double kScreenDotsPerInch = 96;
 constexpr int kFooterPoints = 7;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ozm::ReportPaper", text);
-}
-
 struct Extent
 {
     double top = std::numeric_limits<double>::max();
@@ -136,7 +131,9 @@ public:
         font.setPointSize(kFooterPoints);
         painter.setFont(font);
         painter.setPen(QColor(0x51, 0x60, 0x6d));
-        painter.drawText(area, Qt::AlignRight | Qt::AlignBottom, tr("Page %1 of %2").arg(page).arg(pages));
+        painter.drawText(
+            area, Qt::AlignRight | Qt::AlignBottom,
+            QCoreApplication::translate("ozm::ReportPaper", "Page %1 of %2").arg(page).arg(pages));
         painter.drawText(area, Qt::AlignLeft | Qt::AlignBottom, options.footer);
     }
 
@@ -196,7 +193,9 @@ Error ReportPaper::writePdf(const QString &path) const
     }
     if (file.commit())
         return {};
-    return Error(codes::FileAccess, tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(path)))
+    return Error(codes::FileAccess,
+                 QCoreApplication::translate("ozm::ReportPaper", "\"%1\" cannot be written.")
+                     .arg(QDir::toNativeSeparators(path)))
         .ecatch(OZM_PLACE);
 }
 
