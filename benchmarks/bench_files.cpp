@@ -35,7 +35,7 @@ void openDialog(benchmark::State &state)
         auto dialog = openedOn<Dialog>(folder);
         state.PauseTiming();
         dialog.reset();
-        // What the dialog's threads had still to say belongs to this one, not to the next.
+        // Late messages of the dialog's threads belong to this dialog, not to the next.
         QCoreApplication::sendPostedEvents();
         QCoreApplication::processEvents();
         state.ResumeTiming();

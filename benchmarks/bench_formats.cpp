@@ -133,7 +133,7 @@ void mixedNearest(benchmark::State &state)
 }
 
 #ifdef Q_OS_UNIX
-/// What would be left to ask if the answer were known.
+/// The questions that are left when the answer is known.
 void mixedBareStat(benchmark::State &state)
 {
     const auto &asked = MixedSamples::instance().asked();

@@ -31,7 +31,7 @@ void start_memory(benchmark::State &state, const char *program)
         const double kiloBytes = run(program).toDouble();
         if (kiloBytes <= 0)
             state.SkipWithError("no memory known");
-        // What is reported as nanoseconds are bytes: only their ratio is read.
+        // Bytes are reported as nanoseconds: only their ratio is read.
         state.SetIterationTime(kiloBytes * 1024 / 1e9);
     }
 }

@@ -79,7 +79,7 @@ void box_from_worker(benchmark::State &state)
     onWorker(state, [&parent] { OZMStyle::warning(&parent, {}, u"Title"_s, "Text"); });
 }
 
-/// What one would write by hand: the toolkit's box in a blocking call.
+/// Written by hand: the toolkit's box in a blocking call.
 void box_by_hand(benchmark::State &state)
 {
     QWidget parent;

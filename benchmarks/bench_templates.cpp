@@ -166,7 +166,7 @@ void short_over_rows(benchmark::State &state)
             benchmark::DoNotOptimize(AbstractTemplateEditor::decodeTEC(kShort, &row, {}));
 }
 
-/// What a programmer would write for this one template.
+/// Written by hand for this one template.
 void short_by_hand(benchmark::State &state)
 {
     const std::vector<RowNode> rows = peptides(10000);

@@ -44,7 +44,7 @@ private:
     qint64 m_time = QDateTime::currentMSecsSinceEpoch();
 };
 
-// What is counted by itself stays a function of its own.
+// A step that is counted by itself stays a function of its own.
 [[gnu::noinline]] void pushBare(QUndoStack &stack, QVariant *cell, int value)
 {
     stack.push(new bench::BareSet(cell, value));

@@ -8,7 +8,7 @@
 namespace ozm::msreader {
 
 /**
- * What is known of a format without looking at any data.
+ * Facts about a format that need no look at any data.
  *
  * A format without a detector, which is Unknown and every value outside the enumeration, gives the empty
  * text or false, and a warning in "ozm.generic". Safe from any thread.
@@ -20,7 +20,7 @@ public:
     [[nodiscard]] static QString fileNameExtension(VendorDataFormat format);
     [[nodiscard]] static QString formatDescription(VendorDataFormat format);
 
-    /// Whether its samples can be single files, and folders; a format may answer yes to both.
+    /// True when its samples can be single files, or folders; a format may answer yes to both.
     [[nodiscard]] static bool isFile(VendorDataFormat format);
     [[nodiscard]] static bool isFolder(VendorDataFormat format);
 

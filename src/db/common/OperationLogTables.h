@@ -25,7 +25,7 @@ private:
     QHash<QString, qint32> m_values;
 };
 
-/// What all operation-log classes look up: built once, on first use, and never changed.
+/// The tables of all operation-log classes: built once, on first use, and never changed.
 struct OperationLogTables
 {
     EnumTexts itemTypes;

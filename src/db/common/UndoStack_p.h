@@ -9,8 +9,8 @@ class AuditTrailMonitor;
 class UndoStackPrivate
 {
 public:
-    /// What a running push knows of its command, which the base class deletes when it merges it or when it
-    /// turns out obsolete. Pushes nest, when a step or a slot pushes.
+    /// The state of a running push. It outlives the command, which the base class deletes when it merges the
+    /// command or when the command turns out obsolete. Pushes nest, when a step or a slot pushes.
     struct Push
     {
         UndoCommand *command; ///< Null once the command is deleted.
@@ -27,7 +27,7 @@ public:
 
     /// The push that asked for the run of @p command which now begins; null for a step of the history.
     [[nodiscard]] Push *pushThatRuns(const UndoCommand *command);
-    /// Whether the run that now begins is the one that the base class asks for, which has been.
+    /// True when the run that now begins is the one that the base class asks for; it has been done already.
     [[nodiscard]] bool takePlacing(const UndoCommand *command);
     /// To be called by a command's destructor.
     void forget(const UndoCommand *command);

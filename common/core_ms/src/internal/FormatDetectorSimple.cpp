@@ -21,7 +21,7 @@ const FormatSet &setOf(VendorDataFormat format)
     return sets.at(static_cast<std::size_t>(format));
 }
 
-/// Whether the last characters leave it open that @p path ends with @p extension: most names fail already
+/// False when the last characters already rule out that @p path ends with @p extension: most names fail already
 /// there, at a tenth of the price. Beyond ASCII, where one letter can have several forms, it stays open.
 bool mayEndWith(const QString &path, const QString &extension)
 {

@@ -31,7 +31,7 @@ public:
 protected:
     [[nodiscard]] bool isNameRight(const QString &path) const;
 
-    /// Whether there is a file or a folder, whichever this format is; with the name, all that plain formats
+    /// True when there is a file or a folder, whichever this format is; with the name, all that plain formats
     /// need.
     [[nodiscard]] bool isKindRight(const QString &path) const;
 

@@ -12,7 +12,7 @@ namespace ozm::msreader::internal {
 
 using namespace Qt::StringLiterals;
 
-/// What a format is on disk.
+/// The form of a format's data on disk.
 enum class Storage
 {
     None,
@@ -62,7 +62,7 @@ inline constexpr std::array kFormats{
 };
 // clang-format on
 
-/// Whether an enumerator has @p Value: compilers spell a value without one as a cast, "(Type)26".
+/// True when an enumerator has @p Value: compilers spell a value without one as a cast, "(Type)26".
 template <VendorDataFormat Value>
 consteval bool hasEnumerator()
 {

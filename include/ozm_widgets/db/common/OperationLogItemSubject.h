@@ -12,7 +12,7 @@ class RowNode;
 namespace ozm {
 
 /**
- * What an audited operation acted on: a kind of object, and the values that tell one object of that kind
+ * The thing that an audited operation acted on: a kind of object, and the values that tell one object of that kind
  * from the others in the application's tables.
  *
  *     ozm::OperationLogItemSubject subject(ozm::OperationLogItemSubject::Type::Label, *row);
@@ -66,7 +66,7 @@ public:
     /// Reads what toJsonObject() wrote; a kind this version does not know gives an invalid, empty subject.
     explicit OperationLogItemSubject(const QJsonObject &json);
 
-    /// Whether the kind is one other than None.
+    /// True when the kind is one other than None.
     [[nodiscard]] bool isValid() const;
     [[nodiscard]] Type type() const;
     [[nodiscard]] QMap<QString, QVariant> key() const;
