@@ -11,6 +11,7 @@
 #include <QStyle>
 #include <QStyleFactory>
 #include <QSvgRenderer>
+#include <QToolTip>
 
 using namespace Qt::StringLiterals;
 
@@ -54,6 +55,12 @@ QString installedStyle(const QString &wanted)
     return u"fusion"_s;
 }
 
+/// Tool tips have a palette of their own, which does not follow the application's.
+void followWithToolTips()
+{
+    QToolTip::setPalette(QApplication::palette());
+}
+
 /// Has the sheet's palette roles looked up again when the palette changes, which the toolkit does not do.
 class PaletteFollower : public QObject
 {
@@ -64,6 +71,7 @@ public:
     {
         if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange && !m_busy) {
             m_busy = true;
+            followWithToolTips();
             const QString current = qApp->styleSheet();
             qApp->setStyleSheet({});
             qApp->setStyleSheet(current);
@@ -110,6 +118,7 @@ void OZMStyle::apply(const QString &style)
     qApp->setStyleSheet(sheet());
     qApp->setProperty(kApplied, style);
     followPalette();
+    followWithToolTips();
 }
 
 QPalette OZMStyle::palette(Scheme scheme)

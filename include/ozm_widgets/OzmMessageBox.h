@@ -34,6 +34,8 @@ protected:
 private:
     void announce(int show);
     void drawIcon();
+    /// A text that is longer than the screen scrolls, so that the buttons below it can be reached.
+    void keepOnScreen();
 
     OzmMessageBoxSignal m_signal;
     int m_shows = 0;

@@ -23,7 +23,7 @@ constexpr std::array kRoles{
     RoleRow{QPalette::Button, 0xffeceef0, 0xff383b3f},
     RoleRow{QPalette::ButtonText, 0xff1f2328, 0xffe3e5e8},
     RoleRow{QPalette::BrightText, 0xffffffff, 0xffffffff},
-    RoleRow{QPalette::Highlight, 0xff2a6fb8, 0xff2f6fb3},
+    RoleRow{QPalette::Highlight, 0xff2a6fb8, 0xff3778bc},
     RoleRow{QPalette::HighlightedText, 0xffffffff, 0xffffffff},
     RoleRow{QPalette::ToolTipBase, 0xffffffff, 0xff383b3f},
     RoleRow{QPalette::ToolTipText, 0xff1f2328, 0xffe3e5e8},
@@ -37,9 +37,9 @@ constexpr std::array kRoles{
 };
 
 constexpr std::array kDisabledRoles{
-    RoleRow{QPalette::WindowText, 0xff8b9197, 0xff7f848a},
-    RoleRow{QPalette::Text, 0xff8b9197, 0xff7f848a},
-    RoleRow{QPalette::ButtonText, 0xff8b9197, 0xff7f848a},
+    RoleRow{QPalette::WindowText, 0xff767c82, 0xff8f949a},
+    RoleRow{QPalette::Text, 0xff767c82, 0xff8f949a},
+    RoleRow{QPalette::ButtonText, 0xff767c82, 0xff8f949a},
     RoleRow{QPalette::Highlight, 0xffc3c8cd, 0xff4a4e53},
     RoleRow{QPalette::HighlightedText, 0xff5d6369, 0xffa3a8ae},
 };

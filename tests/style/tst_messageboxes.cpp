@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QTextEdit>
 #include <QTranslator>
 
@@ -78,6 +79,7 @@ private Q_SLOTS:
     void warningOffScreenIsLogged();
     void otherBoxesOffScreenAreShown();
     void shownIsEmittedOncePerShow();
+    void longTextKeepsTheButtonsOnScreen();
     void aboutShowsIconAndLinks();
     void userNameIsTheSystemsUntilSet();
 };
@@ -384,6 +386,23 @@ void TestMessageBoxes::shownIsEmittedOncePerShow()
     box.hide();
     box.show();
     QTRY_COMPARE(driver.shown(), 3);
+}
+
+void TestMessageBoxes::longTextKeepsTheButtonsOnScreen()
+{
+    const QString line = u"A line of a very long message. "_s;
+    for (const QString &text : {(line + u'\n').repeated(200), line.repeated(500)}) {
+        const BoxDriver driver([](OzmMessageBox *box) {
+            QCoreApplication::sendPostedEvents();
+            const QRect screen = box->screen()->availableGeometry();
+            const QWidget *ok = box->button(Box::Ok);
+            QVERIFY(box->height() <= screen.height() && box->width() <= screen.width());
+            QVERIFY(box->rect().contains(QRect(ok->mapTo(box, QPoint()), ok->size())));
+            press(box, Box::Ok);
+        });
+        OZMStyle::warning(nullptr, kSignal, kTitle, text);
+        QCOMPARE(driver.shown(), 1);
+    }
 }
 
 void TestMessageBoxes::aboutShowsIconAndLinks()

@@ -16,6 +16,7 @@
 #include <QStyleFactory>
 #include <QToolBar>
 #include <QToolButton>
+#include <QToolTip>
 #include <QTranslator>
 
 #include <cmath>
@@ -203,6 +204,8 @@ void TestStyle::sheetFollowsThePalette()
         QApplication::setPalette(OZMStyle::palette(scheme));
         QCOMPARE(OZMStyle::scheme(QApplication::palette()), scheme);
         QCOMPARE(border(), OZMStyle::palette(scheme).color(QPalette::Mid));
+        for (const auto role : {QPalette::ToolTipBase, QPalette::ToolTipText})
+            QCOMPARE(QToolTip::palette().color(role), OZMStyle::palette(scheme).color(role));
     }
 }
 
@@ -232,6 +235,12 @@ void TestStyle::palettesAreReadable()
     for (const auto &[text, ground] : pairs)
         QVERIFY2(contrast(palette, text, ground) >= kReadable,
                  qPrintable(u"%1 on %2: %3"_s.arg(text).arg(ground).arg(contrast(palette, text, ground))));
+    // Drawings need less than text: the ring of the focus, and icons that are disabled.
+    constexpr double kVisible = 3.0;
+    QPalette disabled = palette;
+    disabled.setCurrentColorGroup(QPalette::Disabled);
+    QVERIFY(contrast(palette, QPalette::Highlight, QPalette::Window) >= kVisible);
+    QVERIFY(contrast(disabled, QPalette::WindowText, QPalette::Window) >= kVisible);
 }
 
 void TestStyle::everyIconIsDrawn()

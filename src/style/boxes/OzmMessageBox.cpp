@@ -7,6 +7,10 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QLayout>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShowEvent>
 #include <QStyle>
 #include <QTextEdit>
@@ -34,6 +38,11 @@ constexpr std::array kIcons{
     IconRow{QMessageBox::Critical, "dialog-error"_L1, 0xffc62f2b, 0xffff7670},
     IconRow{QMessageBox::Question, "dialog-question"_L1, 0xff2a6fb8, 0xff6cb2f5},
 };
+
+// Room for the frame of the window, and for some of what is behind it.
+constexpr int kScreenPercent = 90;
+constexpr int kLeastLines = 3;
+const QString kTextArea = u"textArea"_s;
 
 /// Also before the box is shown, when nothing in it is visible yet.
 bool areDetailsOpen(const QMessageBox &box)
@@ -80,6 +89,7 @@ void OzmMessageBox::showEvent(QShowEvent *event)
     QMessageBox::showEvent(event);
     if (event->spontaneous())
         return;
+    keepOnScreen();
     // Not at once: a box that is answered before its event loop runs would wait in it for good.
     QMetaObject::invokeMethod(
         this, [this, show = ++m_shows] { announce(show); }, Qt::QueuedConnection);
@@ -108,6 +118,23 @@ void OzmMessageBox::drawIcon()
                                     QColor::fromRgb(dark ? row->onDark : row->onLight));
     pixmap.setDevicePixelRatio(devicePixelRatioF());
     label->setPixmap(pixmap);
+}
+
+void OzmMessageBox::keepOnScreen()
+{
+    auto *text = findChild<QLabel *>(u"qt_msgbox_label"_s);
+    const int tooMuch = height() - screen()->availableGeometry().height() * kScreenPercent / 100;
+    if (!text || tooMuch <= 0 || findChild<QScrollArea *>(kTextArea))
+        return;
+    auto *area = new QScrollArea(this);
+    area->setObjectName(kTextArea);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::StrongFocus);
+    area->setFixedHeight(qMax(text->height() - tooMuch, kLeastLines * fontMetrics().lineSpacing()));
+    area->setMinimumWidth(text->width() + area->verticalScrollBar()->sizeHint().width());
+    delete layout()->replaceWidget(text, area);
+    area->setWidget(text);
 }
 
 void OzmMessageBox::announce(int show)
