@@ -386,6 +386,22 @@
 <context>
     <name>workbench::MainActions</name>
     <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Samples</source>
+        <translation>&amp;Proben</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>E&amp;xtras</translation>
+    </message>
+    <message>
         <source>Edit report template…</source>
         <translation>Berichtsvorlage bearbeiten…</translation>
     </message>
@@ -712,6 +728,46 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
 </context>
 <context>
     <name>workbench::SampleTableModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Name given by the user</source>
+        <translation>Vom Benutzer vergebener Name</translation>
+    </message>
+    <message>
+        <source>Sequence</source>
+        <translation>Sequenz</translation>
+    </message>
+    <message>
+        <source>Amino acids in one-letter code</source>
+        <translation>Aminosäuren im Einbuchstabencode</translation>
+    </message>
+    <message>
+        <source>Charge</source>
+        <translation>Ladung</translation>
+    </message>
+    <message>
+        <source>Charge state</source>
+        <translation>Ladungszustand</translation>
+    </message>
+    <message>
+        <source>Mass (Da)</source>
+        <translation>Masse (Da)</translation>
+    </message>
+    <message>
+        <source>Neutral monoisotopic mass in dalton</source>
+        <translation>Neutrale monoisotopische Masse in Dalton</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Kommentar</translation>
+    </message>
+    <message>
+        <source>Free remark</source>
+        <translation>Freie Bemerkung</translation>
+    </message>
     <message>
         <source>Format</source>
         <translation>Format</translation>

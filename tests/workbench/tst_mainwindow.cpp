@@ -14,12 +14,16 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTableView>
 #include <QTimer>
+#include <QToolBar>
 #include <QTreeView>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using namespace ozm::test;
@@ -263,8 +267,22 @@ void TestMainWindow::emptyTableSaysWhatToDo()
 void TestMainWindow::widgetsHaveNames()
 {
     const WindowFixture fixture;
-    for (const QAction *action : fixture.find<QWidget>(u"toolBar"_s)->actions())
-        QVERIFY(action->isSeparator() || (!action->objectName().isEmpty() && !action->icon().isNull()));
+    const auto *bar = fixture.find<QToolBar>(u"toolBar"_s);
+    for (QAction *action : bar->actions()) {
+        if (action->isSeparator())
+            continue;
+        QVERIFY(!action->objectName().isEmpty() && !action->icon().isNull());
+        // All that the mouse can do, the keyboard can: by Tab, by a shortcut, from the menus.
+        QVERIFY(bar->widgetForAction(action)->focusPolicy() & Qt::TabFocus);
+        QVERIFY2(!action->shortcut().isEmpty(), qUtf8Printable(action->objectName()));
+        QVERIFY(std::ranges::any_of(action->associatedObjects(),
+                                    [](const QObject *place) { return qobject_cast<const QMenu *>(place); }));
+    }
+    QVERIFY2(!fixture.table()->tabKeyNavigation(), "Tab is caught in the table");
+    const QAbstractItemModel *model = fixture.table()->model();
+    for (int column = 0; column < model->columnCount(); ++column)
+        QCOMPARE(model->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole),
+                 model->index(0, column).data(Qt::TextAlignmentRole));
     for (const QAbstractItemView *view : fixture.window.findChildren<QAbstractItemView *>())
         if (!qobject_cast<const QHeaderView *>(view))
             QVERIFY2(!view->accessibleName().isEmpty(), qUtf8Printable(view->objectName()));

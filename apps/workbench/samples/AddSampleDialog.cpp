@@ -1,8 +1,7 @@
 #include "samples/AddSampleDialog.h"
 
 #include "samples/SampleEditor.h"
-
-#include <ozm_common_core_mini/ColumnFriendlyName.h>
+#include "samples/SampleTableModel.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -33,7 +32,7 @@ AddSampleDialog::AddSampleDialog(SampleEditor &editor, QWidget *parent)
         auto *field = new QLineEdit(this);
         field->setObjectName(u"add"_s + column);
         field->setMinimumWidth(kFieldWidth);
-        form->addRow(ColumnFriendlyName::friendlyName(column), field);
+        form->addRow(SampleTableModel::headingText(column), field);
         m_fields.insert(column, field);
     }
     m_reason->setObjectName(u"addReason"_s);

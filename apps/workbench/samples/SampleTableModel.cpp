@@ -19,7 +19,7 @@ namespace workbench {
 
 namespace {
 
-/// Columns that the suite's own list of names does not have.
+/// Columns that the suite's own list of names does not have, or has in English only.
 struct Heading
 {
     const QString *column;
@@ -28,6 +28,16 @@ struct Heading
 };
 
 constexpr std::array kHeadings{
+    Heading{&kName, QT_TRANSLATE_NOOP("workbench::SampleTableModel", "Name"),
+            QT_TRANSLATE_NOOP("workbench::SampleTableModel", "Name given by the user")},
+    Heading{&kSequence, QT_TRANSLATE_NOOP("workbench::SampleTableModel", "Sequence"),
+            QT_TRANSLATE_NOOP("workbench::SampleTableModel", "Amino acids in one-letter code")},
+    Heading{&kCharge, QT_TRANSLATE_NOOP("workbench::SampleTableModel", "Charge"),
+            QT_TRANSLATE_NOOP("workbench::SampleTableModel", "Charge state")},
+    Heading{&kMass, QT_TRANSLATE_NOOP("workbench::SampleTableModel", "Mass (Da)"),
+            QT_TRANSLATE_NOOP("workbench::SampleTableModel", "Neutral monoisotopic mass in dalton")},
+    Heading{&kComment, QT_TRANSLATE_NOOP("workbench::SampleTableModel", "Comment"),
+            QT_TRANSLATE_NOOP("workbench::SampleTableModel", "Free remark")},
     Heading{&kFormat, QT_TRANSLATE_NOOP("workbench::SampleTableModel", "Format"),
             QT_TRANSLATE_NOOP("workbench::SampleTableModel", "Format of the data, as projects name it")},
     Heading{&kDescription, QT_TRANSLATE_NOOP("workbench::SampleTableModel", "Description"),
@@ -61,6 +71,11 @@ bool isNumber(int section)
 {
     const QString column = columnAt(section);
     return column == kCharge || column == kMass || column == kSize;
+}
+
+int alignmentOf(int section)
+{
+    return static_cast<int>((isNumber(section) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
 }
 
 QString kindName(const QString &kind)
@@ -135,8 +150,7 @@ QVariant SampleTableModel::data(const QModelIndex &index, int role) const
     case Qt::ToolTipRole:
         return toolTip(columnAt(index.column()), value);
     case Qt::TextAlignmentRole:
-        return static_cast<int>((isNumber(index.column()) ? Qt::AlignRight : Qt::AlignLeft) |
-                                Qt::AlignVCenter);
+        return alignmentOf(index.column());
     default:
         return {};
     }
@@ -154,16 +168,20 @@ QVariant SampleTableModel::headerData(int section, Qt::Orientation orientation, 
 {
     if (orientation != Qt::Horizontal)
         return QAbstractTableModel::headerData(section, orientation, role);
-    if (const Heading *heading = headingOf(columnAt(section))) {
-        if (role == Qt::DisplayRole)
-            return translated(heading->text);
-        return role == Qt::ToolTipRole ? translated(heading->toolTip) : QVariant();
-    }
+    if (role == Qt::TextAlignmentRole)
+        return alignmentOf(section);
     if (role == Qt::DisplayRole)
-        return ColumnFriendlyName::friendlyName(columnAt(section));
-    if (role == Qt::ToolTipRole)
-        return ColumnFriendlyName::toolTip(columnAt(section));
-    return {};
+        return headingText(columnAt(section));
+    if (role != Qt::ToolTipRole)
+        return {};
+    const Heading *heading = headingOf(columnAt(section));
+    return heading ? translated(heading->toolTip) : ColumnFriendlyName::toolTip(columnAt(section));
+}
+
+QString SampleTableModel::headingText(const QString &column)
+{
+    const Heading *heading = headingOf(column);
+    return heading ? translated(heading->text) : ColumnFriendlyName::friendlyName(column);
 }
 
 Qt::ItemFlags SampleTableModel::flags(const QModelIndex &index) const

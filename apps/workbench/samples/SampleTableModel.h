@@ -19,6 +19,9 @@ class SampleTableModel : public QAbstractTableModel
 public:
     explicit SampleTableModel(SampleEditor &editor, QObject *parent = nullptr);
 
+    /// The name of @p column in the user's language.
+    [[nodiscard]] static QString headingText(const QString &column);
+
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;

@@ -51,6 +51,8 @@ SampleTableView::SampleTableView(SampleTableModel *model, const SampleTable &sam
     setAlternatingRowColors(true);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setWordWrap(false);
+    // The arrow keys lead from cell to cell; Tab leads on, to what else there is in the window.
+    setTabKeyNavigation(false);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);

@@ -5,6 +5,8 @@
 #include <QAction>
 #include <QKeySequence>
 #include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
 #include <QToolBar>
 #include <QUndoStack>
 
@@ -73,7 +75,7 @@ constexpr std::array kActions{
               QT_TRANSLATE_NOOP("workbench::MainActions", "List MS data…"),
               QT_TRANSLATE_NOOP("workbench::MainActions",
                                 "Save a CSV file that lists the mass-spectrometry data in a folder"),
-              QKeySequence::UnknownKey},
+              QKeySequence::UnknownKey, "Ctrl+L"},
     ActionRow{&MainActions::exportTrail, Group::Tools, "exportAction", "document-export",
               QT_TRANSLATE_NOOP("workbench::MainActions", "Export trail"),
               QT_TRANSLATE_NOOP("workbench::MainActions", "Export the audit trail as JSON or CSV"),
@@ -91,7 +93,21 @@ constexpr std::array kActions{
     ActionRow{&MainActions::style, Group::Tools, "styleAction", "view-style",
               QT_TRANSLATE_NOOP("workbench::MainActions", "Style"),
               QT_TRANSLATE_NOOP("workbench::MainActions", "Look at icons and messages, in light and dark"),
-              QKeySequence::UnknownKey},
+              QKeySequence::UnknownKey, "Ctrl+Shift+L"},
+};
+
+struct MenuRow
+{
+    Group group;
+    const char *name;
+    const char *title;
+};
+
+constexpr std::array kMenus{
+    MenuRow{Group::File, "fileMenu", QT_TRANSLATE_NOOP("workbench::MainActions", "&File")},
+    MenuRow{Group::History, "editMenu", QT_TRANSLATE_NOOP("workbench::MainActions", "&Edit")},
+    MenuRow{Group::Samples, "samplesMenu", QT_TRANSLATE_NOOP("workbench::MainActions", "&Samples")},
+    MenuRow{Group::Tools, "toolsMenu", QT_TRANSLATE_NOOP("workbench::MainActions", "&Tools")},
 };
 
 QAction *makeAction(const ActionRow &row, QObject *parent)
@@ -121,6 +137,13 @@ MainActions::MainActions(QMainWindow *window)
     bar->setObjectName(u"toolBar"_s);
     bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     fill(bar);
+    for (const MenuRow &row : kMenus) {
+        QMenu *menu = window->menuBar()->addMenu(tr(row.title));
+        menu->setObjectName(QString::fromLatin1(row.name));
+        for (const ActionRow &action : kActions)
+            if (action.group == row.group)
+                menu->addAction(this->*action.action);
+    }
 }
 
 void MainActions::fill(QToolBar *bar)
@@ -131,6 +154,8 @@ void MainActions::fill(QToolBar *bar)
             bar->addSeparator();
         group = row.group;
         bar->addAction(this->*row.action);
+        // The toolkit leaves tool bars to the mouse.
+        bar->widgetForAction(this->*row.action)->setFocusPolicy(Qt::TabFocus);
     }
 }
 

@@ -10,7 +10,7 @@ class QUndoStack;
 namespace workbench {
 
 /**
- * The actions of the window, and the tool bar that offers them. To add an action: a member here, and a
+ * The actions of the window, and the tool bar and the menus that offer them. To add an action: a member here, and a
  * row in the table of the source.
  */
 class MainActions : public QObject
