@@ -130,212 +130,6 @@ private:
 
 using std::chrono::milliseconds;
 
-} // namespace
-
-class TestMessageBoxThreads : public ozm::test::StrictTest
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void valuesComeBack();
-    void nullContext();
-    void workThatNeverRuns_data();
-    void workThatNeverRuns();
-    void boxOpensOnTheGuiThread_data();
-    void boxOpensOnTheGuiThread();
-    void deadParent();
-    void openFromAWorker();
-    void applicationEnds_data();
-    void applicationEnds();
-    void manyWorkersWithDyingParents();
-};
-
-void TestMessageBoxThreads::valuesComeBack()
-{
-    Loop loop;
-    QThread *ranOn = nullptr;
-    const auto number = AsyncUtils::executeInThread<int>(&loop.object, [&] {
-        ranOn = QThread::currentThread();
-        return 7;
-    });
-    QCOMPARE(number.value(), 7);
-    QCOMPARE(ranOn, &loop.thread);
-
-    auto moved = AsyncUtils::executeInThread<std::unique_ptr<int>>(&loop.object,
-                                                                   [] { return std::make_unique<int>(8); });
-    QCOMPARE(*std::move(moved).value(), 8);
-    QVERIFY(!AsyncUtils::executeInThread<void>(&loop.object, [&] { ranOn = nullptr; }).hasError());
-    QVERIFY(!ranOn);
-    // Here it is simply called; nobody takes anything out of this thread's queue meanwhile.
-    QCOMPARE(AsyncUtils::executeInThread<int>(this, [] { return 9; }).value(), 9);
-}
-
-void TestMessageBoxThreads::nullContext()
-{
-    const auto result = AsyncUtils::executeInThread<int>(nullptr, [] { return 7; });
-    QCOMPARE(result.error().errorMessage(), u"Thread context object cannot be null."_s);
-    QCOMPARE(result.error().places().size(), 1);
-}
-
-// Qt's own blocking call says that all went well when the receiver dies, and waits for ever in the others.
-void TestMessageBoxThreads::workThatNeverRuns_data()
-{
-    QTest::addColumn<QString>("end");
-    for (const char *end : {"context dies", "thread ends", "thread has ended"})
-        QTest::newRow(end) << QString::fromLatin1(end);
-}
-
-void TestMessageBoxThreads::workThatNeverRuns()
-{
-    QFETCH(const QString, end);
-    const WaitNoticed noticed;
-    std::binary_semaphore checked{0};
-    Stuck stuck([&](Stuck &self) {
-        if (end == u"context dies") {
-            self.object.reset();
-            checked.acquire();
-        }
-    });
-    if (end == u"thread has ended") {
-        stuck.go.release();
-        stuck.thread->wait();
-    }
-    std::atomic<bool> ran = false;
-    QString error;
-    {
-        const Worker worker([&] {
-            const auto result = AsyncUtils::executeInThread<int>(
-                stuck.object.get(), [&] { return ran = true; }, milliseconds(0));
-            error = result.hasError() ? result.error().errorMessage() : QString();
-        });
-        if (end != u"thread has ended") {
-            QVERIFY(WaitNoticed::text().startsWith("Thread \"worker\" ("_L1));
-            stuck.go.release();
-        }
-    }
-    checked.release();
-    QVERIFY(!ran);
-    QCOMPARE(error, u"Execute code in thread failed."_s);
-}
-
-void TestMessageBoxThreads::boxOpensOnTheGuiThread_data()
-{
-    QTest::addColumn<bool>("withParent");
-    QTest::newRow("with a parent") << true;
-    QTest::newRow("without a parent") << false;
-}
-
-void TestMessageBoxThreads::boxOpensOnTheGuiThread()
-{
-    QFETCH(const bool, withParent);
-    QWidget parent;
-    const BoxDriver driver([&](OzmMessageBox *box) {
-        QCOMPARE(QThread::currentThread(), qApp->thread());
-        QCOMPARE(box->thread(), qApp->thread());
-        QCOMPARE(box->parentWidget(), withParent ? &parent : nullptr);
-        press(box, Box::No);
-    });
-    int answer = 0;
-    {
-        const Worker worker(
-            [&] { answer = OZMStyle::question(withParent ? &parent : nullptr, kSignal, u"T"_s, "text"); });
-    }
-    QCOMPARE(answer, int(Box::No));
-    QCOMPARE(driver.shown(), 1);
-}
-
-// The parent is gone by the time the box could be shown: no box, and no answer that anyone might take for
-// one.
-void TestMessageBoxThreads::deadParent()
-{
-    auto parent = std::make_unique<QWidget>();
-    QWidget *dead = parent.get();
-    parent.reset();
-    const BoxDriver driver([](OzmMessageBox *box) { box->done(0); });
-    QList<int> answers;
-    {
-        const Worker worker([&] {
-            const auto yesNo = Box::Yes | Box::No;
-            answers = {OZMStyle::critical(dead, kSignal, u"T"_s, "text", yesNo, Box::No),
-                       OZMStyle::warning(dead, kSignal, u"T"_s, "text", yesNo, Box::No),
-                       OZMStyle::information(dead, kSignal, u"T"_s, "text", yesNo, Box::No),
-                       OZMStyle::question(dead, kSignal, u"T"_s, "text", yesNo, Box::No)};
-        });
-    }
-    QCOMPARE(answers, (QList<int>{Box::No, Box::No, Box::No, Box::Cancel}));
-    QCOMPARE(driver.shown(), 0);
-}
-
-void TestMessageBoxThreads::openFromAWorker()
-{
-    Loop loop;
-    const BoxDriver driver([](OzmMessageBox *box) { press(box, Box::Yes); });
-    std::atomic<int> answer = 0;
-    QThread *answeredOn = nullptr;
-    QMetaObject::invokeMethod(&loop.object, [&] {
-        OZMStyle::openQuestion(nullptr, kSignal, u"T"_s, "text", &loop.object,
-                               [&](Box::StandardButton given) {
-                                   answeredOn = QThread::currentThread();
-                                   answer = given;
-                               });
-    });
-    QTRY_COMPARE(answer.load(), int(Box::Yes));
-    QCOMPARE(answeredOn, &loop.thread);
-
-    // Nobody is left to be told.
-    auto context = std::make_unique<QObject>();
-    const BoxDriver killer([&](OzmMessageBox *) { context.reset(); });
-    OZMStyle::openQuestion(nullptr, kSignal, u"T"_s, "text", context.get(),
-                           [](Box::StandardButton) { QFAIL("told a context that is gone"); });
-    QTRY_VERIFY(!context);
-    QCoreApplication::processEvents();
-}
-
-void TestMessageBoxThreads::applicationEnds_data()
-{
-    QTest::addColumn<bool>("asksAfter");
-    QTest::newRow("asked as the event loop ends") << false;
-    QTest::newRow("asked when it has ended") << true;
-}
-
-// The GUI thread waits for its workers when its loop has ended; nobody takes their boxes any more.
-void TestMessageBoxThreads::applicationEnds()
-{
-    QFETCH(const bool, asksAfter);
-    const BoxDriver driver([](OzmMessageBox *box) { box->done(0); });
-    QWidget parent;
-    Loop loop;
-    std::weak_ptr<int> captured;
-    QList<int> answers;
-    std::atomic<int> opened = 0;
-    const std::unique_ptr<QThread> worker(QThread::create([&] {
-        const auto capture = std::make_shared<int>();
-        captured = capture;
-        // Nobody can be told of this one, and somebody of the next.
-        OZMStyle::openWarning(&parent, kSignal, u"T"_s, "text", this, [capture](Box::StandardButton) {});
-        OZMStyle::openWarning(
-            &parent, kSignal, u"T"_s, "text", &loop.object,
-            [&](Box::StandardButton given) { opened = given; }, Box::Yes | Box::No, Box::No);
-        answers = {OZMStyle::question(&parent, kSignal, u"T"_s, "text"),
-                   OZMStyle::warning(nullptr, kSignal, u"T"_s, "text", Box::Yes | Box::No, Box::No)};
-    }));
-    QTimer::singleShot(0, this, [&] {
-        if (!asksAfter)
-            worker->start();
-        QCoreApplication::quit();
-    });
-    QCoreApplication::exec();
-    if (asksAfter)
-        worker->start();
-    QVERIFY2(worker->wait(60000), "the worker waits for ever");
-    QCOMPARE(answers, (QList<int>{Box::Cancel, Box::No}));
-    QVERIFY2(captured.expired(), "the callback is kept");
-    QTRY_COMPARE(opened.load(), int(Box::No));
-    QCOMPARE(driver.shown(), 0);
-}
-
-namespace {
-
 /// Parents that die now and then, and are made anew; the pointers that workers hold are often dead.
 class Nursery
 {
@@ -360,47 +154,227 @@ private:
 
 } // namespace
 
-void TestMessageBoxThreads::manyWorkersWithDyingParents()
+class TestMessageBoxThreads : public ozm::test::StrictTest
 {
-    Nursery nursery;
-    // Each box is answered with the button whose number it carries; anything else that comes back must be
-    // what the box of a dead parent gives.
-    int pressed = 0;
-    int killed = 0;
-    const BoxDriver driver([&](OzmMessageBox *box) {
-        const QPointer<OzmMessageBox> guard(box);
-        if (QRandomGenerator::global()->bounded(8) == 0)
-            nursery.replaceOne();
-        if (!guard) {
-            ++killed;
-            return;
-        }
-        press(box, static_cast<Box::StandardButton>(box->text().toInt()));
-        ++pressed;
-    });
+    Q_OBJECT
 
-    std::atomic<int> answered = 0;
-    std::atomic<int> unshown = 0;
-    std::atomic<int> invented = 0;
+private Q_SLOTS:
+    void valuesComeBack()
     {
-        std::vector<std::unique_ptr<Worker>> workers;
-        for (int i = 0; i < kWorkers; ++i) {
-            workers.push_back(std::make_unique<Worker>([&, i] {
-                for (int n = 0; n < kBoxesEach; ++n) {
-                    const auto wanted = (i + n) % 2 ? Box::Yes : Box::No;
-                    const auto answer =
-                        OZMStyle::question(nursery.any(), kSignal, u"T"_s, QString::number(wanted));
-                    (answer == wanted ? answered : answer == Box::Cancel ? unshown : invented) += 1;
-                }
-            }));
-        }
-        workers.clear();
+        Loop loop;
+        QThread *ranOn = nullptr;
+        const auto number = AsyncUtils::executeInThread<int>(&loop.object, [&] {
+            ranOn = QThread::currentThread();
+            return 7;
+        });
+        QCOMPARE(number.value(), 7);
+        QCOMPARE(ranOn, &loop.thread);
+
+        auto moved = AsyncUtils::executeInThread<std::unique_ptr<int>>(
+            &loop.object, [] { return std::make_unique<int>(8); });
+        QCOMPARE(*std::move(moved).value(), 8);
+        QVERIFY(!AsyncUtils::executeInThread<void>(&loop.object, [&] { ranOn = nullptr; }).hasError());
+        QVERIFY(!ranOn);
+        // Here it is simply called; nobody takes anything out of this thread's queue meanwhile.
+        QCOMPARE(AsyncUtils::executeInThread<int>(this, [] { return 9; }).value(), 9);
+
+        const auto nowhere = AsyncUtils::executeInThread<int>(nullptr, [] { return 7; });
+        QCOMPARE(nowhere.error().errorMessage(), u"Thread context object cannot be null."_s);
+        QCOMPARE(nowhere.error().places().size(), 1);
     }
-    QCOMPARE(invented, 0);
-    QCOMPARE(answered + unshown, kWorkers * kBoxesEach);
-    QCOMPARE(answered, pressed);
-    QVERIFY2(killed > 0, "no parent died under an open box");
-}
+
+    // Qt's own blocking call says that all went well when the receiver dies, and waits for ever in the others.
+    void workThatNeverRuns_data()
+    {
+        QTest::addColumn<QString>("end");
+        for (const char *end : {"context dies", "thread ends", "thread has ended"})
+            QTest::newRow(end) << QString::fromLatin1(end);
+    }
+
+    void workThatNeverRuns()
+    {
+        QFETCH(const QString, end);
+        const WaitNoticed noticed;
+        std::binary_semaphore checked{0};
+        Stuck stuck([&](Stuck &self) {
+            if (end == u"context dies") {
+                self.object.reset();
+                checked.acquire();
+            }
+        });
+        if (end == u"thread has ended") {
+            stuck.go.release();
+            stuck.thread->wait();
+        }
+        std::atomic<bool> ran = false;
+        QString error;
+        {
+            const Worker worker([&] {
+                const auto result = AsyncUtils::executeInThread<int>(
+                    stuck.object.get(), [&] { return ran = true; }, milliseconds(0));
+                error = result.hasError() ? result.error().errorMessage() : QString();
+            });
+            if (end != u"thread has ended") {
+                QVERIFY(WaitNoticed::text().startsWith("Thread \"worker\" ("_L1));
+                stuck.go.release();
+            }
+        }
+        checked.release();
+        QVERIFY(!ran);
+        QCOMPARE(error, u"Execute code in thread failed."_s);
+    }
+
+    void boxOpensOnTheGuiThread()
+    {
+        QWidget parent;
+        for (QWidget *over : {&parent, static_cast<QWidget *>(nullptr)}) {
+            const BoxDriver driver([&](OzmMessageBox *box) {
+                QCOMPARE(QThread::currentThread(), qApp->thread());
+                QCOMPARE(box->thread(), qApp->thread());
+                QCOMPARE(box->parentWidget(), over);
+                press(box, Box::No);
+            });
+            int answer = 0;
+            {
+                const Worker worker([&] { answer = OZMStyle::question(over, kSignal, u"T"_s, "text"); });
+            }
+            QCOMPARE(answer, int(Box::No));
+            QCOMPARE(driver.shown(), 1);
+        }
+    }
+
+    // The parent is gone by the time the box could be shown: no box, and no answer that anyone might take for
+    // one.
+    void deadParent()
+    {
+        auto parent = std::make_unique<QWidget>();
+        QWidget *dead = parent.get();
+        parent.reset();
+        const BoxDriver driver([](OzmMessageBox *box) { box->done(0); });
+        QList<int> answers;
+        {
+            const Worker worker([&] {
+                const auto yesNo = Box::Yes | Box::No;
+                answers = {OZMStyle::critical(dead, kSignal, u"T"_s, "text", yesNo, Box::No),
+                           OZMStyle::warning(dead, kSignal, u"T"_s, "text", yesNo, Box::No),
+                           OZMStyle::information(dead, kSignal, u"T"_s, "text", yesNo, Box::No),
+                           OZMStyle::question(dead, kSignal, u"T"_s, "text", yesNo, Box::No)};
+            });
+        }
+        QCOMPARE(answers, (QList<int>{Box::No, Box::No, Box::No, Box::Cancel}));
+        QCOMPARE(driver.shown(), 0);
+    }
+
+    void openFromAWorker()
+    {
+        Loop loop;
+        const BoxDriver driver([](OzmMessageBox *box) { press(box, Box::Yes); });
+        std::atomic<int> answer = 0;
+        QThread *answeredOn = nullptr;
+        QMetaObject::invokeMethod(&loop.object, [&] {
+            OZMStyle::openQuestion(nullptr, kSignal, u"T"_s, "text", &loop.object,
+                                   [&](Box::StandardButton given) {
+                                       answeredOn = QThread::currentThread();
+                                       answer = given;
+                                   });
+        });
+        QTRY_COMPARE(answer.load(), int(Box::Yes));
+        QCOMPARE(answeredOn, &loop.thread);
+
+        // Nobody is left to be told.
+        auto context = std::make_unique<QObject>();
+        const BoxDriver killer([&](OzmMessageBox *) { context.reset(); });
+        OZMStyle::openQuestion(nullptr, kSignal, u"T"_s, "text", context.get(),
+                               [](Box::StandardButton) { QFAIL("told a context that is gone"); });
+        QTRY_VERIFY(!context);
+        QCoreApplication::processEvents();
+    }
+
+    void applicationEnds_data()
+    {
+        QTest::addColumn<bool>("asksAfter");
+        QTest::newRow("asked as the event loop ends") << false;
+        QTest::newRow("asked when it has ended") << true;
+    }
+
+    // The GUI thread waits for its workers when its loop has ended; nobody takes their boxes any more.
+    void applicationEnds()
+    {
+        QFETCH(const bool, asksAfter);
+        const BoxDriver driver([](OzmMessageBox *box) { box->done(0); });
+        QWidget parent;
+        Loop loop;
+        std::weak_ptr<int> captured;
+        QList<int> answers;
+        std::atomic<int> opened = 0;
+        const std::unique_ptr<QThread> worker(QThread::create([&] {
+            const auto capture = std::make_shared<int>();
+            captured = capture;
+            // Nobody can be told of this one, and somebody of the next.
+            OZMStyle::openWarning(&parent, kSignal, u"T"_s, "text", this, [capture](Box::StandardButton) {});
+            OZMStyle::openWarning(
+                &parent, kSignal, u"T"_s, "text", &loop.object,
+                [&](Box::StandardButton given) { opened = given; }, Box::Yes | Box::No, Box::No);
+            answers = {OZMStyle::question(&parent, kSignal, u"T"_s, "text"),
+                       OZMStyle::warning(nullptr, kSignal, u"T"_s, "text", Box::Yes | Box::No, Box::No)};
+        }));
+        QTimer::singleShot(0, this, [&] {
+            if (!asksAfter)
+                worker->start();
+            QCoreApplication::quit();
+        });
+        QCoreApplication::exec();
+        if (asksAfter)
+            worker->start();
+        QVERIFY2(worker->wait(60000), "the worker waits for ever");
+        QCOMPARE(answers, (QList<int>{Box::Cancel, Box::No}));
+        QVERIFY2(captured.expired(), "the callback is kept");
+        QTRY_COMPARE(opened.load(), int(Box::No));
+        QCOMPARE(driver.shown(), 0);
+    }
+
+    void manyWorkersWithDyingParents()
+    {
+        Nursery nursery;
+        // Each box is answered with the button whose number it carries; anything else that comes back must be
+        // what the box of a dead parent gives.
+        int pressed = 0;
+        int killed = 0;
+        const BoxDriver driver([&](OzmMessageBox *box) {
+            const QPointer<OzmMessageBox> guard(box);
+            if (QRandomGenerator::global()->bounded(8) == 0)
+                nursery.replaceOne();
+            if (!guard) {
+                ++killed;
+                return;
+            }
+            press(box, static_cast<Box::StandardButton>(box->text().toInt()));
+            ++pressed;
+        });
+
+        std::atomic<int> answered = 0;
+        std::atomic<int> unshown = 0;
+        std::atomic<int> invented = 0;
+        {
+            std::vector<std::unique_ptr<Worker>> workers;
+            for (int i = 0; i < kWorkers; ++i) {
+                workers.push_back(std::make_unique<Worker>([&, i] {
+                    for (int n = 0; n < kBoxesEach; ++n) {
+                        const auto wanted = (i + n) % 2 ? Box::Yes : Box::No;
+                        const auto answer =
+                            OZMStyle::question(nursery.any(), kSignal, u"T"_s, QString::number(wanted));
+                        (answer == wanted ? answered : answer == Box::Cancel ? unshown : invented) += 1;
+                    }
+                }));
+            }
+            workers.clear();
+        }
+        QCOMPARE(invented, 0);
+        QCOMPARE(answered + unshown, kWorkers * kBoxesEach);
+        QCOMPARE(answered, pressed);
+        QVERIFY2(killed > 0, "no parent died under an open box");
+    }
+};
 
 QTEST_MAIN(TestMessageBoxThreads)
 #include "tst_messageboxthreads.moc"

@@ -11,7 +11,6 @@
 #include <QLoggingCategory>
 #include <QMainWindow>
 #include <QPainter>
-#include <QPushButton>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QToolBar>
@@ -61,26 +60,6 @@ double contrast(const QPalette &palette, QPalette::ColorRole a, QPalette::ColorR
     const double first = luminance(palette.color(a)) + 0.05;
     const double second = luminance(palette.color(b)) + 0.05;
     return qMax(first, second) / qMin(first, second);
-}
-
-int countEvents(QWidget *widget, QEvent::Type type, const std::function<void()> &work)
-{
-    struct Counter : QObject
-    {
-        explicit Counter(QEvent::Type counted)
-            : type(counted)
-        {}
-        bool eventFilter(QObject *, QEvent *event) override
-        {
-            count += event->type() == type ? 1 : 0;
-            return false;
-        }
-        QEvent::Type type;
-        int count = 0;
-    } counter(type);
-    widget->installEventFilter(&counter);
-    work();
-    return counter.count;
 }
 
 /// Under a style sheet the style has no name, but still its measures.
@@ -146,278 +125,259 @@ class TestStyle : public ozm::test::StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
-    void applyOnceAndOnlyOnce();
-    void missingStyleFallsBack();
-    void sheetFollowsThePalette();
-    void palettesAreReadable_data();
-    void palettesAreReadable();
-    void everyIconIsDrawn();
-    void iconsFollowModeAndPalette();
-    void iconsAreSharp();
-    void unknownIconIsNull();
-    void dockTitleBar();
-    void dockTitleBarStandsUpright();
-    void splitterHandle_data();
-    void splitterHandle();
-    void germanIsComplete();
-};
+    void cleanup() { QApplication::setPalette(OZMStyle::palette(Scheme::Light)); }
 
-void TestStyle::cleanup()
-{
-    QApplication::setPalette(OZMStyle::palette(Scheme::Light));
-}
-
-void TestStyle::applyOnceAndOnlyOnce()
-{
-    OZMStyle::apply();
-    QVERIFY(isStyle(u"fusion"_s));
-    QVERIFY(qApp->styleSheet().contains("QToolBar"_L1));
-    QPushButton button;
-    button.ensurePolished();
-    QCOMPARE(countEvents(&button, QEvent::StyleChange, [] { OZMStyle::apply(); }), 0);
-    // A handler that someone else installed is replaced.
-    qApp->setStyleSheet(u"QPushButton { color: red }"_s);
-    OZMStyle::apply();
-    QVERIFY(!qApp->styleSheet().contains("red"_L1));
-}
-
-void TestStyle::missingStyleFallsBack()
-{
-    OZMStyle::apply(u"windows"_s);
-    QVERIFY(isStyle(u"windows"_s) && !isStyle(u"fusion"_s));
-    expectWarning(u"The style \"nonesuch\" is not installed"_s);
-    OZMStyle::apply(u"nonesuch"_s);
-    QVERIFY(isStyle(u"fusion"_s));
-    // One warning, not one a call.
-    OZMStyle::apply(u"nonesuch"_s);
-    OZMStyle::apply(u"Fusion"_s);
-}
-
-void TestStyle::sheetFollowsThePalette()
-{
-    OZMStyle::apply();
-    QToolBar bar;
-    bar.resize(200, 40);
-    const auto border = [&bar] { return bar.grab().toImage().pixelColor(100, 39); };
-    for (const Scheme scheme : {Scheme::Light, Scheme::Dark, Scheme::Light}) {
-        QApplication::setPalette(OZMStyle::palette(scheme));
-        QCOMPARE(OZMStyle::scheme(QApplication::palette()), scheme);
-        QCOMPARE(border(), OZMStyle::palette(scheme).color(QPalette::Mid));
-        for (const auto role : {QPalette::ToolTipBase, QPalette::ToolTipText})
-            QCOMPARE(QToolTip::palette().color(role), OZMStyle::palette(scheme).color(role));
+    void applyOnceAndOnlyOnce()
+    {
+        OZMStyle::apply();
+        QVERIFY(isStyle(u"fusion"_s));
+        QVERIFY(qApp->styleSheet().contains("QToolBar"_L1));
+        // A handler that someone else installed is replaced.
+        qApp->setStyleSheet(u"QPushButton { color: red }"_s);
+        OZMStyle::apply();
+        QVERIFY(!qApp->styleSheet().contains("red"_L1));
     }
-}
 
-void TestStyle::palettesAreReadable_data()
-{
-    QTest::addColumn<int>("scheme");
-    QTest::newRow("light") << int(Scheme::Light);
-    QTest::newRow("dark") << int(Scheme::Dark);
-}
+    void missingStyleFallsBack()
+    {
+        OZMStyle::apply(u"windows"_s);
+        QVERIFY(isStyle(u"windows"_s) && !isStyle(u"fusion"_s));
+        expectWarning(u"The style \"nonesuch\" is not installed"_s);
+        OZMStyle::apply(u"nonesuch"_s);
+        QVERIFY(isStyle(u"fusion"_s));
+        // One warning, not one a call.
+        OZMStyle::apply(u"nonesuch"_s);
+        OZMStyle::apply(u"Fusion"_s);
+    }
 
-void TestStyle::palettesAreReadable()
-{
-    QFETCH(const int, scheme);
-    const QPalette palette = OZMStyle::palette(static_cast<Scheme>(scheme));
-    constexpr double kReadable = 4.5;
-    const QList<std::pair<QPalette::ColorRole, QPalette::ColorRole>> pairs{
-        {QPalette::WindowText, QPalette::Window},
-        {QPalette::Text, QPalette::Base},
-        {QPalette::Text, QPalette::AlternateBase},
-        {QPalette::ButtonText, QPalette::Button},
-        {QPalette::HighlightedText, QPalette::Highlight},
-        {QPalette::ToolTipText, QPalette::ToolTipBase},
-        {QPalette::Link, QPalette::Base},
-        {QPalette::PlaceholderText, QPalette::Base},
-        {QPalette::WindowText, QPalette::Midlight},
-    };
-    for (const auto &[text, ground] : pairs)
-        QVERIFY2(contrast(palette, text, ground) >= kReadable,
-                 qPrintable(u"%1 on %2: %3"_s.arg(text).arg(ground).arg(contrast(palette, text, ground))));
-    // Drawings need less than text: the ring of the focus, and icons that are disabled.
-    constexpr double kVisible = 3.0;
-    QPalette disabled = palette;
-    disabled.setCurrentColorGroup(QPalette::Disabled);
-    QVERIFY(contrast(palette, QPalette::Highlight, QPalette::Window) >= kVisible);
-    QVERIFY(contrast(disabled, QPalette::WindowText, QPalette::Window) >= kVisible);
-}
-
-void TestStyle::everyIconIsDrawn()
-{
-    const QStringList names = OZMStyle::iconNames();
-    QVERIFY(names.size() > 80);
-    for (const QString &name : names) {
-        const QImage image = OZMStyle::icon(name).pixmap(24).toImage();
-        int inked = 0;
-        bool touchesEdge = false;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                const bool ink = image.pixelColor(x, y).alpha() > 128;
-                inked += ink ? 1 : 0;
-                touchesEdge |= ink && (x == 0 || y == 0 || x == 23 || y == 23);
-            }
+    void sheetFollowsThePalette()
+    {
+        OZMStyle::apply();
+        QToolBar bar;
+        bar.resize(200, 40);
+        const auto border = [&bar] { return bar.grab().toImage().pixelColor(100, 39); };
+        for (const Scheme scheme : {Scheme::Light, Scheme::Dark, Scheme::Light}) {
+            QApplication::setPalette(OZMStyle::palette(scheme));
+            QCOMPARE(OZMStyle::scheme(QApplication::palette()), scheme);
+            QCOMPARE(border(), OZMStyle::palette(scheme).color(QPalette::Mid));
+            for (const auto role : {QPalette::ToolTipBase, QPalette::ToolTipText})
+                QCOMPARE(QToolTip::palette().color(role), OZMStyle::palette(scheme).color(role));
         }
-        QVERIFY2(inked > 15, qPrintable(name));
-        QVERIFY2(!touchesEdge, qPrintable(name + u" is cut off"_s));
     }
-}
 
-void TestStyle::iconsFollowModeAndPalette()
-{
-    // One and the same icon throughout, as an action keeps it.
-    const QIcon icon = OZMStyle::icon(u"document-save"_s);
-    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
-        const QPalette palette = OZMStyle::palette(scheme);
-        QApplication::setPalette(palette);
-        QVERIFY(isClose(inkOf(icon.pixmap(32)), palette.color(QPalette::WindowText)));
-        QVERIFY(isClose(inkOf(icon.pixmap(32, QIcon::Disabled)),
-                        palette.color(QPalette::Disabled, QPalette::WindowText)));
-        QVERIFY(isClose(inkOf(icon.pixmap(32, QIcon::Selected)), palette.color(QPalette::HighlightedText)));
+    void palettesAreReadable()
+    {
+        for (const Scheme scheme : {Scheme::Light, Scheme::Dark})
+            checkContrasts(OZMStyle::palette(scheme));
     }
-}
 
-void TestStyle::iconsAreSharp()
-{
-    const QIcon icon = OZMStyle::icon(u"format-justify-fill"_s);
-    for (const qreal ratio : {1.0, 1.5, 2.0, 3.0}) {
-        const QPixmap pixmap = icon.pixmap(QSize(16, 16), ratio);
-        QCOMPARE(pixmap.size(), QSize(16, 16) * ratio);
-        QCOMPARE(pixmap.devicePixelRatio(), ratio);
+private:
+    static void checkContrasts(const QPalette &palette)
+    {
+        constexpr double kReadable = 4.5;
+        const QList<std::pair<QPalette::ColorRole, QPalette::ColorRole>> pairs{
+            {QPalette::WindowText, QPalette::Window},
+            {QPalette::Text, QPalette::Base},
+            {QPalette::Text, QPalette::AlternateBase},
+            {QPalette::ButtonText, QPalette::Button},
+            {QPalette::HighlightedText, QPalette::Highlight},
+            {QPalette::ToolTipText, QPalette::ToolTipBase},
+            {QPalette::Link, QPalette::Base},
+            {QPalette::PlaceholderText, QPalette::Base},
+            {QPalette::WindowText, QPalette::Midlight},
+        };
+        for (const auto &[text, ground] : pairs)
+            QVERIFY2(
+                contrast(palette, text, ground) >= kReadable,
+                qPrintable(u"%1 on %2: %3"_s.arg(text).arg(ground).arg(contrast(palette, text, ground))));
+        // Drawings need less than text: the ring of the focus, and icons that are disabled.
+        constexpr double kVisible = 3.0;
+        QPalette disabled = palette;
+        disabled.setCurrentColorGroup(QPalette::Disabled);
+        QVERIFY(contrast(palette, QPalette::Highlight, QPalette::Window) >= kVisible);
+        QVERIFY(contrast(disabled, QPalette::WindowText, QPalette::Window) >= kVisible);
     }
-    // Drawn anew at the painter's ratio, not stretched: twice the size has twice the detail.
-    QImage image(64, 64, QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(2);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    icon.paint(&painter, QRect(0, 0, 32, 32));
-    painter.end();
-    QCOMPARE(image, icon.pixmap(QSize(32, 32), 2.0).toImage().convertToFormat(image.format()));
-}
 
-void TestStyle::unknownIconIsNull()
-{
-    QTest::ignoreMessage(QtDebugMsg, "There is no icon \"no-such-icon\"");
-    QLoggingCategory::setFilterRules(u"ozm.widgets.debug=true"_s);
-    QVERIFY(OZMStyle::icon(u"no-such-icon"_s).isNull());
-    QLoggingCategory::setFilterRules({});
-    QVERIFY(OZMStyle::icon(u"../stylesheet"_s).isNull());
-}
-
-void TestStyle::dockTitleBar()
-{
-    const Dock fixture;
-    QToolButton *floating = fixture.button(u"floatButton"_s);
-    QToolButton *closing = fixture.button(u"closeButton"_s);
-    QCOMPARE(closing->accessibleName(), u"Close History"_s);
-    fixture.dock->setWindowTitle(u"A title far too long for the narrow place that it has to be shown in"_s);
-    QVERIFY(closing->accessibleName().endsWith("shown in"_L1));
-    QVERIFY2(fixture.bar->minimumSizeHint().width() < 150, "a long title keeps the dock from being narrow");
-    fixture.dock->setWindowTitle(u"Trail[*] [*][*]"_s);
-    QCOMPARE(fixture.bar->accessibleName(), u"Trail [*]"_s);
-    fixture.dock->setWindowModified(true);
-    QCOMPARE(closing->accessibleName(), u"Close Trail* [*]"_s);
-
-    QTest::mouseDClick(fixture.bar, Qt::LeftButton, {}, QPoint(20, fixture.bar->height() / 2));
-    QVERIFY(fixture.dock->isFloating());
-    QVERIFY(floating->accessibleName().startsWith("Dock "_L1));
-    QTest::keyClick(floating, Qt::Key_Space);
-    QVERIFY(!fixture.dock->isFloating());
-    QVERIFY(floating->focusPolicy() & Qt::TabFocus);
-
-    fixture.dock->setFeatures(QDockWidget::DockWidgetClosable);
-    QVERIFY(floating->isHidden() && !closing->isHidden());
-    closing->click();
-    QVERIFY(fixture.dock->isHidden());
-
-    // Kept by someone else, the bar outlives its dock.
-    QWidget keeper;
-    fixture.bar->setParent(&keeper);
-    delete fixture.dock;
-    QVERIFY(!fixture.bar->grab().isNull() && fixture.bar->sizeHint().isValid());
-}
-
-void TestStyle::dockTitleBarStandsUpright()
-{
-    const Dock fixture;
-    QVERIFY(fixture.bar->width() > fixture.bar->height());
-    fixture.dock->setFeatures(fixture.dock->features() | QDockWidget::DockWidgetVerticalTitleBar);
-    QTRY_VERIFY(fixture.bar->height() > fixture.bar->width());
-    QVERIFY(fixture.button(u"closeButton"_s)->y() < fixture.button(u"floatButton"_s)->y());
-    fixture.dock->setFeatures(QDockWidget::DockWidgetClosable);
-    QTRY_VERIFY(fixture.bar->width() > fixture.bar->height());
-}
-
-void TestStyle::splitterHandle_data()
-{
-    QTest::addColumn<Qt::Orientation>("orientation");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::newRow("horizontal") << Qt::Horizontal << Qt::LeftToRight;
-    QTest::newRow("right to left") << Qt::Horizontal << Qt::RightToLeft;
-    QTest::newRow("vertical") << Qt::Vertical << Qt::LeftToRight;
-}
-
-void TestStyle::splitterHandle()
-{
-    QFETCH(const Qt::Orientation, orientation);
-    QFETCH(const Qt::LayoutDirection, direction);
-    const bool lying = orientation == Qt::Horizontal;
-    Panes panes(orientation, direction);
-    ozm::BlackSplitter &splitter = panes.splitter;
-    ozm::BlackSplitterHandle *handle = panes.handle();
-    QVERIFY(handle);
-    QCOMPARE(handle->cursor().shape(), lying ? Qt::SplitHCursor : Qt::SplitVCursor);
-    QVERIFY((lying ? handle->width() : handle->height()) >= 7);
-
-    // The keys and the mouse mean directions on the screen.
-    const auto place = [&] { return lying ? handle->x() : handle->y(); };
-    const int start = place();
-    const int size = panes.first();
-    QTest::keyClick(handle, lying ? Qt::Key_Right : Qt::Key_Down);
-    QCOMPARE(place(), start + 20);
-    QTest::keyClick(handle, lying ? Qt::Key_Left : Qt::Key_Up, Qt::ShiftModifier);
-    QCOMPARE(place(), start + 19);
-    QTest::mousePress(handle, Qt::LeftButton, {}, QPoint(2, 2));
-    QTest::mouseMove(handle, QPoint(5, 5));
-    QTest::mouseRelease(handle, Qt::LeftButton, {}, QPoint(2, 2));
-    QCOMPARE(place(), start + 22);
-    const int before = panes.first();
-    QCOMPARE(before, direction == Qt::RightToLeft ? size - 22 : size + 22);
-
-    splitter.setChildrenCollapsible(false);
-    QTest::mouseDClick(handle, Qt::LeftButton);
-    QCOMPARE(panes.first(), before);
-    splitter.setChildrenCollapsible(true);
-    QTest::mouseDClick(handle, Qt::LeftButton);
-    QCOMPARE(panes.first(), 0);
-    QTest::keyClick(handle, Qt::Key_Return);
-    QCOMPARE(panes.first(), before);
-
-    // The smaller one may not be collapsed, so the other is.
-    splitter.setCollapsible(0, false);
-    QTest::mouseDClick(handle, Qt::LeftButton);
-    QCOMPARE(splitter.sizes().constLast(), 0);
-    QTest::mouseDClick(handle, Qt::LeftButton);
-    QCOMPARE(panes.first(), before);
-}
-
-void TestStyle::germanIsComplete()
-{
-    for (const char *name : {"ozm_widgets_de.ts", "workbench_de.ts"}) {
-        QFile file(QStringLiteral(TRANSLATIONS "/") + QString::fromLatin1(name));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QVERIFY2(!file.readAll().contains("unfinished"), name);
+private Q_SLOTS:
+    void everyIconIsDrawn()
+    {
+        const QStringList names = OZMStyle::iconNames();
+        QVERIFY(names.size() > 80);
+        for (const QString &name : names) {
+            const QImage image = OZMStyle::icon(name).pixmap(24).toImage();
+            int inked = 0;
+            bool touchesEdge = false;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x) {
+                    const bool ink = image.pixelColor(x, y).alpha() > 128;
+                    inked += ink ? 1 : 0;
+                    touchesEdge |= ink && (x == 0 || y == 0 || x == 23 || y == 23);
+                }
+            }
+            QVERIFY2(inked > 15, qPrintable(name));
+            QVERIFY2(!touchesEdge, qPrintable(name + u" is cut off"_s));
+        }
     }
-    QVERIFY(ozm::OzmCoreApplication::loadTranslation(QLocale(QLocale::German)));
-    QCOMPARE(OZMStyle::tr("Warning"), u"Warnung"_s);
-    const Dock fixture;
-    QCOMPARE(fixture.button(u"closeButton"_s)->toolTip(), u"Schließen"_s);
-    // No translation into it: English again, not German left over, and not the toolkit alone in French.
-    QVERIFY(!ozm::OzmCoreApplication::loadTranslation(QLocale(QLocale::French)));
-    QVERIFY(qApp->findChildren<QTranslator *>().isEmpty());
-    QCOMPARE(OZMStyle::tr("Warning"), u"Warning"_s);
-    QTRY_COMPARE(fixture.button(u"closeButton"_s)->toolTip(), u"Close"_s);
-}
+
+    void iconsFollowModeAndPalette()
+    {
+        // One and the same icon throughout, as an action keeps it.
+        const QIcon icon = OZMStyle::icon(u"document-save"_s);
+        for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+            const QPalette palette = OZMStyle::palette(scheme);
+            QApplication::setPalette(palette);
+            QVERIFY(isClose(inkOf(icon.pixmap(32)), palette.color(QPalette::WindowText)));
+            QVERIFY(isClose(inkOf(icon.pixmap(32, QIcon::Disabled)),
+                            palette.color(QPalette::Disabled, QPalette::WindowText)));
+            QVERIFY(
+                isClose(inkOf(icon.pixmap(32, QIcon::Selected)), palette.color(QPalette::HighlightedText)));
+        }
+    }
+
+    void iconsAreSharp()
+    {
+        const QIcon icon = OZMStyle::icon(u"format-justify-fill"_s);
+        for (const qreal ratio : {1.0, 1.5, 2.0, 3.0}) {
+            const QPixmap pixmap = icon.pixmap(QSize(16, 16), ratio);
+            QCOMPARE(pixmap.size(), QSize(16, 16) * ratio);
+            QCOMPARE(pixmap.devicePixelRatio(), ratio);
+        }
+        // Drawn anew at the painter's ratio, not stretched: twice the size has twice the detail.
+        QImage image(64, 64, QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(2);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        icon.paint(&painter, QRect(0, 0, 32, 32));
+        painter.end();
+        QCOMPARE(image, icon.pixmap(QSize(32, 32), 2.0).toImage().convertToFormat(image.format()));
+    }
+
+    void unknownIconIsNull()
+    {
+        QTest::ignoreMessage(QtDebugMsg, "There is no icon \"no-such-icon\"");
+        QLoggingCategory::setFilterRules(u"ozm.widgets.debug=true"_s);
+        QVERIFY(OZMStyle::icon(u"no-such-icon"_s).isNull());
+        QLoggingCategory::setFilterRules({});
+        QVERIFY(OZMStyle::icon(u"../stylesheet"_s).isNull());
+    }
+
+    void dockTitleBar()
+    {
+        const Dock fixture;
+        QToolButton *floating = fixture.button(u"floatButton"_s);
+        QToolButton *closing = fixture.button(u"closeButton"_s);
+        QCOMPARE(closing->accessibleName(), u"Close History"_s);
+        fixture.dock->setWindowTitle(
+            u"A title far too long for the narrow place that it has to be shown in"_s);
+        QVERIFY(closing->accessibleName().endsWith("shown in"_L1));
+        QVERIFY2(fixture.bar->minimumSizeHint().width() < 150,
+                 "a long title keeps the dock from being narrow");
+        fixture.dock->setWindowTitle(u"Trail[*] [*][*]"_s);
+        QCOMPARE(fixture.bar->accessibleName(), u"Trail [*]"_s);
+        fixture.dock->setWindowModified(true);
+        QCOMPARE(closing->accessibleName(), u"Close Trail* [*]"_s);
+
+        QTest::mouseDClick(fixture.bar, Qt::LeftButton, {}, QPoint(20, fixture.bar->height() / 2));
+        QVERIFY(fixture.dock->isFloating());
+        QVERIFY(floating->accessibleName().startsWith("Dock "_L1));
+        QTest::keyClick(floating, Qt::Key_Space);
+        QVERIFY(!fixture.dock->isFloating());
+        QVERIFY(floating->focusPolicy() & Qt::TabFocus);
+
+        fixture.dock->setFeatures(QDockWidget::DockWidgetClosable);
+        QVERIFY(floating->isHidden() && !closing->isHidden());
+        closing->click();
+        QVERIFY(fixture.dock->isHidden());
+
+        // Kept by someone else, the bar outlives its dock.
+        QWidget keeper;
+        fixture.bar->setParent(&keeper);
+        delete fixture.dock;
+        QVERIFY(!fixture.bar->grab().isNull() && fixture.bar->sizeHint().isValid());
+    }
+
+    void dockTitleBarStandsUpright()
+    {
+        const Dock fixture;
+        QVERIFY(fixture.bar->width() > fixture.bar->height());
+        fixture.dock->setFeatures(fixture.dock->features() | QDockWidget::DockWidgetVerticalTitleBar);
+        QTRY_VERIFY(fixture.bar->height() > fixture.bar->width());
+        QVERIFY(fixture.button(u"closeButton"_s)->y() < fixture.button(u"floatButton"_s)->y());
+        fixture.dock->setFeatures(QDockWidget::DockWidgetClosable);
+        QTRY_VERIFY(fixture.bar->width() > fixture.bar->height());
+    }
+
+    void splitterHandle_data()
+    {
+        QTest::addColumn<Qt::Orientation>("orientation");
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("horizontal") << Qt::Horizontal << Qt::LeftToRight;
+        QTest::newRow("right to left") << Qt::Horizontal << Qt::RightToLeft;
+        QTest::newRow("vertical") << Qt::Vertical << Qt::LeftToRight;
+    }
+
+    void splitterHandle()
+    {
+        QFETCH(const Qt::Orientation, orientation);
+        QFETCH(const Qt::LayoutDirection, direction);
+        const bool lying = orientation == Qt::Horizontal;
+        Panes panes(orientation, direction);
+        ozm::BlackSplitter &splitter = panes.splitter;
+        ozm::BlackSplitterHandle *handle = panes.handle();
+        QVERIFY(handle);
+        QCOMPARE(handle->cursor().shape(), lying ? Qt::SplitHCursor : Qt::SplitVCursor);
+        QVERIFY((lying ? handle->width() : handle->height()) >= 7);
+
+        // The keys and the mouse mean directions on the screen.
+        const auto place = [&] { return lying ? handle->x() : handle->y(); };
+        const int start = place();
+        const int size = panes.first();
+        QTest::keyClick(handle, lying ? Qt::Key_Right : Qt::Key_Down);
+        QCOMPARE(place(), start + 20);
+        QTest::keyClick(handle, lying ? Qt::Key_Left : Qt::Key_Up, Qt::ShiftModifier);
+        QCOMPARE(place(), start + 19);
+        QTest::mousePress(handle, Qt::LeftButton, {}, QPoint(2, 2));
+        QTest::mouseMove(handle, QPoint(5, 5));
+        QTest::mouseRelease(handle, Qt::LeftButton, {}, QPoint(2, 2));
+        QCOMPARE(place(), start + 22);
+        const int before = panes.first();
+        QCOMPARE(before, direction == Qt::RightToLeft ? size - 22 : size + 22);
+
+        splitter.setChildrenCollapsible(false);
+        QTest::mouseDClick(handle, Qt::LeftButton);
+        QCOMPARE(panes.first(), before);
+        splitter.setChildrenCollapsible(true);
+        QTest::mouseDClick(handle, Qt::LeftButton);
+        QCOMPARE(panes.first(), 0);
+        QTest::keyClick(handle, Qt::Key_Return);
+        QCOMPARE(panes.first(), before);
+
+        // The smaller one may not be collapsed, so the other is.
+        splitter.setCollapsible(0, false);
+        QTest::mouseDClick(handle, Qt::LeftButton);
+        QCOMPARE(splitter.sizes().constLast(), 0);
+        QTest::mouseDClick(handle, Qt::LeftButton);
+        QCOMPARE(panes.first(), before);
+    }
+
+    void germanIsComplete()
+    {
+        for (const char *name : {"ozm_widgets_de.ts", "workbench_de.ts"}) {
+            QFile file(QStringLiteral(TRANSLATIONS "/") + QString::fromLatin1(name));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QVERIFY2(!file.readAll().contains("unfinished"), name);
+        }
+        QVERIFY(ozm::OzmCoreApplication::loadTranslation(QLocale(QLocale::German)));
+        QCOMPARE(OZMStyle::tr("Warning"), u"Warnung"_s);
+        const Dock fixture;
+        QCOMPARE(fixture.button(u"closeButton"_s)->toolTip(), u"Schließen"_s);
+        // No translation into it: English again, not German left over, and not the toolkit alone in French.
+        QVERIFY(!ozm::OzmCoreApplication::loadTranslation(QLocale(QLocale::French)));
+        QVERIFY(qApp->findChildren<QTranslator *>().isEmpty());
+        QCOMPARE(OZMStyle::tr("Warning"), u"Warning"_s);
+        QTRY_COMPARE(fixture.button(u"closeButton"_s)->toolTip(), u"Close"_s);
+    }
+};
 
 QTEST_MAIN(TestStyle)
 #include "tst_style.moc"
