@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <ranges>
 
 namespace ozm::audit::stress {
 
@@ -250,13 +251,13 @@ Files PowerCut::after(Loss loss, std::mt19937 &random) const
         }
     }
     // Names that were not synced: the newest may be undone, and those before it stay or go, too.
-    for (auto name = m_names.rbegin(); name != m_names.rend(); ++name) {
+    for (const Name &name : std::ranges::reverse_view(m_names)) {
         if (loss == Loss::Nothing || loss == Loss::TornLast || (loss == Loss::Sectors && random() % 2 == 0))
             break;
-        if (name->created)
-            files.erase(name->file);
+        if (name.created)
+            files.erase(name.file);
         else
-            files[name->file] = name->before;
+            files[name.file] = name.before;
     }
     return files;
 }
