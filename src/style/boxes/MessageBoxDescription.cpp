@@ -12,6 +12,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QStyle>
+#include <QThread>
 
 #include <algorithm>
 #include <memory>
