@@ -115,450 +115,423 @@ class TestFileAccessor : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
-    void switchesDialogs_data();
-    void switchesDialogs();
-    void startsInAFolder_data();
-    void startsInAFolder();
-    void startsAboveAFolderThatIsGone();
-    void startsInTheDocuments();
-    void remembersFolders_data();
-    void remembersFolders();
-    void remembersBesideARawFolder();
-    void automationAnswers_data();
-    void automationAnswers();
-    void correctsPaths();
-    void correctsSeveralPathsInTheLog();
-    void proposesAName();
-    void locations_data();
-    void locations();
-    void locationFromText();
-    void savesBytes_data();
-    void savesBytes();
-    void savesCsv();
-    void accessorAnswers();
-    void creatorsAreReplaced();
+    void cleanup()
+    {
+        as::clear();
+        remember({});
+        qunsetenv("OZM_USE_QT_SAVE_DIALOG");
+        qunsetenv("OZM_USE_QT_FILE_DIALOG");
+    }
+
+    void switchesDialogs_data()
+    {
+        QTest::addColumn<QByteArray>("save");
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<bool>("isToolkit");
+
+        QTest::newRow("unset") << QByteArray() << QByteArray() << false;
+        QTest::newRow("0 and 0") << QByteArray("0") << QByteArray("0") << false;
+        QTest::newRow("save 1") << QByteArray("1") << QByteArray() << true;
+        QTest::newRow("save 2") << QByteArray("2") << QByteArray("0") << true;
+        QTest::newRow("file 1") << QByteArray("0") << QByteArray("1") << true;
+        QTest::newRow("file 1 alone") << QByteArray() << QByteArray("1") << true;
+        QTest::newRow("save -1 is off") << QByteArray("-1") << QByteArray("0") << false;
+        QTest::newRow("save -1, file 1") << QByteArray("-1") << QByteArray("1") << true;
+        QTest::newRow("file -1") << QByteArray("0") << QByteArray("-1") << false;
+        QTest::newRow("no numbers") << QByteArray("yes") << QByteArray("true") << false;
+        QTest::newRow("hexadecimal is no number") << QByteArray("0x1") << QByteArray("1.5") << false;
+    }
+    void switchesDialogs()
+    {
+        QFETCH(const QByteArray, save);
+        QFETCH(const QByteArray, file);
+        QFETCH(const bool, isToolkit);
+        if (!save.isNull())
+            qputenv("OZM_USE_QT_SAVE_DIALOG", save);
+        if (!file.isNull())
+            qputenv("OZM_USE_QT_FILE_DIALOG", file);
+        for (const auto &[question, name] : kQuestions) {
+            // Several files are always the system's to ask for, which here is a plain dialog of the toolkit.
+            const bool isSwitched = isToolkit && question != Question::OpenSeveral;
+            const QString kind = isSwitched ? u"FileDialog"_s : u"QFileDialog"_s;
+            QVERIFY2(dialogFor(question, kCsv) == kind, name);
+        }
+        QCOMPARE(dialogFor(Question::OpenOne, msFilter()), u"SpectrumFileDialog"_s);
+        QCOMPARE(dialogFor(Question::OpenSeveral, msFilter()), u"SpectrumFileDialog"_s);
+        // A filter that comes as text is known again.
+        QCOMPARE(dialogFor(Question::OpenOne, FileExtensionsNameFilter(msFilter().toFilterString())),
+                 u"SpectrumFileDialog"_s);
+    }
+
+    void startsInAFolder_data()
+    {
+        QTest::addColumn<QString>("dir");
+        QTest::addColumn<QString>("whenOpening");
+        QTest::addColumn<QString>("whenSaving");
+
+        const QString last = u"last"_s;
+        QTest::newRow("existing folder") << u"given"_s << u"given"_s << u"given"_s;
+        QTest::newRow("existing file") << u"given/there.csv"_s << u"given"_s << u"given"_s;
+        QTest::newRow("none") << u""_s << last << last;
+        QTest::newRow("missing file in a folder") << u"given/new.csv"_s << last << u"given"_s;
+        QTest::newRow("in a missing folder") << u"missing/new.csv"_s << last << last;
+    }
+    void startsInAFolder()
+    {
+        QFETCH(const QString, dir);
+        QFETCH(const QString, whenOpening);
+        QFETCH(const QString, whenSaving);
+        const SampleTree tree;
+        tree.make({u"given/there.csv"_s, u"last/"_s});
+        for (const auto &[question, name] : kQuestions) {
+            remember(tree.path(u"last"_s));
+            QString start;
+            const DialogDriver driver({[&](QDialog *dialog) {
+                start = qobject_cast<QFileDialog *>(dialog)->directory().path();
+                dialog->reject();
+            }});
+            (void)ask(question, dir.isEmpty() ? dir : tree.path(dir));
+            const bool opens = question == Question::OpenOne || question == Question::OpenSeveral;
+            QVERIFY2(start == tree.path(opens ? whenOpening : whenSaving),
+                     qPrintable(QLatin1StringView(name) + ": "_L1 + start));
+        }
+    }
+
+    void startsAboveAFolderThatIsGone()
+    {
+        const SampleTree tree;
+        for (const auto &[question, name] : kQuestions) {
+            remember(tree.path(u"gone/with it"_s));
+            const DialogDriver driver({[&](QDialog *dialog) {
+                const FileDialogDriver files(dialog);
+                QCOMPARE(files.dialog()->directory().path(), tree.path());
+                QCOMPARE(files.name()->text(), QString());
+                dialog->reject();
+            }});
+            (void)ask(question, {});
+            QVERIFY2(driver.opened() == 1, name);
+        }
+    }
+
+    void startsInTheDocuments()
+    {
+        const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        for (const auto &[question, name] : kQuestions) {
+            remember({});
+            const bool opens = question == Question::OpenOne || question == Question::OpenSeveral;
+            const QString expected = opens && QFileInfo(documents).isDir() ? documents : QDir::currentPath();
+            if (opens && !QFileInfo(documents).isDir())
+                continue;
+            const DialogDriver driver({[&](QDialog *dialog) {
+                QCOMPARE(qobject_cast<QFileDialog *>(dialog)->directory().path(), expected);
+                dialog->reject();
+            }});
+            (void)ask(question, {});
+            QVERIFY2(driver.opened() == 1, name);
+        }
+    }
+
+    void remembersFolders_data()
+    {
+        QTest::addColumn<Question>("question");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("after");
+
+        const QString before = u"before"_s;
+        QTest::newRow("one file") << Question::OpenOne << u"a.csv"_s << u"in"_s;
+        QTest::newRow("one file, canceled") << Question::OpenOne << QString() << QString();
+        QTest::newRow("several files") << Question::OpenSeveral << u"\"a.csv\" \"b.csv\""_s << u"in"_s;
+        QTest::newRow("several files, canceled") << Question::OpenSeveral << QString() << before;
+        QTest::newRow("folder") << Question::Folder << u"below"_s << u"in"_s;
+        QTest::newRow("folder, canceled") << Question::Folder << QString() << QString();
+        QTest::newRow("save") << Question::Save << u"new.csv"_s << u"in"_s;
+        QTest::newRow("save, canceled") << Question::Save << QString() << QString();
+    }
+    void remembersFolders()
+    {
+        QFETCH(const Question, question);
+        QFETCH(const QString, typed);
+        QFETCH(const QString, after);
+        const SampleTree tree;
+        tree.make({u"before/"_s, u"in/a.csv"_s, u"in/b.csv"_s, u"in/below/"_s});
+        for (const bool isToolkit : {false, true}) {
+            qputenv("OZM_USE_QT_FILE_DIALOG", isToolkit ? "1" : "0");
+            remember(tree.path(u"before"_s));
+            const DialogDriver driver({typed.isEmpty() ? canceling() : typing(typed)});
+            const QString answer = ask(question, tree.path(u"in"_s));
+            QCOMPARE(answer.isEmpty(), typed.isEmpty());
+            QCOMPARE(remembered(), after.isEmpty() ? after : tree.path(after));
+        }
+    }
+
+    void remembersBesideARawFolder()
+    {
+        const SampleTree tree;
+        tree.make({u"Run.d/AcqData/"_s});
+        for (const Question question : {Question::OpenOne, Question::OpenSeveral}) {
+            const DialogDriver driver({typing(u"Run.d"_s)});
+            QCOMPARE(ask(question, tree.path(), msFilter()), tree.path(u"Run.d"_s));
+            QCOMPARE(remembered(), tree.path());
+            remember({});
+        }
+    }
+
+    void automationAnswers_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("answer");
+
+        QTest::newRow("path") << u"/data/x.csv"_s << u"/data/x.csv"_s;
+        QTest::newRow("mixed slashes") << u"C:/x\\y.csv"_s << u"C:/x/y.csv"_s;
+        QTest::newRow("several") << u"c:/a\\b\\c d.csv"_s << u"c:/a/b/c d.csv"_s;
+        QTest::newRow("backslashes only") << u"C:\\x\\y.csv"_s << u"C:\\x\\y.csv"_s;
+        QTest::newRow("too short") << u"C:/"_s << u"C:/"_s;
+        QTest::newRow("a name with a backslash") << u"/data/x\\y.csv"_s << u"/data/x\\y.csv"_s;
+        QTest::newRow("empty") << u""_s << u""_s;
+    }
+    void automationAnswers()
+    {
+        QFETCH(const QString, stored);
+        QFETCH(const QString, answer);
+        const DialogDriver driver({});
+        remember(u"/before"_s);
+        as::setValue(AUTOMATION_OZMFILEDIALOG_OPEN_FILE_NAME_KEY, stored);
+        as::setValue(AUTOMATION_OZMFILEDIALOG_SAVE_FILE_NAME_KEY, stored);
+        QCOMPARE(OZMFileDialog::getOpenFileName(nullptr, {}, {}, kCsv), answer);
+        QCOMPARE(OZMFileDialog::getOpenFileName(nullptr, {}, {}, msFilter()), answer);
+        QCOMPARE(OZMFileDialog::getSaveFileName(nullptr, {}, {}, kCsv), answer);
+        QCOMPARE(ask(Question::OpenOne, {}), answer);
+        QCOMPARE(ask(Question::Save, {}), answer);
+        QCOMPARE(driver.opened(), 0);
+        QCOMPARE(remembered(), u"/before"_s);
+    }
+
+    void correctsPaths()
+    {
+        const SampleTree tree;
+        tree.make({u"100% %1.d/analysis.baf"_s});
+        const QString folder = tree.path(u"100% %1.d"_s);
+        const DialogDriver driver(
+            {typing(u"analysis.baf"_s), [&](QDialog *dialog) {
+                 auto *box = qobject_cast<QMessageBox *>(dialog);
+                 QCOMPARE(box->windowTitle(), u"File path correction"_s);
+                 QCOMPARE(box->text(),
+                          u"The selected path has been changed to its parent folder.\nCertain MS data "
+                          "are read from the parent folder (e.g. 'folder.d') instead of the embedded "
+                          "file (e.g. 'analysis.baf').\nCorrected path is:\n"_s +
+                              folder);
+                 QCOMPARE(box->standardButtons(), QMessageBox::Ok);
+                 box->accept();
+             }});
+        QCOMPARE(ask(Question::OpenOne, folder, FileExtensionsNameFilter(u"All (*)"_s)), folder);
+        QCOMPARE(driver.opened(), 2);
+        QCOMPARE(remembered(), tree.path());
+    }
+
+    void correctsSeveralPathsInTheLog()
+    {
+        const SampleTree tree;
+        tree.make({u"Run.d/analysis.baf"_s, u"Run.d/analysis.tdf"_s});
+        const QString folder = tree.path(u"Run.d"_s);
+        QLoggingCategory::setFilterRules(u"ozm.widgets.debug=true"_s);
+        const QRegularExpression line(u"The selected path has been changed.*Run\\.d"_s,
+                                      QRegularExpression::DotMatchesEverythingOption);
+        QTest::ignoreMessage(QtDebugMsg, line);
+        QTest::ignoreMessage(QtDebugMsg, line);
+        const DialogDriver driver({typing(u"\"analysis.baf\" \"analysis.tdf\""_s)});
+        const QString answer = ask(Question::OpenSeveral, folder, FileExtensionsNameFilter(u"All (*)"_s));
+        QLoggingCategory::setFilterRules({});
+        QCOMPARE(answer, folder + u'|' + folder);
+        QCOMPARE(driver.opened(), 1);
+        QCOMPARE(remembered(), tree.path());
+    }
+
+    void proposesAName()
+    {
+        const SampleTree tree;
+        for (const bool isToolkit : {false, true}) {
+            qputenv("OZM_USE_QT_SAVE_DIALOG", isToolkit ? "1" : "0");
+            const DialogDriver driver({[&](QDialog *dialog) {
+                const FileDialogDriver files(dialog);
+                QCOMPARE(files.name()->text(), u"50% %1.csv"_s);
+                files.pressEnter(files.name());
+            }});
+            const Location location = DefaultFileAccessor().getSaveFileName(
+                nullptr, u"Save"_s, tree.path(), u"50% %1.csv"_s, kCsv, nullptr, {}, {});
+            QCOMPARE(location.toString(), tree.path(u"50% %1.csv"_s));
+            QCOMPARE(location.path, u"50% %1.csv"_s);
+            QVERIFY(location.reference->isScheme(ResourceReference::Scheme::LocalFile));
+        }
+    }
+
+    void locations_data()
+    {
+        QTest::addColumn<QString>("reference");
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("text");
+
+        const QString folder = QDir::tempPath();
+        QTest::newRow("none") << QString() << u"x.csv"_s << QString();
+        QTest::newRow("local file") << u"file:/no/such/file.csv"_s << u"ignored.csv"_s
+                                    << u"/no/such/file.csv"_s;
+        QTest::newRow("local folder") << "file:"_L1 + folder << u"sub/x.csv"_s << folder + "/sub/x.csv"_L1;
+        QTest::newRow("local folder alone") << "file:"_L1 + folder << u""_s << folder;
+        QTest::newRow("out of the folder") << "file:"_L1 + folder << u"../x.csv"_s << QString();
+        QTest::newRow("elsewhere") << u"server:lims/7%25 %252"_s << u"%1.csv"_s << u"lims/7% %2: %1.csv"_s;
+    }
+    void locations()
+    {
+        QFETCH(const QString, reference);
+        QFETCH(const QString, path);
+        QFETCH(const QString, text);
+        Location location(ResourceReference::fromString(reference).valueOr({}), path);
+        QCOMPARE(location.toString(), text);
+        const bool isCanceled = reference.isEmpty();
+        location.setCanceled(!isCanceled);
+        QCOMPARE(location.isCanceled(), isCanceled);
+        QCOMPARE(location.isNull(), isCanceled);
+    }
+
+    void locationFromText()
+    {
+        const Location known(u"file:/data/x.csv"_s);
+        QCOMPARE(known.toString(), u"/data/x.csv"_s);
+        QVERIFY(known.path.isEmpty());
+        QTest::ignoreMessage(QtInfoMsg,
+                             QRegularExpression(u"ozm_widgets/src/IFileAccessor:30 .*referenceFromString"_s));
+        QLoggingCategory::setFilterRules(u"ozm.errors.info=true"_s);
+        const Location unknown(u"/data/x.csv"_s);
+        QVERIFY(unknown.isCanceled());
+        QVERIFY(unknown.path.isEmpty());
+    }
+
+    void savesBytes_data()
+    {
+        QTest::addColumn<QString>("target");
+        QTest::addColumn<int>("code");
+
+        QTest::newRow("new") << u"new.bin"_s << 0;
+        QTest::newRow("replaced") << u"old.bin"_s << 0;
+        QTest::newRow("in a missing folder") << u"missing/new.bin"_s << 4;
+        QTest::newRow("folder") << u"folder"_s << 4;
+        QTest::newRow("pipe") << u"pipe"_s << 4;
+    }
+    void savesBytes()
+    {
+        QFETCH(const QString, target);
+        QFETCH(const int, code);
+        const SampleTree tree;
+        tree.make({u"old.bin"_s, u"folder/"_s});
+        ::mkfifo(QFile::encodeName(tree.path(u"pipe"_s)).constData(), 0666);
+        // Opened, a device counts as saved.
+        QVERIFY(!DefaultFileAccessor().saveFile(Location(u"file:/dev/full"_s), QByteArray("ab")).hasError());
+        const Location location("file:"_L1 + tree.path(target));
+        const Error error = DefaultFileAccessor().saveFile(location, QByteArray("a\0b", 3));
+        QCOMPARE(static_cast<int>(error.errorCode()), code);
+        if (code == 0) {
+            QFile file(tree.path(target));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QCOMPARE(file.readAll(), QByteArray("a\0b", 3));
+            return;
+        }
+        QCOMPARE(error.errorMessage(), u"Couldn't open save file."_s);
+        QVERIFY(wasCaughtAt(error, u"ozm_widgets/src/IFileAccessor"_s, 97));
+        QVERIFY(!QFileInfo::exists(tree.path(u"missing"_s)));
+    }
+
+    void savesCsv()
+    {
+        const SampleTree tree;
+        tree.make({u"folder/"_s});
+        const QList<QList<QString>> rows{{u"a;b"_s, u"it's"_s}, {u"1"_s, u"2"_s}};
+        const DefaultFileAccessor accessor;
+        const Location good("file:"_L1 + tree.path(u"x.csv"_s));
+        QVERIFY(!accessor.saveCsvFile(good, rows, u"'"_s, u';').hasError());
+        QFile file(tree.path(u"x.csv"_s));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("\xEF\xBB\xBF'a;b';'it''s'\r\n1;2\r\n"));
+
+        const Error error = accessor.saveCsvFile(Location("file:"_L1 + tree.path(u"folder"_s)), rows);
+        QCOMPARE(error.errorCode(), ErrorCode::Failed);
+        QCOMPARE(error.errorMessage(), u"Writing to csv file failed"_s);
+        QVERIFY(wasCaughtAt(error, u"ozm_widgets/src/IFileAccessor"_s, 114));
+    }
+
+    void accessorAnswers()
+    {
+        const SampleTree tree;
+        tree.make({u"a.csv"_s, u"b.csv"_s});
+        const DefaultFileAccessor accessor;
+        const DialogDriver driver({typing(u"a.csv"_s), typing(u"\"a.csv\" \"b.csv\""_s), canceling(),
+                                   canceling(), canceling(), typing(u"a.csv"_s)});
+        const auto one = accessor.getOpenFileReference(nullptr, {}, tree.path(), kCsv);
+        QCOMPARE(one->location(), tree.path(u"a.csv"_s));
+        const auto two = accessor.getOpenFileReferences(nullptr, {}, tree.path(), kCsv, nullptr, {}, {});
+        QCOMPARE(two.size(), 2);
+        QCOMPARE(two.at(1)->location(), tree.path(u"b.csv"_s));
+        QVERIFY(!accessor.getOpenFileReference(nullptr, {}, tree.path(), kCsv.toFilterString(), nullptr, {}));
+        QVERIFY(accessor.getOpenFileReferences(nullptr, {}, tree.path(), kCsv, nullptr, {}, {}).isEmpty());
+        QVERIFY(accessor.getSaveFileName(nullptr, {}, tree.path(), kCsv).isCanceled());
+        QCOMPARE(accessor.getOpenFileName(nullptr, {}, tree.path(), kCsv.toFilterString(), nullptr, {}),
+                 tree.path(u"a.csv"_s));
+
+        QCOMPARE(accessor.getLocalPathToFileToBeOpened(one, nullptr).value(), tree.path(u"a.csv"_s));
+        const Error empty = accessor.getLocalPathToFileToBeOpened({}, nullptr).error();
+        QCOMPARE(empty.errorCode(), ErrorCode::BadParameter);
+        QCOMPARE(empty.errorMessage(), u"Selected file reference is empty!"_s);
+
+        const Error mine(ErrorCode::NotAllowed, u"mine"_s);
+        QString given;
+        const auto writer = [&](const QString &path) {
+            given = path;
+            return mine;
+        };
+        const Location location(one, {});
+        QCOMPARE(accessor.saveFile(location, writer), mine);
+        QCOMPARE(std::exchange(given, {}), tree.path(u"a.csv"_s));
+        QCOMPARE(accessor.saveFiles(location, writer), mine);
+        QCOMPARE(std::exchange(given, {}), tree.path(u"a.csv"_s));
+        QCOMPARE(accessor.saveFile({}, writer).errorCode(), ErrorCode::BadParameter);
+        QVERIFY2(given.isEmpty(), "nothing is written to a canceled location");
+        QVERIFY_THROWS_EXCEPTION(std::bad_function_call,
+                                 (void)accessor.saveFile(location, IFileAccessor::Writer()));
+    }
+
+    void creatorsAreReplaced()
+    {
+        class OwnAccessor : public DefaultFileAccessor
+        {};
+        class OwnCreator : public DefaultWidgetCreator
+        {
+        public:
+            [[nodiscard]] std::unique_ptr<IFileAccessor>
+            createFileAccessor(FileAccessorType type) const override
+            {
+                if (type == FileAccessorType::Default)
+                    return std::make_unique<OwnAccessor>();
+                return DefaultWidgetCreator::createFileAccessor(type);
+            }
+        };
+        const auto isOwn = [](const auto &accessor) {
+            return dynamic_cast<const OwnAccessor *>(accessor.get()) != nullptr;
+        };
+        QVERIFY2(!isOwn(DefaultWidgetCreator::fileAccessor()),
+                 "before any is installed, a plain one answers");
+        DefaultWidgetCreator::initialize();
+        for (const auto type : {IFileAccessor::FileAccessorType::Default,
+                                IFileAccessor::FileAccessorType::Report, IFileAccessor::FileAccessorType(99)})
+            QVERIFY(dynamic_cast<DefaultFileAccessor *>(DefaultWidgetCreator::fileAccessor(type).get()));
+        WidgetCreatorBase::setCustomCreator(std::make_unique<OwnCreator>());
+        QVERIFY(isOwn(DefaultWidgetCreator::fileAccessor()));
+        QVERIFY(isOwn(WidgetCreatorBase::customCreator()->createFileAccessorBase()));
+        QWidget parent;
+        QCOMPARE(DefaultWidgetCreator::fileCrawler(&parent)->parent(), &parent);
+        WidgetCreatorBase::setCustomCreator({});
+    }
 
 private:
     const FileStateGuard m_guard;
 };
-
-void TestFileAccessor::cleanup()
-{
-    as::clear();
-    remember({});
-    qunsetenv("OZM_USE_QT_SAVE_DIALOG");
-    qunsetenv("OZM_USE_QT_FILE_DIALOG");
-}
-
-void TestFileAccessor::switchesDialogs_data()
-{
-    QTest::addColumn<QByteArray>("save");
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<bool>("isToolkit");
-
-    QTest::newRow("unset") << QByteArray() << QByteArray() << false;
-    QTest::newRow("0 and 0") << QByteArray("0") << QByteArray("0") << false;
-    QTest::newRow("save 1") << QByteArray("1") << QByteArray() << true;
-    QTest::newRow("save 2") << QByteArray("2") << QByteArray("0") << true;
-    QTest::newRow("file 1") << QByteArray("0") << QByteArray("1") << true;
-    QTest::newRow("file 1 alone") << QByteArray() << QByteArray("1") << true;
-    QTest::newRow("save -1 is off") << QByteArray("-1") << QByteArray("0") << false;
-    QTest::newRow("save -1, file 1") << QByteArray("-1") << QByteArray("1") << true;
-    QTest::newRow("file -1") << QByteArray("0") << QByteArray("-1") << false;
-    QTest::newRow("no numbers") << QByteArray("yes") << QByteArray("true") << false;
-    QTest::newRow("hexadecimal is no number") << QByteArray("0x1") << QByteArray("1.5") << false;
-}
-
-void TestFileAccessor::switchesDialogs()
-{
-    QFETCH(const QByteArray, save);
-    QFETCH(const QByteArray, file);
-    QFETCH(const bool, isToolkit);
-    if (!save.isNull())
-        qputenv("OZM_USE_QT_SAVE_DIALOG", save);
-    if (!file.isNull())
-        qputenv("OZM_USE_QT_FILE_DIALOG", file);
-    for (const auto &[question, name] : kQuestions) {
-        // Several files are always the system's to ask for, which here is a plain dialog of the toolkit.
-        const bool isSwitched = isToolkit && question != Question::OpenSeveral;
-        const QString kind = isSwitched ? u"FileDialog"_s : u"QFileDialog"_s;
-        QVERIFY2(dialogFor(question, kCsv) == kind, name);
-    }
-    QCOMPARE(dialogFor(Question::OpenOne, msFilter()), u"SpectrumFileDialog"_s);
-    QCOMPARE(dialogFor(Question::OpenSeveral, msFilter()), u"SpectrumFileDialog"_s);
-    // A filter that comes as text is known again.
-    QCOMPARE(dialogFor(Question::OpenOne, FileExtensionsNameFilter(msFilter().toFilterString())),
-             u"SpectrumFileDialog"_s);
-}
-
-void TestFileAccessor::startsInAFolder_data()
-{
-    QTest::addColumn<QString>("dir");
-    QTest::addColumn<QString>("whenOpening");
-    QTest::addColumn<QString>("whenSaving");
-
-    const QString last = u"last"_s;
-    QTest::newRow("existing folder") << u"given"_s << u"given"_s << u"given"_s;
-    QTest::newRow("existing file") << u"given/there.csv"_s << u"given"_s << u"given"_s;
-    QTest::newRow("none") << u""_s << last << last;
-    QTest::newRow("missing file in a folder") << u"given/new.csv"_s << last << u"given"_s;
-    QTest::newRow("in a missing folder") << u"missing/new.csv"_s << last << last;
-}
-
-void TestFileAccessor::startsInAFolder()
-{
-    QFETCH(const QString, dir);
-    QFETCH(const QString, whenOpening);
-    QFETCH(const QString, whenSaving);
-    const SampleTree tree;
-    tree.make({u"given/there.csv"_s, u"last/"_s});
-    for (const auto &[question, name] : kQuestions) {
-        remember(tree.path(u"last"_s));
-        QString start;
-        const DialogDriver driver({[&](QDialog *dialog) {
-            start = qobject_cast<QFileDialog *>(dialog)->directory().path();
-            dialog->reject();
-        }});
-        (void)ask(question, dir.isEmpty() ? dir : tree.path(dir));
-        const bool opens = question == Question::OpenOne || question == Question::OpenSeveral;
-        QVERIFY2(start == tree.path(opens ? whenOpening : whenSaving),
-                 qPrintable(QLatin1StringView(name) + ": "_L1 + start));
-    }
-}
-
-void TestFileAccessor::startsAboveAFolderThatIsGone()
-{
-    const SampleTree tree;
-    for (const auto &[question, name] : kQuestions) {
-        remember(tree.path(u"gone/with it"_s));
-        const DialogDriver driver({[&](QDialog *dialog) {
-            const FileDialogDriver files(dialog);
-            QCOMPARE(files.dialog()->directory().path(), tree.path());
-            QCOMPARE(files.name()->text(), QString());
-            dialog->reject();
-        }});
-        (void)ask(question, {});
-        QVERIFY2(driver.opened() == 1, name);
-    }
-}
-
-void TestFileAccessor::startsInTheDocuments()
-{
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    for (const auto &[question, name] : kQuestions) {
-        remember({});
-        const bool opens = question == Question::OpenOne || question == Question::OpenSeveral;
-        const QString expected = opens && QFileInfo(documents).isDir() ? documents : QDir::currentPath();
-        if (opens && !QFileInfo(documents).isDir())
-            continue;
-        const DialogDriver driver({[&](QDialog *dialog) {
-            QCOMPARE(qobject_cast<QFileDialog *>(dialog)->directory().path(), expected);
-            dialog->reject();
-        }});
-        (void)ask(question, {});
-        QVERIFY2(driver.opened() == 1, name);
-    }
-}
-
-void TestFileAccessor::remembersFolders_data()
-{
-    QTest::addColumn<Question>("question");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("after");
-
-    const QString before = u"before"_s;
-    QTest::newRow("one file") << Question::OpenOne << u"a.csv"_s << u"in"_s;
-    QTest::newRow("one file, canceled") << Question::OpenOne << QString() << QString();
-    QTest::newRow("several files") << Question::OpenSeveral << u"\"a.csv\" \"b.csv\""_s << u"in"_s;
-    QTest::newRow("several files, canceled") << Question::OpenSeveral << QString() << before;
-    QTest::newRow("folder") << Question::Folder << u"below"_s << u"in"_s;
-    QTest::newRow("folder, canceled") << Question::Folder << QString() << QString();
-    QTest::newRow("save") << Question::Save << u"new.csv"_s << u"in"_s;
-    QTest::newRow("save, canceled") << Question::Save << QString() << QString();
-}
-
-void TestFileAccessor::remembersFolders()
-{
-    QFETCH(const Question, question);
-    QFETCH(const QString, typed);
-    QFETCH(const QString, after);
-    const SampleTree tree;
-    tree.make({u"before/"_s, u"in/a.csv"_s, u"in/b.csv"_s, u"in/below/"_s});
-    for (const bool isToolkit : {false, true}) {
-        qputenv("OZM_USE_QT_FILE_DIALOG", isToolkit ? "1" : "0");
-        remember(tree.path(u"before"_s));
-        const DialogDriver driver({typed.isEmpty() ? canceling() : typing(typed)});
-        const QString answer = ask(question, tree.path(u"in"_s));
-        QCOMPARE(answer.isEmpty(), typed.isEmpty());
-        QCOMPARE(remembered(), after.isEmpty() ? after : tree.path(after));
-    }
-}
-
-void TestFileAccessor::remembersBesideARawFolder()
-{
-    const SampleTree tree;
-    tree.make({u"Run.d/AcqData/"_s});
-    for (const Question question : {Question::OpenOne, Question::OpenSeveral}) {
-        const DialogDriver driver({typing(u"Run.d"_s)});
-        QCOMPARE(ask(question, tree.path(), msFilter()), tree.path(u"Run.d"_s));
-        QCOMPARE(remembered(), tree.path());
-        remember({});
-    }
-}
-
-void TestFileAccessor::automationAnswers_data()
-{
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QString>("answer");
-
-    QTest::newRow("path") << u"/data/x.csv"_s << u"/data/x.csv"_s;
-    QTest::newRow("mixed slashes") << u"C:/x\\y.csv"_s << u"C:/x/y.csv"_s;
-    QTest::newRow("several") << u"c:/a\\b\\c d.csv"_s << u"c:/a/b/c d.csv"_s;
-    QTest::newRow("backslashes only") << u"C:\\x\\y.csv"_s << u"C:\\x\\y.csv"_s;
-    QTest::newRow("too short") << u"C:/"_s << u"C:/"_s;
-    QTest::newRow("a name with a backslash") << u"/data/x\\y.csv"_s << u"/data/x\\y.csv"_s;
-    QTest::newRow("empty") << u""_s << u""_s;
-}
-
-void TestFileAccessor::automationAnswers()
-{
-    QFETCH(const QString, stored);
-    QFETCH(const QString, answer);
-    const DialogDriver driver({});
-    remember(u"/before"_s);
-    as::setValue(AUTOMATION_OZMFILEDIALOG_OPEN_FILE_NAME_KEY, stored);
-    as::setValue(AUTOMATION_OZMFILEDIALOG_SAVE_FILE_NAME_KEY, stored);
-    QCOMPARE(OZMFileDialog::getOpenFileName(nullptr, {}, {}, kCsv), answer);
-    QCOMPARE(OZMFileDialog::getOpenFileName(nullptr, {}, {}, msFilter()), answer);
-    QCOMPARE(OZMFileDialog::getSaveFileName(nullptr, {}, {}, kCsv), answer);
-    QCOMPARE(ask(Question::OpenOne, {}), answer);
-    QCOMPARE(ask(Question::Save, {}), answer);
-    QCOMPARE(driver.opened(), 0);
-    QCOMPARE(remembered(), u"/before"_s);
-}
-
-void TestFileAccessor::correctsPaths()
-{
-    const SampleTree tree;
-    tree.make({u"100% %1.d/analysis.baf"_s});
-    const QString folder = tree.path(u"100% %1.d"_s);
-    const DialogDriver driver(
-        {typing(u"analysis.baf"_s), [&](QDialog *dialog) {
-             auto *box = qobject_cast<QMessageBox *>(dialog);
-             QCOMPARE(box->windowTitle(), u"File path correction"_s);
-             QCOMPARE(box->text(),
-                      u"The selected path has been changed to its parent folder.\nCertain MS data "
-                      "are read from the parent folder (e.g. 'folder.d') instead of the embedded "
-                      "file (e.g. 'analysis.baf').\nCorrected path is:\n"_s +
-                          folder);
-             QCOMPARE(box->standardButtons(), QMessageBox::Ok);
-             box->accept();
-         }});
-    QCOMPARE(ask(Question::OpenOne, folder, FileExtensionsNameFilter(u"All (*)"_s)), folder);
-    QCOMPARE(driver.opened(), 2);
-    QCOMPARE(remembered(), tree.path());
-}
-
-void TestFileAccessor::correctsSeveralPathsInTheLog()
-{
-    const SampleTree tree;
-    tree.make({u"Run.d/analysis.baf"_s, u"Run.d/analysis.tdf"_s});
-    const QString folder = tree.path(u"Run.d"_s);
-    QLoggingCategory::setFilterRules(u"ozm.widgets.debug=true"_s);
-    const QRegularExpression line(u"The selected path has been changed.*Run\\.d"_s,
-                                  QRegularExpression::DotMatchesEverythingOption);
-    QTest::ignoreMessage(QtDebugMsg, line);
-    QTest::ignoreMessage(QtDebugMsg, line);
-    const DialogDriver driver({typing(u"\"analysis.baf\" \"analysis.tdf\""_s)});
-    const QString answer = ask(Question::OpenSeveral, folder, FileExtensionsNameFilter(u"All (*)"_s));
-    QLoggingCategory::setFilterRules({});
-    QCOMPARE(answer, folder + u'|' + folder);
-    QCOMPARE(driver.opened(), 1);
-    QCOMPARE(remembered(), tree.path());
-}
-
-void TestFileAccessor::proposesAName()
-{
-    const SampleTree tree;
-    for (const bool isToolkit : {false, true}) {
-        qputenv("OZM_USE_QT_SAVE_DIALOG", isToolkit ? "1" : "0");
-        const DialogDriver driver({[&](QDialog *dialog) {
-            const FileDialogDriver files(dialog);
-            QCOMPARE(files.name()->text(), u"50% %1.csv"_s);
-            files.pressEnter(files.name());
-        }});
-        const Location location = DefaultFileAccessor().getSaveFileName(
-            nullptr, u"Save"_s, tree.path(), u"50% %1.csv"_s, kCsv, nullptr, {}, {});
-        QCOMPARE(location.toString(), tree.path(u"50% %1.csv"_s));
-        QCOMPARE(location.path, u"50% %1.csv"_s);
-        QVERIFY(location.reference->isScheme(ResourceReference::Scheme::LocalFile));
-    }
-}
-
-void TestFileAccessor::locations_data()
-{
-    QTest::addColumn<QString>("reference");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("text");
-
-    const QString folder = QDir::tempPath();
-    QTest::newRow("none") << QString() << u"x.csv"_s << QString();
-    QTest::newRow("local file") << u"file:/no/such/file.csv"_s << u"ignored.csv"_s << u"/no/such/file.csv"_s;
-    QTest::newRow("local folder") << "file:"_L1 + folder << u"sub/x.csv"_s << folder + "/sub/x.csv"_L1;
-    QTest::newRow("local folder alone") << "file:"_L1 + folder << u""_s << folder;
-    QTest::newRow("out of the folder") << "file:"_L1 + folder << u"../x.csv"_s << QString();
-    QTest::newRow("elsewhere") << u"server:lims/7%25 %252"_s << u"%1.csv"_s << u"lims/7% %2: %1.csv"_s;
-}
-
-void TestFileAccessor::locations()
-{
-    QFETCH(const QString, reference);
-    QFETCH(const QString, path);
-    QFETCH(const QString, text);
-    Location location(ResourceReference::fromString(reference).valueOr({}), path);
-    QCOMPARE(location.toString(), text);
-    const bool isCanceled = reference.isEmpty();
-    location.setCanceled(!isCanceled);
-    QCOMPARE(location.isCanceled(), isCanceled);
-    QCOMPARE(location.isNull(), isCanceled);
-}
-
-void TestFileAccessor::locationFromText()
-{
-    const Location known(u"file:/data/x.csv"_s);
-    QCOMPARE(known.toString(), u"/data/x.csv"_s);
-    QVERIFY(known.path.isEmpty());
-    QTest::ignoreMessage(QtInfoMsg,
-                         QRegularExpression(u"ozm_widgets/src/IFileAccessor:30 .*referenceFromString"_s));
-    QLoggingCategory::setFilterRules(u"ozm.errors.info=true"_s);
-    const Location unknown(u"/data/x.csv"_s);
-    QVERIFY(unknown.isCanceled());
-    QVERIFY(unknown.path.isEmpty());
-}
-
-void TestFileAccessor::savesBytes_data()
-{
-    QTest::addColumn<QString>("target");
-    QTest::addColumn<int>("code");
-
-    QTest::newRow("new") << u"new.bin"_s << 0;
-    QTest::newRow("replaced") << u"old.bin"_s << 0;
-    QTest::newRow("in a missing folder") << u"missing/new.bin"_s << 4;
-    QTest::newRow("folder") << u"folder"_s << 4;
-    QTest::newRow("pipe") << u"pipe"_s << 4;
-}
-
-void TestFileAccessor::savesBytes()
-{
-    QFETCH(const QString, target);
-    QFETCH(const int, code);
-    const SampleTree tree;
-    tree.make({u"old.bin"_s, u"folder/"_s});
-    ::mkfifo(QFile::encodeName(tree.path(u"pipe"_s)).constData(), 0666);
-    // Opened, a device counts as saved.
-    QVERIFY(!DefaultFileAccessor().saveFile(Location(u"file:/dev/full"_s), QByteArray("ab")).hasError());
-    const Location location("file:"_L1 + tree.path(target));
-    const Error error = DefaultFileAccessor().saveFile(location, QByteArray("a\0b", 3));
-    QCOMPARE(static_cast<int>(error.errorCode()), code);
-    if (code == 0) {
-        QFile file(tree.path(target));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray("a\0b", 3));
-        return;
-    }
-    QCOMPARE(error.errorMessage(), u"Couldn't open save file."_s);
-    QVERIFY(wasCaughtAt(error, u"ozm_widgets/src/IFileAccessor"_s, 97));
-    QVERIFY(!QFileInfo::exists(tree.path(u"missing"_s)));
-}
-
-void TestFileAccessor::savesCsv()
-{
-    const SampleTree tree;
-    tree.make({u"folder/"_s});
-    const QList<QList<QString>> rows{{u"a;b"_s, u"it's"_s}, {u"1"_s, u"2"_s}};
-    const DefaultFileAccessor accessor;
-    const Location good("file:"_L1 + tree.path(u"x.csv"_s));
-    QVERIFY(!accessor.saveCsvFile(good, rows, u"'"_s, u';').hasError());
-    QFile file(tree.path(u"x.csv"_s));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("\xEF\xBB\xBF'a;b';'it''s'\r\n1;2\r\n"));
-
-    const Error error = accessor.saveCsvFile(Location("file:"_L1 + tree.path(u"folder"_s)), rows);
-    QCOMPARE(error.errorCode(), ErrorCode::Failed);
-    QCOMPARE(error.errorMessage(), u"Writing to csv file failed"_s);
-    QVERIFY(wasCaughtAt(error, u"ozm_widgets/src/IFileAccessor"_s, 114));
-}
-
-void TestFileAccessor::accessorAnswers()
-{
-    const SampleTree tree;
-    tree.make({u"a.csv"_s, u"b.csv"_s});
-    const DefaultFileAccessor accessor;
-    const DialogDriver driver({typing(u"a.csv"_s), typing(u"\"a.csv\" \"b.csv\""_s), canceling(), canceling(),
-                               canceling(), typing(u"a.csv"_s)});
-    const auto one = accessor.getOpenFileReference(nullptr, {}, tree.path(), kCsv);
-    QCOMPARE(one->location(), tree.path(u"a.csv"_s));
-    const auto two = accessor.getOpenFileReferences(nullptr, {}, tree.path(), kCsv, nullptr, {}, {});
-    QCOMPARE(two.size(), 2);
-    QCOMPARE(two.at(1)->location(), tree.path(u"b.csv"_s));
-    QVERIFY(!accessor.getOpenFileReference(nullptr, {}, tree.path(), kCsv.toFilterString(), nullptr, {}));
-    QVERIFY(accessor.getOpenFileReferences(nullptr, {}, tree.path(), kCsv, nullptr, {}, {}).isEmpty());
-    QVERIFY(accessor.getSaveFileName(nullptr, {}, tree.path(), kCsv).isCanceled());
-    QCOMPARE(accessor.getOpenFileName(nullptr, {}, tree.path(), kCsv.toFilterString(), nullptr, {}),
-             tree.path(u"a.csv"_s));
-
-    QCOMPARE(accessor.getLocalPathToFileToBeOpened(one, nullptr).value(), tree.path(u"a.csv"_s));
-    const Error empty = accessor.getLocalPathToFileToBeOpened({}, nullptr).error();
-    QCOMPARE(empty.errorCode(), ErrorCode::BadParameter);
-    QCOMPARE(empty.errorMessage(), u"Selected file reference is empty!"_s);
-
-    const Error mine(ErrorCode::NotAllowed, u"mine"_s);
-    QString given;
-    const auto writer = [&](const QString &path) {
-        given = path;
-        return mine;
-    };
-    const Location location(one, {});
-    QCOMPARE(accessor.saveFile(location, writer), mine);
-    QCOMPARE(std::exchange(given, {}), tree.path(u"a.csv"_s));
-    QCOMPARE(accessor.saveFiles(location, writer), mine);
-    QCOMPARE(std::exchange(given, {}), tree.path(u"a.csv"_s));
-    QCOMPARE(accessor.saveFile({}, writer).errorCode(), ErrorCode::BadParameter);
-    QVERIFY2(given.isEmpty(), "nothing is written to a canceled location");
-    QVERIFY_THROWS_EXCEPTION(std::bad_function_call,
-                             (void)accessor.saveFile(location, IFileAccessor::Writer()));
-}
-
-void TestFileAccessor::creatorsAreReplaced()
-{
-    class OwnAccessor : public DefaultFileAccessor
-    {};
-    class OwnCreator : public DefaultWidgetCreator
-    {
-    public:
-        [[nodiscard]] std::unique_ptr<IFileAccessor> createFileAccessor(FileAccessorType type) const override
-        {
-            if (type == FileAccessorType::Default)
-                return std::make_unique<OwnAccessor>();
-            return DefaultWidgetCreator::createFileAccessor(type);
-        }
-    };
-    const auto isOwn = [](const auto &accessor) {
-        return dynamic_cast<const OwnAccessor *>(accessor.get()) != nullptr;
-    };
-    QVERIFY2(!isOwn(DefaultWidgetCreator::fileAccessor()), "before any is installed, a plain one answers");
-    DefaultWidgetCreator::initialize();
-    for (const auto type : {IFileAccessor::FileAccessorType::Default, IFileAccessor::FileAccessorType::Report,
-                            IFileAccessor::FileAccessorType(99)})
-        QVERIFY(dynamic_cast<DefaultFileAccessor *>(DefaultWidgetCreator::fileAccessor(type).get()));
-    WidgetCreatorBase::setCustomCreator(std::make_unique<OwnCreator>());
-    QVERIFY(isOwn(DefaultWidgetCreator::fileAccessor()));
-    QVERIFY(isOwn(WidgetCreatorBase::customCreator()->createFileAccessorBase()));
-    QWidget parent;
-    QCOMPARE(DefaultWidgetCreator::fileCrawler(&parent)->parent(), &parent);
-    WidgetCreatorBase::setCustomCreator({});
-}
 
 QTEST_MAIN(TestFileAccessor)
 #include "tst_fileaccessor.moc"

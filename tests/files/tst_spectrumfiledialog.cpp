@@ -94,319 +94,6 @@ void take(const Step &step, const FileDialogDriver &driver, const Picks &picks)
 
 Q_DECLARE_METATYPE(QList<Step>)
 
-class TestSpectrumFileDialog : public StrictTest
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void picks_data();
-    void picks();
-    void staysOpen_data();
-    void staysOpen();
-    void droppedPicksAreLogged();
-    void startsBesideARawFolder();
-    void pathsAreSelectedAndLeft();
-    void staysWithTheToolkit();
-    void showsWhatIsHighlighted_data();
-    void showsWhatIsHighlighted();
-    void namesPicksInTheBox();
-    void endsWithItsParent();
-    void isPlainWithoutTheOpenButton();
-    void knowsRawFolders_data();
-    void knowsRawFolders();
-
-private:
-    const FileStateGuard m_guard;
-};
-
-void TestSpectrumFileDialog::picks_data()
-{
-    QTest::addColumn<QList<Step>>("steps");
-    QTest::addColumn<QStringList>("picked");
-
-    struct Target
-    {
-        const char *what;
-        QString entry;
-    };
-    const QList<Target> targets{{"file", u"one.mzml"_s},
-                                {"raw folder", u"Run.d"_s},
-                                {"raw folder with a blank", u"Run 2.d"_s},
-                                {"link to a file", u"linkfile.mzml"_s},
-                                {"link to a raw folder", u"link.d"_s}};
-    using S = Step;
-    for (const Target &target : targets) {
-        const QString &entry = target.entry;
-        const QStringList alone{entry};
-        const QList<std::pair<const char *, QList<Step>>> routes{
-            {"click, Open", {{S::Click, entry}, {S::Open}}},
-            {"double click", {{S::DoubleClick, entry}}},
-            {"click, Enter in the list", {{S::Click, entry}, {S::EnterInList}}},
-            {"click, Enter in the name box", {{S::Click, entry}, {S::EnterInName}}},
-            {"typed, Enter", {{S::Type, entry}, {S::EnterInName}}},
-            {"typed, Open", {{S::Type, entry}, {S::Open}}},
-            {"typed over a click, Enter", {{S::Click, u"two.mzml"_s}, {S::Type, entry}, {S::EnterInName}}},
-            {"typed, then double click", {{S::Type, u"two"_s}, {S::DoubleClick, entry}}}};
-        for (const auto &[route, steps] : routes)
-            QTest::addRow("%s: %s", target.what, route) << steps << alone;
-        const QStringList both{u"two.mzml"_s, entry};
-        QTest::addRow("%s: added with Ctrl, Open", target.what)
-            << QList<Step>{{S::Click, u"two.mzml"_s}, {S::CtrlClick, entry}, {S::Open}} << both;
-        QTest::addRow("%s: added with Ctrl, Enter in the list", target.what)
-            << QList<Step>{{S::Click, u"two.mzml"_s}, {S::CtrlClick, entry}, {S::EnterInList}} << both;
-        QTest::addRow("%s: added with Ctrl, Enter in the name box", target.what)
-            << QList<Step>{{S::Click, u"two.mzml"_s}, {S::CtrlClick, entry}, {S::EnterInName}} << both;
-        QTest::addRow("%s: taken out again with Ctrl", target.what)
-            << QList<Step>{{S::Click, u"two.mzml"_s}, {S::CtrlClick, entry}, {S::CtrlClick, entry}, {S::Open}}
-            << QStringList{u"two.mzml"_s};
-    }
-    // The list is sorted: Empty.d, link.d, linkplain, plain, Run 2.d, Run.d, linkfile.mzml and the other
-    // files.
-    QTest::newRow("range over raw folders and files")
-        << QList<Step>{{S::Click, u"Run 2.d"_s}, {S::ShiftClick, u"linkfile.mzml"_s}, {S::Open}}
-        << QStringList{u"Run 2.d"_s, u"Run.d"_s, u"linkfile.mzml"_s};
-    QTest::newRow("range with an ordinary folder, which holds no data")
-        << QList<Step>{{S::Click, u"plain"_s}, {S::ShiftClick, u"Run 2.d"_s}, {S::Open}}
-        << QStringList{u"Run 2.d"_s};
-    QTest::newRow("a raw folder without data is chosen, and dropped")
-        << QList<Step>{{S::Click, u"Empty.d"_s}, {S::Open}} << QStringList();
-    QTest::newRow("a file beside a raw folder without data")
-        << QList<Step>{{S::Click, u"one.mzml"_s}, {S::CtrlClick, u"Empty.d"_s}, {S::Open}}
-        << QStringList{u"one.mzml"_s};
-    QTest::newRow("a file that is no data is a file")
-        << QList<Step>{{S::Click, u"notes.txt"_s}, {S::Open}} << QStringList{u"notes.txt"_s};
-    QTest::newRow("typed with a slash at its end")
-        << QList<Step>{{S::Type, u"Run.d/"_s}, {S::EnterInName}} << QStringList{u"Run.d"_s};
-    QTest::newRow("typed, two in quotes")
-        << QList<Step>{{S::Type, u"\"one.mzml\" \"Run.d\""_s}, {S::EnterInName}}
-        << QStringList{u"one.mzml"_s, u"Run.d"_s};
-    for (const auto &[what, folder] : {std::pair{"ordinary folder", u"plain"_s},
-                                       std::pair{"link to an ordinary folder", u"linkplain"_s}}) {
-        const QStringList inner{folder + u"/inner.mzml"_s};
-        const Step openInner{S::DoubleClick, folder + u"/inner.mzml"_s};
-        QTest::addRow("%s: click, Open, inside", what)
-            << QList<Step>{{S::Click, folder}, {S::Open}, openInner} << inner;
-        QTest::addRow("%s: double click, inside", what)
-            << QList<Step>{{S::DoubleClick, folder}, openInner} << inner;
-        QTest::addRow("%s: Enter in the list, inside", what)
-            << QList<Step>{{S::Click, folder}, {S::EnterInList}, openInner} << inner;
-        QTest::addRow("%s: typed, Enter, inside", what)
-            << QList<Step>{{S::Type, folder}, {S::EnterInName}, openInner} << inner;
-        QTest::addRow("%s: file first, then entered", what)
-            << QList<Step>{{S::Click, u"one.mzml"_s}, {S::DoubleClick, folder}, openInner} << inner;
-    }
-    QTest::newRow("up and in again") << QList<Step>{{S::DoubleClick, u"plain"_s},
-                                                    {S::Type, u".."_s},
-                                                    {S::EnterInName},
-                                                    {S::DoubleClick, u"Run.d"_s}}
-                                     << QStringList{u"Run.d"_s};
-}
-
-void TestSpectrumFileDialog::picks()
-{
-    QFETCH(const QList<Step>, steps);
-    const Picks picks;
-    QStringList picked = picks.ask([&](QDialog *dialog) {
-        const FileDialogDriver driver(dialog);
-        const QPointer<QDialog> guard(dialog);
-        for (const Step &step : steps) {
-            QVERIFY2(guard && guard->isVisible(), "it closed too early");
-            take(step, driver, picks);
-        }
-    });
-    QTEST(picked, "picked");
-}
-
-void TestSpectrumFileDialog::staysOpen_data()
-{
-    QTest::addColumn<QList<Step>>("steps");
-    QTest::addColumn<QString>("folder");
-
-    using S = Step;
-    QTest::newRow("nothing picked") << QList<Step>{{S::Open}} << u""_s;
-    QTest::newRow("empty name, Enter") << QList<Step>{{S::Type, u""_s}, {S::EnterInName}} << u""_s;
-    QTest::newRow("missing, typed, Enter")
-        << QList<Step>{{S::Type, u"missing.mzml"_s}, {S::EnterInName}} << u""_s;
-    QTest::newRow("missing, typed, Open") << QList<Step>{{S::Type, u"missing.mzml"_s}, {S::Open}} << u""_s;
-    QTest::newRow("dangling link, typed")
-        << QList<Step>{{S::Type, u"dangling.mzml"_s}, {S::EnterInName}} << u""_s;
-    QTest::newRow("two folders without data")
-        << QList<Step>{{S::Click, u"Empty.d"_s}, {S::CtrlClick, u"plain"_s}, {S::Open}} << u""_s;
-    QTest::newRow("two folders without data, Enter")
-        << QList<Step>{{S::Click, u"Empty.d"_s}, {S::CtrlClick, u"plain"_s}, {S::EnterInList}} << u""_s;
-    QTest::newRow("ordinary folder") << QList<Step>{{S::Click, u"plain"_s}, {S::Open}} << u"plain"_s;
-    QTest::newRow("ordinary folder, Enter in the list")
-        << QList<Step>{{S::Click, u"one.mzml"_s}, {S::Click, u"plain"_s}, {S::EnterInList}} << u"plain"_s;
-    QTest::newRow("ordinary folder, typed")
-        << QList<Step>{{S::Type, u"plain"_s}, {S::EnterInName}} << u"plain"_s;
-    QTest::newRow("ordinary folder and Open again")
-        << QList<Step>{{S::Click, u"plain"_s}, {S::Open}, {S::Open}} << u"plain"_s;
-}
-
-void TestSpectrumFileDialog::staysOpen()
-{
-    QFETCH(const QList<Step>, steps);
-    QFETCH(const QString, folder);
-    const Picks picks;
-    const QStringList picked = picks.ask([&](QDialog *dialog) {
-        const FileDialogDriver driver(dialog);
-        for (const Step &step : steps)
-            take(step, driver, picks);
-        QApplication::processEvents();
-        QVERIFY2(dialog->isVisible(), "it closed");
-        QCOMPARE(driver.dialog()->directory().path(), QDir::cleanPath(picks.path(folder)));
-        dialog->reject();
-    });
-    QCOMPARE(picked, QStringList());
-}
-
-void TestSpectrumFileDialog::droppedPicksAreLogged()
-{
-    QLoggingCategory::setFilterRules(u"ozm.widgets.debug=true"_s);
-    const Picks picks;
-    const QRegularExpression dropped(u"Dropped.*Empty\\.d"_s);
-    QTest::ignoreMessage(QtDebugMsg, "Got here with 2 selections.");
-    QTest::ignoreMessage(QtDebugMsg, qPrintable(picks.path(u"one.mzml"_s)));
-    QTest::ignoreMessage(QtDebugMsg, qPrintable(picks.path(u"Empty.d"_s)));
-    QTest::ignoreMessage(QtDebugMsg, dropped);
-    const QStringList picked = picks.ask([&](QDialog *dialog) {
-        const FileDialogDriver driver(dialog);
-        QVERIFY(driver.click(picks.path(u"one.mzml"_s)));
-        QVERIFY(driver.click(picks.path(u"Empty.d"_s), Qt::ControlModifier));
-        driver.clickAccept();
-    });
-    QLoggingCategory::setFilterRules({});
-    QCOMPARE(picked, QStringList{u"one.mzml"_s});
-}
-
-void TestSpectrumFileDialog::startsBesideARawFolder()
-{
-    const Picks picks;
-    const QStringList picked = picks.ask(
-        [&](QDialog *dialog) {
-            const FileDialogDriver driver(dialog);
-            QCOMPARE(dialog->windowTitle(), u"Open data"_s);
-            QVERIFY(driver.doubleClick(picks.path(u"Run.d"_s)));
-        },
-        picks.path(u"Run.d"_s));
-    QCOMPARE(picked, QStringList{u"Run.d"_s});
-}
-
-void TestSpectrumFileDialog::pathsAreSelectedAndLeft()
-{
-    const Picks picks;
-    const auto answer = picks.ask(
-        [&](QDialog *shown) {
-            auto *dialog = qobject_cast<QFileDialog *>(shown);
-            QCOMPARE(dialog->directory().absolutePath(), picks.path());
-            const FileDialogDriver files(dialog);
-            QVERIFY(files.click(picks.path(u"one.mzml"_s)));
-            const auto call = [dialog](const char *slot, const QString &path) {
-                return QMetaObject::invokeMethod(dialog, slot, Q_ARG(QString, path));
-            };
-            QVERIFY(call("currentChanged_custom", picks.path(u"Run.d"_s)));
-            QCOMPARE(dialog->selectedFiles(), QStringList{picks.path(u"Run.d"_s)});
-            QCOMPARE(files.name()->text(), u"Run.d"_s);
-            // The way up from inside a raw folder leads past it.
-            dialog->setDirectory(picks.path(u"Run.d/AcqData"_s));
-            QVERIFY(call("directoryEntered_custom", picks.path(u"Run.d/AcqData"_s)));
-            dialog->setDirectory(picks.path(u"Run.d"_s));
-            QVERIFY(call("directoryEntered_custom", picks.path(u"Run.d"_s)));
-            QVERIFY(dialog->isVisible());
-            QCOMPARE(dialog->directory().absolutePath(), picks.path());
-            dialog->reject();
-        },
-        picks.path(u"one.mzml"_s));
-    QCOMPARE(answer, QStringList());
-}
-
-void TestSpectrumFileDialog::staysWithTheToolkit()
-{
-    const Picks picks;
-    (void)picks.ask(
-        [&](QDialog *dialog) {
-            auto *files = qobject_cast<QFileDialog *>(dialog);
-            QVERIFY(files->testOption(QFileDialog::DontUseNativeDialog));
-            QVERIFY(files->testOption(QFileDialog::ReadOnly));
-            dialog->reject();
-        },
-        {}, QFileDialog::ReadOnly);
-    SpectrumFileDialog dialog;
-    static_cast<QFileDialog &>(dialog).setOptions({});
-    dialog.show();
-    QVERIFY2(dialog.testOption(QFileDialog::DontUseNativeDialog), "set past the class");
-}
-
-void TestSpectrumFileDialog::showsWhatIsHighlighted_data()
-{
-    QTest::addColumn<QStringList>("entries");
-    QTest::addColumn<QString>("text");
-
-    QTest::newRow("file") << QStringList{u"one.mzml"_s} << u"one.mzml: Open data format mzml"_s;
-    QTest::newRow("raw folder") << QStringList{u"Run.d"_s} << u"Run.d: Agilent"_s;
-    QTest::newRow("ordinary folder") << QStringList{u"plain"_s} << u"plain: a folder to look into"_s;
-    QTest::newRow("raw folder without data")
-        << QStringList{u"Empty.d"_s} << u"Empty.d: no data, left out. The folder holds neither"_s;
-    QTest::newRow("several") << QStringList{u"one.mzml"_s, u"plain"_s, u"Run.d"_s} << u"2 of 3 hold data\n"_s;
-}
-
-void TestSpectrumFileDialog::showsWhatIsHighlighted()
-{
-    QFETCH(const QStringList, entries);
-    QFETCH(const QString, text);
-    const Picks picks;
-    (void)picks.ask([&](QDialog *dialog) {
-        const FileDialogDriver driver(dialog);
-        Qt::KeyboardModifiers keys;
-        for (const QString &entry : entries) {
-            QVERIFY(driver.click(picks.path(entry), keys));
-            keys = Qt::ControlModifier;
-        }
-        const auto *label = dialog->findChild<QLabel *>(u"recognition"_s);
-        // The whole text, as the line itself may be cut to the dialog's width.
-        QTRY_VERIFY2(label->toolTip().startsWith(text), qPrintable(label->toolTip()));
-        dialog->reject();
-    });
-}
-
-void TestSpectrumFileDialog::namesPicksInTheBox()
-{
-    const Picks picks;
-    (void)picks.ask([&](QDialog *dialog) {
-        const FileDialogDriver driver(dialog);
-        QVERIFY(driver.click(picks.path(u"Run.d"_s)));
-        QCOMPARE(driver.name()->text(), u"Run.d"_s);
-        QVERIFY(driver.click(picks.path(u"one.mzml"_s), Qt::ControlModifier));
-        QCOMPARE(driver.name()->text(), u"\"Run.d\" \"one.mzml\""_s);
-        QVERIFY(driver.click(picks.path(u"link.d"_s)));
-        QTest::keyClick(driver.list(), Qt::Key_Down);
-        QTest::keyClick(driver.list(), Qt::Key_Up);
-        QCOMPARE(driver.name()->text(), u"link.d"_s);
-        dialog->reject();
-    });
-}
-
-void TestSpectrumFileDialog::endsWithItsParent()
-{
-    // The dialog and its message stand on the heap; on the stack they would be destroyed twice.
-    for (const bool underMessage : {false, true}) {
-        auto *parent = new QWidget;
-        const DialogDriver driver({[&](QDialog *dialog) {
-                                       if (!underMessage) {
-                                           delete parent;
-                                           return;
-                                       }
-                                       const FileDialogDriver files(dialog);
-                                       files.type(u"missing"_s);
-                                       files.pressEnter(files.name());
-                                       files.waitForMessage();
-                                   },
-                                   [&](QDialog *) { delete parent; }});
-        QCOMPARE(SpectrumFileDialog::getSpectrumFileList(parent, {}, QDir::tempPath()), QStringList());
-        QCOMPARE(driver.opened(), underMessage ? 2 : 1);
-    }
-}
-
 /// Calls the button that opens by another name, as a translation does.
 class OpenInAnotherLanguage : public QTranslator
 {
@@ -419,46 +106,345 @@ public:
     }
 };
 
-void TestSpectrumFileDialog::isPlainWithoutTheOpenButton()
+class TestSpectrumFileDialog : public StrictTest
 {
-    QLoggingCategory::setFilterRules(u"ozm.widgets.debug=true"_s);
-    QTest::ignoreMessage(QtDebugMsg, "openButton is nullptr");
-    OpenInAnotherLanguage translator;
-    QCoreApplication::installTranslator(&translator);
-    const Picks picks;
-    const QStringList picked = picks.ask([&](QDialog *dialog) {
-        const FileDialogDriver driver(dialog);
-        QVERIFY(!dialog->findChild<QLabel *>(u"recognition"_s));
-        QVERIFY(driver.doubleClick(picks.path(u"Run.d"_s)));
-        QVERIFY2(dialog->isVisible(), "a plain dialog enters it");
-        driver.dialog()->setDirectory(picks.path());
-        QVERIFY(driver.doubleClick(picks.path(u"one.mzml"_s)));
-    });
-    QLoggingCategory::setFilterRules({});
-    QCOMPARE(picked, QStringList{u"one.mzml"_s});
-}
+    Q_OBJECT
 
-void TestSpectrumFileDialog::knowsRawFolders_data()
-{
-    QTest::addColumn<QString>("entry");
-    QTest::addColumn<bool>("byName");
-    QTest::addColumn<bool>("onDisk");
+private Q_SLOTS:
+    void picks_data()
+    {
+        QTest::addColumn<QList<Step>>("steps");
+        QTest::addColumn<QStringList>("picked");
 
-    QTest::newRow("raw folder") << u"Run.d"_s << true << true;
-    QTest::newRow("with a slash") << u"Run.d/"_s << true << true;
-    QTest::newRow("without data") << u"Empty.d"_s << true << true;
-    QTest::newRow("missing") << u"Missing.D"_s << true << false;
-    QTest::newRow("ordinary folder") << u"plain"_s << false << false;
-    QTest::newRow("file") << u"one.mzml"_s << false << false;
-}
+        struct Target
+        {
+            const char *what;
+            QString entry;
+        };
+        const QList<Target> targets{{"file", u"one.mzml"_s},
+                                    {"raw folder", u"Run.d"_s},
+                                    {"raw folder with a blank", u"Run 2.d"_s},
+                                    {"link to a file", u"linkfile.mzml"_s},
+                                    {"link to a raw folder", u"link.d"_s}};
+        using S = Step;
+        for (const Target &target : targets) {
+            const QString &entry = target.entry;
+            const QStringList alone{entry};
+            const QList<std::pair<const char *, QList<Step>>> routes{
+                {"click, Open", {{S::Click, entry}, {S::Open}}},
+                {"double click", {{S::DoubleClick, entry}}},
+                {"click, Enter in the list", {{S::Click, entry}, {S::EnterInList}}},
+                {"click, Enter in the name box", {{S::Click, entry}, {S::EnterInName}}},
+                {"typed, Enter", {{S::Type, entry}, {S::EnterInName}}},
+                {"typed, Open", {{S::Type, entry}, {S::Open}}},
+                {"typed over a click, Enter",
+                 {{S::Click, u"two.mzml"_s}, {S::Type, entry}, {S::EnterInName}}},
+                {"typed, then double click", {{S::Type, u"two"_s}, {S::DoubleClick, entry}}}};
+            for (const auto &[route, steps] : routes)
+                QTest::addRow("%s: %s", target.what, route) << steps << alone;
+            const QStringList both{u"two.mzml"_s, entry};
+            QTest::addRow("%s: added with Ctrl, Open", target.what)
+                << QList<Step>{{S::Click, u"two.mzml"_s}, {S::CtrlClick, entry}, {S::Open}} << both;
+            QTest::addRow("%s: added with Ctrl, Enter in the list", target.what)
+                << QList<Step>{{S::Click, u"two.mzml"_s}, {S::CtrlClick, entry}, {S::EnterInList}} << both;
+            QTest::addRow("%s: added with Ctrl, Enter in the name box", target.what)
+                << QList<Step>{{S::Click, u"two.mzml"_s}, {S::CtrlClick, entry}, {S::EnterInName}} << both;
+            QTest::addRow("%s: taken out again with Ctrl", target.what)
+                << QList<Step>{{S::Click, u"two.mzml"_s},
+                               {S::CtrlClick, entry},
+                               {S::CtrlClick, entry},
+                               {S::Open}}
+                << QStringList{u"two.mzml"_s};
+        }
+        // The list is sorted: Empty.d, link.d, linkplain, plain, Run 2.d, Run.d, linkfile.mzml and the other
+        // files.
+        QTest::newRow("range over raw folders and files")
+            << QList<Step>{{S::Click, u"Run 2.d"_s}, {S::ShiftClick, u"linkfile.mzml"_s}, {S::Open}}
+            << QStringList{u"Run 2.d"_s, u"Run.d"_s, u"linkfile.mzml"_s};
+        QTest::newRow("range with an ordinary folder, which holds no data")
+            << QList<Step>{{S::Click, u"plain"_s}, {S::ShiftClick, u"Run 2.d"_s}, {S::Open}}
+            << QStringList{u"Run 2.d"_s};
+        QTest::newRow("a raw folder without data is chosen, and dropped")
+            << QList<Step>{{S::Click, u"Empty.d"_s}, {S::Open}} << QStringList();
+        QTest::newRow("a file beside a raw folder without data")
+            << QList<Step>{{S::Click, u"one.mzml"_s}, {S::CtrlClick, u"Empty.d"_s}, {S::Open}}
+            << QStringList{u"one.mzml"_s};
+        QTest::newRow("a file that is no data is a file")
+            << QList<Step>{{S::Click, u"notes.txt"_s}, {S::Open}} << QStringList{u"notes.txt"_s};
+        QTest::newRow("typed with a slash at its end")
+            << QList<Step>{{S::Type, u"Run.d/"_s}, {S::EnterInName}} << QStringList{u"Run.d"_s};
+        QTest::newRow("typed, two in quotes")
+            << QList<Step>{{S::Type, u"\"one.mzml\" \"Run.d\""_s}, {S::EnterInName}}
+            << QStringList{u"one.mzml"_s, u"Run.d"_s};
+        for (const auto &[what, folder] : {std::pair{"ordinary folder", u"plain"_s},
+                                           std::pair{"link to an ordinary folder", u"linkplain"_s}}) {
+            const QStringList inner{folder + u"/inner.mzml"_s};
+            const Step openInner{S::DoubleClick, folder + u"/inner.mzml"_s};
+            QTest::addRow("%s: click, Open, inside", what)
+                << QList<Step>{{S::Click, folder}, {S::Open}, openInner} << inner;
+            QTest::addRow("%s: double click, inside", what)
+                << QList<Step>{{S::DoubleClick, folder}, openInner} << inner;
+            QTest::addRow("%s: Enter in the list, inside", what)
+                << QList<Step>{{S::Click, folder}, {S::EnterInList}, openInner} << inner;
+            QTest::addRow("%s: typed, Enter, inside", what)
+                << QList<Step>{{S::Type, folder}, {S::EnterInName}, openInner} << inner;
+            QTest::addRow("%s: file first, then entered", what)
+                << QList<Step>{{S::Click, u"one.mzml"_s}, {S::DoubleClick, folder}, openInner} << inner;
+        }
+        QTest::newRow("up and in again") << QList<Step>{{S::DoubleClick, u"plain"_s},
+                                                        {S::Type, u".."_s},
+                                                        {S::EnterInName},
+                                                        {S::DoubleClick, u"Run.d"_s}}
+                                         << QStringList{u"Run.d"_s};
+    }
+    void picks()
+    {
+        QFETCH(const QList<Step>, steps);
+        const Picks picks;
+        QStringList picked = picks.ask([&](QDialog *dialog) {
+            const FileDialogDriver driver(dialog);
+            const QPointer<QDialog> guard(dialog);
+            for (const Step &step : steps) {
+                QVERIFY2(guard && guard->isVisible(), "it closed too early");
+                take(step, driver, picks);
+            }
+        });
+        QTEST(picked, "picked");
+    }
 
-void TestSpectrumFileDialog::knowsRawFolders()
-{
-    QFETCH(const QString, entry);
-    const Picks picks;
-    QTEST(SpectrumFileDialog::isVendorRawFolder(picks.path(entry), false), "byName");
-    QTEST(SpectrumFileDialog::isVendorRawFolder(picks.path(entry), true), "onDisk");
-}
+    void staysOpen_data()
+    {
+        QTest::addColumn<QList<Step>>("steps");
+        QTest::addColumn<QString>("folder");
+
+        using S = Step;
+        QTest::newRow("nothing picked") << QList<Step>{{S::Open}} << u""_s;
+        QTest::newRow("empty name, Enter") << QList<Step>{{S::Type, u""_s}, {S::EnterInName}} << u""_s;
+        QTest::newRow("missing, typed, Enter")
+            << QList<Step>{{S::Type, u"missing.mzml"_s}, {S::EnterInName}} << u""_s;
+        QTest::newRow("missing, typed, Open")
+            << QList<Step>{{S::Type, u"missing.mzml"_s}, {S::Open}} << u""_s;
+        QTest::newRow("dangling link, typed")
+            << QList<Step>{{S::Type, u"dangling.mzml"_s}, {S::EnterInName}} << u""_s;
+        QTest::newRow("two folders without data")
+            << QList<Step>{{S::Click, u"Empty.d"_s}, {S::CtrlClick, u"plain"_s}, {S::Open}} << u""_s;
+        QTest::newRow("two folders without data, Enter")
+            << QList<Step>{{S::Click, u"Empty.d"_s}, {S::CtrlClick, u"plain"_s}, {S::EnterInList}} << u""_s;
+        QTest::newRow("ordinary folder") << QList<Step>{{S::Click, u"plain"_s}, {S::Open}} << u"plain"_s;
+        QTest::newRow("ordinary folder, Enter in the list")
+            << QList<Step>{{S::Click, u"one.mzml"_s}, {S::Click, u"plain"_s}, {S::EnterInList}} << u"plain"_s;
+        QTest::newRow("ordinary folder, typed")
+            << QList<Step>{{S::Type, u"plain"_s}, {S::EnterInName}} << u"plain"_s;
+        QTest::newRow("ordinary folder and Open again")
+            << QList<Step>{{S::Click, u"plain"_s}, {S::Open}, {S::Open}} << u"plain"_s;
+    }
+    void staysOpen()
+    {
+        QFETCH(const QList<Step>, steps);
+        QFETCH(const QString, folder);
+        const Picks picks;
+        const QStringList picked = picks.ask([&](QDialog *dialog) {
+            const FileDialogDriver driver(dialog);
+            for (const Step &step : steps)
+                take(step, driver, picks);
+            QApplication::processEvents();
+            QVERIFY2(dialog->isVisible(), "it closed");
+            QCOMPARE(driver.dialog()->directory().path(), QDir::cleanPath(picks.path(folder)));
+            dialog->reject();
+        });
+        QCOMPARE(picked, QStringList());
+    }
+
+    void droppedPicksAreLogged()
+    {
+        QLoggingCategory::setFilterRules(u"ozm.widgets.debug=true"_s);
+        const Picks picks;
+        const QRegularExpression dropped(u"Dropped.*Empty\\.d"_s);
+        QTest::ignoreMessage(QtDebugMsg, "Got here with 2 selections.");
+        QTest::ignoreMessage(QtDebugMsg, qPrintable(picks.path(u"one.mzml"_s)));
+        QTest::ignoreMessage(QtDebugMsg, qPrintable(picks.path(u"Empty.d"_s)));
+        QTest::ignoreMessage(QtDebugMsg, dropped);
+        const QStringList picked = picks.ask([&](QDialog *dialog) {
+            const FileDialogDriver driver(dialog);
+            QVERIFY(driver.click(picks.path(u"one.mzml"_s)));
+            QVERIFY(driver.click(picks.path(u"Empty.d"_s), Qt::ControlModifier));
+            driver.clickAccept();
+        });
+        QLoggingCategory::setFilterRules({});
+        QCOMPARE(picked, QStringList{u"one.mzml"_s});
+    }
+
+    void startsBesideARawFolder()
+    {
+        const Picks picks;
+        const QStringList picked = picks.ask(
+            [&](QDialog *dialog) {
+                const FileDialogDriver driver(dialog);
+                QCOMPARE(dialog->windowTitle(), u"Open data"_s);
+                QVERIFY(driver.doubleClick(picks.path(u"Run.d"_s)));
+            },
+            picks.path(u"Run.d"_s));
+        QCOMPARE(picked, QStringList{u"Run.d"_s});
+    }
+
+    void pathsAreSelectedAndLeft()
+    {
+        const Picks picks;
+        const auto answer = picks.ask(
+            [&](QDialog *shown) {
+                auto *dialog = qobject_cast<QFileDialog *>(shown);
+                QCOMPARE(dialog->directory().absolutePath(), picks.path());
+                const FileDialogDriver files(dialog);
+                QVERIFY(files.click(picks.path(u"one.mzml"_s)));
+                const auto call = [dialog](const char *slot, const QString &path) {
+                    return QMetaObject::invokeMethod(dialog, slot, Q_ARG(QString, path));
+                };
+                QVERIFY(call("currentChanged_custom", picks.path(u"Run.d"_s)));
+                QCOMPARE(dialog->selectedFiles(), QStringList{picks.path(u"Run.d"_s)});
+                QCOMPARE(files.name()->text(), u"Run.d"_s);
+                // The way up from inside a raw folder leads past it.
+                dialog->setDirectory(picks.path(u"Run.d/AcqData"_s));
+                QVERIFY(call("directoryEntered_custom", picks.path(u"Run.d/AcqData"_s)));
+                dialog->setDirectory(picks.path(u"Run.d"_s));
+                QVERIFY(call("directoryEntered_custom", picks.path(u"Run.d"_s)));
+                QVERIFY(dialog->isVisible());
+                QCOMPARE(dialog->directory().absolutePath(), picks.path());
+                dialog->reject();
+            },
+            picks.path(u"one.mzml"_s));
+        QCOMPARE(answer, QStringList());
+    }
+
+    void staysWithTheToolkit()
+    {
+        const Picks picks;
+        (void)picks.ask(
+            [&](QDialog *dialog) {
+                auto *files = qobject_cast<QFileDialog *>(dialog);
+                QVERIFY(files->testOption(QFileDialog::DontUseNativeDialog));
+                QVERIFY(files->testOption(QFileDialog::ReadOnly));
+                dialog->reject();
+            },
+            {}, QFileDialog::ReadOnly);
+        SpectrumFileDialog dialog;
+        static_cast<QFileDialog &>(dialog).setOptions({});
+        dialog.show();
+        QVERIFY2(dialog.testOption(QFileDialog::DontUseNativeDialog), "set past the class");
+    }
+
+    void showsWhatIsHighlighted_data()
+    {
+        QTest::addColumn<QStringList>("entries");
+        QTest::addColumn<QString>("text");
+
+        QTest::newRow("file") << QStringList{u"one.mzml"_s} << u"one.mzml: Open data format mzml"_s;
+        QTest::newRow("raw folder") << QStringList{u"Run.d"_s} << u"Run.d: Agilent"_s;
+        QTest::newRow("ordinary folder") << QStringList{u"plain"_s} << u"plain: a folder to look into"_s;
+        QTest::newRow("raw folder without data")
+            << QStringList{u"Empty.d"_s} << u"Empty.d: no data, left out. The folder holds neither"_s;
+        QTest::newRow("several") << QStringList{u"one.mzml"_s, u"plain"_s, u"Run.d"_s}
+                                 << u"2 of 3 hold data\n"_s;
+    }
+    void showsWhatIsHighlighted()
+    {
+        QFETCH(const QStringList, entries);
+        QFETCH(const QString, text);
+        const Picks picks;
+        (void)picks.ask([&](QDialog *dialog) {
+            const FileDialogDriver driver(dialog);
+            Qt::KeyboardModifiers keys;
+            for (const QString &entry : entries) {
+                QVERIFY(driver.click(picks.path(entry), keys));
+                keys = Qt::ControlModifier;
+            }
+            const auto *label = dialog->findChild<QLabel *>(u"recognition"_s);
+            // The whole text, as the line itself may be cut to the dialog's width.
+            QTRY_VERIFY2(label->toolTip().startsWith(text), qPrintable(label->toolTip()));
+            dialog->reject();
+        });
+    }
+
+    void namesPicksInTheBox()
+    {
+        const Picks picks;
+        (void)picks.ask([&](QDialog *dialog) {
+            const FileDialogDriver driver(dialog);
+            QVERIFY(driver.click(picks.path(u"Run.d"_s)));
+            QCOMPARE(driver.name()->text(), u"Run.d"_s);
+            QVERIFY(driver.click(picks.path(u"one.mzml"_s), Qt::ControlModifier));
+            QCOMPARE(driver.name()->text(), u"\"Run.d\" \"one.mzml\""_s);
+            QVERIFY(driver.click(picks.path(u"link.d"_s)));
+            QTest::keyClick(driver.list(), Qt::Key_Down);
+            QTest::keyClick(driver.list(), Qt::Key_Up);
+            QCOMPARE(driver.name()->text(), u"link.d"_s);
+            dialog->reject();
+        });
+    }
+
+    void endsWithItsParent()
+    {
+        // The dialog and its message stand on the heap; on the stack they would be destroyed twice.
+        for (const bool underMessage : {false, true}) {
+            auto *parent = new QWidget;
+            const DialogDriver driver({[&](QDialog *dialog) {
+                                           if (!underMessage) {
+                                               delete parent;
+                                               return;
+                                           }
+                                           const FileDialogDriver files(dialog);
+                                           files.type(u"missing"_s);
+                                           files.pressEnter(files.name());
+                                           files.waitForMessage();
+                                       },
+                                       [&](QDialog *) { delete parent; }});
+            QCOMPARE(SpectrumFileDialog::getSpectrumFileList(parent, {}, QDir::tempPath()), QStringList());
+            QCOMPARE(driver.opened(), underMessage ? 2 : 1);
+        }
+    }
+
+    void isPlainWithoutTheOpenButton()
+    {
+        QLoggingCategory::setFilterRules(u"ozm.widgets.debug=true"_s);
+        QTest::ignoreMessage(QtDebugMsg, "openButton is nullptr");
+        OpenInAnotherLanguage translator;
+        QCoreApplication::installTranslator(&translator);
+        const Picks picks;
+        const QStringList picked = picks.ask([&](QDialog *dialog) {
+            const FileDialogDriver driver(dialog);
+            QVERIFY(!dialog->findChild<QLabel *>(u"recognition"_s));
+            QVERIFY(driver.doubleClick(picks.path(u"Run.d"_s)));
+            QVERIFY2(dialog->isVisible(), "a plain dialog enters it");
+            driver.dialog()->setDirectory(picks.path());
+            QVERIFY(driver.doubleClick(picks.path(u"one.mzml"_s)));
+        });
+        QLoggingCategory::setFilterRules({});
+        QCOMPARE(picked, QStringList{u"one.mzml"_s});
+    }
+
+    void knowsRawFolders_data()
+    {
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<bool>("byName");
+        QTest::addColumn<bool>("onDisk");
+
+        QTest::newRow("raw folder") << u"Run.d"_s << true << true;
+        QTest::newRow("with a slash") << u"Run.d/"_s << true << true;
+        QTest::newRow("without data") << u"Empty.d"_s << true << true;
+        QTest::newRow("missing") << u"Missing.D"_s << true << false;
+        QTest::newRow("ordinary folder") << u"plain"_s << false << false;
+        QTest::newRow("file") << u"one.mzml"_s << false << false;
+    }
+    void knowsRawFolders()
+    {
+        QFETCH(const QString, entry);
+        const Picks picks;
+        QTEST(SpectrumFileDialog::isVendorRawFolder(picks.path(entry), false), "byName");
+        QTEST(SpectrumFileDialog::isVendorRawFolder(picks.path(entry), true), "onDisk");
+    }
+
+private:
+    const FileStateGuard m_guard;
+};
 
 QTEST_MAIN(TestSpectrumFileDialog)
 #include "tst_spectrumfiledialog.moc"

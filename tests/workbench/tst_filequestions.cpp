@@ -135,135 +135,127 @@ class TestFileQuestions : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void samplesAreOpenedAndSaved();
-    void trailIsExported_data();
-    void trailIsExported();
-    void dataIsOpenedTogether();
-    void dataIsListedByTheFinder();
-    void reportsAreSaved();
-    void savedFilesCanBeOpened();
-    void dialogsAreSwitched();
-};
-
-void TestFileQuestions::samplesAreOpenedAndSaved()
-{
-    ScriptedFixture fixture;
-    const QString path = fixture.folder.filePath(u"50% %1.csv"_s);
-    QCOMPARE(fixture.trigger(u"saveAction"_s, {path}), (QStringList{u"Save samples"_s, u"saveFile"_s}));
-    QVERIFY(readFile(path).contains("T1"));
-    QVERIFY(fixture.window.windowTitle().startsWith("50% %1.csv"_L1));
-    QCOMPARE(fixture.trigger(u"openAction"_s, {fixture.csvPath()}), QStringList{u"Open samples"_s});
-    QVERIFY(fixture.window.windowTitle().startsWith("samples.csv"_L1));
-    QCOMPARE(fixture.trigger(u"saveAction"_s, {}), QStringList{u"Save samples"_s});
-    QVERIFY2(fixture.window.windowTitle().startsWith("samples.csv"_L1), "canceled");
-}
-
-void TestFileQuestions::trailIsExported_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("start");
-    QTest::addColumn<QString>("record");
-
-    QTest::newRow("JSON") << u"trail.json"_s << QByteArray("[\n{") << u"JSON"_s;
-    QTest::newRow("CSV") << u"trail.CSV"_s << QByteArray("\xEF\xBB\xBFId,Parent,Time,User,Text,Error\r\n1,,")
-                         << u"CSV"_s;
-}
-
-void TestFileQuestions::trailIsExported()
-{
-    QFETCH(const QString, name);
-    QFETCH(const QByteArray, start);
-    QFETCH(const QString, record);
-    ScriptedFixture fixture;
-    QVERIFY(!fixture.editor->renameSamples({fixture.idAt(0), fixture.idAt(1)}, u"* #"_s).hasError());
-    const QString path = fixture.folder.filePath(name);
-    QCOMPARE(fixture.trigger(u"exportAction"_s, {path}),
-             (QStringList{u"Export audit trail"_s, u"saveFile"_s}));
-    const QByteArray written = readFile(path);
-    QVERIFY2(written.startsWith(start), written.constData());
-    QVERIFY2(written.contains("Exported audit trail"), "the export itself is in it");
-    QVERIFY(fixture.trailTexts().constLast().contains(record));
-}
-
-void TestFileQuestions::dataIsOpenedTogether()
-{
-    ScriptedFixture fixture;
-    const SampleTree tree;
-    tree.make({u"one.mzml"_s, u"Run.d/AcqData/"_s});
-    QSignalSpy reports(&fixture.window.dataImport(), &DataImport::reported);
-    const QStringList asked =
-        fixture.trigger(u"openDataAction"_s, {tree.path(u"one.mzml"_s), tree.path(u"Run.d"_s)});
-    QCOMPARE(asked, QStringList{u"Open MS data"_s});
-    QTRY_COMPARE(reports.size(), 1);
-    QCOMPARE(fixture.editor->table().rowCount(), 5);
-    QCOMPARE(fixture.trigger(u"findDataAction"_s, {}), QStringList{u"Find MS data"_s});
-}
-
-void TestFileQuestions::dataIsListedByTheFinder()
-{
-    ScriptedFixture fixture;
-    const QString samples = fixture.folder.filePath(u"sample data"_s);
-    QCOMPARE(QProcess::execute(u"sh"_s, {QStringLiteral(SAMPLE_FOLDER_SCRIPT), samples}), 0);
-    const QString csv = fixture.folder.filePath(u"paths.csv"_s);
-    // The folder holds data that is incomplete, which is worth a warning.
-    QLoggingCategory::setFilterRules(u"ozm.generic.warning=false"_s);
-    const DialogDriver driver({[&](QDialog *dialog) {
-        QVERIFY(qobject_cast<FileCrawlerDialog *>(dialog));
-        dialog->findChild<QLineEdit *>(u"crawlPathLine"_s)->setText(samples);
-        dialog->findChild<QCheckBox *>(u"enableRecursiveSearch"_s)->setChecked(true);
-        dialog->findChild<QDialogButtonBox *>(u"buttonBox"_s)->button(QDialogButtonBox::Ok)->click();
-    }});
-    QCOMPARE(fixture.trigger(u"listDataAction"_s, {csv}), (QStringList{u"Save CSV file"_s, u"saveFile"_s}));
-
-    const auto lines = readCsv(readFile(csv));
-    QVERIFY(lines);
-    QStringList listed;
-    for (const CsvRow &line : lines.value().sliced(3))
-        listed.append(line.cells.at(1));
-    QVERIFY(listed.size() > 10);
-    QCOMPARE(listed, ozm::msreader::MsDataFileUtils::searchForMSFilesAndDirectories(
-                         samples, true, ozm::msreader::MsDataFileInfo::CheckLevel::Content)
-                         .valueOr({}));
-    QLoggingCategory::setFilterRules({});
-}
-
-void TestFileQuestions::reportsAreSaved()
-{
-    ScriptedFixture fixture;
-    const std::vector<RowNode> rows{*fixture.editor->table().row(0)};
-    ReportDialog dialog(rows, ReportContext(u"jdoe"_s, {}, rows));
-    const QString path = fixture.folder.filePath(u"report.html"_s);
-    fixture.answers.paths = {path};
-    dialog.findChild<QPushButton *>(u"save"_s)->click();
-    QCOMPARE(fixture.answers.questions, (QStringList{u"Save report"_s, u"saveFile"_s}));
-    QVERIFY(readFile(path).contains("T1"));
-}
-
-void TestFileQuestions::savedFilesCanBeOpened()
-{
-    ScriptedFixture fixture;
-    as::setValue(kFileExplorerAllowed, true);
-    const DialogDriver driver({[&](QDialog *dialog) {
-        QVERIFY(qobject_cast<openfilefolderdialog *>(dialog));
-        dialog->findChild<QPushButton *>(u"closeButton"_s)->click();
-    }});
-    (void)fixture.trigger(u"saveAction"_s, {fixture.folder.filePath(u"x.csv"_s)});
-    QCOMPARE(driver.opened(), 1);
-}
-
-void TestFileQuestions::dialogsAreSwitched()
-{
-    const FileStateGuard guard;
-    for (const bool on : {true, false}) {
-        StyleDialog settings;
-        settings.findChild<QRadioButton *>(on ? u"toolkitFileDialogs"_s : u"systemFileDialogs"_s)->click();
-        QCOMPARE(qgetenv("OZM_USE_QT_FILE_DIALOG"), on ? "1" : "0");
-        // As the next run finds it.
-        qunsetenv("OZM_USE_QT_FILE_DIALOG");
-        files::restoreDialogChoice();
-        QCOMPARE(files::usesToolkitDialogs(), on);
+    void samplesAreOpenedAndSaved()
+    {
+        ScriptedFixture fixture;
+        const QString path = fixture.folder.filePath(u"50% %1.csv"_s);
+        QCOMPARE(fixture.trigger(u"saveAction"_s, {path}), (QStringList{u"Save samples"_s, u"saveFile"_s}));
+        QVERIFY(readFile(path).contains("T1"));
+        QVERIFY(fixture.window.windowTitle().startsWith("50% %1.csv"_L1));
+        QCOMPARE(fixture.trigger(u"openAction"_s, {fixture.csvPath()}), QStringList{u"Open samples"_s});
+        QVERIFY(fixture.window.windowTitle().startsWith("samples.csv"_L1));
+        QCOMPARE(fixture.trigger(u"saveAction"_s, {}), QStringList{u"Save samples"_s});
+        QVERIFY2(fixture.window.windowTitle().startsWith("samples.csv"_L1), "canceled");
     }
-}
+
+    void trailIsExported_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("start");
+        QTest::addColumn<QString>("record");
+
+        QTest::newRow("JSON") << u"trail.json"_s << QByteArray("[\n{") << u"JSON"_s;
+        QTest::newRow("CSV") << u"trail.CSV"_s
+                             << QByteArray("\xEF\xBB\xBFId,Parent,Time,User,Text,Error\r\n1,,") << u"CSV"_s;
+    }
+    void trailIsExported()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const QByteArray, start);
+        QFETCH(const QString, record);
+        ScriptedFixture fixture;
+        QVERIFY(!fixture.editor->renameSamples({fixture.idAt(0), fixture.idAt(1)}, u"* #"_s).hasError());
+        const QString path = fixture.folder.filePath(name);
+        QCOMPARE(fixture.trigger(u"exportAction"_s, {path}),
+                 (QStringList{u"Export audit trail"_s, u"saveFile"_s}));
+        const QByteArray written = readFile(path);
+        QVERIFY2(written.startsWith(start), written.constData());
+        QVERIFY2(written.contains("Exported audit trail"), "the export itself is in it");
+        QVERIFY(fixture.trailTexts().constLast().contains(record));
+    }
+
+    void dataIsOpenedTogether()
+    {
+        ScriptedFixture fixture;
+        const SampleTree tree;
+        tree.make({u"one.mzml"_s, u"Run.d/AcqData/"_s});
+        QSignalSpy reports(&fixture.window.dataImport(), &DataImport::reported);
+        const QStringList asked =
+            fixture.trigger(u"openDataAction"_s, {tree.path(u"one.mzml"_s), tree.path(u"Run.d"_s)});
+        QCOMPARE(asked, QStringList{u"Open MS data"_s});
+        QTRY_COMPARE(reports.size(), 1);
+        QCOMPARE(fixture.editor->table().rowCount(), 5);
+        QCOMPARE(fixture.trigger(u"findDataAction"_s, {}), QStringList{u"Find MS data"_s});
+    }
+
+    void dataIsListedByTheFinder()
+    {
+        ScriptedFixture fixture;
+        const QString samples = fixture.folder.filePath(u"sample data"_s);
+        QCOMPARE(QProcess::execute(u"sh"_s, {QStringLiteral(SAMPLE_FOLDER_SCRIPT), samples}), 0);
+        const QString csv = fixture.folder.filePath(u"paths.csv"_s);
+        // The folder holds data that is incomplete, which is worth a warning.
+        QLoggingCategory::setFilterRules(u"ozm.generic.warning=false"_s);
+        const DialogDriver driver({[&](QDialog *dialog) {
+            QVERIFY(qobject_cast<FileCrawlerDialog *>(dialog));
+            dialog->findChild<QLineEdit *>(u"crawlPathLine"_s)->setText(samples);
+            dialog->findChild<QCheckBox *>(u"enableRecursiveSearch"_s)->setChecked(true);
+            dialog->findChild<QDialogButtonBox *>(u"buttonBox"_s)->button(QDialogButtonBox::Ok)->click();
+        }});
+        QCOMPARE(fixture.trigger(u"listDataAction"_s, {csv}),
+                 (QStringList{u"Save CSV file"_s, u"saveFile"_s}));
+
+        const auto lines = readCsv(readFile(csv));
+        QVERIFY(lines);
+        QStringList listed;
+        for (const CsvRow &line : lines.value().sliced(3))
+            listed.append(line.cells.at(1));
+        QVERIFY(listed.size() > 10);
+        QCOMPARE(listed, ozm::msreader::MsDataFileUtils::searchForMSFilesAndDirectories(
+                             samples, true, ozm::msreader::MsDataFileInfo::CheckLevel::Content)
+                             .valueOr({}));
+        QLoggingCategory::setFilterRules({});
+    }
+
+    void reportsAreSaved()
+    {
+        ScriptedFixture fixture;
+        const std::vector<RowNode> rows{*fixture.editor->table().row(0)};
+        ReportDialog dialog(rows, ReportContext(u"jdoe"_s, {}, rows));
+        const QString path = fixture.folder.filePath(u"report.html"_s);
+        fixture.answers.paths = {path};
+        dialog.findChild<QPushButton *>(u"save"_s)->click();
+        QCOMPARE(fixture.answers.questions, (QStringList{u"Save report"_s, u"saveFile"_s}));
+        QVERIFY(readFile(path).contains("T1"));
+    }
+
+    void savedFilesCanBeOpened()
+    {
+        ScriptedFixture fixture;
+        as::setValue(kFileExplorerAllowed, true);
+        const DialogDriver driver({[&](QDialog *dialog) {
+            QVERIFY(qobject_cast<openfilefolderdialog *>(dialog));
+            dialog->findChild<QPushButton *>(u"closeButton"_s)->click();
+        }});
+        (void)fixture.trigger(u"saveAction"_s, {fixture.folder.filePath(u"x.csv"_s)});
+        QCOMPARE(driver.opened(), 1);
+    }
+
+    void dialogsAreSwitched()
+    {
+        const FileStateGuard guard;
+        for (const bool on : {true, false}) {
+            StyleDialog settings;
+            settings.findChild<QRadioButton *>(on ? u"toolkitFileDialogs"_s : u"systemFileDialogs"_s)
+                ->click();
+            QCOMPARE(qgetenv("OZM_USE_QT_FILE_DIALOG"), on ? "1" : "0");
+            // As the next run finds it.
+            qunsetenv("OZM_USE_QT_FILE_DIALOG");
+            files::restoreDialogChoice();
+            QCOMPARE(files::usesToolkitDialogs(), on);
+        }
+    }
+};
 
 QTEST_MAIN(TestFileQuestions)
 #include "tst_filequestions.moc"
