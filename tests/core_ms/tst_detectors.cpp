@@ -97,59 +97,25 @@ class TestDetectors : public ozm::test::StrictTest
     }
 
 private Q_SLOTS:
-    void plainFiles_data()
+    // The usual names of each format are in the generated trees.
+    void names_data()
     {
         addColumns();
-        const std::pair<const char *, const char *> rows[] = {
-            {"a.zuspec2", "Zuspec2"},
-            {"a.csv2d", "Csv2d"},
-            {"a.msfaux", "MsFaux"},
-            {"a.msfaux2", "MsFaux2"},
-            {"a.mgf", "Mgf"},
-            {"a.mzml", "Mzml"},
-            {"a.mzXML", "Mzxml"},
-            {"a.mbi", "Mobilion"},
-            {"a.LCD", "Shimadzu"},
-            {"a.raw", "Thermo"},
-            {"a.RAW", "Thermo"},
-            {"a.data.cut", "DataCut"},
-            {"a.DATA.Cut", "DataCut"},
-            {"a.vacq", "Vacq"},
-            {".mgf", "Mgf"},
-            {"试样 №1.mzML", "Mzml"},
-            {"a.b.mzML", "Mzml"},
-            {"a.mzml.gz", ""},
-            {"a.cut", ""},
-            {"mgf", ""},
-            {"a.mgf ", ""},
-            {"a.d", ""},
-            {"a.wiff.scan", ""},
-            {"a", ""},
-        };
-        for (const auto &[name, formats] : rows) {
-            const QString file = QString::fromUtf8(name);
-            QTest::newRow(name) << Names{file} << file << QString::fromLatin1(formats);
-        }
+        const std::pair<QString, QString> rows[] = {
+            {u"a.RAW"_s, u"Thermo"_s}, {u"a.DATA.Cut"_s, u"DataCut"_s},
+            {u".mgf"_s, u"Mgf"_s},     {u"a.b.mzML"_s, u"Mzml"_s},
+            {u"a.mzml.gz"_s, {}},      {u"mgf"_s, {}},
+            {u"a.mgf "_s, {}},         {u"a"_s, {}},
+            {u"a.mzml/"_s, {}}};
+        for (const auto &[name, formats] : rows)
+            QTest::newRow(qPrintable(name)) << Names{name} << name << formats;
         QTest::newRow("missing") << Names() << u"a.mzml"_s << QString();
         QTest::newRow("link") << Names{u"blob"_s, u"a.mzml -> blob"_s} << u"a.mzml"_s << u"Mzml"_s;
         QTest::newRow("dangling link") << Names{u"a.mzml -> blob"_s} << u"a.mzml"_s << QString();
-    }
-    void plainFiles() { checkRow(); }
-
-    void folders_data()
-    {
-        addColumns();
-        for (const char *extension : {"zuspec2", "csv2d", "msfaux", "msfaux2", "mgf", "mzml", "mzxml", "mbi",
-                                      "lcd", "data.cut", "wiff", "wiff2", "d", "raw"}) {
-            const QString name = u"a."_s + QString::fromLatin1(extension);
-            QTest::newRow(extension) << Names{name + u'/'} << name << QString();
-        }
-        QTest::newRow("vacq") << Names{u"a.vacq/"_s} << u"a.vacq"_s << u"Vacq"_s;
         QTest::newRow("vacq, link") << Names{u"x/"_s, u"a.VACQ -> x"_s} << u"a.VACQ"_s << u"Vacq"_s;
         QTest::newRow("vacq, slash") << Names{u"a.vacq/"_s} << u"a.vacq/"_s << QString();
     }
-    void folders() { checkRow(); }
-
+    void names() { checkRow(); }
     void bruker_data()
     {
         addColumns();
@@ -160,16 +126,13 @@ private Q_SLOTS:
         row("linked spectrum", {u"Run.d/0_A1/1SRef/"_s, u"fid"_s, u"Run.d/0_A1/1SRef/fid -> ../../../fid"_s},
             "BrukerFID");
         row("other run number", {u"Run.d/0_A1/2/1SRef/fid"_s}, "");
-        row("tdf, all capitals", {u"Run.d/ANALYSIS.TDF"_s, u"Run.d/ANALYSIS.TDF_BIN"_s}, "");
         row("companion of two suffixes", {u"a.dx.d/a.u2x.u2"_s}, "BrukerU2");
-        row("companion of a capital folder", {u"Run.D/Run.D"_s}, "BrukerU2");
         Names many{u"Run.d/analysis.tsf"_s, u"Run.d/Analysis.tsf_bin"_s};
         for (int i = 0; i < 200; ++i)
             many.append(u"Run.d/file%1"_s.arg(i));
         row("among many files", many, "BrukerTsf");
         std::ranges::reverse(many);
         row("behind many files", many, "BrukerTsf");
-        row("Waters, dangling", {u"a.raw/"_s, u"a.raw/_FUNC001.DAT -> x"_s}, "");
     }
     void bruker() { checkRow(); }
 
@@ -177,22 +140,11 @@ private Q_SLOTS:
     {
         addColumns();
         const auto agilent = u"AgilentAcqData"_s;
-        QTest::newRow("dangling") << Names{u"a.d/"_s, u"a.d/AcqData -> ../x"_s} << u"a.d"_s << QString();
-        QTest::newRow("only a link's name ends in .d")
-            << Names{u"a.d/x/AcqData/"_s, u"a.d/y.d -> x"_s} << u"a.d"_s << agilent;
-        QTest::newRow("the link comes before its folder")
-            << Names{u"a.d/y.d -> x"_s, u"a.d/x/AcqData/"_s} << u"a.d"_s << agilent;
         QTest::newRow("link to the folder itself, from inside")
             << Names{u"a.d/x/AcqData/"_s, u"a.d/x/loop.d -> ."_s} << u"a.d"_s << agilent;
-        QTest::newRow("loops and nothing else")
-            << Names{u"a.d/x/y/"_s, u"a.d/x/up -> .."_s, u"a.d/x/y/top.d -> ../.."_s} << u"a.d"_s
-            << QString();
         QTest::newRow("slash at the end") << Names{u"a.d/AcqData/"_s} << u"a.d/"_s << QString();
         QTest::newRow("reached through a link")
             << Names{u"x/AcqData/"_s, u"a.d -> x"_s} << u"a.d"_s << agilent;
-        QTest::newRow("Bruker data around it")
-            << Names{u"a.d/analysis.tdf"_s, u"a.d/analysis.tdf_bin"_s, u"a.d/b.d/AcqData/"_s} << u"a.d"_s
-            << u"AgilentAcqData BrukerTims"_s;
     }
     void agilent() { checkRow(); }
 
@@ -202,16 +154,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("warning");
         const auto wiff = u"looks like ABI SCIEX WIFF file. But .wiff.scan file is absent"_s;
         const auto wiff2 = u"looks like SCIEX WIFF2 file. But .wiff.scan file is absent"_s;
-        QTest::newRow("wiff") << Names{u"x.wiff"_s, u"x.wiff.scan"_s} << u"x.wiff"_s << u"SciexWiff"_s
-                              << QString();
-        QTest::newRow("WIFF") << Names{u"x.WIFF"_s, u"x.WIFF.scan"_s} << u"x.WIFF"_s << u"SciexWiff"_s
-                              << QString();
         QTest::newRow("no scan") << Names{u"x.wiff"_s} << u"x.wiff"_s << QString() << wiff;
         QTest::newRow("scan of other case")
             << Names{u"x.WIFF"_s, u"x.wiff.scan"_s} << u"x.WIFF"_s << QString() << wiff;
         QTest::newRow("no wiff") << Names{u"x.wiff.scan"_s} << u"x.wiff"_s << QString() << QString();
-        QTest::newRow("wiff2") << Names{u"x.wiff2"_s, u"x.wiff.scan"_s} << u"x.wiff2"_s << u"SciexWiff2"_s
-                               << QString();
         QTest::newRow("WIFF2") << Names{u"x.WIFF2"_s, u"x.WIFF.scan"_s} << u"x.WIFF2"_s << u"SciexWiff2"_s
                                << QString();
         QTest::newRow("a folder called as the scan file")
@@ -273,10 +219,8 @@ private Q_SLOTS:
         const auto d =
             u"AgilentAcqData BrukerBAF BrukerBAF_and_U2 BrukerFID BrukerTims BrukerTsf BrukerU2 BrukerYEP"_s;
         QTest::newRow("d") << u"/no/such/a.d"_s << d << u"AgilentAcqData"_s;
-        QTest::newRow("D") << u"A.D"_s << d << u"AgilentAcqData"_s;
         QTest::newRow("raw") << u"a.Raw"_s << u"Thermo Waters"_s << u"Thermo"_s;
         QTest::newRow("wiff") << u"a.wiff"_s << u"SciexWiff"_s << u"SciexWiff"_s;
-        QTest::newRow("none") << u"a.txt"_s << QString() << QString();
         QTest::newRow("empty") << QString() << QString() << QString();
         QTest::newRow("folder above") << u"a.d/b"_s << QString() << QString();
     }

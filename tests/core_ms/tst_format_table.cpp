@@ -148,22 +148,15 @@ private Q_SLOTS:
         QCOMPARE(category, "ozm.generic"_ba);
     }
 
-    void unknownNames_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::newRow("empty") << QString();
-        QTest::newRow("a description") << u"Bruker Tims"_s;
-        QTest::newRow("blank at the end") << u"Mzml "_s;
-        QTest::newRow("a placeholder") << u"%1"_s;
-    }
     void unknownNames()
     {
-        QFETCH(QString, text);
-        const auto converted = MsDataFormat::fromString(text);
-        QVERIFY(!converted);
-        QCOMPARE(int(converted.error().errorCode()), 2);
-        QCOMPARE(converted.error().errorMessage(),
-                 u"Could not find match for converting vendor data format to string: "_s + text);
+        for (const auto &text : {u""_s, u"Bruker Tims"_s, u"Mzml "_s, u"%1"_s}) {
+            const auto converted = MsDataFormat::fromString(text);
+            QVERIFY2(!converted, qPrintable(text));
+            QCOMPARE(int(converted.error().errorCode()), 2);
+            QCOMPARE(converted.error().errorMessage(),
+                     u"Could not find match for converting vendor data format to string: "_s + text);
+        }
     }
 
     void everyFormatHasOneDetector()

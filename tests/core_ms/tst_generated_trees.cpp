@@ -24,49 +24,19 @@ constexpr int kTrees = 50'000;
 #endif
 constexpr int kDeepest = 3;
 
-const QStringList kRoots{u"Run.d"_s,      u"Run.D"_s,
-                         u"a.d.d"_s,      u".d"_s,
-                         u"x.raw"_s,      u"s.wiff"_s,
-                         u"s.wiff2"_s,    u"S.WIFF2"_s,
-                         u"v.vacq"_s,     u"c.cut"_s,
-                         u"c.data.cut"_s, u"m.mgf"_s,
-                         u"m.mzML"_s,     u"m.mzXML"_s,
-                         u"z.zuspec2"_s,  u"z.CSV2D"_s,
-                         u"l.lcd"_s,      u"b.mbi"_s,
-                         u"f.msfaux"_s,   u"f.msfaux2"_s,
-                         u"plain"_s,      u"xMAGIC_STRING_GOES_HERE_ozm_testing"_s};
+const QStringList kRoots =
+    QStringLiteral("Run.d Run.D a.d.d .d x.raw s.wiff s.wiff2 S.WIFF2 v.vacq c.cut c.data.cut m.mgf m.mzML "
+                   "m.mzXML z.zuspec2 z.CSV2D l.lcd b.mbi f.msfaux f.msfaux2 plain "
+                   "xMAGIC_STRING_GOES_HERE_ozm_testing")
+        .split(u' ');
 
 /// Names that one rule or another looks for, and names that only resemble them.
-const QStringList kNames{u"AcqData"_s,
-                         u"acqdata"_s,
-                         u"fid"_s,
-                         u"FID"_s,
-                         u"1"_s,
-                         u"1SRef"_s,
-                         u"1SLin"_s,
-                         u"1Ref"_s,
-                         u"1Lin"_s,
-                         u"Analysis.yep"_s,
-                         u"analysis.yep"_s,
-                         u"Analysis.baf"_s,
-                         u"analysis.baf"_s,
-                         u"analysis.tdf"_s,
-                         u"Analysis.tdf"_s,
-                         u"analysis.tdf_bin"_s,
-                         u"Analysis.tdf_bin"_s,
-                         u"analysis.tsf"_s,
-                         u"analysis.tsf_bin"_s,
-                         u"Analysis.tsf_bin"_s,
-                         u"Run.u2"_s,
-                         u"a.u2.u2"_s,
-                         u"Run.D"_s,
-                         u".u2"_s,
-                         u"y.d"_s,
-                         u".h.D"_s,
-                         u"4711.m"_s,
-                         u"msscan.bin"_s,
-                         u"_FUNC001.DAT"_s,
-                         u"спектр"_s};
+const QStringList kNames =
+    QStringLiteral("AcqData acqdata fid FID 1 1SRef 1SLin 1Ref 1Lin Analysis.yep analysis.yep Analysis.baf "
+                   "analysis.baf analysis.tdf Analysis.tdf analysis.tdf_bin Analysis.tdf_bin analysis.tsf "
+                   "analysis.tsf_bin Analysis.tsf_bin Run.u2 a.u2.u2 Run.D .u2 y.d .h.D 4711.m msscan.bin "
+                   "_FUNC001.DAT спектр")
+        .split(u' ');
 
 /// What real data consists of, so that not every tree is nonsense.
 const QList<QStringList> kParts{{u"AcqData/msscan.bin"_s},

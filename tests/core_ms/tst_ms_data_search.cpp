@@ -386,14 +386,6 @@ private Q_SLOTS:
         QCOMPARE(size, 1400);
     }
 
-    void tenThousandSamples()
-    {
-        const SampleTree tree;
-        const QStringList names = manySamples();
-        makeShuffled(tree, names);
-        QCOMPARE(search(tree), names);
-    }
-
     void cancelInTheMiddle()
     {
         const SampleTree tree;

@@ -230,11 +230,6 @@ private Q_SLOTS:
             << QList<Step>{{S::Click, u"Empty.d"_s}, {S::CtrlClick, u"plain"_s}, {S::Open}} << u""_s;
         QTest::newRow("two folders without data, Enter")
             << QList<Step>{{S::Click, u"Empty.d"_s}, {S::CtrlClick, u"plain"_s}, {S::EnterInList}} << u""_s;
-        QTest::newRow("ordinary folder") << QList<Step>{{S::Click, u"plain"_s}, {S::Open}} << u"plain"_s;
-        QTest::newRow("ordinary folder, Enter in the list")
-            << QList<Step>{{S::Click, u"one.mzml"_s}, {S::Click, u"plain"_s}, {S::EnterInList}} << u"plain"_s;
-        QTest::newRow("ordinary folder, typed")
-            << QList<Step>{{S::Type, u"plain"_s}, {S::EnterInName}} << u"plain"_s;
         QTest::newRow("ordinary folder and Open again")
             << QList<Step>{{S::Click, u"plain"_s}, {S::Open}, {S::Open}} << u"plain"_s;
     }
@@ -421,25 +416,17 @@ private Q_SLOTS:
         QCOMPARE(picked, QStringList{u"one.mzml"_s});
     }
 
-    void knowsRawFolders_data()
-    {
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<bool>("byName");
-        QTest::addColumn<bool>("onDisk");
-
-        QTest::newRow("raw folder") << u"Run.d"_s << true << true;
-        QTest::newRow("with a slash") << u"Run.d/"_s << true << true;
-        QTest::newRow("without data") << u"Empty.d"_s << true << true;
-        QTest::newRow("missing") << u"Missing.D"_s << true << false;
-        QTest::newRow("ordinary folder") << u"plain"_s << false << false;
-        QTest::newRow("file") << u"one.mzml"_s << false << false;
-    }
     void knowsRawFolders()
     {
-        QFETCH(const QString, entry);
         const Picks picks;
-        QTEST(SpectrumFileDialog::isVendorRawFolder(picks.path(entry), false), "byName");
-        QTEST(SpectrumFileDialog::isVendorRawFolder(picks.path(entry), true), "onDisk");
+        for (const auto &entry : {u"Run.d"_s, u"Run.d/"_s, u"Empty.d"_s, u"Missing.D"_s}) {
+            QVERIFY2(SpectrumFileDialog::isVendorRawFolder(picks.path(entry), false), qPrintable(entry));
+            QCOMPARE(SpectrumFileDialog::isVendorRawFolder(picks.path(entry), true), entry != "Missing.D"_L1);
+        }
+        for (const auto &entry : {u"plain"_s, u"one.mzml"_s})
+            for (const bool onDisk : {false, true})
+                QVERIFY2(!SpectrumFileDialog::isVendorRawFolder(picks.path(entry), onDisk),
+                         qPrintable(entry));
     }
 
 private:

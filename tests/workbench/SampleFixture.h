@@ -3,10 +3,10 @@
 #include "audit/AuditDatabase.h"
 #include "samples/SampleEditor.h"
 #include "samples/SampleRules.h"
+#include "support/Files.h"
 
 #include <ozm_common_core_mini/ColumnNames.h>
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -14,18 +14,6 @@
 namespace ozm::test {
 
 using namespace Qt::StringLiterals;
-
-inline bool writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
-
-inline QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// An editor with three samples, on an audit trail in a folder of its own.
 struct SampleFixture

@@ -151,33 +151,6 @@ private Q_SLOTS:
         QVERIFY2(readFile(m_path) == before, "a file that is refused is not written to");
     }
 
-    void appendSaysWhatIsWrong_data()
-    {
-        QTest::addColumn<QString>("fault");
-        for (const QString &fault : AuditFault::names())
-            QTest::newRow(qUtf8Printable(fault)) << fault;
-    }
-    void appendSaysWhatIsWrong()
-    {
-        QFETCH(QString, fault);
-        QVERIFY(append({record(AuditKind::Command)}));
-        const AuditRecord large = record(AuditKind::Command, QByteArray(20000, 'x'));
-
-        AuditFault made(fault, *m_database);
-        QVERIFY(made.isMade());
-        const auto refused = m_database->append({record(AuditKind::Command), large});
-        QVERIFY(refused.hasError());
-        QVERIFY2(refused.error().errorMessage().contains(AuditFault::messageOf(fault)),
-                 qUtf8Printable(refused.error().errorMessage()));
-
-        made.lift();
-        if (!AuditFault::canBeLifted(fault))
-            return;
-        QVERIFY(append({large}));
-        QVERIFY2(m_database->recordsAfter(0).valueOr({}).size() == 2,
-                 "nothing of the refused rows may be left");
-    }
-
     void macrosShowAsTheyEnded_data()
     {
         QTest::addColumn<QList<AuditRecord>>("records");

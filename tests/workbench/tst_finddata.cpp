@@ -86,11 +86,6 @@ class TestFindData : public ozm::test::StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    // As in the base class, but for what the screenless platform says of every window that is shown.
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support propagateSizeHints)"_s));
-    }
     void findAddsWhatIsThere()
     {
         FindFixture fixture;
@@ -154,15 +149,6 @@ private Q_SLOTS:
         QCOMPARE(fixture.editor->table().rowCount(), 5);
         QCOMPARE(fixture.stored().size(), records);
         QVERIFY(fixture.summary().contains(u"2 are in the table already"_s));
-    }
-
-    void noFolderIsNoSearch()
-    {
-        const FindFixture fixture;
-        fixture.window.dataImport().setFolderQuestion([] { return QString(); });
-        fixture.trigger(u"findDataAction"_s);
-        QVERIFY(!fixture.window.dataImport().isRunning());
-        QVERIFY(fixture.find<QAction>(u"findDataAction"_s)->isEnabled());
     }
 
     void canceledFindAddsNothing()
