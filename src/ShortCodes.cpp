@@ -36,8 +36,8 @@ QString ShortCodeImplementation::displayName(const QString &name)
     return name;
 }
 
-ShortCode::Private::Private(ShortCode *owner)
-    : implementation(new ShortCodeImplementation)
+ShortCode::Private::Private(ShortCode *owner, const QSharedPointer<ShortCodeImplementation> &shared)
+    : implementation(shared ? shared : QSharedPointer<ShortCodeImplementation>(new ShortCodeImplementation))
     , qptr(owner)
 {}
 
@@ -69,10 +69,12 @@ ShortCode::ShortCode(const QString &codeText, const QString &nameText, const QSt
 {}
 
 ShortCode::ShortCode(const ShortCode &other)
-    : ShortCode()
-{
-    d->copyParameters(other);
-}
+    : code(other.code)
+    , name(other.name)
+    , toolTip(other.toolTip)
+    , extraText(other.extraText)
+    , d(std::make_unique<Private>(this, other.d->implementation))
+{}
 
 ShortCode &ShortCode::operator=(const ShortCode &other)
 {

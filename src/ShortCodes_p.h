@@ -5,7 +5,8 @@
 class OZM_WIDGETS_EXPORT ShortCode::Private
 {
 public:
-    explicit Private(ShortCode *owner);
+    /// With a default implementation unless there is one to share.
+    explicit Private(ShortCode *owner, const QSharedPointer<ShortCodeImplementation> &shared = {});
 
     /// Makes the owner a copy of @p other that shares its implementation; false when there is no owner.
     bool copyParameters(const ShortCode &other);
