@@ -87,15 +87,15 @@ int appendUntilKilled(const Arguments &arguments)
     const int writer = arguments.number(u"writer"_s, 0);
     if (arguments.has(u"queued"_s))
         return appendQueued(*store.value(), writer);
-    const int seconds = arguments.number(u"seconds"_s, 0);
+    const qint64 milliseconds = arguments.number(u"seconds"_s, 0) * qint64(1000);
     QElapsedTimer time;
     time.start();
     int serial = 0;
-    for (; seconds == 0 || time.elapsed() < seconds * 1000; ++serial) {
+    for (; milliseconds == 0 || time.elapsed() < milliseconds; ++serial) {
         const auto number = store.value()->append({draftOf(writer, serial)});
         if (!number)
             return fail(number.error().errorMessage());
-        if (seconds == 0)
+        if (milliseconds == 0)
             say(number.value());
     }
     say(serial);
