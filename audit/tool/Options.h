@@ -18,7 +18,7 @@ enum Exit
     Misused = 64,
 };
 
-/// What follows the command's name, with the options that all commands share.
+/// The arguments behind the command's name, with the options that all commands share.
 class Options
 {
 public:

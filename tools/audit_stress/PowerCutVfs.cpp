@@ -178,7 +178,7 @@ int fullPath(sqlite3_vfs *, const char *name, int size, char *into)
 
 void registerVfs()
 {
-    // What has nothing to do with files is the system's.
+    // All calls that have nothing to do with files go to the system.
     static sqlite3_vfs vfs = *sqlite3_vfs_find(nullptr);
     vfs.iVersion = 1;
     vfs.szOsFile = sizeof(OpenFile);

@@ -103,7 +103,7 @@ struct OZM_AUDIT_EXPORT Entry : Draft
     qint64 number = 0; ///< Counts from 1 without gaps.
     QByteArray bytes = {};
 
-    // What a server added when it stored the entry; empty for a store without one.
+    // Facts that a server added when it stored the entry; empty for a store without one.
     QString serverTime = {};
     QString serverUser = {};
     QString serverClient = {};

@@ -39,7 +39,7 @@ struct Range
 };
 
 /**
- * What was found out about a trail.
+ * The result of checking a trail.
  *
  * Entries up to anchored are vouched for by a checkpoint from outside. Those after it are only consistent in
  * themselves: whoever could write to the store could have made all of them anew.

@@ -34,7 +34,7 @@ public:
     {
         QFile file(QDir(m_folder).filePath(
             u"%1-%2.checkpoint"_s.arg(checkpoint.origin).arg(checkpoint.size, 12, 10, '0'_L1)));
-        // What stands there says the same or is evidence: neither is to be written over.
+        // The file there says the same or is evidence: neither is written over.
         if (file.exists())
             return {};
         if (!QDir().mkpath(m_folder) || !file.open(QIODevice::WriteOnly | QIODevice::NewOnly) ||

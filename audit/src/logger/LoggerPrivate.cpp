@@ -134,7 +134,7 @@ Result<QList<Logger::Private::Stored>> Logger::Private::store(QList<PendingRecor
 {
     if (records.isEmpty())
         return QList<Stored>();
-    // What is late, and what is to be known, goes in front.
+    // Late entries, and facts about the session, go in front.
     QList<PendingRecord> before = overdueMarks;
     addClockJump(before);
     for (PendingRecord &record : records) {

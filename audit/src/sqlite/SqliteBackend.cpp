@@ -53,7 +53,7 @@ private:
     const std::unique_ptr<Database> m_database;
     const QByteArray m_trail;
     const bool m_exclusive;
-    /// What this program has seen: a head that counts less was put back by something else.
+    /// The count that this program has seen: a head that counts less was put back by another program.
     qint64 m_known = 0;
     std::vector<Subtree> m_completed;
     Statement m_head;

@@ -57,7 +57,7 @@ struct OZM_AUDIT_EXPORT Address
 };
 
 /**
- * What a kind of store has to do; Store does the rest. One call at a time.
+ * The work of one kind of store; Store does the rest. One call at a time.
  */
 class StoreBackend
 {
@@ -103,7 +103,7 @@ public:
     [[nodiscard]] virtual Result<qint64> dispose(Range range, const NewEntry &record) = 0;
 };
 
-/// What a plug-in with a back end exports, by the name "ozm_audit_open".
+/// The function that a plug-in with a back end exports, by the name "ozm_audit_open".
 using OpenBackend = Result<std::unique_ptr<StoreBackend>> (*)(const Address &address, Store::Mode mode);
 
 } // namespace ozm::audit
