@@ -145,6 +145,10 @@ void FileDialog::updateNotice()
     auto *notice = findChild<QLabel *>(u"replaceNotice"_s);
     const QFileInfo target(acceptMode() == QFileDialog::AcceptSave ? pathToSave() : QString());
     notice->setText(tr("\"%1\" exists and will be replaced.").arg(target.fileName()));
+    // Keeps its room, so that the list does not move while a name is typed.
+    QSizePolicy policy = notice->sizePolicy();
+    policy.setRetainSizeWhenHidden(acceptMode() == QFileDialog::AcceptSave);
+    notice->setSizePolicy(policy);
     notice->setVisible(target.isFile());
 }
 
