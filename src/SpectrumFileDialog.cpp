@@ -77,6 +77,7 @@ void SpectrumFileDialog::rewire(QWidget *openButton)
 
     auto *delegate = new ozm::DataDelegate(this);
     setItemDelegate(delegate);
+    ozm::widenColumns(*this);
     m_recognition = new ozm::PickRecognition(this);
     ozm::addToFileDialog(*this, m_recognition);
     if (const QItemSelectionModel *selection = ozm::selectionModel(*this)) {

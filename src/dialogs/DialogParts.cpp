@@ -1,13 +1,29 @@
 #include "dialogs/DialogParts.h"
 
+#include <QDateTime>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
+#include <QLocale>
+#include <QTreeView>
 
 using namespace Qt::StringLiterals;
 
 namespace ozm {
+
+namespace {
+
+// As QFileSystemModel orders its columns.
+constexpr int kNameColumn = 0;
+constexpr int kTypeColumn = 2;
+constexpr int kDateColumn = 3;
+// "Open data format mzML" has room.
+constexpr int kTypeCharacters = 20;
+constexpr int kCellMargin = 8;
+
+} // namespace
 
 QLineEdit *nameBox(const QFileDialog &dialog)
 {
@@ -18,6 +34,22 @@ QItemSelectionModel *selectionModel(const QFileDialog &dialog)
 {
     const auto *view = dialog.findChild<QListView *>(u"listView"_s);
     return view ? view->selectionModel() : nullptr;
+}
+
+void widenColumns(const QFileDialog &dialog)
+{
+    const auto *view = dialog.findChild<QTreeView *>(u"treeView"_s);
+    if (!view)
+        return;
+    const auto room = [view](const QString &text) {
+        return view->fontMetrics().horizontalAdvance(text) + 2 * kCellMargin;
+    };
+    // A day and a month whose names are among the long ones.
+    const QDateTime late(QDate(2028, 9, 27), QTime(22, 58, 58));
+    view->header()->setStretchLastSection(false);
+    view->header()->setSectionResizeMode(kNameColumn, QHeaderView::Stretch);
+    view->header()->resizeSection(kTypeColumn, room(QString(kTypeCharacters, u'n')));
+    view->header()->resizeSection(kDateColumn, room(QLocale().toString(late, QLocale::ShortFormat)));
 }
 
 void addToFileDialog(QFileDialog &dialog, QWidget *widget)

@@ -17,4 +17,7 @@ namespace ozm {
 /// Puts @p widget beneath all that is in the dialog.
 void addToFileDialog(QFileDialog &dialog, QWidget *widget);
 
+/// Gives types and dates the room that they need; names take the rest.
+void widenColumns(const QFileDialog &dialog);
+
 } // namespace ozm

@@ -42,6 +42,7 @@ FileDialog::FileDialog(QWidget *parent, const QString &caption, const QString &d
     setFileMode(QFileDialog::AnyFile);
     setOption(QFileDialog::DontUseNativeDialog, true);
 
+    ozm::widenColumns(*this);
     auto *notice = new QLabel(this);
     notice->setObjectName(u"replaceNotice"_s);
     notice->setTextFormat(Qt::PlainText);
