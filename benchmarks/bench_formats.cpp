@@ -162,7 +162,6 @@ void largeFolder(benchmark::State &state)
         else
             benchmark::DoNotOptimize(nearestFormat(location.localPath));
 }
-}
 
 /// A study folder of ten thousand samples, files and folders by turns.
 void recursiveSearch(benchmark::State &state)
