@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <ranges>
 
 namespace ozm::audit::stress {
 
@@ -251,7 +250,8 @@ Files PowerCut::after(Loss loss, std::mt19937 &random) const
         }
     }
     // Names that were not synced: the newest may be undone, and those before it stay or go, too.
-    for (const Name &name : std::ranges::reverse_view(m_names)) {
+    for (std::size_t i = m_names.size(); i-- > 0;) {
+        const Name &name = m_names[i];
         if (loss == Loss::Nothing || loss == Loss::TornLast || (loss == Loss::Sectors && random() % 2 == 0))
             break;
         if (name.created)
