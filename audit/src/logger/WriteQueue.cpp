@@ -3,7 +3,6 @@
 #include <QLoggingCategory>
 
 #include <algorithm>
-#include <ranges>
 
 namespace ozm::audit {
 
@@ -94,7 +93,8 @@ qint64 WriteQueue::numberOf(qint64 ticket) const
 qint64 WriteQueue::numberLocked(qint64 ticket) const
 {
     // The last run first: parents are mostly recent.
-    for (const Run &run : std::ranges::reverse_view(m_runs)) {
+    for (qsizetype i = m_runs.size(); i-- > 0;) {
+        const Run &run = m_runs.at(i);
         if (ticket >= run.ticket && ticket < run.ticket + run.count)
             return run.number + ticket - run.ticket;
     }

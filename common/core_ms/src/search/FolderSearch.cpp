@@ -11,7 +11,6 @@
 #include <platform/Errors.h>
 
 #include <algorithm>
-#include <ranges>
 
 using namespace Qt::StringLiterals;
 
@@ -209,7 +208,8 @@ void FolderSearch::queueEntries(const Item &folder, QList<Entry> entries)
     }
     const bool isReal = folder.path == folder.realPath;
     // The stack gives the last one first.
-    for (const Entry &entry : std::as_const(entries) | std::views::reverse) {
+    for (qsizetype i = entries.size(); i-- > 0;) {
+        const Entry &entry = entries.at(i);
         if (entry.isLink)
             continue;
         const QString path = childOf(folder.path, entry.name);
