@@ -86,7 +86,7 @@ QString meantFolder(const QString &typed)
 {
     if (QFileInfo(typed).isDir())
         return typed;
-    const QString path = typed.trimmed();
+    QString path = typed.trimmed();
     if (path == "~"_L1 || path.startsWith("~/"_L1))
         return QDir::homePath() + path.sliced(1);
     return path;
