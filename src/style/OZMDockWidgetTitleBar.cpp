@@ -50,7 +50,7 @@ class OZMDockWidgetTitleBar::Private
 public:
     Private(OZMDockWidgetTitleBar *owner, QDockWidget *ownDock)
         : qptr(owner)
-        , dock(ownDock)
+        , guard(ownDock)
         , layout(new QBoxLayout(QBoxLayout::LeftToRight, owner))
         , floating(addButton(u"floatButton"_s))
         , closing(addButton(u"closeButton"_s))
@@ -72,24 +72,27 @@ public:
         return button;
     }
 
-    [[nodiscard]] QString title() const { return dock ? titleOf(*dock) : QString(); }
+    /// Null also for a dock that is being destroyed, and is only a widget by then.
+    [[nodiscard]] QDockWidget *dock() const { return qobject_cast<QDockWidget *>(guard.data()); }
+
+    [[nodiscard]] QString title() const { return dock() ? titleOf(*dock()) : QString(); }
 
     [[nodiscard]] bool isVertical() const
     {
-        return dock && dock->features().testFlag(QDockWidget::DockWidgetVerticalTitleBar);
+        return dock() && dock()->features().testFlag(QDockWidget::DockWidgetVerticalTitleBar);
     }
 
     void follow() const
     {
-        if (!dock)
+        if (!dock())
             return;
-        const QDockWidget::DockWidgetFeatures features = dock->features();
+        const QDockWidget::DockWidgetFeatures features = dock()->features();
         layout->setDirection(isVertical() ? QBoxLayout::BottomToTop : QBoxLayout::LeftToRight);
         layout->setContentsMargins(isVertical() ? QMargins(2, kMargin, 2, kMargin)
                                                 : QMargins(kMargin, 2, kMargin, 2));
         floating->setVisible(features.testFlag(QDockWidget::DockWidgetFloatable));
         closing->setVisible(features.testFlag(QDockWidget::DockWidgetClosable));
-        floating->setIcon(OZMStyle::icon(dock->isFloating() ? u"window-dock"_s : u"window-float"_s));
+        floating->setIcon(OZMStyle::icon(dock()->isFloating() ? u"window-dock"_s : u"window-float"_s));
         nameButtons();
         qptr->updateGeometry();
         qptr->update();
@@ -97,13 +100,13 @@ public:
 
     void nameButtons() const
     {
-        if (!dock)
+        if (!dock())
             return;
         const QString title = this->title();
         qptr->setAccessibleName(title);
         closing->setToolTip(OZMDockWidgetTitleBar::tr("Close"));
         closing->setAccessibleName(OZMDockWidgetTitleBar::tr("Close %1").arg(title));
-        const bool isFloating = dock->isFloating();
+        const bool isFloating = dock()->isFloating();
         floating->setToolTip(isFloating ? OZMDockWidgetTitleBar::tr("Dock")
                                         : OZMDockWidgetTitleBar::tr("Float"));
         floating->setAccessibleName(
@@ -136,7 +139,7 @@ public:
 
     OZMDockWidgetTitleBar *const qptr;
     /// A bar that was given another parent may outlive its dock.
-    const QPointer<QDockWidget> dock;
+    const QPointer<QObject> guard;
     QBoxLayout *const layout;
     QToolButton *const floating;
     QToolButton *const closing;
@@ -203,7 +206,7 @@ void OZMDockWidgetTitleBar::changeEvent(QEvent *event)
 
 bool OZMDockWidgetTitleBar::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == d->dock && event->type() == QEvent::ModifiedChange)
+    if (event->type() == QEvent::ModifiedChange && watched == d->dock())
         d->follow();
     return QWidget::eventFilter(watched, event);
 }

@@ -14,9 +14,11 @@ void openDeskOfApplication()
 {
     BoxDesk::instance().open();
     const auto close = [] { BoxDesk::instance().close(); };
-    QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, close);
+    // Not qApp, which may stand for a kind of application that this one is not.
+    QCoreApplication *application = QCoreApplication::instance();
+    QObject::connect(application, &QCoreApplication::aboutToQuit, application, close);
     // An application may end without ever having run its loop.
-    QObject::connect(qApp, &QObject::destroyed, close);
+    QObject::connect(application, &QObject::destroyed, close);
 }
 
 Q_COREAPP_STARTUP_FUNCTION(openDeskOfApplication)
