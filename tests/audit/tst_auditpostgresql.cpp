@@ -36,8 +36,7 @@ class TestAuditPostgresql : public StrictTest
 private Q_SLOTS:
     void initTestCase()
     {
-        if (Stores::server().isEmpty())
-            QSKIP("no server: run with tests/audit/with_postgresql");
+        QVERIFY2(!Stores::server().isEmpty(), "there is no server: run with tests/audit/with_postgresql");
         auto store = Store::open(addressFor(u"lab"_s));
         VERIFY_RESULT(store);
         VERIFY_RESULT(store.value()->append(drafts(1, 5)));

@@ -132,11 +132,10 @@ QString kindText(const QSet<VendorDataFormat> &named, EntryKind kind)
     return text.arg(descriptionsOf(named));
 }
 
-QString noEntryText(const QString &path, Obstacle obstacle)
+/// The obstacles that are told in the same way for every kind of entry; null for the others.
+QString obstacleText(Obstacle obstacle)
 {
     switch (obstacle) {
-    case Obstacle::Closed:
-        return Text::tr("A folder above it does not allow access.");
     case Obstacle::TooLong:
         return Text::tr("The path is too long for this system.");
     case Obstacle::LinkLoop:
@@ -145,12 +144,23 @@ QString noEntryText(const QString &path, Obstacle obstacle)
         return nameReason();
     case Obstacle::TooManyOpen:
         return Text::tr("Too many files are open. Close some windows and try again.");
-    case Obstacle::NotAnswering:
-        return Text::tr("The disk or the share does not answer.");
     case Obstacle::None:
     case Obstacle::Missing:
+    case Obstacle::Closed:
+    case Obstacle::NotAnswering:
         break;
     }
+    return {};
+}
+
+QString noEntryText(const QString &path, Obstacle obstacle)
+{
+    if (const QString text = obstacleText(obstacle); !text.isNull())
+        return text;
+    if (obstacle == Obstacle::Closed)
+        return Text::tr("A folder above it does not allow access.");
+    if (obstacle == Obstacle::NotAnswering)
+        return Text::tr("The disk or the share does not answer.");
     return QFileInfo(path).isSymLink() ? Text::tr("The link leads to nothing.")
                                        : Text::tr("There is no such file or folder.");
 }
@@ -173,23 +183,12 @@ QString refusalReason(const QString &path, const disk::DiskEntry &entry)
 
 QString folderReason(Obstacle obstacle)
 {
-    switch (obstacle) {
-    case Obstacle::Missing:
+    if (const QString text = obstacleText(obstacle); !text.isNull())
+        return text;
+    if (obstacle == Obstacle::Missing)
         return Text::tr("The folder is no longer there.");
-    case Obstacle::Closed:
+    if (obstacle == Obstacle::Closed)
         return Text::tr("The folder cannot be read. Access is not allowed.");
-    case Obstacle::TooLong:
-        return Text::tr("The path is too long for this system.");
-    case Obstacle::LinkLoop:
-        return Text::tr("The link leads back to itself.");
-    case Obstacle::NotText:
-        return nameReason();
-    case Obstacle::TooManyOpen:
-        return Text::tr("Too many files are open. Close some windows and try again.");
-    case Obstacle::None:
-    case Obstacle::NotAnswering:
-        break;
-    }
     return Text::tr("The folder cannot be read. The disk or the share does not answer.");
 }
 
