@@ -155,7 +155,7 @@ QString obstacleText(Obstacle obstacle)
 
 QString noEntryText(const QString &path, Obstacle obstacle)
 {
-    if (const QString text = obstacleText(obstacle); !text.isNull())
+    if (QString text = obstacleText(obstacle); !text.isNull())
         return text;
     if (obstacle == Obstacle::Closed)
         return Text::tr("A folder above it does not allow access.");
@@ -183,7 +183,7 @@ QString refusalReason(const QString &path, const disk::DiskEntry &entry)
 
 QString folderReason(Obstacle obstacle)
 {
-    if (const QString text = obstacleText(obstacle); !text.isNull())
+    if (QString text = obstacleText(obstacle); !text.isNull())
         return text;
     if (obstacle == Obstacle::Missing)
         return Text::tr("The folder is no longer there.");
