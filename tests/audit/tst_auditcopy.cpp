@@ -38,6 +38,23 @@ class TestAuditCopy : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void leavesNothingOfACancelledCopy()
+    {
+        const Stores stores;
+        auto store = Store::open(stores.path());
+        VERIFY_RESULT(store.value()->append(drafts(1, 20)));
+        // Cancelled while it reads, and while it writes.
+        for (const qint64 until : {5, 30}) {
+            CopyOptions options;
+            options.progress = [until](qint64 done, qint64) { return done < until; };
+            QVERIFY(writeInspectionCopy(*store.value(), stores.file(u"copy"_s), options).hasError());
+            QVERIFY(!QFileInfo::exists(stores.file(u"copy"_s)));
+        }
+        QCOMPARE(store.value()->entry(24).value().kind, Kind::Export);
+        QVERIFY(store.value()->entry(24).value().outcomeCode != 0);
+        QVERIFY(store.value()->verify({}, nullptr, [](qint64, qint64) { return false; }).hasError());
+    }
+
     void copiesAllOrAPart_data()
     {
         QTest::addColumn<bool>("whole");

@@ -109,6 +109,12 @@ private Q_SLOTS:
                     found += numbers(page.value());
                     query.after = found.constLast();
                 }
+                query.after = 0;
+                query.pageSize = kCount;
+                const auto alone = store.value()->findNumbers(query);
+                VERIFY_RESULT(alone);
+                QCOMPARE(alone.value(), found);
+                query.pageSize = 7;
                 if (order == Query::Order::NewestFirst)
                     std::reverse(found.begin(), found.end());
                 QCOMPARE(found, expected);
@@ -116,6 +122,8 @@ private Q_SLOTS:
         };
         check({}, [](int) { return true; });
         check({.user = u"mroe"_s}, [](int i) { return i % 2 == 1; });
+        check({.user = u"mroe"_s, .firstNumber = 250, .lastNumber = 280},
+              [](int i) { return i % 2 == 1 && i >= 250 && i <= 280; });
         check({.kinds = {Kind::Event, Kind::Review}}, [](int i) { return i % 5 == 0; });
         check({.fromMs = draft(10).timeMs, .untilMs = draft(295).timeMs},
               [](int i) { return i >= 10 && i < 295; });

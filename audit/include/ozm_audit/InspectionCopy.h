@@ -13,6 +13,7 @@ struct CopyOptions
     QString reason = {};
     const SigningKey *key = nullptr; ///< Signs the checkpoint of the copy.
     bool archived = false;           ///< Records the copy as an archive instead of an export.
+    Progress progress = {};          ///< Told of entries read and written; false cancels.
     QString verifier = {};           ///< The verifier in Python, copied along when it is there.
 };
 
@@ -26,7 +27,8 @@ struct CopyOptions
  *     checkpoints/      those kept in the store, and the one of this copy
  *     trail.csv, trail.pdf, README.txt, key.pub, key.pem, ozm_audit_verify.py
  *
- * The copy is itself an entry, made before it, and in it. FileAccess when @p folder is there already or
+ * The copy is itself an entry, made before it, and in it. A copy that fails or is cancelled is removed, and a
+ * further entry says so. Runs on any thread; the store is free for others most of the time. FileAccess when @p folder is there already or
  * cannot be written. Needs a QGuiApplication for the PDF, and leaves it out without one.
  */
 [[nodiscard]] OZM_AUDIT_EXPORT Error writeInspectionCopy(Store &store, const QString &folder,

@@ -43,6 +43,8 @@ struct Query
     QString attribute = {};
     Outcome outcome = Outcome::Any;
     QString text = {}; ///< Anywhere in the entry, upper and lower case alike.
+    qint64 firstNumber = 0;
+    qint64 lastNumber = 0; ///< Inclusive; 0 for no end.
 
     Order order = Order::OldestFirst;
     qint64 after = 0; ///< The number at which the last page ended, in the given order; 0 for the first page.

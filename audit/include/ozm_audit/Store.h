@@ -9,10 +9,12 @@
 
 #include <QDeadlineTimer>
 #include <QList>
+#include <QRecursiveMutex>
 #include <QString>
 
 #include <functional>
 #include <memory>
+#include <mutex>
 
 namespace ozm::audit {
 
@@ -70,6 +72,8 @@ public:
 
     /// One page of entries.
     [[nodiscard]] Result<QList<Entry>> find(const Query &query) const;
+    /// The numbers of one page of entries, which take much less time and room.
+    [[nodiscard]] Result<QList<qint64>> findNumbers(const Query &query) const;
     /// BadParameter when there is no such entry.
     [[nodiscard]] Result<Entry> entry(qint64 number) const;
     /// Shows each entry from @p first to @p last in order, until @p show returns false.
@@ -89,10 +93,12 @@ public:
      * Checks every entry, what is beside them, and all of it against @p outside, the checkpoints from outside
      * the store. With @p key, those that it did not sign are findings.
      *
-     * An error says that the store could not be read. Entries appended meanwhile are not looked at.
+     * An error says that the store could not be read, or that @p progress ended the work. Entries appended
+     * meanwhile are not looked at; other threads use the store between pages.
      */
     [[nodiscard]] Result<Verification> verify(const QList<Checkpoint> &outside = {},
-                                              const PublicKey *key = nullptr) const;
+                                              const PublicKey *key = nullptr,
+                                              const Progress &progress = {}) const;
     /// Records the findings of @p verification with @p draft, which says who and why, so that the trail goes
     /// on from what is there. Nothing is repaired. Returns the number of the entry.
     [[nodiscard]] Result<qint64> reAnchor(const Verification &verification, const Draft &draft);
@@ -114,6 +120,8 @@ public:
 
     /// For the parts of this library.
     [[nodiscard]] StoreBackend &backend() const;
+    /// Keeps other threads from the store while the back end is used.
+    [[nodiscard]] std::unique_lock<QRecursiveMutex> locked() const;
 
 private:
     class Private;

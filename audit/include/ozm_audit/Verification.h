@@ -5,6 +5,8 @@
 #include <QList>
 #include <QString>
 
+#include <functional>
+
 namespace ozm::audit {
 
 /// How a trail can be damaged. Texts by damageToString() are stored with re-anchors and never change.
@@ -31,6 +33,9 @@ struct Finding
     Checkpoint checkpoint;     ///< The one that shows it, if one does.
     qint64 acknowledgedBy = 0; ///< Number of the re-anchor that records it, or 0.
 };
+
+/// Told how far long work is, on the thread that does it; false ends the work with an error.
+using Progress = std::function<bool(qint64 done, qint64 total)>;
 
 struct Range
 {

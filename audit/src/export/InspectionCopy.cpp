@@ -13,7 +13,15 @@ using namespace Qt::StringLiterals;
 
 namespace ozm::audit {
 
+Error copyCancelled()
+{
+    return Error(ErrorCode::Failed, Texts::tr("The copy was cancelled.")).ecatch(OZM_HERE);
+}
+
 namespace {
+
+// Reading counts as half of the work, writing as the other.
+constexpr qint64 kHalves = 2;
 
 bool isWhole(const Query &query)
 {
@@ -48,12 +56,14 @@ Result<QList<Entry>> entriesOf(const Store &store, const CopyOptions &options, q
 {
     QList<Entry> entries;
     if (isWhole(options.query)) {
-        Error error = store.forEach(1, last, [&entries](const Entry &entry) {
+        bool cancelled = false;
+        Error error = store.forEach(1, last, [&](const Entry &entry) {
             entries.append(entry);
-            return true;
+            cancelled = options.progress && !options.progress(entry.number, last * kHalves);
+            return !cancelled;
         });
-        if (error.hasError())
-            return error;
+        if (error.hasError() || cancelled)
+            return cancelled ? copyCancelled() : error;
         return entries;
     }
     Query query = options.query;
@@ -66,6 +76,8 @@ Result<QList<Entry>> entriesOf(const Store &store, const CopyOptions &options, q
             return entries;
         entries += page.value();
         query.after = entries.constLast().number;
+        if (options.progress && !options.progress(qMin(last, query.after), last * kHalves))
+            return copyCancelled();
     }
 }
 
@@ -81,7 +93,7 @@ Error writeEntries(const QDir &folder, const QList<Entry> &entries)
 }
 
 Error writeProofs(const QDir &folder, const Store &store, const QList<Entry> &entries,
-                  const Checkpoint &checkpoint)
+                  const Checkpoint &checkpoint, const Progress &progress)
 {
     if (!folder.mkdir(u"proofs"_s))
         return Error(ErrorCode::FileAccess, Texts::tr("The folder for proofs cannot be made."))
@@ -93,6 +105,8 @@ Error writeProofs(const QDir &folder, const Store &store, const QList<Entry> &en
         const QString name = u"proofs/%1.tlog-proof"_s.arg(entry.number, 12, 10, '0'_L1);
         if (Error error = writeCopyFile(folder, name, proof.value().toText()); error.hasError())
             return error;
+        if (progress && !progress(entry.number, checkpoint.size))
+            return copyCancelled();
     }
     return {};
 }
@@ -130,11 +144,14 @@ Error writeFiles(const QDir &folder, const Store &store, const QList<Entry> &ent
                               .arg(entries.size())
                               .arg(checkpoint.size)
                               .arg(options.user.id, QDateTime::currentDateTime().toString(Qt::ISODate));
+    const Progress progress = [&options](qint64 done, qint64 total) {
+        return !options.progress || options.progress(total + done, total * kHalves);
+    };
     const auto steps = {
         std::function([&] { return writeEntries(folder, entries); }),
         std::function([&] {
-            return whole ? copyToSqlite(store, folder.filePath(u"trail.sqlite"_s), checkpoint.size)
-                         : writeProofs(folder, store, entries, checkpoint);
+            return whole ? copyToSqlite(store, folder.filePath(u"trail.sqlite"_s), checkpoint.size, progress)
+                         : writeProofs(folder, store, entries, checkpoint, progress);
         }),
         std::function([&] { return writeCheckpoints(folder, store, checkpoint, options.key); }),
         std::function([&] { return writeCopyCsv(folder, entries); }),
@@ -149,6 +166,17 @@ Error writeFiles(const QDir &folder, const Store &store, const QList<Entry> &ent
             return error;
     }
     return {};
+}
+
+Error writeCopy(Store &store, const QDir &target, const CopyOptions &options)
+{
+    const auto checkpoint = store.makeCheckpoint(options.key);
+    if (!checkpoint)
+        return checkpoint.error();
+    const auto entries = entriesOf(store, options, checkpoint.value().size);
+    if (!entries)
+        return entries.error();
+    return writeFiles(target, store, entries.value(), checkpoint.value(), options);
 }
 
 } // namespace
@@ -168,13 +196,14 @@ Error writeInspectionCopy(Store &store, const QString &folder, const CopyOptions
     draft.record = recordOf(options, folder);
     if (const auto number = store.append({draft}); !number)
         return number.error();
-    const auto checkpoint = store.makeCheckpoint(options.key);
-    if (!checkpoint)
-        return checkpoint.error();
-    const auto entries = entriesOf(store, options, checkpoint.value().size);
-    if (!entries)
-        return entries.error();
-    return writeFiles(target, store, entries.value(), checkpoint.value(), options);
+    Error error = writeCopy(store, target, options);
+    if (!error.hasError())
+        return {};
+    QDir(folder).removeRecursively();
+    draft.outcomeCode = int(error.errorCode());
+    draft.outcomeText = error.errorMessage();
+    (void)store.append({draft});
+    return error;
 }
 
 } // namespace ozm::audit

@@ -38,6 +38,7 @@ public:
     [[nodiscard]] Error rows(qint64 first, qint64 last,
                              const std::function<bool(const StoredRow &)> &show) override;
     [[nodiscard]] Result<QList<Entry>> find(const Query &query) override;
+    [[nodiscard]] Result<QList<qint64>> findNumbers(const Query &query) override;
     [[nodiscard]] Result<std::vector<Hash>> hashes(int level, qint64 first, qint64 count) override;
     [[nodiscard]] Result<qint64> lastRow() override;
     Error keepCheckpoint(const Checkpoint &checkpoint) override;
@@ -205,6 +206,30 @@ Error SqliteBackend::findIndexed(const Query &query, qint64 indexed, QList<Entry
             page.append(std::move(entry).value());
     }
     return select.error();
+}
+
+Result<QList<qint64>> SqliteBackend::findNumbers(const Query &query)
+{
+    const auto head = this->head();
+    if (!head)
+        return head.error();
+    const qint64 indexed = head.value().indexed;
+    const bool reachesNewest = query.lastNumber == 0 || query.lastNumber > indexed;
+    if (query.order == Query::Order::NewestFirst || reachesNewest)
+        return StoreBackend::findNumbers(query);
+    // Without a text to be searched for, the bytes need not be read at all.
+    const QueryClauses clauses(query, "CAST(e.bytes AS TEXT) LIKE ? ESCAPE '\\'");
+    const QByteArray sql = QByteArray("SELECT i.number FROM entry_index i ") +
+                           (query.text.isEmpty() ? "" : "JOIN entry e ON e.number = i.number ") +
+                           "WHERE i.number > ?" + clauses.condition + " ORDER BY i.number LIMIT ?";
+    Statement select(*m_database, sql.constData());
+    select.bindAll(QVariantList{query.after} + clauses.values + QVariantList{qint64(query.pageSize)});
+    QList<qint64> numbers;
+    while (select.step())
+        numbers.append(select.number(0));
+    if (select.error().hasError())
+        return select.error();
+    return numbers;
 }
 
 Result<std::vector<Hash>> SqliteBackend::hashes(int level, qint64 first, qint64 count)

@@ -16,6 +16,9 @@ namespace ozm::audit {
 [[nodiscard]] Result<std::unique_ptr<StoreBackend>> openSqlite(const Address &address, Store::Mode mode);
 
 /// Writes the entries of @p store up to @p last to a new file at @p path, which opens as a store.
-[[nodiscard]] Error copyToSqlite(const Store &store, const QString &path, qint64 last);
+[[nodiscard]] Error copyToSqlite(const Store &store, const QString &path, qint64 last,
+                                 const Progress &progress = {});
+/// The error of a copy that its progress ended.
+[[nodiscard]] Error copyCancelled();
 
 } // namespace ozm::audit

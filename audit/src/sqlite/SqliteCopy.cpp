@@ -9,14 +9,17 @@ namespace ozm::audit {
 
 namespace {
 
+// As many as other threads wait for.
+constexpr qint64 kPage = 1000;
+
 /// Bytes, hashes and head; the rest follows from them.
-Error copyRows(StoreBackend &from, Database &to, qint64 last)
+Error copyRows(const Store &from, Database &to, qint64 last, const Progress &progress)
 {
     Frontier frontier;
     Statement insert(to, "INSERT INTO entry VALUES (?, ?, ?)");
     Statement insertDisposed(to, "INSERT INTO entry(number, hash) VALUES (?, ?)");
     Error failed;
-    Error error = from.rows(1, last, [&](const StoredRow &row) {
+    const auto copyRow = [&](const StoredRow &row) {
         std::vector<Subtree> completed;
         frontier.append(toHash(row.hash).value_or(Hash()), &completed);
         Statement &statement = row.bytes.isEmpty() ? insertDisposed : insert;
@@ -27,17 +30,23 @@ Error copyRows(StoreBackend &from, Database &to, qint64 last)
         if (!failed.hasError())
             failed = keepSubtrees(to, completed);
         return !failed.hasError();
-    });
-    if (error.hasError() || failed.hasError())
-        return error.hasError() ? error : failed;
-    if (error = indexEntries(to, 1, last); error.hasError())
+    };
+    for (qint64 first = 1; first <= last; first += kPage) {
+        const qint64 end = qMin(last, first + kPage - 1);
+        const auto lock = from.locked();
+        if (Error error = from.backend().rows(first, end, copyRow); error.hasError() || failed.hasError())
+            return error.hasError() ? error : failed;
+        if (progress && !progress(end, last))
+            return copyCancelled();
+    }
+    if (Error error = indexEntries(to, 1, last); error.hasError())
         return error;
     const QByteArray edge = frontier.toBytes();
     Statement head(to, "UPDATE head SET size = ?, frontier = ?, indexed = ?");
     return head.bind(1, frontier.size()).bindBlob(2, edge).bind(3, frontier.size()).run();
 }
 
-Error copyCheckpoints(StoreBackend &from, Database &to)
+Error copyCheckpoints(const Store &from, Database &to)
 {
     const auto kept = from.keptCheckpoints();
     if (!kept)
@@ -52,7 +61,7 @@ Error copyCheckpoints(StoreBackend &from, Database &to)
 
 } // namespace
 
-Error copyToSqlite(const Store &store, const QString &path, qint64 last)
+Error copyToSqlite(const Store &store, const QString &path, qint64 last, const Progress &progress)
 {
     auto database = Database::open(path, Database::Access::Create, 0);
     if (!database)
@@ -60,8 +69,8 @@ Error copyToSqlite(const Store &store, const QString &path, qint64 last)
     return database.value()->transact([&] {
         Error error = createStore(*database.value(), store.trail().toUtf8());
         if (!error.hasError())
-            error = copyRows(store.backend(), *database.value(), last);
-        return error.hasError() ? error : copyCheckpoints(store.backend(), *database.value());
+            error = copyRows(store, *database.value(), last, progress);
+        return error.hasError() ? error : copyCheckpoints(store, *database.value());
     });
 }
 

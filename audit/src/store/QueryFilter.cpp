@@ -43,7 +43,9 @@ bool QueryFilter::accepts(const EntryMembers &members, const QByteArray &bytes) 
 {
     const IndexRow row = IndexRow::of(members);
     const bool failed = row.outcome != 0;
-    return (m_user.isEmpty() || row.user == m_user) && (m_kinds.isEmpty() || m_kinds.contains(row.kind)) &&
+    return members.number >= m_query.firstNumber &&
+           (m_query.lastNumber == 0 || members.number <= m_query.lastNumber) &&
+           (m_user.isEmpty() || row.user == m_user) && (m_kinds.isEmpty() || m_kinds.contains(row.kind)) &&
            row.timeMs >= m_query.fromMs && (m_query.untilMs == 0 || row.timeMs < m_query.untilMs) &&
            (m_subject.isEmpty() ||
             (m_query.subjectKey.isEmpty() ? row.subject.startsWith(m_subject) : row.subject == m_subject)) &&
@@ -67,6 +69,10 @@ QueryClauses::QueryClauses(const Query &query, const QByteArray &text)
         condition += " AND " + clause;
         values += bound;
     };
+    if (query.firstNumber > 1)
+        add("i.number >= ?", {query.firstNumber});
+    if (query.lastNumber != 0)
+        add("i.number <= ?", {query.lastNumber});
     if (!query.user.isEmpty())
         add("i.\"user\" = ?", {query.user});
     if (!query.kinds.isEmpty()) {

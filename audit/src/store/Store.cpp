@@ -143,6 +143,11 @@ StoreBackend &Store::backend() const
     return *d->backend;
 }
 
+std::unique_lock<QRecursiveMutex> Store::locked() const
+{
+    return std::unique_lock(d->mutex);
+}
+
 Result<qint64> Store::size() const
 {
     const QMutexLocker lock(&d->mutex);
@@ -169,6 +174,12 @@ Result<QList<Entry>> Store::find(const Query &query) const
 {
     const QMutexLocker lock(&d->mutex);
     return d->backend->find(query);
+}
+
+Result<QList<qint64>> Store::findNumbers(const Query &query) const
+{
+    const QMutexLocker lock(&d->mutex);
+    return d->backend->findNumbers(query);
 }
 
 Result<Entry> Store::entry(qint64 number) const
@@ -256,10 +267,16 @@ Result<QList<Checkpoint>> Store::keptCheckpoints() const
     return d->backend->keptCheckpoints();
 }
 
-Result<Verification> Store::verify(const QList<Checkpoint> &outside, const PublicKey *key) const
+Result<Verification> Store::verify(const QList<Checkpoint> &outside, const PublicKey *key,
+                                   const Progress &progress) const
 {
-    const QMutexLocker lock(&d->mutex);
-    return Verifier(*d->backend, outside, key).run();
+    auto lock = locked();
+    return Verifier(*d->backend, outside, key).run([&lock, &progress](qint64 done, qint64 total) {
+        lock.unlock();
+        const bool goOn = !progress || progress(done, total);
+        lock.lock();
+        return goOn;
+    });
 }
 
 Result<qint64> Store::reAnchor(const Verification &verification, const Draft &draft)

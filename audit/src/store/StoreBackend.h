@@ -79,6 +79,17 @@ public:
     [[nodiscard]] virtual Error rows(qint64 first, qint64 last,
                                      const std::function<bool(const StoredRow &)> &show) = 0;
     [[nodiscard]] virtual Result<QList<Entry>> find(const Query &query) = 0;
+    /// The numbers of what find() gives, for less.
+    [[nodiscard]] virtual Result<QList<qint64>> findNumbers(const Query &query)
+    {
+        const auto page = find(query);
+        if (!page)
+            return page.error();
+        QList<qint64> numbers;
+        for (const Entry &entry : page.value())
+            numbers.append(entry.number);
+        return numbers;
+    }
     /// Kept hashes of a level, 0 for leaves; those that exist from a position on.
     [[nodiscard]] virtual Result<std::vector<Hash>> hashes(int level, qint64 first, qint64 count) = 0;
     /// Number of the last row, whatever the head says.

@@ -62,7 +62,7 @@ Verifier::Verifier(StoreBackend &backend, const QList<Checkpoint> &outside, cons
     m_result.trail = backend.trail();
 }
 
-Result<Verification> Verifier::run()
+Result<Verification> Verifier::run(const Progress &between)
 {
     takeAnchors(m_outside, true);
     const auto kept = m_backend.keptCheckpoints();
@@ -74,7 +74,9 @@ Result<Verification> Verifier::run()
     if (Error error = readHead(); error.hasError())
         return error;
     atSize();
-    if (Error error = readRows(); error.hasError())
+    if (Error error = readRows(between); error.hasError())
+        return error;
+    if (Error error = readLaterDisposals(); error.hasError())
         return error;
     judgeEnd();
     judgeAnchors();
@@ -122,7 +124,7 @@ Error Verifier::readHead()
     return {};
 }
 
-Error Verifier::readRows()
+Error Verifier::readRows(const Progress &between)
 {
     for (qint64 first = 1; first <= m_end; first += kPage) {
         const qint64 before = m_next;
@@ -135,8 +137,24 @@ Error Verifier::readRows()
         // A head that is damaged can claim any number.
         if (m_next == before && first > m_lastRow)
             break;
+        if (!between(qMin(m_end, first + kPage - 1), m_end))
+            return Error(ErrorCode::Failed, Texts::tr("The verification was cancelled.")).ecatch(OZM_HERE);
     }
     return {};
+}
+
+/// Bytes may have gone while the rows were read; the entries that say so are then later ones.
+Error Verifier::readLaterDisposals()
+{
+    const auto last = m_backend.lastRow();
+    if (!last || last.value() <= m_end)
+        return last ? Error() : last.error();
+    return m_backend.rows(m_end + 1, last.value(), [this](const StoredRow &row) {
+        EntryMembers members;
+        if (members.read(row.bytes) && members.kind != "re-anchor")
+            takeRecord(row, members);
+        return true;
+    });
 }
 
 void Verifier::checkRow(const StoredRow &row)

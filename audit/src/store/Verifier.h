@@ -23,7 +23,8 @@ class Verifier
 public:
     Verifier(StoreBackend &backend, const QList<Checkpoint> &outside, const PublicKey *key);
 
-    [[nodiscard]] Result<Verification> run();
+    /// Calls @p between after each page; what stands before the end of the trail may change during the call.
+    [[nodiscard]] Result<Verification> run(const Progress &between);
 
 private:
     struct Anchor
@@ -35,7 +36,8 @@ private:
 
     void takeAnchors(const QList<Checkpoint> &checkpoints, bool outside);
     [[nodiscard]] Error readHead();
-    [[nodiscard]] Error readRows();
+    [[nodiscard]] Error readRows(const Progress &between);
+    [[nodiscard]] Error readLaterDisposals();
     void checkRow(const StoredRow &row);
     [[nodiscard]] std::optional<Damage> checkBytes(const StoredRow &row, const EntryMembers &members,
                                                    const Hash &computed, bool isEntry);
