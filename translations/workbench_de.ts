@@ -9,20 +9,6 @@
     </message>
 </context>
 <context>
-    <name>AuditDatabase</name>
-    <message>
-        <source>the file was replaced while it was in use</source>
-        <translation>die Datei wurde ersetzt, während sie in Gebrauch war</translation>
-    </message>
-</context>
-<context>
-    <name>AuditLogger</name>
-    <message>
-        <source>The step was recorded, but not carried out.</source>
-        <translation>Der Schritt wurde aufgezeichnet, aber nicht ausgeführt.</translation>
-    </message>
-</context>
-<context>
     <name>AuditTrailCsv</name>
     <message>
         <source>&quot;%1&quot; cannot be written.</source>
@@ -127,30 +113,10 @@
     </message>
 </context>
 <context>
-    <name>SqlConnection</name>
+    <name>TrailStore</name>
     <message>
-        <source>The audit trail &quot;%1&quot; is locked by another program. Nothing was changed. Wait a moment or close the other program, then try again.</source>
-        <translation>Der Audit-Trail „%1“ ist von einem anderen Programm gesperrt. Nichts wurde geändert. Warten Sie einen Moment oder schließen Sie das andere Programm und versuchen Sie es erneut.</translation>
-    </message>
-    <message>
-        <source>The audit trail &quot;%1&quot; is read-only, so nothing can be recorded. Nothing was changed. Make the file and its folder writable, or start with another audit trail.</source>
-        <translation>Der Audit-Trail „%1“ ist schreibgeschützt, sodass nichts aufgezeichnet werden kann. Nichts wurde geändert. Machen Sie die Datei und ihren Ordner schreibbar oder beginnen Sie mit einem anderen Audit-Trail.</translation>
-    </message>
-    <message>
-        <source>The disk that holds the audit trail &quot;%1&quot; is full. Nothing was changed. Make room on the disk, then try again.</source>
-        <translation>Der Datenträger mit dem Audit-Trail „%1“ ist voll. Nichts wurde geändert. Schaffen Sie Platz und versuchen Sie es erneut.</translation>
-    </message>
-    <message>
-        <source>The audit trail &quot;%1&quot; cannot be opened. Nothing was changed. Check that its folder exists and that you may write there.</source>
-        <translation>Der Audit-Trail „%1“ kann nicht geöffnet werden. Nichts wurde geändert. Prüfen Sie, ob sein Ordner vorhanden ist und Sie dort schreiben dürfen.</translation>
-    </message>
-    <message>
-        <source>The audit trail &quot;%1&quot; cannot be used. Nothing was changed. Check the disk that it is on.</source>
-        <translation>Der Audit-Trail „%1“ kann nicht verwendet werden. Nichts wurde geändert. Prüfen Sie den Datenträger, auf dem er liegt.</translation>
-    </message>
-    <message>
-        <source>The audit trail &quot;%1&quot; is damaged or is not an audit trail. Nothing was changed. Keep the file as it is and restore a copy, or start with another audit trail.</source>
-        <translation>Das Audit-Protokoll „%1“ ist beschädigt oder kein Audit-Protokoll. Nichts wurde geändert. Behalten Sie die Datei, wie sie ist, und stellen Sie eine Kopie wieder her, oder beginnen Sie mit einem anderen Audit-Protokoll.</translation>
+        <source>&quot;%1&quot; cannot be written.</source>
+        <translation>„%1“ kann nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>
@@ -162,10 +128,6 @@
     <message>
         <source>Folder for a batch run&apos;s results.</source>
         <translation>Ordner für die Ergebnisse eines Stapellaufs.</translation>
-    </message>
-    <message>
-        <source>File that holds the audit trail.</source>
-        <translation>Datei mit dem Audit-Trail.</translation>
     </message>
     <message>
         <source>Name to record; by default that of the login.</source>
@@ -190,6 +152,10 @@
     <message>
         <source>CSV file of samples to open.</source>
         <translation>CSV-Datei mit Proben, die geöffnet werden soll.</translation>
+    </message>
+    <message>
+        <source>File that holds the audit trail, or its address.</source>
+        <translation>Datei mit dem Audit-Trail, oder seine Adresse.</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,6 @@
 #include "BatchRun.h"
 
-#include "audit/AuditDatabase.h"
+#include "audit/TrailStore.h"
 #include "data/DataSamples.h"
 #include "reports/Report.h"
 #include "samples/SampleEditor.h"
@@ -44,9 +44,9 @@ void tell(const QString &line)
 
 void tellRecord(const AuditEntry &entry)
 {
-    QString line = tr("recorded %1: ").arg(entry.record.sequence) + entry.text;
-    if (entry.record.outcome.hasError())
-        line += tr(" - refused: ") + entry.record.outcome.errorMessage();
+    QString line = tr("recorded %1: ").arg(entry.record.number) + entry.text;
+    if (entry.record.outcomeCode != 0)
+        line += tr(" - refused: ") + entry.record.outcomeText;
     tell(line);
 }
 
@@ -110,12 +110,12 @@ Input inputAt(const QString &path)
 class Run
 {
 public:
-    Run(SampleEditor &editor, const BatchOptions &options)
+    Run(SampleEditor &editor, const BatchOptions &options, const QString &trail)
         : m_editor(editor)
         , m_options(options)
         , m_out(options.outDirectory)
         , m_input(inputAt(options.input))
-        , m_window(editor, options.database)
+        , m_window(editor, trail)
     {
         m_window.setMessagesShown(false);
         m_window.show();
@@ -267,10 +267,10 @@ private:
     MainWindow m_window;
 };
 
-void tellResults(const BatchOptions &options)
+void tellResults(const BatchOptions &options, const QString &trail)
 {
     const QDir out(options.outDirectory);
-    tell(QFileInfo(options.database).absoluteFilePath());
+    tell(trail);
     for (const auto &name :
          {u"audit.json"_s, u"samples.csv"_s, u"report.html"_s, u"report.pdf"_s, u"window.png"_s})
         tell(QFileInfo(out.filePath(name)).absoluteFilePath());
@@ -280,24 +280,21 @@ void tellResults(const BatchOptions &options)
 
 } // namespace
 
-Error runBatch(const BatchOptions &given)
+Error runBatch(const BatchOptions &options)
 {
-    BatchOptions options = given;
-    if (options.database.isEmpty())
-        options.database = QDir(options.outDirectory).filePath(u"audit.sqlite"_s);
     if (Error error = prepareDirectory(options.outDirectory); error.hasError())
         return error;
-    const auto database = AuditDatabase::open(options.database);
-    if (!database)
-        return database.error();
+    const auto store = openTrail(options.database, options.outDirectory, options.user);
+    if (!store)
+        return store.error();
 
-    SampleEditor editor(*database.value(), options.user);
+    SampleEditor editor(*store.value(), options.user);
     if (Error error = editor.start(); error.hasError())
         return error;
     QObject::connect(&editor.trail(), &AuditTrail::recorded, &editor, &tellRecord);
-    if (Error error = Run(editor, options).all(); error.hasError())
+    if (Error error = Run(editor, options, store.value()->place()).all(); error.hasError())
         return error;
-    tellResults(options);
+    tellResults(options, store.value()->place());
     return {};
 }
 

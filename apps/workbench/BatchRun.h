@@ -10,7 +10,7 @@ struct BatchOptions
 {
     QString input;        ///< The CSV file to work on, or a folder to search for data.
     QString outDirectory; ///< Made when it is not there.
-    QString database;     ///< The audit trail; empty means "audit.sqlite" in the directory.
+    QString database;     ///< The audit trail, see openTrail(); by default in the directory.
     QString user;
     int steps = 0; ///< Further edits, so that a run lasts long enough to be interrupted.
 };

@@ -1,6 +1,5 @@
 #include "BatchRun.h"
-#include "audit/AuditDatabase.h"
-#include "audit/AuditLogger.h"
+#include "audit/TrailStore.h"
 #include "samples/SampleEditor.h"
 #include "window/FileQuestions.h"
 #include "window/MainWindow.h"
@@ -40,7 +39,8 @@ struct Options
     QCommandLineOption out{u"out"_s, QCoreApplication::translate("main", "Folder for a batch run's results."),
                            u"folder"_s};
     QCommandLineOption database{
-        u"database"_s, QCoreApplication::translate("main", "File that holds the audit trail."), u"file"_s};
+        u"database"_s,
+        QCoreApplication::translate("main", "File that holds the audit trail, or its address."), u"file"_s};
     QCommandLineOption user{
         u"user"_s, QCoreApplication::translate("main", "Name to record; by default that of the login."),
         u"name"_s};
@@ -88,11 +88,11 @@ int batch(const QCommandLineParser &parser, const Options &options, const QStrin
     return complain((QStringList{error.errorMessage()} + error.warnings()).join(u' '), Failed);
 }
 
-QString defaultDatabase()
+QString dataFolder()
 {
     const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
     folder.mkpath(u"."_s);
-    return folder.filePath(u"audit.sqlite"_s);
+    return folder.path();
 }
 
 /// For a user who may have started the program without a terminal.
@@ -103,18 +103,18 @@ int complainOnScreen(const Error &error)
     return complain(error.errorMessage(), Failed);
 }
 
-int interact(const QString &databasePath, const QString &user, const QString &file)
+int interact(const QString &database, const QString &user, const QString &file)
 {
     // Batch runs speak English, whatever the language: their output is for scripts.
     ozm::OzmCoreApplication::start();
     ozm::OzmCoreApplication::loadTranslation(QLocale(), u"workbench"_s);
-    const auto database = workbench::AuditDatabase::open(databasePath);
-    if (!database)
-        return complainOnScreen(database.error());
-    workbench::SampleEditor editor(*database.value(), user);
+    const auto store = workbench::openTrail(database, dataFolder(), user);
+    if (!store)
+        return complainOnScreen(store.error());
+    workbench::SampleEditor editor(*store.value(), user);
     if (Error error = editor.start(); error.hasError())
         return complainOnScreen(error);
-    workbench::MainWindow window(editor, databasePath);
+    workbench::MainWindow window(editor, store.value()->place());
     window.show();
     if (!file.isEmpty())
         window.open(file);
@@ -151,7 +151,5 @@ int main(int argc, char **argv)
                                                               : parser.value(options.user);
     if (parser.isSet(options.batch))
         return batch(parser, options, user);
-    const QString database =
-        parser.value(options.database).isEmpty() ? defaultDatabase() : parser.value(options.database);
-    return interact(database, user, parser.positionalArguments().value(0));
+    return interact(parser.value(options.database), user, parser.positionalArguments().value(0));
 }

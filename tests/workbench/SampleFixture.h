@@ -1,12 +1,13 @@
 #pragma once
 
-#include "audit/AuditDatabase.h"
+#include "audit/TrailStore.h"
 #include "samples/SampleEditor.h"
 #include "samples/SampleRules.h"
 #include "support/Files.h"
 
 #include <ozm_common_core_mini/ColumnNames.h>
 
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -20,11 +21,11 @@ struct SampleFixture
 {
     SampleFixture()
     {
-        auto opened = workbench::AuditDatabase::open(databasePath());
+        auto opened = workbench::openTrail({}, folder.path(), {});
         if (!opened)
             return;
-        database = std::move(opened).value();
-        editor = std::make_unique<workbench::SampleEditor>(*database, u"jdoe"_s);
+        store = std::move(opened).value();
+        editor = std::make_unique<workbench::SampleEditor>(*store, u"jdoe"_s);
         const bool written = writeFile(csvPath(), "Name,Sequence,Charge,Mass,Comment\n"
                                                   "T1,PEPTIDEK,2,927.4549,\n"
                                                   "T2,FTISR,1,622.3439,short\n"
@@ -32,7 +33,7 @@ struct SampleFixture
         ok = written && !editor->start().hasError() && !editor->load(csvPath()).hasError();
     }
 
-    [[nodiscard]] QString databasePath() const { return folder.filePath(u"audit.sqlite"_s); }
+    [[nodiscard]] QString trailPath() const { return folder.filePath(u"trail.sqlite"_s); }
     [[nodiscard]] QString csvPath() const { return folder.filePath(u"samples.csv"_s); }
 
     [[nodiscard]] qint64 idAt(int index) const
@@ -63,13 +64,22 @@ struct SampleFixture
             texts.append(editor->history().text(i));
         return texts.join(u'|');
     }
-    /// The records on the disk, as another program sees them.
-    [[nodiscard]] QList<workbench::AuditRecord> stored() const
+    /// The records of steps and events, as another program sees them.
+    [[nodiscard]] QList<ozm::audit::Entry> stored() const
     {
-        auto other = workbench::AuditDatabase::open(databasePath());
-        return other ? other.value()->recordsAfter(0).valueOr({}) : QList<workbench::AuditRecord>();
+        using ozm::audit::Kind;
+        const auto other = workbench::openTrail(trailPath(), {}, {});
+        return other ? other.value()
+                           ->find({.kinds = {Kind::Command, Kind::Macro, Kind::Event, Kind::Commit}})
+                           .valueOr({})
+                     : QList<ozm::audit::Entry>();
     }
-    [[nodiscard]] QStringList trailTexts() const { return textsOf(editor->trail().entries(), QString()); }
+    /// All but where a session begins or ends.
+    [[nodiscard]] QStringList trailTexts() const
+    {
+        const QStringList texts = textsOf(editor->trail().entries(), QString());
+        return texts.filter(QRegularExpression(u"^(?!session: )"_s));
+    }
 
     /// Entries one by one, those below others indented, errors after " ! ".
     [[nodiscard]] static QStringList textsOf(const std::vector<workbench::AuditEntry *> &entries,
@@ -80,8 +90,8 @@ struct SampleFixture
             QString text = indent + entry->text;
             if (entry->isUnfinished())
                 text += " (not finished)"_L1;
-            if (entry->record.outcome.hasError())
-                text += " ! "_L1 + entry->record.outcome.errorMessage();
+            if (entry->record.outcomeCode != 0)
+                text += " ! "_L1 + entry->record.outcomeText;
             texts += text;
             texts += textsOf(entry->children, indent + "  "_L1);
         }
@@ -89,7 +99,7 @@ struct SampleFixture
     }
 
     QTemporaryDir folder;
-    std::unique_ptr<workbench::AuditDatabase> database;
+    std::unique_ptr<ozm::audit::Store> store;
     std::unique_ptr<workbench::SampleEditor> editor;
     bool ok = false;
 };

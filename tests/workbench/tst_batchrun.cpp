@@ -19,6 +19,7 @@
 using namespace Qt::StringLiterals;
 using namespace ozm::test;
 using namespace workbench;
+namespace audit = ozm::audit;
 
 namespace {
 
@@ -56,12 +57,10 @@ QList<qint64> recordedIn(const QStringList &lines)
 QSet<qint64> storedIn(const QString &path)
 {
     QSet<qint64> numbers;
-    auto database = AuditDatabase::open(path);
-    if (!database)
-        return {};
-    const auto records = database.value()->recordsAfter(0).valueOr({});
-    for (const AuditRecord &record : records)
-        numbers.insert(record.sequence);
+    const auto store = openTrail(path, {}, {});
+    const auto records = store ? store.value()->find({.pageSize = 10000}).valueOr({}) : QList<audit::Entry>();
+    for (const audit::Entry &record : records)
+        numbers.insert(record.number);
     return numbers;
 }
 
@@ -79,7 +78,7 @@ private Q_SLOTS:
         const Outcome outcome = run({u"--batch"_s, QStringLiteral(WORKBENCH_SAMPLES), u"--out"_s, out.path(),
                                      u"--user"_s, u"jdoe"_s});
         QVERIFY2(outcome.exitCode == 0, qUtf8Printable(outcome.complaint));
-        const QStringList results{out.filePath(u"audit.sqlite"_s), out.filePath(u"audit.json"_s),
+        const QStringList results{out.filePath(u"trail.sqlite"_s), out.filePath(u"audit.json"_s),
                                   out.filePath(u"samples.csv"_s),  out.filePath(u"report.html"_s),
                                   out.filePath(u"report.pdf"_s),   out.filePath(u"window.png"_s)};
         QCOMPARE(outcome.lines.mid(outcome.lines.size() - results.size()), results);
@@ -171,7 +170,8 @@ private Q_SLOTS:
         QVERIFY(storedIn(database).contains(stored));
         QCOMPARE(storedIn(database).size(), 2 * stored.size());
         QCOMPARE(readFile(folder.filePath(u"samples.csv"_s)), samples);
-        QCOMPARE(QJsonDocument::fromJson(readFile(folder.filePath(u"audit.json"_s))).array().size(), 2 * 15);
+        QCOMPARE(QJsonDocument::fromJson(readFile(folder.filePath(u"audit.json"_s))).array().size(),
+                 2 * 16 + 1);
     }
 
     void endsWithAMessage_data()
@@ -201,7 +201,7 @@ private Q_SLOTS:
             << u"cannot be written to"_s;
         QTest::newRow("no database") << QStringList{u"--batch"_s, samples,         u"--out"_s,
                                                     u"DIR"_s,     u"--database"_s, u"DIR/bad.csv"_s}
-                                     << 1 << u"is damaged or is not an audit trail"_s;
+                                     << 1 << u"this is not an audit trail"_s;
         QTest::newRow("version") << QStringList{u"--version"_s} << 0 << u"workbench "_s;
         QTest::newRow("help") << QStringList{u"--help"_s} << 0 << u"--batch <input>"_s;
         QTest::newRow("unknown option") << QStringList{u"--batsch"_s} << 1 << u"Unknown option"_s;
@@ -245,7 +245,7 @@ private Q_SLOTS:
             told.truncate(told.lastIndexOf('\n'));
             lines += QString::fromUtf8(told).split(u'\n');
 
-            const QSet<qint64> stored = storedIn(folder.filePath(u"audit.sqlite"_s));
+            const QSet<qint64> stored = storedIn(folder.filePath(u"trail.sqlite"_s));
             const QList<qint64> acknowledged = recordedIn(lines);
             QVERIFY(acknowledged.size() >= enough);
             for (const qint64 number : acknowledged)

@@ -104,7 +104,7 @@ private:
 struct ScriptedFixture : SampleFixture
 {
     ScriptedFixture()
-        : window(*editor, databasePath())
+        : window(*editor, trailPath())
     {
         WidgetCreatorBase::setCustomCreator(std::make_unique<ScriptedCreator>(answers));
         as::setValue(kFileExplorerAllowed, false);

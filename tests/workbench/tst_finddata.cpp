@@ -1,4 +1,4 @@
-#include "AuditFaults.h"
+#include "AuditFault.h"
 #include "SampleFixture.h"
 #include "core_ms/SampleTree.h"
 #include "data/DataImport.h"
@@ -35,7 +35,7 @@ const QStringList kStudy{u"Day 1.d/AcqData/msscan.bin"_s, u"Sub/Day 1.mzML"_s, u
 struct FindFixture : SampleFixture
 {
     FindFixture()
-        : window(*editor, databasePath())
+        : window(*editor, trailPath())
         , reports(&window.dataImport(), &DataImport::reported)
     {
         tree.make(kStudy);
@@ -188,13 +188,13 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
     }
 
-    void lockedTrailKeepsDataOut()
+    void lostTrailKeepsDataOut()
     {
         FindFixture fixture;
-        const AuditFault fault(u"locked"_s, *fixture.database);
+        const AuditFault fault(fixture.trailPath());
         fixture.trigger(u"findDataAction"_s);
         QVERIFY(QTest::qWaitFor([&fixture] { return !fixture.status().isEmpty(); }, kSearchMs));
-        QVERIFY2(fixture.status().contains("locked by another program"_L1), qUtf8Printable(fixture.status()));
+        QVERIFY2(fixture.status().contains(AuditFault::message()), qUtf8Printable(fixture.status()));
         QCOMPARE(fixture.editor->table().rowCount(), 3);
         QCOMPARE(fixture.editor->history().count(), 0);
     }

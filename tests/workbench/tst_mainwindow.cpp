@@ -34,7 +34,7 @@ namespace {
 struct WindowFixture : SampleFixture
 {
     WindowFixture()
-        : window(*editor, databasePath())
+        : window(*editor, trailPath())
     {
         window.show();
     }

@@ -1,6 +1,7 @@
 #include "audit/AuditTrail.h"
 
-#include "audit/AuditDatabase.h"
+#include <ozm_audit/Store.h>
+#include <ozm_widgets/db/common/OperationLogItemData.h>
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -10,6 +11,8 @@
 using namespace Qt::StringLiterals;
 using ozm::Error;
 using ozm::OperationLogItemData;
+using ozm::audit::Entry;
+using ozm::audit::Kind;
 
 namespace workbench {
 
@@ -21,25 +24,51 @@ constexpr int kKnownRecordVersion = 1;
 // Enough of unknown bytes to recognise them by; all of them are in the export.
 constexpr int kShownBytes = 120;
 
-bool isKnown(const AuditRecord &record, const OperationLogItemData &data, bool parsed)
+// Read at once.
+constexpr int kPage = 1000;
+
+bool isStep(const Entry &record)
+{
+    return record.kind == Kind::Command || record.kind == Kind::Macro || record.kind == Kind::Event;
+}
+
+bool isKnownStep(const Entry &record, const OperationLogItemData &data, bool parsed)
 {
     if (!parsed || !data.isValid())
         return false;
-    const QJsonObject json = QJsonDocument::fromJson(record.json).object();
+    const QJsonObject json = QJsonDocument::fromJson(record.record).object();
     return json.value("version"_L1).toInt(kKnownRecordVersion) <= kKnownRecordVersion;
 }
 
-AuditEntry entryOf(const AuditRecord &record)
+/// An entry that the store or the logger made of its own accord, such as the beginning of a session.
+QString ownText(const Entry &record)
+{
+    const QString event = QJsonDocument::fromJson(record.record).object().value("event"_L1).toString();
+    if (isStep(record) && event.isEmpty())
+        return {};
+    const QString kind = ozm::audit::kindToString(record.kind);
+    return event.isEmpty() ? kind : kind + u": "_s + event;
+}
+
+AuditEntry entryOf(const Entry &record)
 {
     bool parsed = false;
-    const OperationLogItemData data(record.json, &parsed);
+    const OperationLogItemData data(record.record, &parsed);
     AuditEntry entry;
     entry.record = record;
-    entry.known = isKnown(record, data, parsed);
-    entry.text = entry.known ? data.toString()
-                             : AuditTrail::tr("Unknown record, kept as stored: %1")
-                                   .arg(QString::fromUtf8(record.json.left(kShownBytes)).simplified());
+    entry.text = isKnownStep(record, data, parsed) ? data.toString() : ownText(record);
+    entry.known = !entry.text.isEmpty();
+    if (!entry.known) {
+        entry.text = AuditTrail::tr("Unknown record, kept as stored: %1")
+                         .arg(QString::fromUtf8(record.record.left(kShownBytes)).simplified());
+    }
     return entry;
+}
+
+/// Where the entry that @p mark completes finally belongs.
+qint64 placeOf(const Entry &mark)
+{
+    return QJsonDocument::fromJson(mark.record).object().value("parent"_L1).toInteger();
 }
 
 void renumber(const std::vector<AuditEntry *> &siblings, int from)
@@ -50,29 +79,41 @@ void renumber(const std::vector<AuditEntry *> &siblings, int from)
 
 } // namespace
 
-AuditTrail::AuditTrail(AuditDatabase &database, QObject *parent)
+AuditTrail::AuditTrail(const ozm::audit::Store &store, QObject *parent)
     : QObject(parent)
-    , m_database(database)
+    , m_store(store)
 {}
 
 AuditTrail::~AuditTrail() = default;
 
 Error AuditTrail::refresh()
 {
-    const auto records = m_database.recordsAfter(m_last);
-    if (!records)
-        return records.error();
-    if (records.value().isEmpty())
-        return {};
+    ozm::audit::Query query;
+    query.pageSize = kPage;
+    query.after = m_last;
+    while (true) {
+        const auto page = m_store.find(query);
+        if (!page)
+            return page.error();
+        if (page.value().isEmpty())
+            return {};
+        take(page.value());
+        if (page.value().size() < kPage)
+            return {};
+        query.after = m_last;
+    }
+}
 
-    if (touchesKnown(records.value())) {
+void AuditTrail::take(const QList<Entry> &records)
+{
+    if (touchesKnown(records)) {
         Q_EMIT aboutToReset();
-        for (const AuditRecord &record : records.value())
+        for (const Entry &record : records)
             ingest(record, m_top);
         Q_EMIT wasReset();
     } else {
         std::vector<AuditEntry *> fresh;
-        for (const AuditRecord &record : records.value())
+        for (const Entry &record : records)
             ingest(record, fresh);
         if (!fresh.empty()) {
             const int first = static_cast<int>(m_top.size());
@@ -82,41 +123,36 @@ Error AuditTrail::refresh()
             Q_EMIT appended();
         }
     }
-    m_last = records.value().constLast().sequence;
-    report(records.value());
-    return {};
+    m_last = records.constLast().number;
+    report(records);
 }
 
-bool AuditTrail::touchesKnown(const QList<AuditRecord> &records) const
+bool AuditTrail::touchesKnown(const QList<Entry> &records) const
 {
-    // Items are numbered as their rows are, so everything up to the last row read is known.
-    return std::ranges::any_of(records, [this](const AuditRecord &record) {
-        return (record.parent > 0 && record.parent <= m_last) || record.item <= m_last;
-    });
+    return std::ranges::any_of(
+        records, [this](const Entry &record) { return record.parent > 0 && record.parent <= m_last; });
 }
 
-void AuditTrail::ingest(const AuditRecord &record, std::vector<AuditEntry *> &top)
+void AuditTrail::ingest(const Entry &record, std::vector<AuditEntry *> &top)
 {
-    if (record.kind == AuditKind::Commit) {
+    if (record.kind == Kind::Commit) {
         commit(record, top);
         return;
     }
-    // A number given twice is not a work of this program; both rows are shown all the same.
-    const qint64 number = m_entries.contains(record.item) ? record.sequence : record.item;
-    AuditEntry &entry = m_entries.insert_or_assign(number, entryOf(record)).first->second;
+    AuditEntry &entry = m_entries.insert_or_assign(record.number, entryOf(record)).first->second;
     entry.parent = find(record.parent);
     // A macro has its place once there is something in it.
-    if (record.kind != AuditKind::Macro)
+    if (record.kind != Kind::Macro)
         show(entry, top);
 }
 
-void AuditTrail::commit(const AuditRecord &mark, std::vector<AuditEntry *> &top)
+void AuditTrail::commit(const Entry &mark, std::vector<AuditEntry *> &top)
 {
-    AuditEntry *entry = find(mark.item);
+    AuditEntry *entry = find(mark.parent);
     if (!entry)
         return;
     entry->committed = true;
-    AuditEntry *parent = find(mark.parent);
+    AuditEntry *parent = find(placeOf(mark));
     if (entry->parent != parent) {
         hide(*entry, top);
         entry->parent = parent;
@@ -154,10 +190,10 @@ AuditEntry *AuditTrail::find(qint64 item)
     return found != m_entries.end() ? &found->second : nullptr;
 }
 
-void AuditTrail::report(const QList<AuditRecord> &records)
+void AuditTrail::report(const QList<Entry> &records)
 {
-    for (const AuditRecord &record : records) {
-        const AuditEntry *entry = record.kind == AuditKind::Commit ? nullptr : find(record.item);
+    for (const Entry &record : records) {
+        const AuditEntry *entry = record.kind == Kind::Commit ? nullptr : find(record.number);
         if (entry)
             Q_EMIT recorded(*entry);
     }

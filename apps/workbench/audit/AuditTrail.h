@@ -1,6 +1,6 @@
 #pragma once
 
-#include "audit/AuditRecord.h"
+#include <ozm_audit/Entry.h>
 
 #include <QList>
 #include <QObject>
@@ -8,27 +8,34 @@
 #include <map>
 #include <vector>
 
-namespace workbench {
+namespace ozm::audit {
+class Store;
+}
 
-class AuditDatabase;
+namespace workbench {
 
 /// One entry of the trail as people see it.
 struct AuditEntry
 {
-    AuditRecord record;
+    ozm::audit::Entry record;
     QString text;
-    bool known = true; ///< Whether this version understands the record.
+    bool known = true; ///< True for a record that this version understands.
     bool committed = false;
     AuditEntry *parent = nullptr;
-    bool shown = false; ///< Whether it has its place in the tree.
+    bool shown = false; ///< True once it has its place in the tree.
     int row = 0;        ///< That place, among its siblings.
     std::vector<AuditEntry *> children;
 
-    [[nodiscard]] bool isUnfinished() const { return record.kind == AuditKind::Macro && !committed; }
+    [[nodiscard]] bool isUnfinished() const { return record.kind == ozm::audit::Kind::Macro && !committed; }
+    /// The error of a step that did not succeed, or was refused.
+    [[nodiscard]] ozm::Error outcome() const
+    {
+        return ozm::Error(static_cast<ozm::ErrorCode>(record.outcomeCode), record.outcomeText);
+    }
 };
 
 /**
- * The audit trail in memory: the tree that the rows of an audit file add up to.
+ * The audit trail in memory: the tree that the entries of a store add up to.
  *
  * refresh() reads what came since the last time, from this program or another. Macros that have neither
  * commands nor a commit mark are left out. Records that this version does not understand are entries like
@@ -41,7 +48,7 @@ class AuditTrail : public QObject
     Q_OBJECT
 
 public:
-    explicit AuditTrail(AuditDatabase &database, QObject *parent = nullptr);
+    explicit AuditTrail(const ozm::audit::Store &store, QObject *parent = nullptr);
     ~AuditTrail() override;
 
     /// The entries without a parent.
@@ -59,15 +66,16 @@ Q_SIGNALS:
     void recorded(const workbench::AuditEntry &entry);
 
 private:
-    void ingest(const AuditRecord &record, std::vector<AuditEntry *> &top);
-    void commit(const AuditRecord &mark, std::vector<AuditEntry *> &top);
+    void take(const QList<ozm::audit::Entry> &records);
+    void ingest(const ozm::audit::Entry &record, std::vector<AuditEntry *> &top);
+    void commit(const ozm::audit::Entry &mark, std::vector<AuditEntry *> &top);
     void show(AuditEntry &entry, std::vector<AuditEntry *> &top);
     void hide(AuditEntry &entry, std::vector<AuditEntry *> &top);
     [[nodiscard]] AuditEntry *find(qint64 item);
-    [[nodiscard]] bool touchesKnown(const QList<AuditRecord> &records) const;
-    void report(const QList<AuditRecord> &records);
+    [[nodiscard]] bool touchesKnown(const QList<ozm::audit::Entry> &records) const;
+    void report(const QList<ozm::audit::Entry> &records);
 
-    AuditDatabase &m_database;
+    const ozm::audit::Store &m_store;
     qint64 m_last = 0;
     std::map<qint64, AuditEntry> m_entries;
     std::vector<AuditEntry *> m_top;

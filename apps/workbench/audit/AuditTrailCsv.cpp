@@ -19,10 +19,10 @@ using Rows = QList<QList<QString>>;
 
 void append(Rows &rows, const AuditEntry &entry)
 {
-    rows.append({QString::number(entry.record.item),
-                 entry.parent ? QString::number(entry.parent->record.item) : QString(),
-                 entry.record.dateTime().toString(Qt::ISODateWithMs), entry.record.user, entry.text,
-                 entry.record.outcome.errorMessage()});
+    rows.append({QString::number(entry.record.number),
+                 entry.parent ? QString::number(entry.parent->record.number) : QString(),
+                 entry.record.dateTime().toString(Qt::ISODateWithMs), entry.record.user.id, entry.text,
+                 entry.record.outcomeText});
     for (const AuditEntry *child : entry.children)
         append(rows, *child);
 }

@@ -35,16 +35,17 @@ QJsonObject headOf(const AuditEntry &entry)
 {
     QJsonObject head;
     if (entry.known)
-        head = QJsonDocument::fromJson(entry.record.json).object();
-    head.insert("id"_L1, entry.record.item);
+        head = QJsonDocument::fromJson(entry.record.record).object();
+    head.insert("id"_L1, entry.record.number);
+    head.insert("kind"_L1, ozm::audit::kindToString(entry.record.kind));
     head.insert("time"_L1, entry.record.dateTime().toString(Qt::ISODateWithMs));
-    head.insert("user"_L1, entry.record.user);
-    if (entry.record.outcome.hasError())
-        head.insert("error"_L1, errorJson(entry.record.outcome));
+    head.insert("user"_L1, entry.record.user.id);
+    if (entry.record.outcomeCode != 0)
+        head.insert("error"_L1, errorJson(entry.outcome()));
     if (entry.isUnfinished())
         head.insert("finished"_L1, false);
-    if (!entry.known && !isEmbeddableJson(entry.record.json))
-        head.insert("recordBase64"_L1, QString::fromLatin1(entry.record.json.toBase64()));
+    if (!entry.known && !isEmbeddableJson(entry.record.record))
+        head.insert("recordBase64"_L1, QString::fromLatin1(entry.record.record.toBase64()));
     return head;
 }
 
@@ -52,8 +53,8 @@ QByteArray entryJson(const AuditEntry &entry)
 {
     QByteArray json = QJsonDocument(headOf(entry)).toJson(QJsonDocument::Compact);
     json.chop(1);
-    if (!entry.known && isEmbeddableJson(entry.record.json))
-        json += ",\"record\":" + entry.record.json;
+    if (!entry.known && isEmbeddableJson(entry.record.record))
+        json += ",\"record\":" + entry.record.record;
     if (!entry.children.empty())
         json += ",\"children\":" + listOf(entry.children);
     return json + '}';

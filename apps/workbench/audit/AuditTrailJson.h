@@ -10,7 +10,7 @@ namespace workbench {
 class AuditTrail;
 
 /**
- * The trail as a JSON document: an array of entries, each with its record's members, its id, time, user,
+ * The trail as a JSON document: an array of entries, each with its record's members, its id, kind, time, user,
  * the error of a step that did not succeed, and its children.
  *
  * A record that this version does not understand is under "record", byte for byte, when it is JSON, and

@@ -29,11 +29,11 @@ QString cellText(const AuditEntry &entry, int column)
     case AuditTrailModel::Time:
         return entry.record.dateTime().toString(u"yyyy-MM-dd HH:mm:ss"_s);
     case AuditTrailModel::User:
-        return entry.record.user;
+        return entry.record.user.id;
     case AuditTrailModel::Text:
         return textOf(entry);
     case AuditTrailModel::ErrorText:
-        return entry.record.outcome.errorMessage();
+        return entry.record.outcomeText;
     default:
         return {};
     }
@@ -49,7 +49,7 @@ QFont fontOf(const AuditEntry &entry)
 
 QVariant iconOf(const AuditEntry &entry, int column)
 {
-    if (column != AuditTrailModel::ErrorText || !entry.record.outcome.hasError())
+    if (column != AuditTrailModel::ErrorText || entry.record.outcomeCode == 0)
         return {};
     return OZMStyle::icon(u"dialog-warning"_s);
 }

@@ -23,26 +23,6 @@ namespace workbench {
 
 namespace {
 
-/// The steps that undoing or redoing @p command takes, in their order. What is no UndoCommand is a macro.
-void collectSteps(const QUndoCommand &command, OperationLogItemUndoContext context, QList<AuditStep> &steps)
-{
-    if (const auto *own = dynamic_cast<const ozm::UndoCommand *>(&command)) {
-        steps.append({own, context});
-        return;
-    }
-    const bool backwards = context == OperationLogItemUndoContext::Undo;
-    for (int i = 0; i < command.childCount(); ++i)
-        collectSteps(*command.child(backwards ? command.childCount() - 1 - i : i), context, steps);
-}
-
-Error firstError(const QList<AuditStep> &steps)
-{
-    for (const AuditStep &step : steps)
-        if (step.command->lastError().hasError())
-            return step.command->lastError();
-    return {};
-}
-
 OperationLogItemData fileEvent(const QString &path, const QString &what, const QVariant &value)
 {
     const OperationLogItemSubject file(OperationLogItemSubject::Type::File,
@@ -70,10 +50,11 @@ OperationLogItemData bulkData(OperationLogItemType type, const QString &attribut
 
 } // namespace
 
-SampleEditor::SampleEditor(AuditDatabase &database, const QString &user, QObject *parent)
+SampleEditor::SampleEditor(ozm::audit::Store &store, const QString &user, QObject *parent)
     : QObject(parent)
-    , m_logger(database, user)
-    , m_trail(database)
+    , m_user(user)
+    , m_logger(store, {.user = {user}})
+    , m_trail(store)
 {
     m_stack.setLogging(&m_logger);
 }
@@ -82,7 +63,9 @@ SampleEditor::~SampleEditor() = default;
 
 Error SampleEditor::start()
 {
-    return m_trail.refresh();
+    // The session is recorded first; where that fails, so would all else.
+    const Error unrecorded = m_logger.error();
+    return unrecorded.hasError() ? unrecorded : m_trail.refresh();
 }
 
 Error SampleEditor::setCell(qint64 id, const QString &column, const QString &text)
@@ -138,9 +121,7 @@ Error SampleEditor::push(std::unique_ptr<SampleCommand> command)
 {
     if (Error error = command->check(m_table); error.hasError())
         return refuse(*command, error);
-    if (Error error = m_logger.prepare({{command.get(), OperationLogItemUndoContext::New}}); error.hasError())
-        return finish(error);
-    return finish(m_stack.push(command.release()));
+    return finish(m_logger.push(m_stack, command.release()));
 }
 
 Error SampleEditor::runMacro(const OperationLogItemData &data, const QString &text, Commands commands)
@@ -151,7 +132,7 @@ Error SampleEditor::runMacro(const OperationLogItemData &data, const QString &te
     if (Error error = tryOut(m_table, commands, &refused); error.hasError())
         return refuse(*refused, error);
 
-    QList<AuditStep> steps;
+    QList<ozm::audit::Step> steps;
     for (const auto &command : commands)
         steps.append({command.get(), OperationLogItemUndoContext::New});
     if (Error error = m_logger.prepareMacro(data, steps); error.hasError())
@@ -184,26 +165,12 @@ Error SampleEditor::tryOut(const SampleTable &table, const Commands &commands, c
 
 Error SampleEditor::undo()
 {
-    return m_stack.canUndo() ? step(OperationLogItemUndoContext::Undo) : Error();
+    return m_stack.canUndo() ? finish(m_logger.undo(m_stack)) : Error();
 }
 
 Error SampleEditor::redo()
 {
-    return m_stack.canRedo() ? step(OperationLogItemUndoContext::Redo) : Error();
-}
-
-Error SampleEditor::step(OperationLogItemUndoContext context)
-{
-    const bool backwards = context == OperationLogItemUndoContext::Undo;
-    QList<AuditStep> steps;
-    collectSteps(*m_stack.command(backwards ? m_stack.index() - 1 : m_stack.index()), context, steps);
-    if (Error error = m_logger.prepare(steps); error.hasError())
-        return finish(error);
-    if (backwards)
-        m_stack.undo();
-    else
-        m_stack.redo();
-    return finish(firstError(steps));
+    return m_stack.canRedo() ? finish(m_logger.redo(m_stack)) : Error();
 }
 
 Error SampleEditor::moveTo(int index)

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "audit/AuditLogger.h"
 #include "audit/AuditTrail.h"
 #include "samples/SampleTable.h"
 
+#include <ozm_audit/Logger.h>
 #include <ozm_widgets/MsSample.h>
 #include <ozm_widgets/db/common/UndoStack.h>
 
@@ -25,13 +25,12 @@ class SampleCommand;
  * made: the table, the history and the trail stay as they were, and the error says why. A change that breaks
  * a rule is recorded with its error, and not made either; the history, what can be redone included, stays.
  *
- *     SampleEditor editor(*database, ozm::OzmCoreApplication::userName());
+ *     SampleEditor editor(*store, ozm::OzmCoreApplication::userName());
  *     if (const ozm::Error error = editor.setCell(id, kCharge, u"3"_s); error.hasError())
  *         show(error);
  *
  * An error of one of these functions means that nothing was changed. Warnings, which may come with success,
- * tell of trouble that did not keep the change from being made. GUI thread; uses the database, does not own
- * it.
+ * tell of trouble that did not keep the change from being made. GUI thread; uses the store, does not own it.
  */
 class SampleEditor : public QObject
 {
@@ -40,12 +39,12 @@ class SampleEditor : public QObject
 public:
     using Commands = std::vector<std::unique_ptr<SampleCommand>>;
 
-    SampleEditor(AuditDatabase &database, const QString &user, QObject *parent = nullptr);
+    SampleEditor(ozm::audit::Store &store, const QString &user, QObject *parent = nullptr);
     ~SampleEditor() override;
 
     [[nodiscard]] const SampleTable &table() const { return m_table; }
     /// The user who is recorded as making the changes.
-    [[nodiscard]] const QString &user() const { return m_logger.user(); }
+    [[nodiscard]] const QString &user() const { return m_user; }
     /// To look at and to connect to; steps go through the editor.
     [[nodiscard]] const QUndoStack &history() const { return m_stack; }
     [[nodiscard]] const AuditTrail &trail() const { return m_trail; }
@@ -84,14 +83,14 @@ Q_SIGNALS:
 private:
     [[nodiscard]] SampleTable &target() { return m_table; }
     ozm::Error refuse(const SampleCommand &command, ozm::Error reason);
-    ozm::Error step(ozm::OperationLogItemUndoContext context);
     ozm::Error finish(ozm::Error error);
     ozm::Error audited(const ozm::OperationLogItemData &data, const std::function<ozm::Error()> &act);
     [[nodiscard]] static ozm::Error tryOut(const SampleTable &table, const Commands &commands,
                                            const SampleCommand **refused);
 
+    const QString m_user;
     SampleTable m_table;
-    AuditLogger m_logger;
+    ozm::audit::Logger m_logger;
     AuditTrail m_trail;
     ozm::UndoStack m_stack;
 };
