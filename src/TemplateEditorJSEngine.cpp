@@ -19,6 +19,7 @@ namespace {
 constexpr std::chrono::milliseconds kDefaultDeadline{5000};
 
 std::atomic<std::chrono::milliseconds> s_deadline{kDefaultDeadline};
+std::atomic<TemplateEditorJSEngine::ObjectAccess> s_objectAccess{TemplateEditorJSEngine::ObjectAccess::Full};
 
 /// True when nothing of @p value lives on in an engine that has seen it, and nothing of it can be called.
 bool isPlain(const QVariant &value)
@@ -38,6 +39,67 @@ bool isPlain(const QVariant &value)
     default:
         return false;
     }
+}
+
+QString withResults(const ozm::TemplateText &parsed, const QList<ozm::ScriptOutcome> &outcomes)
+{
+    QString result;
+    qsizetype settled = 0;
+    auto outcome = outcomes.cbegin();
+    for (const ozm::ScriptPiece &piece : parsed.pieces()) {
+        result.append(QStringView(parsed.text()).sliced(settled, piece.start - settled));
+        result.append((outcome++)->text);
+        settled = piece.start + piece.code.size();
+    }
+    return result.append(QStringView(parsed.text()).sliced(settled));
+}
+
+QList<ozm::FailedScript> failedScripts(const ozm::TemplateText &parsed,
+                                       const QList<ozm::ScriptOutcome> &outcomes)
+{
+    QList<ozm::FailedScript> failed;
+    auto outcome = outcomes.cbegin();
+    for (const ozm::ScriptPiece &piece : parsed.pieces()) {
+        if (outcome->failed)
+            failed.append({piece.start, outcome->line, outcome->message, piece.code});
+        ++outcome;
+    }
+    return failed;
+}
+
+/// @p codes, whose places are those in the text with results, at their places in the template.
+QList<ozm::BroughtInCode> inPlace(const ozm::TemplateText &parsed, const QList<ozm::ScriptOutcome> &outcomes,
+                                  QList<ozm::BroughtInCode> codes)
+{
+    qsizetype grown = 0;
+    auto code = codes.begin();
+    auto outcome = outcomes.cbegin();
+    for (const ozm::ScriptPiece &piece : parsed.pieces()) {
+        for (; code != codes.end() && code->position < piece.start + grown; ++code)
+            code->position -= grown;
+        for (; code != codes.end() && code->position < piece.start + grown + outcome->text.size(); ++code)
+            *code = {code->code, {}, piece.start};
+        grown += (outcome++)->text.size() - piece.code.size();
+    }
+    for (; code != codes.end(); ++code)
+        code->position -= grown;
+    return codes;
+}
+
+/// The codes with a value in the results of pieces that do not spell them themselves.
+QList<ozm::BroughtInCode> inResults(const ozm::TemplateText &parsed,
+                                    const QList<ozm::ScriptOutcome> &outcomes,
+                                    const QMap<QString, QVariant> &parameters)
+{
+    QList<ozm::BroughtInCode> codes;
+    auto outcome = outcomes.cbegin();
+    for (const ozm::ScriptPiece &piece : parsed.pieces()) {
+        for (const QString &code : ozm::syntax::marked((outcome++)->text).names) {
+            if (parameters.contains(code) && !piece.code.contains(code))
+                codes.append({code, {}, piece.start});
+        }
+    }
+    return codes;
 }
 
 QString defaultLibraryPath()
@@ -89,7 +151,7 @@ bool TemplateEditorJSEngine::isValid() const
 
 QString TemplateEditorJSEngine::evaluateJS(const QString &code, const QMap<QString, QVariant> &parameters)
 {
-    return d->realm().run(code, parameters).text;
+    return d->realm().run({{code}}, parameters).constFirst().text;
 }
 
 void TemplateEditorJSEngine::setDeadline(std::chrono::milliseconds deadline)
@@ -102,6 +164,16 @@ std::chrono::milliseconds TemplateEditorJSEngine::deadline()
     return s_deadline;
 }
 
+void TemplateEditorJSEngine::setObjectAccess(ObjectAccess access)
+{
+    s_objectAccess = access;
+}
+
+TemplateEditorJSEngine::ObjectAccess TemplateEditorJSEngine::objectAccess()
+{
+    return s_objectAccess;
+}
+
 std::shared_ptr<const ozm::TemplateText> TemplateEditorJSCodeReader::Private::parsed(const QString &text)
 {
     return m_cache.parsed(text);
@@ -109,42 +181,40 @@ std::shared_ptr<const ozm::TemplateText> TemplateEditorJSCodeReader::Private::pa
 
 QString TemplateEditorJSCodeReader::Private::read(const ozm::TemplateText &parsed,
                                                   const QMap<QString, QVariant> &parameters,
-                                                  QList<ozm::FailedScript> *failed)
+                                                  ozm::TemplateReport *report)
 {
-    if (parsed.pieces().isEmpty())
+    if (parsed.pieces().isEmpty()) {
+        if (report)
+            report->broughtIn = ozm::tokens::broughtIn(parsed.text(), parsed.marks(), parameters);
         return ozm::tokens::replace(parsed.text(), parsed.marks(), parameters);
-    const QString text = runPieces(parsed, parameters, failed);
-    return ozm::tokens::replace(text, ozm::syntax::marked(text), parameters);
+    }
+    const QList<ozm::ScriptOutcome> outcomes = runPieces(parsed, parameters);
+    const QString text = withResults(parsed, outcomes);
+    const ozm::syntax::MarkedText marks = ozm::syntax::marked(text);
+    if (report) {
+        report->failed = failedScripts(parsed, outcomes);
+        report->broughtIn = inPlace(parsed, outcomes, ozm::tokens::broughtIn(text, marks, parameters)) +
+                            inResults(parsed, outcomes, parameters);
+        std::ranges::stable_sort(report->broughtIn, {}, &ozm::BroughtInCode::position);
+    }
+    return ozm::tokens::replace(text, marks, parameters);
 }
 
-QString TemplateEditorJSCodeReader::Private::runPieces(const ozm::TemplateText &parsed,
-                                                       const QMap<QString, QVariant> &parameters,
-                                                       QList<ozm::FailedScript> *failed)
+QList<ozm::ScriptOutcome>
+TemplateEditorJSCodeReader::Private::runPieces(const ozm::TemplateText &parsed,
+                                               const QMap<QString, QVariant> &parameters)
 {
     std::unique_ptr<ozm::ScriptRealm> own;
     if (!parsed.isContained() || !std::ranges::all_of(parameters, isPlain))
         own = engine.d->freshRealm();
     ozm::ScriptRealm &realm = own ? *own : engine.d->realm();
 
-    QList<QString> texts;
-    const QList<ozm::ScriptPiece> &pieces = parsed.pieces();
-    for (qsizetype i = pieces.size() - 1; i >= 0; --i) {
-        const ozm::ScriptPiece &piece = pieces.at(i);
-        const ozm::ScriptOutcome outcome =
-            piece.readsParameters ? realm.run(piece.code, parameters) : realm.run(piece.code);
-        texts.append(outcome.text);
-        if (failed && outcome.failed)
-            failed->prepend({piece.start, outcome.line, outcome.message, piece.code});
-    }
-
-    QString result;
-    qsizetype settled = 0;
-    for (const ozm::ScriptPiece &piece : parsed.pieces()) {
-        result.append(QStringView(parsed.text()).sliced(settled, piece.start - settled));
-        result.append(texts.takeLast());
-        settled = piece.start + piece.code.size();
-    }
-    return result.append(QStringView(parsed.text()).sliced(settled));
+    QList<ozm::ScriptTask> tasks;
+    for (const ozm::ScriptPiece &piece : parsed.pieces())
+        tasks.prepend({piece.code, piece.mayChangeParameters});
+    QList<ozm::ScriptOutcome> outcomes = realm.run(tasks, parameters);
+    std::ranges::reverse(outcomes);
+    return outcomes;
 }
 
 TemplateEditorJSCodeReader::TemplateEditorJSCodeReader(QObject *parent)

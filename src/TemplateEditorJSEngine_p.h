@@ -29,16 +29,16 @@ class TemplateEditorJSCodeReader::Private
 {
 public:
     [[nodiscard]] std::shared_ptr<const ozm::TemplateText> parsed(const QString &text);
-    /// As readAsString(); what failed goes to @p failed unless that is null.
+    /// As readAsString(); what failed and what values brought in goes to @p report unless that is null.
     [[nodiscard]] QString read(const ozm::TemplateText &parsed, const QMap<QString, QVariant> &parameters,
-                               QList<ozm::FailedScript> *failed);
+                               ozm::TemplateReport *report);
 
     TemplateEditorJSEngine engine;
 
 private:
-    [[nodiscard]] QString runPieces(const ozm::TemplateText &parsed,
-                                    const QMap<QString, QVariant> &parameters,
-                                    QList<ozm::FailedScript> *failed);
+    /// In the order of the pieces.
+    [[nodiscard]] QList<ozm::ScriptOutcome> runPieces(const ozm::TemplateText &parsed,
+                                                      const QMap<QString, QVariant> &parameters);
 
     ozm::TemplateCache m_cache;
 };

@@ -47,6 +47,14 @@
         <source>%1[*] - Template editor</source>
         <translation>%1[*] - Vorlagen</translation>
     </message>
+    <message>
+        <source>Wrong template editor content format.</source>
+        <translation>Falsches Format des Vorlageninhalts.</translation>
+    </message>
+    <message>
+        <source>There is no data row to fill the template with.</source>
+        <translation>Es gibt keine Datenzeile, mit der die Vorlage gefüllt werden kann.</translation>
+    </message>
 </context>
 <context>
     <name>FileCrawlerDialog</name>
@@ -1077,6 +1085,14 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     <message>
         <source>Go to this place in the template</source>
         <translation>Zu dieser Stelle der Vorlage gehen</translation>
+    </message>
+    <message>
+        <source>%1 came in with the value of %2.</source>
+        <translation>%1 kam mit dem Wert von %2 hinein.</translation>
+    </message>
+    <message>
+        <source>%1 came in with the result of a script.</source>
+        <translation>%1 kam mit dem Ergebnis eines Skripts hinein.</translation>
     </message>
 </context>
 <context>

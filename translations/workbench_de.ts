@@ -216,6 +216,10 @@
         <source>Made by the workbench</source>
         <translation>Von der Werkbank erstellt</translation>
     </message>
+    <message>
+        <source>%1 came in with a value.</source>
+        <translation>%1 kam mit einem Wert hinein.</translation>
+    </message>
 </context>
 <context>
     <name>workbench::AddSampleDialog</name>

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ozm_common_stable/Error.h>
+
 #include <QList>
 #include <QString>
 
@@ -21,12 +23,30 @@ struct FailedScript
     QString code; ///< The whole piece.
 };
 
+/// A code that stood in a value and was replaced like those of the template. Values that shall appear as they are
+/// go through templateEditorCore.escapeHtml().
+struct BroughtInCode
+{
+    QString code;            ///< Which was brought in, with its brackets.
+    QString by;              ///< The code with that value; empty when a script put the value in.
+    qsizetype position = -1; ///< Of @c by, or of the piece of script, in the text handed in.
+};
+
 /// A decoded template together with what went wrong in it, for editors and batch runs.
 struct TemplateReport
 {
     QString text;
     QList<UnresolvedCode> unresolved; ///< In order of position; codes in scripts only where they are quoted.
     QList<FailedScript> failed;       ///< In order of position.
+    QList<BroughtInCode> broughtIn;   ///< In order of position.
+    Error error =
+        {}; ///< Code 2 when nothing was decoded: the text has no envelope where it needs one, or no row.
+
+    /// True when the template was decoded, and each code and script in it came out as its author meant.
+    [[nodiscard]] bool isComplete() const
+    {
+        return !error.hasError() && unresolved.isEmpty() && failed.isEmpty() && broughtIn.isEmpty();
+    }
 };
 
 } // namespace ozm

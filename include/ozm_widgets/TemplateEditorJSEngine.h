@@ -47,14 +47,30 @@ public:
     [[nodiscard]] QString evaluateJS(const QString &code, const QMap<QString, QVariant> &parameters);
 
     /**
-     * How long a piece of script may run before it is interrupted and counts as failed; 5 seconds unless
-     * set, none at all when zero. For all engines of the process, from the next piece on; any thread.
+     * How long the scripts of one decoding may run together before they are interrupted; 5 seconds unless
+     * set, none at all when zero. Those that have not ended by then count as failed. Promises and functions
+     * connected to signals, which run with the event loop, have until then, too. For all engines of the
+     * process, from the next decoding on; any thread.
      *
      * Only running script code is interrupted. One call of a built-in function that takes long by itself
      * (filling an array of a hundred million elements) is not: it ends in its own time.
      */
     static void setDeadline(std::chrono::milliseconds deadline);
     [[nodiscard]] static std::chrono::milliseconds deadline();
+
+    enum class ObjectAccess
+    {
+        Full,     ///< Scripts read and set properties, call slots and invokable methods, connect to signals.
+        ReadOnly, ///< Scripts read properties.
+    };
+
+    /**
+     * How scripts may use objects that stand among their parameters, and those that these give: fully unless
+     * set. In either case the objects stay the application's, which deletes them. For all engines of the
+     * process, from the next decoding on; any thread.
+     */
+    static void setObjectAccess(ObjectAccess access);
+    [[nodiscard]] static ObjectAccess objectAccess();
 
 private:
     friend class TemplateEditorJSCodeReader;

@@ -1,8 +1,6 @@
 #include "EngineScriptRealm.h"
 
-#include "ScriptWatchdog.h"
-
-#include <QPointer>
+#include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
 
@@ -13,13 +11,42 @@ namespace {
 const QString kParameters = u"inputParameters"_s;
 const QString kLibrary = u"templateEditorCore"_s;
 
-// String is taken when the realm is made, before a script can change it.
-const QString kToText = u"(function (toText) {"
-                        "  return function (value) {"
-                        "    try { return { text: toText(value) } }"
-                        "    catch (error) { return { error: error } }"
-                        "  }"
-                        "})(String)"_s;
+const QString kLate = u"The script did not end in time."_s;
+const QString kOwnScript = u"ozm_scripts"_s;
+
+// The functions are taken when the realm is made, before a script can change them. A list writes the lists in
+// it by their own join(), which the engine does on its own stack: one that holds itself, or is too deep, would
+// end the process.
+const QString kPrepare =
+    u"(function (toText, apply, isArray) {"
+    "  'use strict';"
+    "  const deepest = 500, longest = 1e7;"
+    "  let around = null;"
+    "  function within(list, write) {"
+    "    let depth = 0;"
+    "    for (let at = around; at !== null; at = at.around) {"
+    "      if (at.list === list) throw new TypeError('The list holds itself.');"
+    "      if (++depth > deepest) throw new RangeError('The lists are nested too deeply.');"
+    "    }"
+    "    if (isArray(list) && list.length > longest) throw new RangeError('The list is too long.');"
+    "    const outside = around;"
+    "    around = { list: list, around: outside };"
+    "    try { return write() } finally { around = outside }"
+    "  }"
+    "  const join = Array.prototype.join, toLocaleString = Array.prototype.toLocaleString;"
+    "  const guarded = {"
+    "    join(separator) { const all = arguments; return within(this, () => apply(join, this, all)) },"
+    "    toLocaleString() { return within(this, () => apply(toLocaleString, this, [])) } };"
+    "  for (const name of ['join', 'toLocaleString'])"
+    "    Object.defineProperty(Array.prototype, name,"
+    "      { value: guarded[name], writable: true, enumerable: false, configurable: true });"
+    "  return {"
+    "    forget: function () { around = null },"
+    "    toText: function (value) {"
+    "      try { return { text: toText(value) } }"
+    "      catch (error) { return { error: error } }"
+    "    } };"
+    "})(String, Reflect.apply, Array.isArray)"_s;
 
 QString messageOf(const QJSValue &thrown)
 {
@@ -31,7 +58,7 @@ QString messageOf(const QJSValue &thrown)
 
 int lineOf(const QJSValue &result, const QStringList &stack)
 {
-    if (result.isError()) {
+    if (result.isError() && result.property(u"fileName"_s).toString() != kOwnScript) {
         if (const int line = result.property(u"lineNumber"_s).toInt(); line > 0)
             return line;
     }
@@ -39,52 +66,14 @@ int lineOf(const QJSValue &result, const QStringList &stack)
     return stack.isEmpty() ? 1 : qMax(1, stack.constLast().section(u':', 1, 1).toInt());
 }
 
-template <typename Visit>
-void visitObjects(const QVariant &value, Visit visit)
-{
-    if (value.metaType().flags() & QMetaType::PointerToQObject) {
-        if (QObject *object = value.value<QObject *>())
-            visit(object);
-    } else if (value.typeId() == QMetaType::QVariantMap) {
-        for (const QVariant &each : value.toMap())
-            visitObjects(each, visit);
-    } else if (value.typeId() == QMetaType::QVariantList) {
-        for (const QVariant &each : value.toList())
-            visitObjects(each, visit);
-    }
-}
-
 } // namespace
 
-/// Keeps the engine from taking the objects it is shown for its own, for as long as it lives.
-class EngineScriptRealm::GuardedObjects
+EngineScriptRealm::EngineScriptRealm(const ScriptLibrary &library, ScriptRulesNow rules, QString *trouble)
+    : m_rules(rules)
 {
-public:
-    ~GuardedObjects()
-    {
-        for (const auto &[object, ownership] : std::as_const(m_objects))
-            if (object)
-                QJSEngine::setObjectOwnership(object, ownership);
-    }
-
-    void guard(const QVariant &value)
-    {
-        visitObjects(value, [this](QObject *object) {
-            const auto ownership = QJSEngine::objectOwnership(object);
-            m_objects.append({object, ownership});
-            QJSEngine::setObjectOwnership(object, QJSEngine::CppOwnership);
-        });
-    }
-
-private:
-    QList<std::pair<QPointer<QObject>, QJSEngine::ObjectOwnership>> m_objects;
-};
-
-EngineScriptRealm::EngineScriptRealm(const ScriptLibrary &library, ScriptDeadline deadline, QString *trouble)
-    : m_deadline(deadline)
-    , m_objects(std::make_unique<GuardedObjects>())
-    , m_toText(m_engine.evaluate(kToText))
-{
+    const QJSValue own = m_engine.evaluate(kPrepare, kOwnScript);
+    m_toText = own.property(u"toText"_s);
+    m_forgetLists = own.property(u"forget"_s);
     if (library.content.isEmpty())
         return;
     if (const auto failure = load(library); failure && trouble)
@@ -93,56 +82,76 @@ EngineScriptRealm::EngineScriptRealm(const ScriptLibrary &library, ScriptDeadlin
 
 EngineScriptRealm::~EngineScriptRealm() = default;
 
+void EngineScriptRealm::watch(std::chrono::milliseconds deadline)
+{
+    const bool wasLate = isLate();
+    m_watch.reset();
+    if (wasLate)
+        m_forgetLists.call();
+    m_watch.emplace(m_engine, deadline);
+}
+
 std::optional<QString> EngineScriptRealm::load(const ScriptLibrary &library)
 {
-    const ScriptWatch watch(m_engine, m_deadline());
+    watch(m_rules().deadline);
     QStringList stack;
     const QJSValue result = m_engine.evaluate(library.content, library.path, 1, &stack);
-    if (result.isError() || !stack.isEmpty() || watch.barked())
+    if (result.isError() || !stack.isEmpty() || isLate())
         return messageOf(result);
     m_engine.globalObject().setProperty(kLibrary, result);
     return std::nullopt;
 }
 
-ScriptOutcome EngineScriptRealm::run(const QString &code)
+QList<ScriptOutcome> EngineScriptRealm::run(const QList<ScriptTask> &tasks,
+                                            const QMap<QString, QVariant> &parameters)
 {
-    return evaluate(code);
-}
-
-ScriptOutcome EngineScriptRealm::run(const QString &code, const QMap<QString, QVariant> &parameters)
-{
-    for (const QVariant &value : parameters)
-        m_objects->guard(value);
+    const ScriptRules rules = m_rules();
+    // A script may call the application, which may decode with the same engine: within the same deadline.
+    const QScopedValueRollback depth(m_depth, m_depth + 1);
+    if (m_depth == 1)
+        watch(rules.deadline);
     QJSValue global = m_engine.globalObject();
-    global.setProperty(kParameters, m_engine.toScriptValue(parameters));
-    ScriptOutcome outcome = evaluate(code);
-    global.deleteProperty(kParameters);
-    return outcome;
+    QJSValue shared;
+    QList<ScriptOutcome> outcomes;
+    for (const ScriptTask &task : tasks) {
+        if (isLate()) {
+            outcomes.append({task.code, true, 1, kLate});
+            continue;
+        }
+        QJSValue handed = shared;
+        if (task.mayChangeParameters || shared.isUndefined())
+            handed = m_objects.handOut(m_engine, parameters, rules.readOnlyObjects);
+        if (!task.mayChangeParameters)
+            shared = handed;
+        global.setProperty(kParameters, handed);
+        outcomes.append(evaluate(task.code));
+        global.deleteProperty(kParameters);
+    }
+    return outcomes;
 }
 
 ScriptOutcome EngineScriptRealm::evaluate(const QString &code)
 {
-    const ScriptWatch watch(m_engine, m_deadline());
     QStringList stack;
     const QJSValue result = m_engine.evaluate(code, {}, 1, &stack);
-    if (watch.barked())
-        return {code, true, lineOf(result, stack), u"The script did not end in time."_s};
+    if (isLate())
+        return {code, true, lineOf(result, stack), kLate};
     if (result.isError() || !stack.isEmpty())
         return {code, true, lineOf(result, stack), messageOf(result)};
     if (!result.isObject())
         return {result.toString()};
     const QJSValue text = m_toText.call({result});
-    if (watch.barked())
-        return {code, true, 1, u"The script did not end in time."_s};
+    if (isLate())
+        return {code, true, 1, kLate};
     if (!text.hasProperty(u"text"_s))
         return {code, true, 1, messageOf(text.isError() ? text : text.property(u"error"_s))};
     return {text.property(u"text"_s).toString()};
 }
 
-std::unique_ptr<ScriptRealm> EngineScripts::createRealm(const ScriptLibrary &library, ScriptDeadline deadline,
+std::unique_ptr<ScriptRealm> EngineScripts::createRealm(const ScriptLibrary &library, ScriptRulesNow rules,
                                                         QString *trouble)
 {
-    return std::make_unique<EngineScriptRealm>(library, deadline, trouble);
+    return std::make_unique<EngineScriptRealm>(library, rules, trouble);
 }
 
 } // namespace ozm

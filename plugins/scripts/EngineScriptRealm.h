@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ScriptObjects.h"
+#include "ScriptWatchdog.h"
 #include "templates/scripts/ScriptRealm.h"
 
 #include <QJSEngine>
@@ -13,22 +15,26 @@ namespace ozm {
 class EngineScriptRealm : public ScriptRealm
 {
 public:
-    EngineScriptRealm(const ScriptLibrary &library, ScriptDeadline deadline, QString *trouble);
+    EngineScriptRealm(const ScriptLibrary &library, ScriptRulesNow rules, QString *trouble);
     ~EngineScriptRealm() override;
 
-    ScriptOutcome run(const QString &code, const QMap<QString, QVariant> &parameters) override;
-    ScriptOutcome run(const QString &code) override;
+    QList<ScriptOutcome> run(const QList<ScriptTask> &tasks,
+                             const QMap<QString, QVariant> &parameters) override;
 
 private:
-    class GuardedObjects;
-
     [[nodiscard]] std::optional<QString> load(const ScriptLibrary &library);
     [[nodiscard]] ScriptOutcome evaluate(const QString &code);
+    [[nodiscard]] bool isLate() const { return m_watch && m_watch->barked(); }
+    void watch(std::chrono::milliseconds deadline);
 
-    const ScriptDeadline m_deadline;
-    std::unique_ptr<GuardedObjects> m_objects; // outlives the engine that knows them
+    const ScriptRulesNow m_rules;
+    ScriptObjects m_objects; // outlives the engine that knows them
     QJSEngine m_engine;
     QJSValue m_toText;
+    QJSValue m_forgetLists;
+    /// Stays between two runs, for what the first has left to the event loop.
+    std::optional<ScriptWatch> m_watch;
+    int m_depth = 0;
 };
 
 class EngineScripts : public QObject, public ScriptEngineInterface
@@ -38,8 +44,8 @@ class EngineScripts : public QObject, public ScriptEngineInterface
     Q_INTERFACES(ozm::ScriptEngineInterface)
 
 public:
-    [[nodiscard]] std::unique_ptr<ScriptRealm>
-    createRealm(const ScriptLibrary &library, ScriptDeadline deadline, QString *trouble) override;
+    [[nodiscard]] std::unique_ptr<ScriptRealm> createRealm(const ScriptLibrary &library, ScriptRulesNow rules,
+                                                           QString *trouble) override;
 };
 
 } // namespace ozm

@@ -17,12 +17,13 @@
         return value === undefined || value === null ? "" : String(value);
     }
 
-    // Texts that are no numbers, such as "n. d." or a range, come out of the formatting as they are.
+    // Texts that are not numbers, such as "n. d." or a range, come out of the formatting as they are. So does
+    // "0x10", which nobody means as 16.
     function toNumber(value) {
         if (typeof value === "number")
             return value;
         var trimmed = text(value).trim();
-        return trimmed === "" ? NaN : Number(trimmed);
+        return /^[+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?$/.test(trimmed) ? Number(trimmed) : NaN;
     }
 
     function withUnit(formatted, unit) {
@@ -44,6 +45,9 @@
             return text(value);
         var parts = fixed(parsed, digits === undefined ? 0 : digits).split(".");
         var between = separator === undefined ? "\u2009" : separator;
+        // The engine writes numbers from 1e21 on with an exponent.
+        if (!/^-?\d+$/.test(parts[0]))
+            return text(value);
         for (var at = parts[0].length - 3; at > (parsed < 0 ? 1 : 0); at -= 3)
             parts[0] = parts[0].slice(0, at) + between + parts[0].slice(at);
         return parts.join(".");
@@ -94,22 +98,50 @@
         return (value < 10 ? "0" : "") + value;
     }
 
-    function toDate(value) {
-        var parts = /^(\d{4})-(\d{2})-(\d{2})$/.exec(text(value).trim());
-        // A day without a time is that day where the reader is, not the one in Greenwich.
-        if (parts)
-            return new Date(Number(parts[1]), Number(parts[2]) - 1, Number(parts[3]));
-        return value instanceof Date ? value : new Date(text(value));
+    function daysIn(year, month) {
+        var leap = (year % 4 === 0 && year % 100 !== 0) || year % 400 === 0;
+        return month === 2 ? (leap ? 29 : 28) : [4, 6, 9, 11].indexOf(month) >= 0 ? 30 : 31;
+    }
+
+    function partsOf(moment) {
+        return { year: moment.getFullYear(), month: moment.getMonth() + 1, day: moment.getDate(),
+                 hour: moment.getHours(), minute: moment.getMinutes(), second: moment.getSeconds() };
+    }
+
+    // A day without a time is read and written as it stands: there are days without a midnight, where summer
+    // time begins then, and a Date would be of the day before.
+    function dateParts(value) {
+        if (value instanceof Date)
+            return isNaN(value.getTime()) ? null : partsOf(value);
+        var found = /^(\d{4})-(\d\d)-(\d\d)(?:[T ](\d\d):(\d\d)(?::(\d\d)(?:[.,]\d+)?)?\s*(Z|[+-]\d\d:?\d\d)?)?$/
+            .exec(text(value).trim());
+        if (!found)
+            return null;
+        var at = { year: Number(found[1]), month: Number(found[2]), day: Number(found[3]),
+                   hour: Number(found[4] || 0), minute: Number(found[5] || 0), second: Number(found[6] || 0) };
+        if (at.month < 1 || at.month > 12 || at.day < 1 || at.day > daysIn(at.year, at.month) ||
+            at.hour > 23 || at.minute > 59 || at.second > 59)
+            return null;
+        return found[7] ? partsOf(momentOf(at, found[7])) : at;
+    }
+
+    function momentOf(at, zone) {
+        var ahead = zone === "Z" ? 0 : Number(zone.slice(1, 3)) * 60 + Number(zone.slice(-2));
+        // Date.UTC takes the years up to 99 for those of the last century.
+        var moment = new Date(Date.UTC(2000, at.month - 1, 1, at.hour, at.minute, at.second));
+        moment.setUTCFullYear(at.year, at.month - 1, at.day);
+        moment.setTime(moment.getTime() - (zone[0] === "-" ? -ahead : ahead) * 60000);
+        return moment;
     }
 
     function date(value, pattern) {
-        var day = toDate(value);
-        if (isNaN(day.getTime()))
+        var at = dateParts(value);
+        if (at === null)
             return text(value);
-        var parts = { yyyy: day.getFullYear(), MMMM: MONTHS[day.getMonth()],
-                      MMM: MONTHS[day.getMonth()].slice(0, 3), MM: twoDigits(day.getMonth() + 1),
-                      dd: twoDigits(day.getDate()), d: day.getDate(), HH: twoDigits(day.getHours()),
-                      mm: twoDigits(day.getMinutes()), ss: twoDigits(day.getSeconds()) };
+        var parts = { yyyy: ("000" + at.year).slice(-Math.max(4, String(at.year).length)),
+                      MMMM: MONTHS[at.month - 1], MMM: MONTHS[at.month - 1].slice(0, 3),
+                      MM: twoDigits(at.month), dd: twoDigits(at.day), d: at.day, HH: twoDigits(at.hour),
+                      mm: twoDigits(at.minute), ss: twoDigits(at.second) };
         return (pattern === undefined ? "yyyy-MM-dd" : pattern)
             .replace(/yyyy|MMMM|MMM|MM|dd|d|HH|mm|ss/g, function (part) { return parts[part]; });
     }
@@ -130,18 +162,36 @@
         return all.slice(0, -1).join(between) + last + all[all.length - 1];
     }
 
+    // Digits can be more than a number holds.
+    function compareDigits(a, b) {
+        var left = a.replace(/^0+/, "");
+        var right = b.replace(/^0+/, "");
+        return left.length - right.length || (left < right ? -1 : left > right ? 1 : 0);
+    }
+
     // Numbers in texts by their size: T2 before T10.
-    function compare(left, right) {
+    function compareTexts(left, right) {
         var pieces = /(\d+)/;
-        var a = text(left).split(pieces);
-        var b = text(right).split(pieces);
+        var a = left.split(pieces);
+        var b = right.split(pieces);
         for (var index = 0; index < Math.min(a.length, b.length); ++index) {
             if (a[index] === b[index])
                 continue;
-            var difference = index % 2 === 1 ? Number(a[index]) - Number(b[index]) : 0;
+            var difference = index % 2 === 1 ? compareDigits(a[index], b[index]) : 0;
             return difference !== 0 ? difference : (a[index] < b[index] ? -1 : 1);
         }
         return a.length - b.length;
+    }
+
+    function compare(left, right) {
+        if (left instanceof Date && right instanceof Date)
+            return left.getTime() - right.getTime() || 0;
+        var a = toNumber(left);
+        var b = toNumber(right);
+        var numbers = !isNaN(a) && !isNaN(b);
+        // Numbers stand before texts.
+        return numbers ? (a < b ? -1 : a > b ? 1 : 0)
+            : !isNaN(a) ? -1 : !isNaN(b) ? 1 : compareTexts(text(left), text(right));
     }
 
     function sort(items, key) {
@@ -158,9 +208,11 @@
         return list(items).filter(function (item, place, all) { return all.indexOf(item) === place; });
     }
 
+    // Brackets, too: a code in a value would be filled like those of the template.
     function escapeHtml(value) {
         return text(value).replace(/&/g, "&amp;").replace(/</g, "&lt;").replace(/>/g, "&gt;")
-            .replace(/"/g, "&quot;").replace(/'/g, "&#39;");
+            .replace(/"/g, "&quot;").replace(/'/g, "&#39;")
+            .replace(/\[/g, "&#91;").replace(/\]/g, "&#93;");
     }
 
     function cells(tag, values, align) {

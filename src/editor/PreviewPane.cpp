@@ -169,6 +169,12 @@ void PreviewPane::listTroubles(const TemplateReport &report)
                    tr("A script failed in its line %1: %2").arg(script.line).arg(script.message),
                    script.position, script.code);
     }
+    for (const BroughtInCode &code : report.broughtIn) {
+        const QString text = code.by.isEmpty()
+                                 ? tr("%1 came in with the result of a script.").arg(code.code)
+                                 : tr("%1 came in with the value of %2.").arg(code.code, code.by);
+        addTrouble(u"dialog-warning"_s, text, code.position, code.by);
+    }
     const int count = m_troubles->count();
     m_count->setText(count == 0   ? tr("Everything was filled.")
                      : count == 1 ? tr("1 place could not be filled:")

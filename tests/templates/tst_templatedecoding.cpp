@@ -12,6 +12,8 @@
 
 #include <QRandomGenerator>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -33,6 +35,19 @@ public:
     QString instrument = u"TOF"_s;
     QStringList operators{u"Ann"_s, u"Bo"_s};
     int hidden = 7;
+};
+
+class Notes
+{
+    Q_GADGET
+    Q_PROPERTY(QString comment MEMBER comment)
+    Q_PROPERTY(QString format MEMBER format)
+    Q_PROPERTY(QString sequence MEMBER sequence)
+
+public:
+    QString comment = u"see [Name]"_s;
+    QString format = u"["_s;
+    QString sequence = u"[Name]"_s;
 };
 
 class Base : public QObject
@@ -355,6 +370,11 @@ private Q_SLOTS:
         QTest::newRow("range") << Summary::Range << 1 << mixed << u"1.0 – 3.0"_s;
         QTest::newRow("range of one") << Summary::Range << 1 << QVariantList{2, 2.0} << u"2.0"_s;
         QTest::newRow("range, negative") << Summary::Range << 0 << QVariantList{-1, -10, 2} << u"-10 – 2"_s;
+        for (const QVariantList &order : {QVariantList{3.0, qQNaN(), 1.0}, QVariantList{qQNaN(), 1.0, 3.0}})
+            QTest::addRow("range without order %g", order.constFirst().toDouble())
+                << Summary::Range << 1 << order << u"1.0 – 3.0; nan"_s;
+        QTest::newRow("range of not a number")
+            << Summary::Range << 1 << QVariantList{qQNaN(), 2.0} << u"2.0; nan"_s;
         QTest::newRow("sum") << Summary::Sum << 2 << mixed << u"7.00"_s;
         QTest::newRow("sum of one") << Summary::Sum << -1 << QVariantList{4} << u"4"_s;
         QTest::newRow("mean") << Summary::Mean << 3 << mixed << u"2.333"_s;
@@ -422,7 +442,54 @@ private Q_SLOTS:
         QCOMPARE(stored.indexOf(u"[Name]"_s), inside.unresolved.constFirst().position);
         QCOMPARE(stored.indexOf(u"1;\n"_s), inside.failed.constFirst().position);
         ozm::test::expectWarning(u"Cannot decode template "_s);
-        QVERIFY(AbstractTemplateEditor::decodeTECReport(text, {}).unresolved.isEmpty());
+        for (const ozm::TemplateReport &none :
+             {AbstractTemplateEditor::decodeTECReport(text, {}),
+              AbstractTemplateEditor::decodeTECReport(text, static_cast<RowNode *>(nullptr), {}),
+              AbstractTemplateEditor::decodeTECReport(text, QList<RowNode *>(), {})}) {
+            QVERIFY(none.text.isEmpty() && none.unresolved.isEmpty() && !none.isComplete());
+            QCOMPARE(none.error.errorCode(), ozm::ErrorCode::BadParameter);
+        }
+    }
+
+    void valuesThatBringInCodes_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("none") << u"[Charge] [Mass] [Name]"_s << QString();
+        QTest::newRow("one") << u"x [Comment] [Name]"_s << u"[Name] by [Comment] at 2"_s;
+        QTest::newRow("not an earlier one") << u"[Name] [Sequence]"_s << QString();
+        QTest::newRow("by halves") << u"[Charge] [Format]Name] [Name]"_s << u"[Name] by [Format] at 9"_s;
+        QTest::newRow("by a script") << u"[Name]<script>inputParameters['[Comment]']</script> [Comment]"_s
+                                     << u"[Name] by  at 14; [Name] by [Comment] at 52"_s;
+        QTest::newRow("what a script spells") << u"<script>'[Name]'</script>"_s << QString();
+        QTest::newRow("escaped")
+            << u"[Name]<script>templateEditorCore.escapeHtml(inputParameters['[Comment]'])</script>"_s
+            << QString();
+    }
+    void valuesThatBringInCodes()
+    {
+        QFETCH(QString, text);
+        Notes notes;
+        RowNode row = peptide(u"T12"_s, 2, 1045.5);
+        const auto report =
+            AbstractTemplateEditor::decodeTECReport(text, &row, {{Notes::staticMetaObject, &notes}});
+        QStringList told;
+        for (const ozm::BroughtInCode &code : report.broughtIn)
+            told.append(u"%1 by %2 at %3"_s.arg(code.code, code.by).arg(code.position));
+        QTEST(told.join(u"; "_s), "told");
+        QCOMPARE(report.isComplete(), told.isEmpty());
+    }
+
+    // A text may lie in a buffer that is not its own, and that changes.
+    void textsInForeignBuffers()
+    {
+        const RowNode row = peptide(u"T12"_s, 2, 1045.5);
+        std::array buffer{u'1', u'[', u'N', u'a', u'm', u'e', u']'};
+        const QString text =
+            QString::fromRawData(reinterpret_cast<const QChar *>(buffer.data()), buffer.size());
+        QCOMPARE(AbstractTemplateEditor::decodeTEC(text, &row, {}), u"1T12"_s);
+        buffer.front() = u'2';
+        QCOMPARE(AbstractTemplateEditor::decodeTEC(text, &row, {}), u"2T12"_s);
     }
 
     void textsForReaders()

@@ -40,6 +40,54 @@ private:
     const std::chrono::milliseconds m_before = TemplateEditorJSEngine::deadline();
 };
 
+/// Gives objects that have no parent.
+class Giver : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QObject *kept READ kept CONSTANT)
+
+public:
+    Giver() { setObjectName(u"giver"_s); }
+    [[nodiscard]] QObject *kept() { return &m_kept; }
+    Q_INVOKABLE QObject *make()
+    {
+        wasMade = true;
+        made = new QObject;
+        made->setObjectName(u"made"_s);
+        return made;
+    }
+    Q_INVOKABLE QString nameOf(QObject *object) { return object ? object->objectName() : QString(); }
+
+    bool wasMade = false;
+    QPointer<QObject> made;
+
+private:
+    QObject m_kept;
+};
+
+/// A site's library in the place of the application's, for as long as it lives.
+class SiteLibrary
+{
+public:
+    SiteLibrary(const QString &path, const QByteArray &content)
+        : m_path(path)
+    {
+        QFile::rename(m_path, m_path + u".own"_s);
+        QFile file(m_path);
+        if (file.open(QIODevice::WriteOnly))
+            file.write(content);
+    }
+    ~SiteLibrary()
+    {
+        QFile::remove(m_path);
+        QFile::rename(m_path + u".own"_s, m_path);
+    }
+    Q_DISABLE_COPY_MOVE(SiteLibrary)
+
+private:
+    const QString m_path;
+};
+
 /// Scripts that try to be noticed by other templates...
 const QStringList kDisturbers{
     u"left = 1; 'd'"_s,
@@ -150,6 +198,12 @@ private Q_SLOTS:
         QTest::newRow("no conversion") << u"Object.create(null)"_s << QString();
         QTest::newRow("conversion is changed")
             << u"String = () => 'mine'; ({ toString: () => 'own' })"_s << u"own"_s;
+        QTest::newRow("list in itself") << u"let a = [1]; a.push(a); a"_s << QString();
+        QTest::newRow("list in itself, as a text")
+            << u"let a = [1]; a.push({ toString: () => a.toLocaleString() }); a + ''"_s << QString();
+        QTest::newRow("deep list") << u"let a = []; for (let i = 0; i < 1e5; ++i) a = [a]; a"_s << QString();
+        QTest::newRow("long list") << u"new Array(1e8)"_s << QString();
+        QTest::newRow("list in two places") << u"let a = [1, 2]; [a, [a, [3].join()]]"_s << u"1,2,1,2,3"_s;
         QTest::newRow("too deep") << u"(function f() { f() })()"_s << QString();
     }
     void results()
@@ -264,6 +318,54 @@ private Q_SLOTS:
         QTEST(ozm::isContainedScript(code), "contained");
     }
 
+    void objectAccess_data()
+    {
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<QString>("full");
+        QTest::addColumn<QString>("readOnly");
+        const QString refused = u"This object can only be read."_s;
+        QTest::newRow("read") << u"o.objectName"_s << u"giver"_s << u"giver"_s;
+        QTest::newRow("set") << u"o.objectName = 'x'; o.objectName"_s << u"x"_s << refused;
+        QTest::newRow("call") << u"o.make().objectName"_s << u"made"_s << refused;
+        QTest::newRow("set of what was given") << u"o.kept.objectName = 'y'"_s << u"y"_s << refused;
+        QTest::newRow("in a list") << u"inputParameters['[list]'][0].objectName"_s << u"giver"_s
+                                   << u"giver"_s;
+        QTest::newRow("the same") << u"o === inputParameters['[list]'][0]"_s << u"true"_s << u"true"_s;
+        QTest::newRow("as an argument") << u"o.nameOf(o.make())"_s << u"made"_s << refused;
+        QTest::newRow("by its description")
+            << u"Object.getOwnPropertyDescriptor(o, 'make').value.call(o).objectName"_s << u"made"_s
+            << refused;
+        QTest::newRow("by reflection") << u"Reflect.get(o, 'make')().objectName"_s << u"made"_s << refused;
+        QTest::newRow("connected")
+            << u"let c = 'no'; try { o.objectNameChanged.connect(() => 1); c = 'yes' } catch (e) {} c"_s
+            << u"yes"_s << u"no"_s;
+        QTest::newRow("by its prototype")
+            << u"Object.getPrototypeOf(o) ? Object.getPrototypeOf(o).make.call(o) : 'none'"_s << QString()
+            << u"none"_s;
+    }
+    void objectAccess()
+    {
+        using Access = TemplateEditorJSEngine::ObjectAccess;
+        QFETCH(QString, code);
+        for (const Access access : {Access::Full, Access::ReadOnly}) {
+            TemplateEditorJSEngine::setObjectAccess(access);
+            Giver giver;
+            auto engine = std::make_unique<TemplateEditorJSEngine>();
+            const auto object = QVariant::fromValue<QObject *>(&giver);
+            const Values values{{u"[o]"_s, object}, {u"[list]"_s, QVariant::fromValue(QObjectList{&giver})}};
+            const QString result = engine->evaluateJS(
+                u"try { const o = inputParameters['[o]'];"_s + code + u"} catch (e) { e.message }"_s, values);
+            QFETCH(QString, full);
+            if (access == Access::ReadOnly || !full.isNull())
+                QTEST(result, access == Access::Full ? "full" : "readOnly");
+            engine.reset();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QVERIFY2(!giver.wasMade || giver.made, "what a method gives stays the application's");
+            delete giver.made;
+        }
+        TemplateEditorJSEngine::setObjectAccess(Access::Full);
+    }
+
     void scriptsThatDoNotEnd_data()
     {
         QTest::addColumn<QString>("code");
@@ -288,7 +390,8 @@ private Q_SLOTS:
               "new Proxy({}, { get() { for (;;) {} } }).x",
               "class A { constructor() { for (;;) {} } } new A()",
               "let m = new Map(); for (let i = 0;; ++i) m.set(i % 10, i)",
-              "templateEditorCore.sort([1, 2], function () { for (;;) {} })"})
+              "templateEditorCore.sort([1, 2], function () { for (;;) {} })",
+              "let list = [{ toString() { for (;;) {} } }]; list + ''"})
             QTest::newRow(code) << QString::fromLatin1(code);
     }
     void scriptsThatDoNotEnd()
@@ -300,6 +403,41 @@ private Q_SLOTS:
         QCOMPARE(engine.evaluateJS(u"6 * 7"_s, {}), u"42"_s);
         TemplateEditorJSCodeReader reader;
         QCOMPARE(reader.readAsString(piece(code) + piece(u"1 + 1"_s), {}), piece(code) + piece(u"2"_s));
+    }
+
+    // Those that another has left no time for are not run at all, and none runs on with the event loop.
+    void theDeadlineIsThatOfTheDecoding()
+    {
+        const Deadline deadline(50ms);
+        const QString late = u"for (;;) {}"_s;
+        TemplateEditorJSCodeReader reader;
+        QCOMPARE(reader.readAsString(piece(u"1"_s) + piece(late) + piece(u"2"_s), {}),
+                 piece(u"1"_s) + piece(late) + piece(u"2"_s));
+        QObject waiter;
+        TemplateEditorJSEngine engine;
+        const Values object{{u"o"_s, QVariant::fromValue<QObject *>(&waiter)}};
+        QCOMPARE(engine.evaluateJS(u"inputParameters.o.objectNameChanged.connect(() => { for (;;) {} });"
+                                   "Promise.resolve().then(() => done = 'kept').then(() => { for (;;) {} });"
+                                   "1"_s,
+                                   object),
+                 u"1"_s);
+        QCoreApplication::processEvents();
+        waiter.setObjectName(u"x"_s);
+        QCOMPARE(engine.evaluateJS(u"done"_s, {}), u"kept"_s);
+    }
+
+    // A site's library may read what the template's own script does not spell.
+    void parametersAreSetForEveryPiece()
+    {
+        const QString path =
+            QCoreApplication::applicationDirPath() + u"/templateEditorJSLib/TemplateEditorJSUtils.js"_s;
+        const SiteLibrary site(path, "({ name: () => inputParameters['[Name]'],"
+                                     "   spoil: () => inputParameters['[Name]'] = 'x' })");
+        TemplateEditorJSCodeReader reader;
+        const QString name = u"templateEditorCore.name()"_s;
+        QCOMPARE(
+            reader.readAsString(piece(name) + piece(u"templateEditorCore.spoil()"_s) + piece(name), kValues),
+            piece(u"T12"_s) + piece(u"x"_s) + piece(u"T12"_s));
     }
 
     void objectsInValues()

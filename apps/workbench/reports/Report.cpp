@@ -61,6 +61,8 @@ ReportPages pageOf(const ozm::TemplateReport &decoded)
         page.troubles.append(tr("%1 has no value.").arg(code.code));
     for (const ozm::FailedScript &script : decoded.failed)
         page.troubles.append(tr("A script failed in its line %1: %2").arg(script.line).arg(script.message));
+    for (const ozm::BroughtInCode &code : decoded.broughtIn)
+        page.troubles.append(tr("%1 came in with a value.").arg(code.code));
     return page;
 }
 

@@ -6,6 +6,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 #include <vector>
 
@@ -76,11 +77,24 @@ double sum(const std::vector<double> &all)
     return total;
 }
 
+/// The ends of the range; a not-a-number, which lies nowhere in it, is shown behind them.
 QVariant range(const QVariantList &values, const std::vector<double> &all, const Description &description)
 {
-    const auto [least, most] = std::ranges::minmax_element(all);
-    return u"%1 – %2"_s.arg(description.valueToString(values.at(least - all.begin())),
-                            description.valueToString(values.at(most - all.begin())));
+    std::vector<qsizetype> inside;
+    QString behind;
+    for (qsizetype index = 0; index < values.size(); ++index) {
+        if (std::isnan(all.at(static_cast<std::size_t>(index))))
+            behind = std::max(behind, u"; "_s + description.valueToString(values.at(index)));
+        else
+            inside.push_back(index);
+    }
+    if (inside.empty())
+        return values;
+    const auto [least, most] = std::ranges::minmax_element(
+        inside, {}, [&all](qsizetype index) { return all.at(static_cast<std::size_t>(index)); });
+    const QString first = description.valueToString(values.at(*least));
+    const QString last = description.valueToString(values.at(*most));
+    return (*least == *most ? first : first + u" – "_s + last) + behind;
 }
 
 QVariant summaryOf(const QVariantList &all, const Description &description)

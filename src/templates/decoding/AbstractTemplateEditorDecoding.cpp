@@ -79,6 +79,14 @@ void movePositions(ozm::TemplateReport &report, qsizetype by)
         code.position += by;
     for (ozm::FailedScript &script : report.failed)
         script.position += by;
+    for (ozm::BroughtInCode &code : report.broughtIn)
+        code.position += by;
+}
+
+void refuse(ozm::TemplateReport *report, const QString &text)
+{
+    if (report)
+        report->error = ozm::Error(ozm::ErrorCode::BadParameter, text).ecatch(OZM_HERE);
 }
 
 QString decodeWrapped(const QString &text, const QList<DecodeTecExtraData> &extraData,
@@ -87,6 +95,7 @@ QString decodeWrapped(const QString &text, const QList<DecodeTecExtraData> &extr
     const auto content = ozm::syntax::unwrapped(text);
     if (!content) {
         qCWarning(lcOzmWidgets) << "Cannot decode template " << QString();
+        refuse(report, AbstractTemplateEditor::tr("Wrong template editor content format."));
         return {};
     }
     QString decoded = extraDataDecoder().decode(content->text, extraData, report);
@@ -98,17 +107,18 @@ QString decodeWrapped(const QString &text, const QList<DecodeTecExtraData> &extr
 QString decodeRow(const QString &text, const RowNode *row, const QList<DecodeTecExtraData> &extraData,
                   ozm::TemplateReport *report)
 {
-    return row ? rowDecoder().decode(text, *row, extraData, report) : QString();
+    if (row)
+        return rowDecoder().decode(text, *row, extraData, report);
+    refuse(report, AbstractTemplateEditor::tr("There is no data row to fill the template with."));
+    return {};
 }
 
 QString decodeRows(const QString &text, QList<RowNode *> rows, const QList<DecodeTecExtraData> &extraData,
                    ozm::TemplateReport *report)
 {
     rows.removeAll(nullptr);
-    if (rows.isEmpty())
-        return {};
-    if (rows.size() == 1)
-        return decodeRow(text, rows.constFirst(), extraData, report);
+    if (rows.size() <= 1)
+        return decodeRow(text, rows.value(0), extraData, report);
     const SummaryRow summary(rows);
     return decodeRow(text, &summary.row(), extraData, report);
 }

@@ -203,7 +203,7 @@ QString TemplateDecoder::decode(const QString &text, const RowNode &row,
 QString TemplateDecoder::read(const ozm::TemplateText &parsed, const QMap<QString, QVariant> &parameters,
                               ozm::TemplateReport *report)
 {
-    QString text = m_reader.d->read(parsed, parameters, report ? &report->failed : nullptr);
+    QString text = m_reader.d->read(parsed, parameters, report);
     if (report) {
         report->text = text;
         report->unresolved = unresolvedCodes(parsed, parameters);

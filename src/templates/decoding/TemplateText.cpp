@@ -24,7 +24,15 @@ ScriptPiece scriptPiece(const QString &text, qsizetype start, qsizetype length)
 {
     const QString code = text.sliced(start, length);
     const bool contained = isContainedScript(code);
-    return {static_cast<qint32>(start), code, contained, !contained || code.contains("inputParameters"_L1)};
+    const bool mayChange =
+        !contained || code.contains("inputParameters"_L1) || code.contains("templateEditorCore"_L1);
+    return {static_cast<qint32>(start), code, contained, mayChange};
+}
+
+/// @p text in a buffer that lives as long as it is wanted: one from QString::fromRawData() is somebody else's.
+QString owned(const QString &text)
+{
+    return text.data_ptr().isMutable() ? text : QString(text.constData(), text.size());
 }
 
 QList<ScriptPiece> scriptPieces(const QString &text)
@@ -85,9 +93,10 @@ std::shared_ptr<const TemplateText> TemplateCache::parsed(const QString &text)
 {
     if (const auto *known = m_templates.object({text}))
         return *known;
-    auto fresh = std::make_shared<const TemplateText>(text);
+    const QString own = owned(text);
+    auto fresh = std::make_shared<const TemplateText>(own);
     // One that is larger than the bound by itself is not kept.
-    m_templates.insert({text}, new std::shared_ptr<const TemplateText>(fresh), fresh->cost());
+    m_templates.insert({own}, new std::shared_ptr<const TemplateText>(fresh), fresh->cost());
     return fresh;
 }
 

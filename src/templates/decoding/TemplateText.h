@@ -14,8 +14,8 @@ struct ScriptPiece
 {
     qint32 start; ///< In the template, just after the tag.
     QString code;
-    bool contained;       ///< Leaves nothing behind in the engine: see isContainedScript().
-    bool readsParameters; ///< May look at them; false only when that is certain.
+    bool contained;           ///< Leaves nothing behind in the engine: see isContainedScript().
+    bool mayChangeParameters; ///< False only when it is certain that it does not.
 };
 
 /// A template parsed as far as that is possible without data.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -83,6 +84,14 @@ public:
         return std::move(m_out);
     }
 
+    /// The keys in the outcome that come later than those whose values they are made of.
+    QList<BroughtInCode> arisen()
+    {
+        m_collects = true;
+        (void)run();
+        return m_arisen;
+    }
+
 private:
     [[nodiscard]] qsizetype outcomeSize() const
     {
@@ -111,6 +120,7 @@ private:
             m_open = -1;
             return;
         }
+        m_by = &mark;
         settle(mark.position);
         m_settled = mark.position + m_marks.names.at(mark.name).size();
         const qsizetype start = m_out.size();
@@ -133,10 +143,23 @@ private:
     {
         if (m_out.at(position) == u'[') {
             m_open = position;
+            m_openedBy = m_by;
         } else if (m_open >= 0) {
-            m_keyArose = m_values.contains(m_out.sliced(m_open, position + 1 - m_open));
+            const QString key = m_out.sliced(m_open, position + 1 - m_open);
+            m_keyArose = m_values.contains(key);
             m_open = -1;
+            if (m_collects && std::exchange(m_keyArose, false))
+                collect(key);
         }
+    }
+
+    void collect(const QString &key)
+    {
+        const auto isLater = [this, &key](const syntax::Mark *by) {
+            return !by || m_marks.names.at(by->name) < key;
+        };
+        if (m_by && isLater(m_by) && isLater(m_openedBy))
+            m_arisen.append({key, m_marks.names.at(m_by->name), m_by->position});
     }
 
     const QStringView m_text;
@@ -147,6 +170,10 @@ private:
     qsizetype m_settled = 0; ///< Up to where the text is in the outcome, or replaced there.
     qsizetype m_open = -1;   ///< The last bracket of the outcome, if it is an opening one.
     bool m_keyArose = false;
+    bool m_collects = false;
+    const syntax::Mark *m_by = nullptr; ///< The last code that was replaced.
+    const syntax::Mark *m_openedBy = nullptr;
+    QList<BroughtInCode> m_arisen;
 };
 
 } // namespace
@@ -162,6 +189,12 @@ QString replaceInTurn(const QString &text, const QMap<QString, QVariant> &values
     for (auto value = values.cbegin(); value != values.cend(); ++value)
         result.replace(value.key(), textOf(*value));
     return result;
+}
+
+QList<BroughtInCode> broughtIn(const QString &text, const syntax::MarkedText &marks,
+                               const QMap<QString, QVariant> &values)
+{
+    return SinglePass(text, marks, values).arisen();
 }
 
 QString replace(const QString &text, const syntax::MarkedText &marks, const QMap<QString, QVariant> &values)

@@ -2,6 +2,8 @@
 
 #include "templates/syntax/Codes.h"
 
+#include <ozm_widgets/TemplateDiagnostics.h>
+
 #include <QMap>
 #include <QString>
 #include <QVariant>
@@ -22,5 +24,9 @@ namespace ozm::tokens {
 /// The same by one pass where possible. @p marks are those of @p text.
 [[nodiscard]] QString replace(const QString &text, const syntax::MarkedText &marks,
                               const QMap<QString, QVariant> &values);
+
+/// The keys that replace() replaces only because a value holds them, or parts of them.
+[[nodiscard]] QList<BroughtInCode> broughtIn(const QString &text, const syntax::MarkedText &marks,
+                                             const QMap<QString, QVariant> &values);
 
 } // namespace ozm::tokens

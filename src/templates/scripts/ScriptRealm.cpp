@@ -15,11 +15,22 @@ namespace {
 class NoScripts : public ScriptRealm
 {
 public:
-    ScriptOutcome run(const QString &code, const QMap<QString, QVariant> &) override { return run(code); }
-    ScriptOutcome run(const QString &code) override { return {code, true, 1, text()}; }
+    QList<ScriptOutcome> run(const QList<ScriptTask> &tasks, const QMap<QString, QVariant> &) override
+    {
+        QList<ScriptOutcome> failed;
+        for (const ScriptTask &task : tasks)
+            failed.append({task.code, true, 1, text()});
+        return failed;
+    }
 
     static QString text() { return u"The script engine \"ozm_scripts\" is not installed."_s; }
 };
+
+ScriptRules rulesNow()
+{
+    return {TemplateEditorJSEngine::deadline(),
+            TemplateEditorJSEngine::objectAccess() == TemplateEditorJSEngine::ObjectAccess::ReadOnly};
+}
 
 ScriptEngineInterface *findEngine()
 {
@@ -35,7 +46,7 @@ std::unique_ptr<ScriptRealm> ScriptRealm::create(const ScriptLibrary &library, Q
 {
     static ScriptEngineInterface *const engine = findEngine();
     if (engine)
-        return engine->createRealm(library, &TemplateEditorJSEngine::deadline, trouble);
+        return engine->createRealm(library, &rulesNow, trouble);
     if (trouble)
         *trouble = NoScripts::text();
     return std::make_unique<NoScripts>();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QMap>
 #include <QString>
 #include <QVariant>
@@ -9,6 +10,14 @@
 #include <memory>
 
 namespace ozm {
+
+/// A piece of script to be run.
+struct ScriptTask
+{
+    QString code;
+    /// False only when it is certain that the piece cannot change its parameters: others then get the same.
+    bool mayChangeParameters = true;
+};
 
 /// The outcome of a piece of script. A failed one has its code as its text.
 struct ScriptOutcome
@@ -40,18 +49,24 @@ public:
     ScriptRealm &operator=(const ScriptRealm &) = delete;
     virtual ~ScriptRealm() = default;
 
-    [[nodiscard]] virtual ScriptOutcome run(const QString &code,
-                                            const QMap<QString, QVariant> &parameters) = 0;
-    /// For code that does not look at its parameters: handing them over costs more than a short script.
-    [[nodiscard]] virtual ScriptOutcome run(const QString &code) = 0;
+    /// Runs @p tasks in their order, all of them within one deadline. Once it has passed, the rest fail, and
+    /// whatever they left to be done later is not done.
+    [[nodiscard]] virtual QList<ScriptOutcome> run(const QList<ScriptTask> &tasks,
+                                                   const QMap<QString, QVariant> &parameters) = 0;
 
     /// Takes what is wrong with the library, if anything is, to @p trouble. Without the plug-in, a realm in
     /// which every script fails, and says why.
     [[nodiscard]] static std::unique_ptr<ScriptRealm> create(const ScriptLibrary &library, QString *trouble);
 };
 
-/// Asked before each script for how long it may run.
-using ScriptDeadline = std::chrono::milliseconds (*)();
+struct ScriptRules
+{
+    std::chrono::milliseconds deadline; ///< None when zero or less.
+    bool readOnlyObjects = false;
+};
+
+/// Asked before each decoding.
+using ScriptRulesNow = ScriptRules (*)();
 
 /// The plug-in with the script engine.
 class ScriptEngineInterface
@@ -59,12 +74,12 @@ class ScriptEngineInterface
 public:
     virtual ~ScriptEngineInterface() = default;
 
-    /// As ScriptRealm::create(); the deadline is asked before each script.
+    /// As ScriptRealm::create().
     [[nodiscard]] virtual std::unique_ptr<ScriptRealm>
-    createRealm(const ScriptLibrary &library, ScriptDeadline deadline, QString *trouble) = 0;
+    createRealm(const ScriptLibrary &library, ScriptRulesNow rules, QString *trouble) = 0;
 };
 
 } // namespace ozm
 
-#define OZM_SCRIPT_ENGINE_IID "ozm_widgets.ScriptEngineInterface/2"
+#define OZM_SCRIPT_ENGINE_IID "ozm_widgets.ScriptEngineInterface/3"
 Q_DECLARE_INTERFACE(ozm::ScriptEngineInterface, OZM_SCRIPT_ENGINE_IID)
