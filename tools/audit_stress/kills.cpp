@@ -9,7 +9,9 @@
 #include <QTextStream>
 #include <QThread>
 
+#include <algorithm>
 #include <cstdio>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -90,15 +92,20 @@ int appendUntilKilled(const Arguments &arguments)
     const qint64 milliseconds = arguments.number(u"seconds"_s, 0) * qint64(1000);
     QElapsedTimer time;
     time.start();
+    QElapsedTimer wait;
+    qint64 longestMs = 0;
     int serial = 0;
     for (; milliseconds == 0 || time.elapsed() < milliseconds; ++serial) {
+        wait.start();
         const auto number = store.value()->append({draftOf(writer, serial)});
         if (!number)
             return fail(number.error().errorMessage());
         if (milliseconds == 0)
             say(number.value());
+        longestMs = qMax(longestMs, wait.elapsed());
     }
     say(serial);
+    say(longestMs);
     return 0;
 }
 
@@ -148,7 +155,8 @@ int processes(const Arguments &arguments)
                                u"--seconds"_s, arguments.text(u"seconds"_s, u"2"_s)});
     }
     int failures = 0;
-    qint64 said = 0;
+    QList<qint64> said;
+    qint64 longestMs = 0;
     // Meanwhile somebody verifies: writing is no damage.
     const auto store = Store::open(address, Store::Mode::Existing);
     while (writers.front()->state() != QProcess::NotRunning && !writers.front()->waitForFinished(500)) {
@@ -159,14 +167,18 @@ int processes(const Arguments &arguments)
     for (const auto &writer : writers) {
         writer->waitForFinished(-1);
         const QByteArray output = writer->readAllStandardOutput().trimmed();
-        said += output.toLongLong();
+        said.append(output.split('\n').value(0).toLongLong());
+        longestMs = qMax(longestMs, output.split('\n').value(1).toLongLong());
         if (writer->exitCode() != 0)
             failures += fail(QString::fromUtf8(output));
     }
+    const qint64 all = std::accumulate(said.cbegin(), said.cend(), qint64(0));
     const auto verified = store.value()->verify();
-    if (!verified || !verified.value().isWhole() || verified.value().size != said)
+    if (!verified || !verified.value().isWhole() || verified.value().size != all)
         failures += fail(verified ? verified.value().toString() : verified.error().errorMessage());
-    QTextStream(stdout) << count << " writers, " << said << " entries, " << failures << " failures"
+    const auto [fewest, most] = std::ranges::minmax(said);
+    QTextStream(stdout) << count << " writers, " << all << " entries, " << fewest << " to " << most
+                        << " each, longest wait " << longestMs << " ms, " << failures << " failures"
                         << Qt::endl;
     return failures;
 }

@@ -169,9 +169,10 @@ bool Statement::isNull(int column) const
     return sqlite3_column_type(m_statement, column) == SQLITE_NULL;
 }
 
-Database::Database(const QString &path, sqlite3 *handle)
+Database::Database(const QString &path, sqlite3 *handle, int patienceMs)
     : m_path(path)
     , m_handle(handle)
+    , m_patienceMs(patienceMs)
 {}
 
 Database::~Database()
@@ -187,7 +188,7 @@ Result<std::unique_ptr<Database>> Database::open(const QString &path, Access acc
     const int code = sqlite3_open_v2(path.toUtf8().constData(), &handle, flagsOf(access),
                                      vfs.isEmpty() ? nullptr : vfsName.constData());
     // Not make_unique: the constructor is private.
-    std::unique_ptr<Database> database(new Database(path, handle));
+    std::unique_ptr<Database> database(new Database(path, handle, patienceMs));
     if (code != SQLITE_OK)
         return database->failure(code);
     sqlite3_busy_timeout(handle, patienceMs);
@@ -225,6 +226,7 @@ Result<QByteArray> Database::text(const char *sql)
 
 Error Database::transact(const std::function<Error()> &work)
 {
+    const Turns::Turn turn(m_turns.get(), QDeadlineTimer(m_patienceMs));
     if (Error error = run("BEGIN IMMEDIATE"); error.hasError())
         return error;
     Error error = work();
@@ -234,6 +236,11 @@ Error Database::transact(const std::function<Error()> &work)
     if (error.hasError() && sqlite3_get_autocommit(m_handle) == 0)
         (void)run("ROLLBACK");
     return error;
+}
+
+void Database::takeTurns()
+{
+    m_turns = std::make_unique<Turns>(m_path + "-turn"_L1);
 }
 
 bool Database::hasMoved() const

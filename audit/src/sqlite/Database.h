@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Turns.h"
+
 #include <ozm_common_stable/Result.h>
 
 #include <QByteArray>
@@ -80,6 +82,8 @@ public:
 
     /// Runs @p work in a transaction that holds the write lock from its beginning; an error undoes it.
     [[nodiscard]] Error transact(const std::function<Error()> &work);
+    /// From now on, transactions of all programs that say so come in turn.
+    void takeTurns();
 
     /// True when the file was deleted or replaced under the connection.
     [[nodiscard]] bool hasMoved() const;
@@ -87,10 +91,12 @@ public:
     [[nodiscard]] Error failure(int code) const;
 
 private:
-    Database(const QString &path, sqlite3 *handle);
+    Database(const QString &path, sqlite3 *handle, int patienceMs);
 
     const QString m_path;
     sqlite3 *m_handle;
+    const int m_patienceMs;
+    std::unique_ptr<Turns> m_turns;
 };
 
 /// The error of a file that is not what it was written as; @p detail says what was found.

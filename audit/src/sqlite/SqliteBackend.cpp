@@ -380,6 +380,8 @@ Result<std::unique_ptr<StoreBackend>> openSqlite(const Address &address, Store::
         Database::open(address.path, access, shared ? kSharedPatienceMs : kPatienceMs, address.vfs);
     if (!database)
         return database.error();
+    if (shared && !readOnly && address.vfs.isEmpty())
+        database.value()->takeTurns();
     if (Error error = prepareStore(*database.value(), mode, shared); error.hasError())
         return error;
     const auto trail = database.value()->text("SELECT trail FROM head");
