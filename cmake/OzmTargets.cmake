@@ -53,7 +53,8 @@ function(ozm_configure_target target)
             -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
             -Wconversion -Wno-sign-conversion -Wold-style-cast -Wimplicit-fallthrough -Wformat=2
             "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/="
-            $<$<BOOL:${OZM_WARNINGS_AS_ERRORS}>:-Werror>)
+            # A call of an older form is worth a warning, and never a reason to refuse the build.
+            $<$<BOOL:${OZM_WARNINGS_AS_ERRORS}>:-Werror> -Wno-error=deprecated-declarations)
         if(OZM_SANITIZE)
             target_compile_options(${target} PRIVATE
                 -fsanitize=${OZM_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -47,7 +48,8 @@ bool ShortCode::Private::copyParameters(const ShortCode &other)
         qCCritical(lcOzmWidgets, "qptr is invalid");
         return false;
     }
-    implementation = other.d->implementation;
+    implementation = other.d ? other.d->implementation
+                             : QSharedPointer<ShortCodeImplementation>(new ShortCodeImplementation);
     qptr->code = other.code;
     qptr->name = other.name;
     qptr->toolTip = other.toolTip;
@@ -73,17 +75,49 @@ ShortCode::ShortCode(const ShortCode &other)
     , name(other.name)
     , toolTip(other.toolTip)
     , extraText(other.extraText)
-    , d(std::make_unique<Private>(this, other.d->implementation))
+    , d(std::make_unique<Private>(this, other.d ? other.d->implementation : nullptr))
 {}
+
+ShortCode::ShortCode(ShortCode &&other) noexcept
+    : code(std::move(other.code))
+    , name(std::move(other.name))
+    , toolTip(std::move(other.toolTip))
+    , extraText(std::move(other.extraText))
+    , d(std::move(other.d))
+{
+    if (d)
+        d->qptr = this;
+}
 
 ShortCode &ShortCode::operator=(const ShortCode &other)
 {
     if (this != &other)
-        d->copyParameters(other);
+        part()->copyParameters(other);
+    return *this;
+}
+
+ShortCode &ShortCode::operator=(ShortCode &&other) noexcept
+{
+    if (this == &other)
+        return *this;
+    code = std::move(other.code);
+    name = std::move(other.name);
+    toolTip = std::move(other.toolTip);
+    extraText = std::move(other.extraText);
+    d = std::move(other.d);
+    if (d)
+        d->qptr = this;
     return *this;
 }
 
 ShortCode::~ShortCode() = default;
+
+ShortCode::Private *ShortCode::part()
+{
+    if (!d)
+        d = std::make_unique<Private>(this);
+    return d.get();
+}
 
 bool ShortCode::operator==(const ShortCode &other) const
 {
@@ -93,22 +127,22 @@ bool ShortCode::operator==(const ShortCode &other) const
 
 QString ShortCode::displayName()
 {
-    return d->implementation->displayName(name);
+    return part()->implementation->displayName(name);
 }
 
 bool ShortCode::beforeGetDisplayName(const QMap<QString, QVariant> &parameters)
 {
-    return d->implementation && d->implementation->beforeGetDisplayName(this, parameters);
+    return part()->implementation && part()->implementation->beforeGetDisplayName(this, parameters);
 }
 
 bool ShortCode::beforeRemove() const
 {
-    return d->implementation->beforeRemove();
+    return !d || d->implementation->beforeRemove();
 }
 
 QSharedPointer<ShortCodeImplementation> ShortCode::implementation()
 {
-    return d->implementation;
+    return part()->implementation;
 }
 
 void ShortCode::setImplementation(ShortCodeImplementation *implementation)
@@ -117,8 +151,8 @@ void ShortCode::setImplementation(ShortCodeImplementation *implementation)
         qCWarning(lcOzmWidgets) << "A short code cannot be without an implementation:" << code;
         return;
     }
-    d->implementation.reset(implementation);
-    d->implementation->init(this);
+    part()->implementation.reset(implementation);
+    part()->implementation->init(this);
 }
 
 namespace ShortCodeUtils {

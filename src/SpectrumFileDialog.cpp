@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QFileSystemModel>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
@@ -78,19 +79,44 @@ void SpectrumFileDialog::rewire(QWidget *openButton)
     auto *delegate = new ozm::DataDelegate(this);
     setItemDelegate(delegate);
     ozm::widenColumns(*this);
-    m_recognition = new ozm::PickRecognition(this);
-    ozm::addToFileDialog(*this, m_recognition);
+    addRecognition();
     if (const QItemSelectionModel *selection = ozm::selectionModel(*this)) {
         connect(selection, &QItemSelectionModel::selectionChanged, this, &SpectrumFileDialog::showPicks);
         connect(selection, &QItemSelectionModel::selectionChanged, this, &SpectrumFileDialog::recognise);
     }
     if (const QLineEdit *name = ozm::nameBox(*this))
         connect(name, &QLineEdit::textEdited, this, &SpectrumFileDialog::recognise);
-    for (QAbstractItemView *view : findChildren<QAbstractItemView *>())
+    for (QAbstractItemView *view : findChildren<QAbstractItemView *>()) {
         view->installEventFilter(this);
-    for (QAbstractItemView *view : findChildren<QAbstractItemView *>())
         connect(delegate, &ozm::DataDelegate::looked, view->viewport(), qOverload<>(&QWidget::update));
+    }
     connect(this, &QFileDialog::directoryEntered, delegate, &ozm::DataDelegate::clear);
+}
+
+void SpectrumFileDialog::addRecognition()
+{
+    auto *row = new QWidget(this);
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_recognition = new ozm::PickRecognition(row);
+    layout->addWidget(m_recognition, 1);
+    // To open such a folder is to choose it, so that there has to be another way into one.
+    auto *inside = new QPushButton(tr("Look &inside"), row);
+    inside->setObjectName(u"lookInsideButton"_s);
+    inside->setAutoDefault(false);
+    inside->setEnabled(false);
+    inside->setToolTip(tr("Shows the contents of a folder that is named as data and holds none"));
+    layout->addWidget(inside, 0, Qt::AlignTop);
+    connect(m_recognition, &ozm::PickRecognition::onlyPickChanged, inside, [this, inside] {
+        const auto &only = m_recognition->onlyPick();
+        inside->setEnabled(!only.isData() && isVendorRawFolder(only.path, true));
+    });
+    connect(inside, &QPushButton::clicked, this, [this] {
+        // By value: the pick goes when its folder is left.
+        const QString folder = m_recognition->onlyPick().path;
+        enter(folder);
+    });
+    ozm::addToFileDialog(*this, row);
 }
 
 // By value, as in the suite's other libraries, which are built against it.
@@ -134,8 +160,7 @@ void SpectrumFileDialog::directoryEntered_custom(const QString &path)
     const QString before = std::exchange(m_folder, path);
     // From inside, the way up leads past the raw folder: it would be chosen otherwise.
     if (isVendorRawFolder(path, true) && before.startsWith(path + u'/')) {
-        m_folder = QFileInfo(path).absolutePath();
-        enter(m_folder);
+        enter(QFileInfo(path).absolutePath());
         return;
     }
     if (!isVendorRawFolder(path, true)) {
@@ -209,6 +234,7 @@ void SpectrumFileDialog::enter(const QString &folder)
 {
     if (QLineEdit *name = ozm::nameBox(*this))
         name->clear();
+    m_folder = folder;
     setDirectory(folder);
 }
 

@@ -246,6 +246,10 @@ Der berichtigte Pfad ist:
         <source>Information</source>
         <translation>Hinweis</translation>
     </message>
+    <message>
+        <source>Question</source>
+        <translation>Frage</translation>
+    </message>
 </context>
 <context>
     <name>QMessageBox</name>
@@ -270,6 +274,14 @@ Bitte prüfen Sie, ob der Dateiname stimmt.</translation>
             <numerusform>%n Datei oder Ordner</numerusform>
             <numerusform>%n Dateien und Ordner</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Look &amp;inside</source>
+        <translation>&amp;Hineinsehen</translation>
+    </message>
+    <message>
+        <source>Shows the contents of a folder that is named as data and holds none</source>
+        <translation>Zeigt den Inhalt eines Ordners, der wie Messdaten heißt und keine enthält</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 
 #include <ozm_common_stable/Error.h>
 #include <ozm_widgets/DisplayString.h>
+#include <ozm_widgets/MessageBoxDescription.h>
 #include <ozm_widgets/OzmMessageBoxSignal.h>
 #include <ozm_widgets/ozm_widgets_export.h>
 
@@ -15,10 +16,6 @@
 #include <functional>
 
 class QWidget;
-
-namespace ozm {
-struct MessageBoxDescription;
-}
 
 /**
  * The look of the suite's applications, and its messages to the user.
@@ -34,8 +31,14 @@ struct MessageBoxDescription;
  *
  * ## Message boxes
  *
- *     if (OZMStyle::question(this, signal, tr("Delete"), tr("Delete the run?"), QMessageBox::Yes |
- * QMessageBox::No, QMessageBox::No) == QMessageBox::Yes) remove(run);
+ *     const auto answer = OZMStyle::ask(this, {.icon = QMessageBox::Question,
+ *                                              .text = tr("Delete the run?"),
+ *                                              .buttons = QMessageBox::Yes | QMessageBox::No,
+ *                                              .defaultButton = QMessageBox::No});
+ *     if (answer == QMessageBox::Yes)
+ *         remove(run);
+ *
+ * The functions critical(), warning(), information() and question() ask for the same boxes by position.
  *
  * May be called from any thread. The box is always built and shown on the thread of its parent, which is
  * the GUI thread; the calling thread waits for the answer. A parent that is deleted meanwhile takes its
@@ -90,6 +93,15 @@ public:
     [[nodiscard]] static QIcon icon(const QString &name);
     [[nodiscard]] static QStringList iconNames();
 
+    /// Shows the box and waits for its answer.
+    [[nodiscard]] static Button ask(QWidget *parent, const ozm::MessageBoxDescription &box);
+
+    /// Opens the box over its parent, and does not wait: @p answered is called once, on the thread of @p context,
+    /// with what ask() would have returned. Not when @p context is deleted before, or its thread's event loop has
+    /// ended; it must be there when this is called. Any thread.
+    static void open(QWidget *parent, const ozm::MessageBoxDescription &box, QObject *context,
+                     const Answered &answered);
+
     // Without a title: "Error", "Warning", "Information". An error is added to the text by its message, or
     // by its code's text when it has none. No buttons at all means Ok. Texts of buttons that are empty leave
     // the usual ones.
@@ -139,23 +151,25 @@ public:
                         int defaultIndex = 0, int escapeIndex = -1);
 
     // Older forms. The two buttons are both shown, the second is the default; NoButton stands for none. A
-    // call of the forms above with one button, and the same as the default, means the same here.
+    // call of the forms above with a single button and a default is taken for one of these.
 
-    static int critical(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
-                        QMessageBox::StandardButton button, QMessageBox::StandardButton defaultButton);
-    static int warning(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
-                       QMessageBox::StandardButton button, QMessageBox::StandardButton defaultButton);
-    static int information(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
-                           QMessageBox::StandardButton button, QMessageBox::StandardButton defaultButton);
-    static int question(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
-                        QMessageBox::StandardButton button, QMessageBox::StandardButton defaultButton);
+    [[deprecated("Use OZMStyle::ask(), or put the buttons into QMessageBox::StandardButtons.")]] static int
+    critical(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+             QMessageBox::StandardButton button, QMessageBox::StandardButton defaultButton);
+    [[deprecated("Use OZMStyle::ask(), or put the buttons into QMessageBox::StandardButtons.")]] static int
+    warning(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+            QMessageBox::StandardButton button, QMessageBox::StandardButton defaultButton);
+    [[deprecated("Use OZMStyle::ask(), or put the buttons into QMessageBox::StandardButtons.")]] static int
+    information(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+                QMessageBox::StandardButton button, QMessageBox::StandardButton defaultButton);
+    [[deprecated("Use OZMStyle::ask(), or put the buttons into QMessageBox::StandardButtons.")]] static int
+    question(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
+             QMessageBox::StandardButton button, QMessageBox::StandardButton defaultButton);
 
     /// The application's icon beside @p text, which can be selected and whose links open.
     static void about(QWidget *parent, const QString &title, const DisplayString &text);
 
-    // Without waiting: the box is opened over its parent, and answered() is called once, on the thread of
-    // context, with what the modal form would have returned. Not when context is deleted before, or its thread's
-    // event loop has ended; it must be there when this is called. Any thread.
+    // As open(), by position.
 
     static void openCritical(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
                              QObject *context, const Answered &answered, Buttons buttons = QMessageBox::Ok,

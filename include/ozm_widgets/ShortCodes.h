@@ -42,8 +42,9 @@ public:
  *     const ShortCode code(u"[Charge]"_s, u"Charge"_s, u"Charge state"_s, {});
  *     cursor.insertText(code.code);
  *
- * A value: copies share the implementation until one of them is given another. Two codes are equal when
- * their four texts are, whatever their implementations.
+ * A value: copies share the implementation until one of them is given another, and a move leaves a code
+ * behind that is like a new one but for its texts. Two codes are equal when their four texts are, whatever their
+ * implementations.
  */
 class OZM_WIDGETS_EXPORT ShortCode
 {
@@ -53,7 +54,9 @@ public:
     ShortCode();
     ShortCode(const QString &code, const QString &name, const QString &toolTip, const QString &extraText);
     ShortCode(const ShortCode &other);
+    ShortCode(ShortCode &&other) noexcept;
     ShortCode &operator=(const ShortCode &other);
+    ShortCode &operator=(ShortCode &&other) noexcept;
     ~ShortCode();
 
     bool operator==(const ShortCode &other) const;
@@ -73,7 +76,9 @@ public:
     QString extraText; ///< Free for the application.
 
 private:
-    std::unique_ptr<Private> d;
+    Private *part();
+
+    std::unique_ptr<Private> d; // Null only after a move, until it is needed again.
 };
 
 /// Looks up codes by their text with brackets; letter case counts.

@@ -55,6 +55,7 @@ private:
                                                                  QString *selectedFilter,
                                                                  QFileDialog::Options options);
     void rewire(QWidget *openButton);
+    void addRecognition();
     void tellMissing(const QString &path);
     void openOne(const QString &path);
     void enter(const QString &folder);

@@ -1,10 +1,10 @@
 #pragma once
 
+#include <ozm_widgets/MsDataLook.h>
+
 #include <QHash>
 #include <QSet>
 #include <QStyledItemDelegate>
-
-#include <memory>
 
 namespace ozm {
 
@@ -12,7 +12,7 @@ namespace ozm {
  * Shows in the list of a file dialog what each entry is: an icon for data, and in the column of types the
  * format, or that a folder of a vendor's name holds no data.
  *
- * Entries are looked at in another thread when they come on screen; until then they look as in any list.
+ * Entries are looked at beside the event loop when they come on screen; until then they look as in any list.
  */
 class DataDelegate : public QStyledItemDelegate
 {
@@ -20,7 +20,6 @@ class DataDelegate : public QStyledItemDelegate
 
 public:
     explicit DataDelegate(QObject *parent);
-    ~DataDelegate() override;
 
     /// Forgets what was seen, as the disk may have changed.
     void clear();
@@ -36,13 +35,9 @@ protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
 private:
-    class Lookup;
-
-    void take(const QString &path, const QString &format);
-
     QHash<QString, QString> m_formats;
     mutable QSet<QString> m_asked;
-    const std::shared_ptr<Lookup> m_lookup;
+    mutable msreader::MsDataLook m_look;
 };
 
 } // namespace ozm

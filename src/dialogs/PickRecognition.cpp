@@ -1,13 +1,8 @@
 #include "dialogs/PickRecognition.h"
 
-#include <ozm_widgets/MsDataSearch.h>
 #include <ozm_widgets/SpectrumFileDialog.h>
 
 #include <QFileInfo>
-#include <QMutex>
-#include <QThreadPool>
-
-#include <atomic>
 
 using namespace Qt::StringLiterals;
 
@@ -15,95 +10,33 @@ namespace ozm {
 
 namespace {
 
-using msreader::MsDataSearch;
 using msreader::MsSample;
 
 // Enough for what fits beneath a dialog; of more, the numbers tell.
 constexpr qsizetype kMostLines = 3;
 
-QString lineFor(const QString &path, const MsSample &info, bool isAlone)
-{
-    const QString name = QFileInfo(path).fileName();
-    if (info.isData())
-        return PickRecognition::tr("%1: %2").arg(name, info.description);
-    const bool isEntered =
-        isAlone && QFileInfo(path).isDir() && !SpectrumFileDialog::isVendorRawFolder(path, false);
-    return isEntered ? PickRecognition::tr("%1: a folder to look into").arg(name)
-                     : PickRecognition::tr("%1: no data, left out. %2").arg(name, info.refusal);
-}
-
-/// Of their own, so that a share which does not answer holds up nobody else's work.
-QThreadPool &threads()
-{
-    static QThreadPool pool;
-    return pool;
-}
-
-QString withoutSlashAtEnd(QString path)
+QString nameOf(QString path)
 {
     while (path.size() > 1 && path.endsWith(u'/'))
         path.chop(1);
-    return path;
+    return QFileInfo(path).fileName();
 }
 
-/// The text to show for @p paths; empty when @p isOutdated becomes true in the middle.
-QStringList linesFor(const QStringList &paths, const std::function<bool()> &isOutdated)
+QString lineFor(const MsSample &sample, bool isAlone)
 {
-    QStringList lines;
-    qsizetype dataCount = 0;
-    for (const QString &entry : paths) {
-        if (isOutdated())
-            return {};
-        const QString path = withoutSlashAtEnd(entry);
-        const MsSample info = MsDataSearch::sampleAt(path);
-        dataCount += info.isData() ? 1 : 0;
-        if (lines.size() < kMostLines)
-            lines.append(lineFor(path, info, paths.size() == 1));
-    }
-    if (paths.size() > 1)
-        lines.prepend(PickRecognition::tr("%1 of %2 hold data").arg(dataCount).arg(paths.size()));
-    return lines;
+    const QString name = nameOf(sample.path);
+    if (sample.isData())
+        return PickRecognition::tr("%1: %2").arg(name, sample.description);
+    const bool isEntered = isAlone && sample.kind == EntryKind::Folder &&
+                           !SpectrumFileDialog::isVendorRawFolder(sample.path, false);
+    return isEntered ? PickRecognition::tr("%1: a folder to look into").arg(name)
+                     : PickRecognition::tr("%1: no data, left out. %2").arg(name, sample.refusal);
 }
 
 } // namespace
 
-/// Outlives the label, as long as somebody looks at its entries.
-class PickRecognition::Requests
-{
-public:
-    explicit Requests(PickRecognition *label)
-        : m_label(label)
-    {}
-
-    void end()
-    {
-        const QMutexLocker lock(&m_mutex);
-        m_label = nullptr;
-        ++latest;
-    }
-
-    void answer(int number, const QStringList &lines)
-    {
-        const QMutexLocker lock(&m_mutex);
-        if (!m_label)
-            return;
-        const auto show = [label = m_label, this, number, lines] {
-            if (number == latest)
-                label->showLines(lines);
-        };
-        QMetaObject::invokeMethod(m_label, show, Qt::QueuedConnection);
-    }
-
-    std::atomic<int> latest = 0;
-
-private:
-    QMutex m_mutex;
-    PickRecognition *m_label;
-};
-
 PickRecognition::PickRecognition(QWidget *parent)
     : QLabel(parent)
-    , m_requests(std::make_shared<Requests>(this))
 {
     setObjectName(u"recognition"_s);
     setAccessibleName(tr("What is highlighted"));
@@ -113,27 +46,45 @@ PickRecognition::PickRecognition(QWidget *parent)
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     showLines({});
     setFixedHeight(static_cast<int>(kMostLines + 1) * fontMetrics().lineSpacing() + 2 * margin());
-}
-
-PickRecognition::~PickRecognition()
-{
-    m_requests->end();
+    connect(&m_look, &msreader::MsDataLook::seen, this, &PickRecognition::take);
 }
 
 void PickRecognition::recognise(const QStringList &paths)
 {
-    const int number = ++m_requests->latest;
+    m_look.cancel();
+    m_picks = paths;
+    setOnlyPick({});
+    m_found.clear();
+    m_dataCount = 0;
     if (paths.isEmpty()) {
         showLines({});
         return;
     }
     // The text about the former entry would be taken for one about this.
-    m_lines = {tr("Looking at %1 …").arg(QFileInfo(withoutSlashAtEnd(paths.constFirst())).fileName())};
+    m_lines = {tr("Looking at %1 …").arg(nameOf(paths.constFirst()))};
     elide();
-    threads().start([requests = m_requests, number, paths] {
-        const QStringList lines = linesFor(paths, [&] { return requests->latest != number; });
-        requests->answer(number, lines);
-    });
+    m_look.look(paths);
+}
+
+void PickRecognition::setOnlyPick(const MsSample &sample)
+{
+    m_onlyPick = sample;
+    Q_EMIT onlyPickChanged();
+}
+
+void PickRecognition::take(const MsSample &sample)
+{
+    m_dataCount += sample.isData() ? 1 : 0;
+    if (m_found.size() < kMostLines)
+        m_found.append(lineFor(sample, m_picks.size() == 1));
+    if (m_look.isRunning())
+        return;
+    QStringList lines = m_found;
+    if (m_picks.size() == 1)
+        setOnlyPick(sample);
+    else
+        lines.prepend(tr("%1 of %2 hold data").arg(m_dataCount).arg(m_picks.size()));
+    showLines(lines);
 }
 
 void PickRecognition::resizeEvent(QResizeEvent *event)

@@ -1,17 +1,16 @@
 #pragma once
 
+#include <ozm_widgets/MsDataLook.h>
+
 #include <QLabel>
 #include <QStringList>
-
-#include <memory>
 
 namespace ozm {
 
 /**
  * Says in a few lines what the entries highlighted in a file dialog are, or why they hold no data.
  *
- * They are looked at in another thread, the latest request only; a share that does not answer holds up
- * neither the dialog nor its end.
+ * They are looked at beside the event loop, the latest request only.
  */
 class PickRecognition : public QLabel
 {
@@ -19,24 +18,30 @@ class PickRecognition : public QLabel
 
 public:
     explicit PickRecognition(QWidget *parent = nullptr);
-    ~PickRecognition() override;
 
     void recognise(const QStringList &paths);
+    /// The answer for a pick that is alone; of no path until it is there, and for none or many.
+    [[nodiscard]] const msreader::MsSample &onlyPick() const { return m_onlyPick; }
 
 Q_SIGNALS:
     /// Emitted when the answer to the last question is shown.
     void recognised();
+    void onlyPickChanged();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    class Requests;
-
+    void setOnlyPick(const msreader::MsSample &sample);
+    void take(const msreader::MsSample &sample);
     void showLines(const QStringList &lines);
     void elide();
 
-    const std::shared_ptr<Requests> m_requests;
+    msreader::MsDataLook m_look;
+    QStringList m_picks;
+    msreader::MsSample m_onlyPick;
+    QStringList m_found; ///< A line for each of the first picks that were looked at.
+    qsizetype m_dataCount = 0;
     QStringList m_lines;
 };
 

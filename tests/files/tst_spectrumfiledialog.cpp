@@ -355,6 +355,12 @@ private Q_SLOTS:
             const auto *label = dialog->findChild<QLabel *>(u"recognition"_s);
             // The whole text, as the line itself may be cut to the dialog's width.
             QTRY_VERIFY2(label->toolTip().startsWith(text), qPrintable(label->toolTip()));
+            auto *inside = dialog->findChild<QPushButton *>(u"lookInsideButton"_s);
+            QCOMPARE(inside->isEnabled(), entries == QStringList{u"Empty.d"_s});
+            if (inside->isEnabled()) {
+                inside->click();
+                QCOMPARE(static_cast<QFileDialog *>(dialog)->directory().dirName(), u"Empty.d"_s);
+            }
             dialog->reject();
         });
     }

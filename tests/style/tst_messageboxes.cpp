@@ -115,6 +115,21 @@ private Q_SLOTS:
             QTest::newRow(name) << call << look << int(press);
         };
         using O = OZMStyle;
+        QT_WARNING_PUSH
+        QT_WARNING_DISABLE_DEPRECATED
+        row(
+            "described",
+            [=](QWidget *p) {
+                return O::ask(p, {.icon = Box::Question,
+                                  .signal = kSignal,
+                                  .text = kRich,
+                                  .buttons = kYesNo,
+                                  .defaultButton = Box::No,
+                                  .detailedText = u"D"_s,
+                                  .buttonTexts = {{Box::Yes, u"Go"_s}, {Box::Retry, u"?"_s}},
+                                  .error = named});
+            },
+            u"4|Question|<b>x</b> Disk &lt;full&gt;|rich|*No,Go,Show Details...|D|1234"_s, Box::Yes);
         row(
             "critical",
             [](QWidget *p) { return O::critical(p, kSignal, kTitle, kText, kYesNo, Box::No, u"D"_s); },
@@ -196,6 +211,7 @@ private Q_SLOTS:
             "question, older",
             [](QWidget *p) { return O::question(p, kSignal, kTitle, kText, Box::Yes, Box::No); },
             u"4|The title|The text|auto|*No,Yes||1234"_s, Box::Yes);
+        QT_WARNING_POP
     }
 
     void overloads()
@@ -244,8 +260,8 @@ private Q_SLOTS:
 
         // The form that does not wait answers the same, once.
         QList<int> answers;
-        OZMStyle::openQuestion(
-            &parent, kSignal, kTitle, kText, this, [&](S given) { answers.append(given); }, buttons, Box::No);
+        OZMStyle::open(&parent, {.icon = Box::Question, .buttons = buttons, .defaultButton = Box::No}, this,
+                       [&](S given) { answers.append(given); });
         QVERIFY2(answers.isEmpty(), "answered before anyone could have");
         QTRY_COMPARE(answers, QList<int>{answer});
         QTRY_VERIFY(parent.findChildren<OzmMessageBox *>().isEmpty());
@@ -333,10 +349,10 @@ private Q_SLOTS:
         parent.setAttribute(Qt::WA_DontShowOnScreen);
         const BoxDriver driver([](OzmMessageBox *box) { box->done(0); });
         QTest::ignoreMessage(QtWarningMsg,
-                             QRegularExpression(u"src/style/boxes/MessageBoxDescription\\.cpp:\\d+ x$"_s));
+                             QRegularExpression(u"src/style/boxes/MessageBoxes\\.cpp:\\d+ x$"_s));
         QCOMPARE(OZMStyle::warning(&parent, kSignal, kTitle, kRich, kYesNo, Box::No), Box::Ok);
         QList<int> answers;
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"MessageBoxDescription\\.cpp:\\d+ x$"_s));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"MessageBoxes\\.cpp:\\d+ x$"_s));
         OZMStyle::openWarning(
             &parent, kSignal, kTitle, kRich, this, [&](S given) { answers.append(given); }, kYesNo, Box::No);
         QTRY_COMPARE(answers, QList<int>{int(Box::Ok)});

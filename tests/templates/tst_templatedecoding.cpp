@@ -182,6 +182,10 @@ private Q_SLOTS:
             QVERIFY(!copy.beforeGetDisplayName({{u"x"_s, 1}}) && !copy.beforeRemove());
             QCOMPARE(copy.displayName(), u"NAME"_s);
             copy = *&copy;
+            ShortCode moved = std::move(copy);
+            QCOMPARE(moved.displayName(), u"NAME"_s);
+            QVERIFY2(copy.beforeRemove() && copy.implementation(), "what was moved from is a code still");
+            copy = std::move(moved);
             ozm::test::expectWarning(u"cannot be without an implementation"_s);
             copy.setImplementation(nullptr);
             QCOMPARE(copy.displayName(), u"NAME"_s);

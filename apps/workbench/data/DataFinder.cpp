@@ -1,10 +1,7 @@
 #include "data/DataFinder.h"
 
-#include <ozm_widgets/MsDataSearch.h>
-
 #include <QDir>
 #include <QFileInfo>
-#include <QThread>
 
 using namespace ozm::msreader;
 
@@ -26,18 +23,16 @@ DataFinder::DataFinder(QObject *parent)
         m_findings.wasCanceled = wasCanceled;
         finish();
     });
+    m_look.setMeasuresFolders(true);
+    connect(&m_look, &MsDataLook::seen, this, &DataFinder::take);
+    connect(&m_look, &MsDataLook::finished, this, &DataFinder::finish);
 }
 
-DataFinder::~DataFinder()
-{
-    cancel();
-    if (m_inspection)
-        m_inspection->wait();
-}
+DataFinder::~DataFinder() = default;
 
 bool DataFinder::isRunning() const
 {
-    return m_search.isRunning() || m_inspection;
+    return m_search.isRunning() || m_look.isRunning() || m_isEnding;
 }
 
 bool DataFinder::search(const QString &folder)
@@ -56,56 +51,40 @@ bool DataFinder::inspect(const QStringList &paths)
 {
     if (isRunning() || paths.isEmpty())
         return false;
-    m_isCanceled = false;
-    m_inspection.reset(QThread::create([this, paths] {
-        const DataFindings findings = inspected(paths);
-        QMetaObject::invokeMethod(
-            this,
-            [this, findings] {
-                // A thread that has handed this over has nothing left to do: the wait is short.
-                m_inspection->wait();
-                m_inspection.reset();
-                m_findings = findings;
-                finish();
-            },
-            Qt::QueuedConnection);
-    }));
-    m_inspection->start(QThread::LowPriority);
+    m_findings = {};
+    m_findings.source = QFileInfo(paths.constFirst()).absolutePath();
+    m_looked = 0;
+    QStringList cleaned;
+    for (const QString &path : paths)
+        cleaned.append(QDir::cleanPath(path));
+    m_look.look(cleaned);
     return true;
 }
 
-DataFindings DataFinder::inspected(const QStringList &paths)
+void DataFinder::take(const MsSample &sample)
 {
-    DataFindings findings;
-    findings.source = QFileInfo(paths.constFirst()).absolutePath();
-    int searched = 0;
-    for (const QString &path : paths) {
-        MsSample info = MsDataSearch::sampleAt(QDir::cleanPath(path));
-        if (info.kind == ozm::EntryKind::Folder && info.isData())
-            info.size = MsDataSearch::sizeOnDisk(info.path, [this] { return m_isCanceled.load(); });
-        if (m_isCanceled)
-            break;
-        if (info.isData())
-            findings.samples.append(info);
-        else
-            findings.refusals.append(tr("\"%1\": %2").arg(QFileInfo(info.path).fileName(), info.refusal));
-        const int found = static_cast<int>(findings.samples.size());
-        QMetaObject::invokeMethod(
-            this, [this, looked = ++searched, found] { Q_EMIT progressed(looked, found); },
-            Qt::QueuedConnection);
-    }
-    findings.wasCanceled = m_isCanceled;
-    return findings;
+    if (sample.isData())
+        m_findings.samples.append(sample);
+    else
+        m_findings.refusals.append(tr("\"%1\": %2").arg(QFileInfo(sample.path).fileName(), sample.refusal));
+    Q_EMIT progressed(++m_looked, static_cast<int>(m_findings.samples.size()));
 }
 
 void DataFinder::cancel()
 {
-    m_isCanceled = true;
     m_search.cancel();
+    if (!m_look.isRunning())
+        return;
+    m_look.cancel();
+    m_findings.wasCanceled = true;
+    m_isEnding = true;
+    // Not from within the call that cancels, as with a search.
+    QMetaObject::invokeMethod(this, &DataFinder::finish, Qt::QueuedConnection);
 }
 
 void DataFinder::finish()
 {
+    m_isEnding = false;
     // Whoever is told may start the next search at once.
     const DataFindings findings = std::exchange(m_findings, {});
     Q_EMIT finished(findings);

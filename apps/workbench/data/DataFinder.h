@@ -1,14 +1,10 @@
 #pragma once
 
+#include <ozm_widgets/MsDataLook.h>
 #include <ozm_widgets/MsDataSearch.h>
 
 #include <QList>
 #include <QStringList>
-
-#include <atomic>
-#include <memory>
-
-class QThread;
 
 namespace workbench {
 
@@ -23,7 +19,7 @@ struct DataFindings
 };
 
 /**
- * Looks for mass-spectrometry data on a thread of its own, sizes of folders included.
+ * Looks for mass-spectrometry data beside the event loop, sizes of folders included.
  *
  *     connect(finder, &DataFinder::finished, this, &Window::addFindings);
  *     finder->search(folder);
@@ -52,12 +48,13 @@ Q_SIGNALS:
     void finished(const workbench::DataFindings &findings);
 
 private:
-    [[nodiscard]] DataFindings inspected(const QStringList &paths);
+    void take(const ozm::msreader::MsSample &sample);
     void finish();
 
     ozm::msreader::MsDataSearch m_search;
-    std::unique_ptr<QThread> m_inspection;
-    std::atomic<bool> m_isCanceled = false;
+    ozm::msreader::MsDataLook m_look;
+    int m_looked = 0;
+    bool m_isEnding = false; ///< Canceled, and nobody was told yet.
     DataFindings m_findings;
 };
 

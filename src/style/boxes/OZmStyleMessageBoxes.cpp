@@ -1,6 +1,6 @@
 #include <ozm_widgets/OZMStyle.h>
 
-#include "style/boxes/MessageBoxDescription.h"
+#include "style/boxes/MessageBoxes.h"
 #include "support/Platform.h"
 #include <QWidget>
 
@@ -19,7 +19,7 @@ using Impl = Button (*)(QWidget *, const MessageBoxDescription &);
 
 constexpr std::array kIndexedButtons{QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
 
-Button ask(QWidget *parent, Impl impl, const MessageBoxDescription &box)
+Button askThrough(Impl impl, QWidget *parent, const MessageBoxDescription &box)
 {
     if (!parent)
         return impl(parent, box);
@@ -44,6 +44,36 @@ DisplayString withError(const DisplayString &text, const Error &error)
     return rich ? DisplayRichString(whole) : DisplayString(whole);
 }
 
+struct Kind
+{
+    QMessageBox::Icon icon;
+    const char *title;
+};
+
+constexpr std::array kKinds{
+    Kind{QMessageBox::Information, QT_TRANSLATE_NOOP("OZMStyle", "Information")},
+    Kind{QMessageBox::Warning, QT_TRANSLATE_NOOP("OZMStyle", "Warning")},
+    Kind{QMessageBox::Critical, QT_TRANSLATE_NOOP("OZMStyle", "Error")},
+    Kind{QMessageBox::Question, QT_TRANSLATE_NOOP("OZMStyle", "Question")},
+};
+
+QString titleOf(QMessageBox::Icon icon)
+{
+    const auto *kind = std::ranges::find(kKinds, icon, &Kind::icon);
+    return kind == kKinds.cend() ? QString() : OZMStyle::tr(kind->title);
+}
+
+/// @p box with all that is left to its kind filled in.
+MessageBoxDescription completed(MessageBoxDescription box)
+{
+    if (box.title.isEmpty())
+        box.title = titleOf(box.icon);
+    if (box.error)
+        box.text = withError(box.text, *box.error);
+    box.error.reset();
+    return box;
+}
+
 Button buttonAt(int index)
 {
     const bool known = index >= 0 && index < static_cast<int>(kIndexedButtons.size());
@@ -66,7 +96,7 @@ Button OZMStyle::criticalImpl(QWidget *parent, const MessageBoxDescription &box)
 
 Button OZMStyle::warningImpl(QWidget *parent, const MessageBoxDescription &box)
 {
-    const auto answer = box.answerOffScreen(parent);
+    const auto answer = ozm::answerOffScreen(box, parent);
     return answer ? *answer : ozm::runMessageBox(box, parent);
 }
 
@@ -82,20 +112,33 @@ Button OZMStyle::questionImpl(QWidget *parent, const MessageBoxDescription &box)
 
 void OZMStyle::aboutImpl(QWidget *parent, const MessageBoxDescription &box)
 {
-    (void)ozm::runMessageBox(box, parent);
+    (void)ozm::runMessageBox(box, parent, ozm::makeAboutBox);
+}
+
+Button OZMStyle::ask(QWidget *parent, const MessageBoxDescription &box)
+{
+    const MessageBoxDescription whole = completed(box);
+    // The answer off screen is a warning's alone, so that one of them can stand for all kinds.
+    return askThrough(warningImpl, parent, whole);
+}
+
+void OZMStyle::open(QWidget *parent, const MessageBoxDescription &box, QObject *context,
+                    const Answered &answered)
+{
+    ozm::openMessageBox(completed(box), parent, context, answered);
 }
 
 Button OZMStyle::critical(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
                           Buttons buttons, Button defaultButton, const QString &detailedText)
 {
-    return ask(parent, criticalImpl,
-               {QMessageBox::Critical, signal, title, text, buttons, defaultButton, detailedText});
+    return askThrough(criticalImpl, parent,
+                      {QMessageBox::Critical, signal, title, text, buttons, defaultButton, detailedText});
 }
 
 Button OZMStyle::critical(QWidget *parent, Signal signal, const DisplayString &text, Buttons buttons,
                           Button defaultButton)
 {
-    return critical(parent, signal, tr("Error"), text, buttons, defaultButton, {});
+    return critical(parent, signal, titleOf(QMessageBox::Critical), text, buttons, defaultButton, {});
 }
 
 Button OZMStyle::critical(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
@@ -107,23 +150,23 @@ Button OZMStyle::critical(QWidget *parent, Signal signal, const QString &title, 
 Button OZMStyle::warning(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
                          Buttons buttons, Button defaultButton, const QString &detailedText)
 {
-    return ask(parent, warningImpl,
-               {QMessageBox::Warning, signal, title, text, buttons, defaultButton, detailedText});
+    return askThrough(warningImpl, parent,
+                      {QMessageBox::Warning, signal, title, text, buttons, defaultButton, detailedText});
 }
 
 Button OZMStyle::warning(QWidget *parent, Signal signal, const DisplayString &text, Buttons buttons,
                          Button defaultButton)
 {
-    return warning(parent, signal, tr("Warning"), text, buttons, defaultButton, {});
+    return warning(parent, signal, titleOf(QMessageBox::Warning), text, buttons, defaultButton, {});
 }
 
 Button OZMStyle::warning(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
                          Buttons buttons, const QString &yesText, const QString &noText,
                          const QString &cancelText, Button defaultButton, const QString &detailedText)
 {
-    return ask(parent, warningImpl,
-               {QMessageBox::Warning, signal, title, text, buttons, defaultButton, detailedText,
-                textsOf(yesText, noText, cancelText)});
+    return askThrough(warningImpl, parent,
+                      {QMessageBox::Warning, signal, title, text, buttons, defaultButton, detailedText,
+                       textsOf(yesText, noText, cancelText)});
 }
 
 Button OZMStyle::warning(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
@@ -135,23 +178,23 @@ Button OZMStyle::warning(QWidget *parent, Signal signal, const QString &title, c
 Button OZMStyle::information(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
                              Buttons buttons, Button defaultButton)
 {
-    return ask(parent, informationImpl,
-               {QMessageBox::Information, signal, title, text, buttons, defaultButton});
+    return askThrough(informationImpl, parent,
+                      {QMessageBox::Information, signal, title, text, buttons, defaultButton});
 }
 
 Button OZMStyle::information(QWidget *parent, Signal signal, const DisplayString &text, Buttons buttons,
                              Button defaultButton)
 {
-    return information(parent, signal, tr("Information"), text, buttons, defaultButton);
+    return information(parent, signal, titleOf(QMessageBox::Information), text, buttons, defaultButton);
 }
 
 Button OZMStyle::question(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
                           Buttons buttons, Button defaultButton, const QString &yesText,
                           const QString &noText, const QString &cancelText)
 {
-    return ask(parent, questionImpl,
-               {QMessageBox::Question, signal, title, text, buttons, defaultButton, QString(),
-                textsOf(yesText, noText, cancelText)});
+    return askThrough(questionImpl, parent,
+                      {QMessageBox::Question, signal, title, text, buttons, defaultButton, QString(),
+                       textsOf(yesText, noText, cancelText)});
 }
 
 Button OZMStyle::question(QWidget *parent, const QString &title, const DisplayString &text,
@@ -160,9 +203,9 @@ Button OZMStyle::question(QWidget *parent, const QString &title, const DisplaySt
     Buttons buttons;
     for (auto button = buttonTexts.keyBegin(); button != buttonTexts.keyEnd(); ++button)
         buttons |= *button;
-    return ask(parent, questionImpl,
-               {QMessageBox::Question, Signal::Unspecified, title, text, buttons, defaultButton, QString(),
-                buttonTexts});
+    return askThrough(questionImpl, parent,
+                      {QMessageBox::Question, Signal::Unspecified, title, text, buttons, defaultButton,
+                       QString(), buttonTexts});
 }
 
 int OZMStyle::question(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
@@ -173,9 +216,9 @@ int OZMStyle::question(QWidget *parent, Signal signal, const QString &title, con
     Buttons buttons;
     for (Button button : kIndexedButtons)
         buttons.setFlag(button, !texts.value(button).isEmpty());
-    return indexOf(ask(parent, questionImpl,
-                       {QMessageBox::Question, signal, title, text, buttons, buttonAt(defaultIndex),
-                        QString(), texts, buttonAt(escapeIndex)}));
+    return indexOf(askThrough(questionImpl, parent,
+                              {QMessageBox::Question, signal, title, text, buttons, buttonAt(defaultIndex),
+                               QString(), texts, buttonAt(escapeIndex)}));
 }
 
 int OZMStyle::critical(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
@@ -208,9 +251,7 @@ void OZMStyle::about(QWidget *parent, const QString &title, const DisplayString 
         aboutImpl(over, box);
         return QMessageBox::Ok;
     };
-    MessageBoxDescription box{QMessageBox::NoIcon, Signal::Unspecified, title, text};
-    box.isAbout = true;
-    (void)ask(parent, impl, box);
+    (void)askThrough(impl, parent, {.icon = QMessageBox::NoIcon, .title = title, .text = text});
 }
 
 void OZMStyle::openCritical(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,

@@ -1,4 +1,4 @@
-#include "style/boxes/MessageBoxDescription.h"
+#include "style/boxes/MessageBoxes.h"
 
 #include "style/boxes/BoxDesk.h"
 #include "support/Logging.h"
@@ -37,25 +37,24 @@ bool isLivingWidget(const QWidget *widget)
     return std::ranges::find(all, widget) != all.cend();
 }
 
+/// The button for the code that a box ended with; a box closed without a button was canceled.
+Button answerOf(int code)
+{
+    return code == 0 ? QMessageBox::Cancel : static_cast<Button>(code);
+}
+
+/// The answer when the box cannot be shown.
+Button answerUnshown(const MessageBoxDescription &description)
+{
+    return description.icon == QMessageBox::Question ? QMessageBox::Cancel : description.defaultButton;
+}
+
 bool canShowWidgets()
 {
     if (qobject_cast<QApplication *>(QCoreApplication::instance()))
         return true;
     OZM_WIDGETS_WARNING() << "A message box needs a QApplication.";
     return false;
-}
-
-void setAboutIcon(OzmMessageBox &box)
-{
-    QIcon icon = QApplication::windowIcon();
-    if (icon.isNull() && box.parentWidget())
-        icon = box.parentWidget()->window()->windowIcon();
-    const int size = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
-    if (icon.isNull())
-        box.setIcon(QMessageBox::Information);
-    else
-        box.setIconPixmap(icon.pixmap(QSize(size, size), box.devicePixelRatioF()));
-    box.setTextInteractionFlags(Qt::TextBrowserInteraction);
 }
 
 void setButtons(OzmMessageBox &box, const MessageBoxDescription &description)
@@ -85,8 +84,6 @@ OzmMessageBox *buildMessageBox(const MessageBoxDescription &description, QWidget
     if (!description.detailedText.isEmpty())
         box->setDetailedText(description.detailedText);
     setButtons(*box, description);
-    if (description.isAbout)
-        setAboutIcon(*box);
     return box;
 }
 
@@ -172,10 +169,10 @@ void openOnGuiThread(const MessageBoxDescription &description, QWidget *parent,
                      const std::shared_ptr<Reply> &reply)
 {
     if (!canShowWidgets() || (parent && !isLivingWidget(parent))) {
-        reply->give(description.answerUnshown());
+        reply->give(answerUnshown(description));
         return;
     }
-    if (const auto answer = description.answerOffScreen(parent)) {
+    if (const auto answer = answerOffScreen(description, parent)) {
         reply->give(*answer);
         return;
     }
@@ -198,34 +195,40 @@ void openOnGuiThread(const MessageBoxDescription &description, QWidget *parent,
 
 } // namespace
 
-Button MessageBoxDescription::answerUnshown() const
+void makeAboutBox(OzmMessageBox &box)
 {
-    return icon == QMessageBox::Question ? QMessageBox::Cancel : defaultButton;
+    QIcon icon = QApplication::windowIcon();
+    if (icon.isNull() && box.parentWidget())
+        icon = box.parentWidget()->window()->windowIcon();
+    const int size = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
+    if (icon.isNull())
+        box.setIcon(QMessageBox::Information);
+    else
+        box.setIconPixmap(icon.pixmap(QSize(size, size), box.devicePixelRatioF()));
+    box.setTextInteractionFlags(Qt::TextBrowserInteraction);
 }
 
-std::optional<Button> MessageBoxDescription::answerOffScreen(const QWidget *parent) const
+std::optional<Button> answerOffScreen(const MessageBoxDescription &description, const QWidget *parent)
 {
-    if (icon != QMessageBox::Warning || !parent || !parent->testAttribute(Qt::WA_DontShowOnScreen))
+    if (description.icon != QMessageBox::Warning || !parent ||
+        !parent->testAttribute(Qt::WA_DontShowOnScreen))
         return {};
-    OZM_WIDGETS_WARNING() << qUtf8Printable(text.toPlainText());
+    OZM_WIDGETS_WARNING() << qUtf8Printable(description.text.toPlainText());
     return QMessageBox::Ok;
 }
 
-Button answerOf(int code)
-{
-    return code == 0 ? QMessageBox::Cancel : static_cast<Button>(code);
-}
-
-Button runMessageBox(const MessageBoxDescription &description, QWidget *parent)
+Button runMessageBox(const MessageBoxDescription &description, QWidget *parent, BoxTouch touch)
 {
     if (!canShowWidgets())
-        return description.answerUnshown();
+        return answerUnshown(description);
     if (!isGuiThread())
         return BoxDesk::instance()
-            .ask([&] { return runMessageBox(description, parent); })
-            .value_or(description.answerUnshown());
+            .ask([&] { return runMessageBox(description, parent, touch); })
+            .value_or(answerUnshown(description));
     // The parent may go, and the box with it, while its event loop runs.
     const QPointer<OzmMessageBox> box = buildMessageBox(description, parent);
+    if (touch)
+        touch(*box);
     // It may also go when it is answered already, but boxes opened over it keep it from returning.
     int pressed = 0;
     QObject::connect(box, &QDialog::finished, [&pressed](int code) { pressed = code; });
@@ -241,12 +244,12 @@ Button askOnThreadOf(QWidget *parent, const MessageBoxDescription &description,
 {
     if (isGuiThread())
         return platform::valueOr(AsyncUtils::executeInThread<Button>(parent, work),
-                                 description.answerUnshown());
+                                 answerUnshown(description));
     // Widgets live on the GUI thread, so that is where to go; the parent itself cannot be asked from here,
     // as it may be deleted in the middle of that.
     return BoxDesk::instance()
         .ask([&] { return isLivingWidget(parent) ? std::optional(work()) : std::nullopt; })
-        .value_or(description.answerUnshown());
+        .value_or(answerUnshown(description));
 }
 
 void openMessageBox(const MessageBoxDescription &description, QWidget *parent, QObject *context,
@@ -254,11 +257,11 @@ void openMessageBox(const MessageBoxDescription &description, QWidget *parent, Q
 {
     const auto reply = Reply::create(context, answered);
     if (!canShowWidgets()) {
-        reply->give(description.answerUnshown());
+        reply->give(answerUnshown(description));
     } else if (isGuiThread()) {
         openOnGuiThread(description, parent, reply);
     } else {
-        const auto ticket = std::make_shared<Ticket>(reply, description.answerUnshown());
+        const auto ticket = std::make_shared<Ticket>(reply, answerUnshown(description));
         BoxDesk::instance().post([=] {
             ticket->begin();
             openOnGuiThread(description, parent, reply);
