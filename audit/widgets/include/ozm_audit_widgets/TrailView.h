@@ -1,0 +1,85 @@
+#pragma once
+
+#include <ozm_audit_widgets/NumberSet.h>
+#include <ozm_audit_widgets/TrailModel.h>
+
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+class QAction;
+
+namespace ozm::audit {
+
+class SigningSession;
+
+/**
+ * A trail to be read, searched, filtered, reviewed, signed and handed on.
+ *
+ *     auto *view = new ozm::audit::TrailView(*store);
+ *     view->setLogger(&logger, {u"jdoe"_s, u"Jane Doe"_s, u"analyst"_s});
+ *     view->setSigningSession(&session);
+ *     view->setSubjectHook([this](const QString &type, const QString &key) { select(type, key); });
+ *
+ * Without a logger the view only reads; without a session nothing can be signed; without a hook there is no way
+ * from an entry to its object. How many entries the filter hides is always shown. Everything can be reached by
+ * keyboard: Ctrl+F searches, Ctrl+G goes to a number, Ctrl+C copies the selected rows.
+ *
+ * Store, logger and session must outlive the view. GUI thread.
+ */
+class OZM_AUDIT_WIDGETS_EXPORT TrailView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    enum class Action
+    {
+        Sign,
+        Review,
+        History,
+        ShowSubject,
+        Print,
+        SavePdf,
+        SaveCsv,
+        Copy, ///< An inspection copy.
+        Verify,
+        SaveFilter,
+        OpenFilter,
+        GoTo,
+    };
+    /// Shows the object with a key as the entry has it: type of the subject, and JSON.
+    using SubjectHook = std::function<void(const QString &type, const QString &key)>;
+
+    explicit TrailView(Store &store, QWidget *parent = nullptr);
+    ~TrailView() override;
+
+    [[nodiscard]] TrailModel &model() const;
+    [[nodiscard]] QAction *action(Action action) const;
+
+    /// What is done here is recorded by @p logger as done by @p user.
+    void setLogger(Logger *logger, const Person &user);
+    void setSigningSession(SigningSession *session);
+    void setSubjectHook(const SubjectHook &hook);
+    /// Copied along with inspection copies.
+    void setVerifier(const QString &path);
+
+    void setFilter(const TrailFilter &filter);
+    /// Shows the entries about one subject only.
+    void showSubject(const QString &type, const QString &key);
+    /// Selects the entry; shows all entries when the filter hides it.
+    void showEntry(qint64 number);
+    /// The newest entries, and those that come.
+    void showNewest();
+    [[nodiscard]] NumberSet selectedNumbers() const;
+    [[nodiscard]] Entry currentEntry() const;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    class Private;
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace ozm::audit

@@ -1,0 +1,130 @@
+#include "TrailView_p.h"
+
+#include <ozm_audit_widgets/SigningSession.h>
+#include <ozm_widgets/OZMStyle.h>
+
+#include <QKeyEvent>
+#include <QScrollBar>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm::audit {
+
+TrailView::TrailView(Store &store, QWidget *parent)
+    : QWidget(parent)
+    , d(std::make_unique<Private>(*this, store))
+{
+    setObjectName(u"trailView"_s);
+    setAccessibleName(tr("Audit trail"));
+    d->build();
+    d->connectAll();
+    d->updateActions();
+    d->updateStatus();
+    showNewest();
+}
+
+TrailView::~TrailView() = default;
+
+TrailModel &TrailView::model() const
+{
+    return d->model;
+}
+
+QAction *TrailView::action(Action action) const
+{
+    return d->actions.at(action);
+}
+
+void TrailView::setLogger(Logger *logger, const Person &user)
+{
+    d->logger = logger;
+    d->user = user;
+    d->model.setLogger(logger);
+    d->updateActions();
+}
+
+void TrailView::setSigningSession(SigningSession *session)
+{
+    d->session = session;
+    d->updateActions();
+}
+
+void TrailView::setSubjectHook(const SubjectHook &hook)
+{
+    d->hook = hook;
+    d->updateActions();
+}
+
+void TrailView::setVerifier(const QString &path)
+{
+    d->verifier = path;
+}
+
+void TrailView::setFilter(const TrailFilter &filter)
+{
+    d->bar.setFilter(filter);
+    d->model.setFilter(filter);
+}
+
+void TrailView::showSubject(const QString &type, const QString &key)
+{
+    TrailFilter filter;
+    filter.query.subjectType = type;
+    filter.query.subjectKey = key;
+    setFilter(filter);
+}
+
+void TrailView::showEntry(qint64 number)
+{
+    int row = d->model.rowOf(number);
+    if (row < 0 && !d->model.filter().isEmpty()) {
+        setFilter({});
+        row = d->model.rowOf(number);
+    }
+    if (row < 0)
+        return;
+    const QModelIndex index = d->model.index(row, TrailModel::What);
+    d->table.setCurrentIndex(index);
+    d->table.scrollTo(index, QAbstractItemView::PositionAtCenter);
+    d->follows = d->isAtNewest();
+}
+
+void TrailView::showNewest()
+{
+    d->follows = true;
+    d->follow();
+}
+
+NumberSet TrailView::selectedNumbers() const
+{
+    NumberSet numbers;
+    for (const QItemSelectionRange &range : d->table.selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            const qint64 number = d->model.index(row, 0).data(TrailModel::NumberRole).toLongLong();
+            if (number > 0)
+                numbers.add(number);
+        }
+    }
+    return numbers;
+}
+
+Entry TrailView::currentEntry() const
+{
+    const QModelIndex current = d->table.currentIndex();
+    return current.isValid() ? d->model.entryAt(current.row()) : Entry();
+}
+
+void TrailView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Find)) {
+        d->bar.focusSearch();
+    } else if (event->matches(QKeySequence::Copy)) {
+        d->copyRows();
+    } else {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+}
+
+} // namespace ozm::audit

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "../view/EntryDetails.h"
+#include "../view/FilterBar.h"
+
+#include <ozm_audit/Logger.h>
+#include <ozm_audit_widgets/TrailView.h>
+
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QTableView>
+
+#include <map>
+
+class QToolBar;
+
+namespace ozm::audit {
+
+class TrailView::Private
+{
+public:
+    Private(TrailView &view, Store &store);
+
+    void build();
+    void addZones(QToolBar &bar);
+    void connectAll();
+    void addActions(QToolBar &bar);
+    void updateActions();
+    void updateStatus();
+    void showCurrent();
+    void follow();
+    [[nodiscard]] bool isAtNewest() const;
+    void copyRows() const;
+    void show(const Error &error);
+    void showContextMenu(const QPoint &position);
+
+    // What the actions do.
+    void run(Action action);
+    void sign();
+    void review();
+    void history();
+    void goToSubject();
+    void goToNumber();
+    void print();
+    void save(Action action);
+    void makeCopy();
+    void verify();
+    void saveFilter();
+    void openFilter();
+    void recordOutput(const QString &what);
+
+    TrailView &q;
+    TrailModel model;
+    FilterBar bar;
+    QTableView table;
+    EntryDetails details;
+    QLabel status;
+    QComboBox zones;
+    std::map<Action, QAction *> actions;
+
+    Logger *logger = nullptr;
+    Person user;
+    SigningSession *session = nullptr;
+    SubjectHook hook;
+    QString verifier;
+    bool follows = true;
+};
+
+} // namespace ozm::audit
