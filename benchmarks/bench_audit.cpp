@@ -58,7 +58,7 @@ Draft loneDraft()
     return draft;
 }
 
-/// Trails of both lengths, and one to verify with its bytes in a file; made once.
+/// Trails of both lengths, and one to verify with its bytes in a file; made when they are needed.
 class Trails
 {
 public:
@@ -67,19 +67,27 @@ public:
         static Trails trails;
         return trails;
     }
-    [[nodiscard]] QString path(qint64 count) const { return m_folder.filePath(u"%1.sqlite"_s.arg(count)); }
+    [[nodiscard]] QString path(qint64 count)
+    {
+        const QString path = m_folder.filePath(u"%1.sqlite"_s.arg(count));
+        if (!QFile::exists(path))
+            make(path, count, {});
+        return path;
+    }
+    /// One that no other benchmark appends to.
+    [[nodiscard]] QString verified()
+    {
+        const QString path = m_folder.filePath(u"verified.sqlite"_s);
+        if (!QFile::exists(path))
+            make(path, kVerified, bytes());
+        return path;
+    }
     [[nodiscard]] QString bytes() const { return m_folder.filePath(u"bytes"_s); }
 
 private:
-    Trails()
+    static void make(const QString &path, qint64 count, const QString &bytes)
     {
-        make(path(kShort), kShort, {});
-        make(path(longTrail()), longTrail(), {});
-        make(path(0), kVerified, bytes());
-    }
-    void make(const QString &path, qint64 count, const QString &bytes)
-    {
-        constexpr qint64 kBatch = 1000;
+        constexpr qint64 kBatch = 10'000;
         auto store = Store::open(path);
         QList<Draft> drafts;
         for (qint64 i = 1; i <= count; ++i) {
@@ -103,15 +111,30 @@ private:
     QTemporaryDir m_folder;
 };
 
+[[gnu::noinline]] void appendOne(Store &store, const Draft &draft)
+{
+    if (!store.append({draft}))
+        qFatal("not appended");
+}
+
+[[gnu::noinline]] void insertOne(sqlite3_stmt *insert, const QByteArray &bytes)
+{
+    sqlite3_bind_blob(insert, 1, bytes.constData(), int(bytes.size()), SQLITE_STATIC);
+    if (sqlite3_step(insert) != SQLITE_DONE)
+        qFatal("not inserted");
+    sqlite3_reset(insert);
+}
+
+/// An entry, durable when the call returns: its bytes are made and hashed, the row and the head are stored.
 void audit_append(benchmark::State &state)
 {
     auto store = Store::open(Trails::instance().path(state.range(0) == 0 ? kShort : longTrail()));
-    for (auto _ : state) {
-        if (!store.value()->append({loneDraft()}))
-            qFatal("not appended");
-    }
+    const Draft draft = loneDraft();
+    for (auto _ : state)
+        appendOne(*store.value(), draft);
 }
 
+/// The same bytes, given, durable in the same way: a row, and SQLite's own note of the last number.
 void audit_insert_durably(benchmark::State &state)
 {
     const QTemporaryDir folder;
@@ -126,12 +149,8 @@ void audit_insert_durably(benchmark::State &state)
     auto memory = Store::open(u"memory:"_s);
     (void)memory.value()->append({draftOf(1, kShort)});
     const QByteArray bytes = memory.value()->entry(1).value().bytes;
-    for (auto _ : state) {
-        sqlite3_bind_blob(insert, 1, bytes.constData(), int(bytes.size()), SQLITE_STATIC);
-        if (sqlite3_step(insert) != SQLITE_DONE)
-            qFatal("not inserted");
-        sqlite3_reset(insert);
-    }
+    for (auto _ : state)
+        insertOne(insert, bytes);
     sqlite3_finalize(insert);
     sqlite3_close(handle);
 }
@@ -169,8 +188,7 @@ void audit_bare_push(benchmark::State &state)
 
 void audit_verify(benchmark::State &state)
 {
-    // One that no other benchmark appends to.
-    const auto store = Store::open(Trails::instance().path(0));
+    const auto store = Store::open(Trails::instance().verified());
     for (auto _ : state) {
         if (!store.value()->verify().value().isWhole())
             qFatal("damaged");
@@ -179,6 +197,7 @@ void audit_verify(benchmark::State &state)
 
 void audit_sha256sum(benchmark::State &state)
 {
+    (void)Trails::instance().verified();
     const QString bytes = Trails::instance().bytes();
     for (auto _ : state) {
         QProcess sum;

@@ -29,6 +29,11 @@ QByteArray treeHash(const QList<QByteArray> &leaves)
     return sha('\1' + treeHash(leaves.first(split)) + treeHash(leaves.sliced(split)));
 }
 
+// Not a raw text, which moc does not read to its end.
+constexpr const char *kRecord =
+    "{\"a\":[1,-2.5,1e3,true,null],\"\\u00e4 \\\\\":{\"b\":\"\\ud83d\\ude00\",\"c\":[]},\"d\":0}";
+constexpr const char *kSyntax = "{}[]:,\"\\0-.eu \n";
+
 } // namespace
 
 class TestAuditStore : public StrictTest
@@ -36,6 +41,28 @@ class TestAuditStore : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void anyRecordLeavesJson()
+    {
+        const QByteArray sample = kRecord;
+        auto store = Store::open(u"memory:"_s);
+        QRandomGenerator random(7);
+        QList<Draft> given;
+        for (int i = 0; i < 20000; ++i) {
+            Draft one = draft(i);
+            one.record = sample;
+            for (int change = 0; change < 1 + i % 2; ++change)
+                one.record[random.bounded(int(sample.size()))] =
+                    i % 3 == 0 ? char(random.bounded(256)) : kSyntax[random.bounded(16)];
+            given.append(one);
+        }
+        VERIFY_RESULT(store.value()->append(given));
+        for (qsizetype i = 0; i < given.size(); ++i) {
+            const Entry entry = store.value()->entry(i + 1).value();
+            QCOMPARE(entry.record, given.at(i).record);
+            QVERIFY2(!QJsonDocument::fromJson(entry.bytes).isNull(), entry.bytes.constData());
+        }
+    }
+
     void keepsWhatItIsGiven_data() { Stores::addRows(); }
     void keepsWhatItIsGiven()
     {

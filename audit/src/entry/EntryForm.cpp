@@ -1,6 +1,7 @@
 #include "EntryForm.h"
 
 #include "JsonCursor.h"
+#include "JsonWriter.h"
 
 #include <QJsonDocument>
 
@@ -13,75 +14,48 @@ namespace ozm::audit {
 
 namespace {
 
-void addText(QByteArray &json, const char *name, const QByteArray &text)
+void writePerson(JsonWriter &json, const Person &person)
 {
-    if (text.isEmpty())
-        return;
-    json.append(",\"").append(name).append("\":");
-    appendJsonString(json, text);
+    json.begin("user", '{');
+    json.text("id", person.id);
+    json.text("name", person.name);
+    json.text("role", person.role);
+    json.end('}');
 }
 
-void addText(QByteArray &json, const char *name, const QString &text)
-{
-    if (!text.isEmpty())
-        addText(json, name, text.toUtf8());
-}
-
-void addNumber(QByteArray &json, const char *name, qint64 number)
-{
-    if (number != 0)
-        json.append(",\"").append(name).append("\":").append(QByteArray::number(number));
-}
-
-struct Text
-{
-    const char *name;
-    QString text;
-};
-
-void addObject(QByteArray &json, const char *name, std::initializer_list<Text> members)
-{
-    QByteArray inside;
-    for (const Text &member : members)
-        addText(inside, member.name, member.text);
-    if (!inside.isEmpty())
-        json.append(",\"").append(name).append("\":{").append(inside.sliced(1)).append('}');
-}
-
-void addOutcome(QByteArray &json, const Draft &draft)
+void writeOutcome(JsonWriter &json, const Draft &draft)
 {
     if (draft.outcomeCode == 0)
         return;
-    json.append(",\"outcome\":{\"code\":").append(QByteArray::number(draft.outcomeCode));
-    addText(json, "text", draft.outcomeText);
-    json.append('}');
+    json.begin("outcome", '{');
+    json.number("code", draft.outcomeCode);
+    json.text("text", draft.outcomeText);
+    json.end('}');
 }
 
-void addAttributes(QByteArray &json, const QStringList &attributes)
+void writeSubject(JsonWriter &json, const Draft &draft)
 {
-    if (attributes.isEmpty())
-        return;
-    json.append(",\"attributes\":[");
-    for (const QString &attribute : attributes) {
-        appendJsonString(json, attribute.toUtf8());
-        json.append(',');
-    }
-    json.back() = ']';
+    json.begin("subject", '{');
+    json.text("type", draft.subjectType);
+    json.text("key", draft.subjectKey);
+    json.end('}');
+    json.begin("attributes", '[');
+    for (const QString &attribute : draft.attributes)
+        json.item(attribute);
+    json.end(']');
 }
 
 /// Last, and as it is, so that its bytes can be found again without reading JSON.
-void addRecord(QByteArray &json, const QByteArray &record)
+void writeRecord(JsonWriter &json, const QByteArray &record)
 {
     if (record.isEmpty())
         return;
     const bool isObject = record.startsWith('{') && record.endsWith('}');
-    if (isObject && !QJsonDocument::fromJson(record).isNull())
-        json.append(",\"record\":").append(record);
+    if (isPlainJsonObject(record) || (isObject && !QJsonDocument::fromJson(record).isNull()))
+        json.raw("record", record);
     else
-        addText(json, "record64", record.toBase64());
+        json.text("record64", record.toBase64());
 }
-
-using Reader = std::function<void(JsonCursor &, EntryMembers &)>;
 
 void readObject(JsonCursor &json, std::initializer_list<std::pair<QByteArrayView, QByteArray *>> texts,
                 qint64 *code = nullptr)
@@ -180,37 +154,38 @@ int digits(QByteArrayView text, qsizetype at, qsizetype count)
 
 QByteArray claimsOf(const Draft &draft)
 {
-    QByteArray json;
-    json.reserve(512 + draft.record.size());
-    addText(json, "id", draft.id);
-    addText(json, "time", utcText(draft.timeMs));
-    addNumber(json, "offset", draft.utcOffset);
-    addText(json, "zone", draft.zone);
-    addNumber(json, "counter", draft.counter);
-    addText(json, "kind", kindToString(draft.kind));
-    addObject(json, "user", {{"id", draft.user.id}, {"name", draft.user.name}, {"role", draft.user.role}});
-    addText(json, "session", draft.session);
-    addText(json, "host", draft.host);
-    addText(json, "program", draft.program);
-    addText(json, "version", draft.version);
-    addText(json, "context", draft.context);
-    addOutcome(json, draft);
-    addText(json, "reason", draft.reason);
-    addText(json, "authoriser", draft.authoriser);
-    addObject(json, "subject", {{"type", draft.subjectType}, {"key", draft.subjectKey}});
-    addAttributes(json, draft.attributes);
-    addRecord(json, draft.record);
-    json.append('}');
-    return json;
+    constexpr qsizetype kUsualSize = 640;
+    JsonWriter json({}, kUsualSize + draft.record.size());
+    json.text("id", draft.id);
+    json.text("time", utcText(draft.timeMs));
+    json.number("offset", draft.utcOffset);
+    json.text("zone", draft.zone);
+    json.number("counter", draft.counter);
+    json.text("kind", kindToString(draft.kind));
+    writePerson(json, draft.user);
+    json.text("session", draft.session);
+    json.text("host", draft.host);
+    json.text("program", draft.program);
+    json.text("version", draft.version);
+    json.text("context", draft.context);
+    writeOutcome(json, draft);
+    json.text("reason", draft.reason);
+    json.text("authoriser", draft.authoriser);
+    writeSubject(json, draft);
+    writeRecord(json, draft.record);
+    json.close();
+    return json.bytes();
 }
 
 QByteArray storePart(const QByteArray &trail, qint64 number, qint64 parent)
 {
-    QByteArray json = "{\"form\":" + QByteArray::number(kEntryForm) + ",\"trail\":";
-    appendJsonString(json, trail);
-    addNumber(json, "number", number);
-    addNumber(json, "parent", parent);
-    return json;
+    constexpr qsizetype kUsualSize = 128;
+    JsonWriter json("{\"form\":1", kUsualSize);
+    static_assert(kEntryForm == 1);
+    json.text("trail", trail);
+    json.number("number", number);
+    json.number("parent", parent);
+    return json.bytes();
 }
 
 bool EntryMembers::read(QByteArrayView bytes)

@@ -194,27 +194,4 @@ QByteArrayView JsonCursor::skip()
     return {begin, m_at - begin};
 }
 
-void appendJsonString(QByteArray &json, QByteArrayView text)
-{
-    static constexpr char kHex[] = "0123456789abcdef";
-    json.append('"');
-    const char *plain = text.begin();
-    for (const char *at = text.begin(); at < text.end(); ++at) {
-        const auto c = static_cast<unsigned char>(*at);
-        if (c >= 0x20 && c != '"' && c != '\\')
-            continue;
-        json.append(plain, at - plain);
-        plain = at + 1;
-        json.append('\\');
-        if (c == '"' || c == '\\')
-            json.append(*at);
-        else if (c == '\n')
-            json.append('n');
-        else
-            json.append("u00", 3).append(kHex[c >> 4]).append(kHex[c & 15]);
-    }
-    json.append(plain, text.end() - plain);
-    json.append('"');
-}
-
 } // namespace ozm::audit

@@ -56,7 +56,4 @@ private:
     bool m_good = true;
 };
 
-/// Appends @p text as a JSON string.
-void appendJsonString(QByteArray &json, QByteArrayView text);
-
 } // namespace ozm::audit

@@ -1,5 +1,7 @@
 #include "SessionFacts.h"
 
+#include "../entry/LocalTime.h"
+
 #include <QCoreApplication>
 #include <QJsonDocument>
 #include <QSysInfo>
@@ -53,7 +55,7 @@ Draft SessionFacts::draftOf(const PendingRecord &record) const
     }
     if (draft.timeMs == 0) {
         draft.timeMs = record.timeMs;
-        draft.utcOffset = QDateTime::fromMSecsSinceEpoch(record.timeMs).offsetFromUtc();
+        draft.utcOffset = LocalTime::at(record.timeMs).utcOffset;
     }
     draft.id = QUuid::createUuid().toByteArray(QUuid::Id128);
     draft.counter = record.counter;

@@ -177,6 +177,8 @@ Database::Database(const QString &path, sqlite3 *handle, int patienceMs)
 
 Database::~Database()
 {
+    m_begin.reset();
+    m_commit.reset();
     sqlite3_close_v2(m_handle);
 }
 
@@ -194,7 +196,8 @@ Result<std::unique_ptr<Database>> Database::open(const QString &path, Access acc
     sqlite3_busy_timeout(handle, patienceMs);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-    if (Error error = database->run("PRAGMA recursive_triggers = ON; PRAGMA cell_size_check = ON");
+    if (Error error = database->run(
+            "PRAGMA recursive_triggers = ON; PRAGMA cell_size_check = ON; PRAGMA cache_size = -8192");
         error.hasError())
         return error;
     return database;
@@ -227,11 +230,15 @@ Result<QByteArray> Database::text(const char *sql)
 Error Database::transact(const std::function<Error()> &work)
 {
     const Turns::Turn turn(m_turns.get(), QDeadlineTimer(m_patienceMs));
-    if (Error error = run("BEGIN IMMEDIATE"); error.hasError())
+    if (!m_begin) {
+        m_begin = std::make_unique<Statement>(*this, "BEGIN IMMEDIATE");
+        m_commit = std::make_unique<Statement>(*this, "COMMIT");
+    }
+    if (Error error = m_begin->run(); error.hasError())
         return error;
     Error error = work();
     if (!error.hasError())
-        error = run("COMMIT");
+        error = m_commit->run();
     // SQLite has rolled back by itself when the disk is full.
     if (error.hasError() && sqlite3_get_autocommit(m_handle) == 0)
         (void)run("ROLLBACK");

@@ -97,6 +97,8 @@ private:
     sqlite3 *m_handle;
     const int m_patienceMs;
     std::unique_ptr<Turns> m_turns;
+    std::unique_ptr<Statement> m_begin;
+    std::unique_ptr<Statement> m_commit;
 };
 
 /// The error of a file that is not what it was written as; @p detail says what was found.

@@ -3,12 +3,12 @@
 #include "Verifier.h"
 
 #include "../Texts.h"
+#include "../entry/LocalTime.h"
 #include "../sqlite/SqliteBackend.h"
 #include "PluginBackend.h"
 
 #include <QRecursiveMutex>
 #include <QThread>
-#include <QTimeZone>
 #include <QUuid>
 
 #include <algorithm>
@@ -41,10 +41,10 @@ Draft completed(Draft draft)
     if (draft.id.isEmpty())
         draft.id = QUuid::createUuid().toByteArray(QUuid::Id128);
     if (draft.timeMs == 0) {
-        const QDateTime now = QDateTime::currentDateTime();
-        draft.timeMs = now.toMSecsSinceEpoch();
-        draft.utcOffset = now.offsetFromUtc();
-        draft.zone = QString::fromLatin1(QTimeZone::systemTimeZoneId());
+        draft.timeMs = QDateTime::currentMSecsSinceEpoch();
+        const LocalTime local = LocalTime::at(draft.timeMs);
+        draft.utcOffset = local.utcOffset;
+        draft.zone = local.zone;
     }
     return draft;
 }
