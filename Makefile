@@ -60,6 +60,8 @@ translations:
 	@.ci/setup build
 	$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -I include -I src src include platform common plugins \
 		-ts $(wildcard translations/ozm_widgets_*.ts)
+	$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -I include -I audit/include -I audit/widgets/include audit \
+		-ts $(wildcard translations/ozm_audit_*.ts)
 	$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -I include -I apps/workbench apps/workbench \
 		-ts $(wildcard translations/workbench_*.ts)
 

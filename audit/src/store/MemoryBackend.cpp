@@ -101,6 +101,9 @@ Result<QList<Entry>> findByReading(StoreBackend &backend, const Query &query, qi
     const bool backwards = query.order == Query::Order::NewestFirst;
     if (query.after != 0)
         (backwards ? last : first) = backwards ? qMin(last, query.after - 1) : qMax(first, query.after + 1);
+    first = qMax(first, query.firstNumber);
+    if (query.lastNumber != 0)
+        last = qMin(last, query.lastNumber);
     const QueryFilter filter(query);
     QList<Entry> page;
     Error error = backend.rows(first, last, [&](const StoredRow &row) {

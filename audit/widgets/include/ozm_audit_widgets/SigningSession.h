@@ -38,8 +38,9 @@ class OZM_AUDIT_WIDGETS_EXPORT SigningSession : public QObject
     Q_OBJECT
 
 public:
-    SigningSession(Logger &logger, Authenticator &authenticator,
-                   std::chrono::milliseconds idle = std::chrono::minutes(10), QObject *parent = nullptr);
+    [[nodiscard]] static constexpr std::chrono::milliseconds usualIdle() { return std::chrono::minutes(10); }
+    SigningSession(Logger &logger, Authenticator &authenticator, std::chrono::milliseconds idle = usualIdle(),
+                   QObject *parent = nullptr);
     ~SigningSession() override;
 
     /// Id and secret are both needed.

@@ -75,7 +75,8 @@ public:
     [[nodiscard]] Entry currentEntry() const;
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     class Private;

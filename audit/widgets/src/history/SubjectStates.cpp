@@ -59,6 +59,22 @@ bool apply(const Entry &entry, SubjectState &state)
     return true;
 }
 
+/// The first change of an attribute also says what it was in all states before.
+void addFormerValues(QList<SubjectState> &before, const SubjectState &state, const QStringList &known)
+{
+    const OperationLogItemData data(state.entry.record);
+    if (data.type() != OperationLogItemType::Set)
+        return;
+    const bool undo = state.entry.context == "Undo"_L1;
+    const QVariantMap former = byAttribute(data.attributes(), undo ? data.value() : data.oldValue());
+    for (auto value = former.begin(); value != former.end(); ++value) {
+        if (known.contains(value.key()))
+            continue;
+        for (SubjectState &earlier : before)
+            earlier.values.insert(value.key(), value.value());
+    }
+}
+
 } // namespace
 
 Result<QList<SubjectState>> subjectStates(const Store &store, const QString &subjectType,
@@ -77,8 +93,11 @@ Result<QList<SubjectState>> subjectStates(const Store &store, const QString &sub
         if (page.value().isEmpty())
             return states;
         for (const Entry &entry : page.value()) {
-            if (apply(entry, state))
-                states.append(state);
+            const QStringList known = state.values.keys();
+            if (!apply(entry, state))
+                continue;
+            addFormerValues(states, state, known);
+            states.append(state);
         }
         query.after = page.value().constLast().number;
     }

@@ -195,7 +195,7 @@ QString timeTitle(TrailModel::Zone zone)
     case TrailModel::Zone::Recorded:
         break;
     }
-    return WidgetTexts::tr("Time (as recorded, with distance from UTC)");
+    return WidgetTexts::tr("Time (as recorded)");
 }
 
 } // namespace ozm::audit

@@ -10,6 +10,8 @@
 #include <QSaveFile>
 #include <QTimeZone>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace ozm::audit {
@@ -18,6 +20,9 @@ namespace {
 
 // Some four hundred pages: more belongs into an inspection copy.
 constexpr qint64 kMostEntries = 10'000;
+// Widths of the columns; together the sheet's.
+constexpr std::array kPercent{4, 10, 17, 10, 21, 9, 8, 8, 7, 6};
+static_assert(kPercent.size() == TrailModel::ColumnCount);
 
 QString zoned(const QDateTime &moment)
 {
@@ -126,7 +131,8 @@ QString TrailOutput::toHtml() const
     text +=
         u"</table><p></p><table border=\"1\" cellspacing=\"0\" cellpadding=\"3\" width=\"100%\"><thead><tr>"_s;
     for (int column = 0; column < TrailModel::ColumnCount; ++column)
-        text += u"<th align=\"left\">%1</th>"_s.arg(html(columnTitle(column, m_model.zone())));
+        text += u"<th align=\"left\" width=\"%1%\">%2</th>"_s.arg(kPercent.at(std::size_t(column)))
+                    .arg(html(columnTitle(column, m_model.zone())));
     text += u"</tr></thead>"_s;
     for (int row = 0; row < int(m_model.shown()); ++row) {
         text += u"<tr>"_s;

@@ -21,6 +21,7 @@ namespace ozm::audit {
 namespace {
 
 constexpr int kIconSize = 16;
+constexpr int kWidth = 480;
 
 QLabel *wrapped(const QString &text)
 {
@@ -84,6 +85,7 @@ ReviewDialog::ReviewDialog(const TrailModel &model, Logger &logger, const Person
 {
     setWindowTitle(tr("Record a review"));
     setObjectName(u"reviewDialog"_s);
+    setMinimumWidth(kWidth);
     d->review.filter = model.filter();
     d->review.upTo = model.total();
     const auto shown = model.shownNumbers();

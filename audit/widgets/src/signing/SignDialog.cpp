@@ -20,6 +20,7 @@ namespace {
 
 constexpr int kContentLines = 4;
 constexpr int kDigestBlock = 8;
+constexpr int kWidth = 560;
 
 /// Digits in blocks, so that two people can compare them.
 QString blocks(const QByteArray &hex)
@@ -65,6 +66,7 @@ SignDialog::SignDialog(SigningSession &session, const SignedContent &content, co
 {
     setWindowTitle(tr("Sign"));
     setObjectName(u"signDialog"_s);
+    setMinimumWidth(kWidth);
     auto *words = new QPlainTextEdit(content.inWords());
     words->setObjectName(u"signedContent"_s);
     words->setReadOnly(true);
@@ -88,6 +90,9 @@ SignDialog::SignDialog(SigningSession &session, const SignedContent &content, co
     d->problem = new QLabel;
     d->problem->setObjectName(u"signProblem"_s);
     d->problem->setWordWrap(true);
+    QFont bold = d->problem->font();
+    bold.setBold(true);
+    d->problem->setFont(bold);
     d->problem->hide();
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     buttons->button(QDialogButtonBox::Ok)->setText(tr("&Sign"));

@@ -83,7 +83,7 @@ void TrailView::showEntry(qint64 number)
     }
     if (row < 0)
         return;
-    const QModelIndex index = d->model.index(row, TrailModel::What);
+    const QModelIndex index = d->model.index(row, TrailModel::Number);
     d->table.setCurrentIndex(index);
     d->table.scrollTo(index, QAbstractItemView::PositionAtCenter);
     d->follows = d->isAtNewest();
@@ -114,17 +114,28 @@ Entry TrailView::currentEntry() const
     return current.isValid() ? d->model.entryAt(current.row()) : Entry();
 }
 
-void TrailView::keyPressEvent(QKeyEvent *event)
+bool TrailView::event(QEvent *event)
 {
-    if (event->matches(QKeySequence::Find)) {
-        d->bar.focusSearch();
-    } else if (event->matches(QKeySequence::Copy)) {
-        d->copyRows();
-    } else {
-        QWidget::keyPressEvent(event);
-        return;
-    }
+    const auto type = event->type();
+    if (type != QEvent::ShortcutOverride && type != QEvent::KeyPress)
+        return QWidget::event(event);
+    if (!static_cast<QKeyEvent *>(event)->matches(QKeySequence::Find))
+        return QWidget::event(event);
+    // An action of the window may have the same key; here it searches the trail.
     event->accept();
+    if (type == QEvent::KeyPress)
+        d->bar.focusSearch();
+    return true;
+}
+
+bool TrailView::eventFilter(QObject *watched, QEvent *event)
+{
+    // The table would copy one cell.
+    const bool isCopy = watched == &d->table && event->type() == QEvent::KeyPress &&
+                        static_cast<QKeyEvent *>(event)->matches(QKeySequence::Copy);
+    if (isCopy)
+        d->copyRows();
+    return isCopy || QWidget::eventFilter(watched, event);
 }
 
 } // namespace ozm::audit

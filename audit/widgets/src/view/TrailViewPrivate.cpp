@@ -51,7 +51,7 @@ constexpr std::array kActions{
 // Beside the table; the rest is in the menu.
 constexpr std::array kInBar{Action::Sign, Action::Review, Action::History, Action::Verify};
 
-constexpr std::array kWidths{60, 175, 130, 130, 330, 130, 110, 110, 130, 130};
+constexpr std::array kWidths{60, 205, 190, 130, 330, 130, 110, 110, 130, 130};
 static_assert(kWidths.size() == TrailModel::ColumnCount);
 constexpr int kRoom = 8;
 // Rows beyond this are selected by mistake.
@@ -94,6 +94,7 @@ void TrailView::Private::build()
     table.horizontalHeader()->setSectionsClickable(true);
     table.horizontalHeader()->setAccessibleName(tr("Columns"));
     table.setContextMenuPolicy(Qt::CustomContextMenu);
+    table.installEventFilter(&q);
 
     status.setObjectName(u"trailStatus"_s);
     status.setWordWrap(true);
