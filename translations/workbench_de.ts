@@ -240,29 +240,6 @@
     </message>
 </context>
 <context>
-    <name>workbench::AuditTrailModel</name>
-    <message>
-        <source>%1 (not finished)</source>
-        <translation>%1 (nicht beendet)</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>Zeit</translation>
-    </message>
-    <message>
-        <source>User</source>
-        <translation>Benutzer</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Text</translation>
-    </message>
-    <message>
-        <source>Error</source>
-        <translation>Fehler</translation>
-    </message>
-</context>
-<context>
     <name>workbench::DataFinder</name>
     <message>
         <source>&quot;%1&quot; was passed over: %2</source>
@@ -329,6 +306,17 @@
     <message>
         <source>Looking for data: %1 searched, %2 found</source>
         <translation>Suche nach Daten: %1 durchsucht, %2 gefunden</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::DemonstrationAuthenticator</name>
+    <message>
+        <source>User id or password is wrong.</source>
+        <translation>Benutzerkennung oder Kennwort ist falsch.</translation>
+    </message>
+    <message>
+        <source>The demonstration&apos;s signers cannot be read from &quot;%1&quot;: %2</source>
+        <translation>Die Unterzeichner der Vorführung können nicht aus „%1“ gelesen werden: %2</translation>
     </message>
 </context>
 <context>
@@ -571,6 +559,10 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
     <message>
         <source>the open table</source>
         <translation>die geöffnete Tabelle</translation>
+    </message>
+    <message>
+        <source>There is no sample &quot;%1&quot; in the table now.</source>
+        <translation>In der Tabelle gibt es jetzt keine Probe „%1“.</translation>
     </message>
 </context>
 <context>
@@ -899,13 +891,6 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
     <message>
         <source>Those of the toolkit</source>
         <translation>Die des Toolkits</translation>
-    </message>
-</context>
-<context>
-    <name>workbench::TrailView</name>
-    <message>
-        <source>Audit trail</source>
-        <translation>Audit-Trail</translation>
     </message>
 </context>
 <context>

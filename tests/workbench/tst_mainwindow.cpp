@@ -1,9 +1,9 @@
 #include "SampleFixture.h"
-#include "audit/AuditTrailModel.h"
 #include "samples/AddSampleDialog.h"
 #include "support/StrictTest.h"
 #include "window/MainWindow.h"
 
+#include <ozm_audit_widgets/TrailView.h>
 #include <ozm_widgets/OzmMessageBox.h>
 
 #include <QAbstractItemModelTester>
@@ -27,6 +27,7 @@
 using namespace Qt::StringLiterals;
 using namespace ozm::test;
 using namespace workbench;
+using ozm::audit::TrailModel;
 
 namespace {
 
@@ -66,9 +67,9 @@ struct WindowFixture : SampleFixture
         return QTest::qWaitFor([this] { return !table()->findChild<QLineEdit *>(); });
     }
 
-    [[nodiscard]] QString lastInTrail(AuditTrailModel::Column column) const
+    [[nodiscard]] QString lastInTrail(TrailModel::Column column) const
     {
-        const QAbstractItemModel *trail = find<QTreeView>(u"trailView"_s)->model();
+        const QAbstractItemModel *trail = find<QTableView>(u"trailTable"_s)->model();
         return trail->index(trail->rowCount() - 1, column).data().toString();
     }
 
@@ -97,14 +98,14 @@ private Q_SLOTS:
     {
         const WindowFixture fixture;
         const QAbstractItemModelTester samples(fixture.table()->model());
-        const QAbstractItemModelTester trail(fixture.find<QTreeView>(u"trailView"_s)->model());
+        const QAbstractItemModelTester trail(fixture.find<QTableView>(u"trailTable"_s)->model());
         QVERIFY(fixture.type(0, 2, u"3"_s));
         QCOMPARE(fixture.cell(0, kCharge), u"3"_s);
         QCOMPARE(fixture.cellIndex(0, 2).data().toString(), u"3"_s);
-        QCOMPARE(fixture.lastInTrail(AuditTrailModel::Text),
-                 u"Set Label ID=Name: T1 [ID: 1] 'Charge' from 2 to 3"_s);
-        QCOMPARE(fixture.lastInTrail(AuditTrailModel::User), u"jdoe"_s);
-        QVERIFY(fixture.lastInTrail(AuditTrailModel::ErrorText).isEmpty());
+        QTRY_COMPARE(fixture.lastInTrail(TrailModel::What),
+                     u"Set Label ID=Name: T1 [ID: 1] 'Charge' from 2 to 3"_s);
+        QCOMPARE(fixture.lastInTrail(TrailModel::Who), u"jdoe"_s);
+        QVERIFY(fixture.lastInTrail(TrailModel::Outcome).isEmpty());
         QVERIFY(fixture.window.isWindowModified());
 
         const qsizetype records = fixture.stored().size();
@@ -123,11 +124,11 @@ private Q_SLOTS:
         QCOMPARE(undo->toolTip(), u"Undo: Set Comment of T2"_s);
         undo->trigger();
         QCOMPARE(fixture.cellIndex(1, 4).data().toString(), u"short"_s);
-        QVERIFY(fixture.lastInTrail(AuditTrailModel::Text).startsWith("UNDO Set"_L1));
+        QTRY_VERIFY(fixture.lastInTrail(TrailModel::What).startsWith("UNDO Set"_L1));
         QVERIFY(!undo->isEnabled() && redo->isEnabled());
         redo->trigger();
         QCOMPARE(fixture.cellIndex(1, 4).data().toString(), u"long"_s);
-        QVERIFY(fixture.lastInTrail(AuditTrailModel::Text).startsWith("REDO Set"_L1));
+        QTRY_VERIFY(fixture.lastInTrail(TrailModel::What).startsWith("REDO Set"_L1));
     }
 
     void refusedEditIsShown()
@@ -140,7 +141,7 @@ private Q_SLOTS:
         const QString text = u"Another sample is called \"T2\" already; names must be unique."_s;
         QCOMPARE(message->text(), text);
         QCOMPARE(fixture.window.statusBar()->currentMessage(), text);
-        QCOMPARE(fixture.lastInTrail(AuditTrailModel::ErrorText), text);
+        QTRY_COMPARE(fixture.lastInTrail(TrailModel::Outcome), text);
         QVERIFY(!fixture.window.isWindowModified());
     }
 
@@ -165,20 +166,21 @@ private Q_SLOTS:
         QCOMPARE(fixture.trailTexts().filter(u"UNDO"_s).size(), 2);
     }
 
-    void trailShowsMacrosWithTheirCommands()
+    void trailShowsMacrosAndLeadsToSamples()
     {
         const WindowFixture fixture;
-        auto *view = fixture.find<QTreeView>(u"trailView"_s);
-        const QAbstractItemModelTester tester(view->model());
         QVERIFY(!fixture.editor->renameSamples({fixture.idAt(0), fixture.idAt(1)}, u"R#"_s).hasError());
-        const QModelIndex macro = view->model()->index(view->model()->rowCount() - 1, 0);
-        QCOMPARE(view->model()->rowCount(macro), 2);
-        QVERIFY(view->isExpanded(macro));
-        QVERIFY(view->model()
-                    ->index(1, AuditTrailModel::Text, macro)
-                    .data()
-                    .toString()
-                    .endsWith("from T2 to R2"_L1));
+        auto *trail = fixture.find<ozm::audit::TrailView>(u"trailView"_s);
+        const TrailModel &model = trail->model();
+        QTRY_COMPARE(model.entryAt(model.rowCount() - 1).kind, ozm::audit::Kind::Commit);
+        const QModelIndex step = model.index(model.rowCount() - 2, TrailModel::What);
+        QVERIFY(step.data().toString().endsWith("from T2 to R2"_L1));
+        QCOMPARE(step.data(TrailModel::GroupRole).toLongLong(), model.entryAt(model.rowCount() - 4).number);
+        // The step is about the sample under its former name.
+        fixture.editor->undo();
+        trail->showEntry(model.entryAt(step.row()).number);
+        trail->action(ozm::audit::TrailView::Action::ShowSubject)->trigger();
+        QCOMPARE(fixture.table()->currentIndex().row(), 1);
     }
 
     void renameAsksForAName()

@@ -40,6 +40,11 @@ ReportContext ReportContext::about(const RowNode &row) const
     context.kind = row.getDataAt(kKind).toString();
     context.size = row.getDataAt(kSize).toString();
     context.path = row.getDataAt(kPath).toString();
+    if (trailOf) {
+        const ReportTrail trail = trailOf(row);
+        context.signatures = trail.signatures;
+        context.changedSinceEntry = trail.changes;
+    }
     return context;
 }
 

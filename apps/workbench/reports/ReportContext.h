@@ -1,13 +1,14 @@
 #pragma once
 
+#include "reports/ReportTrail.h"
+
 #include <QDateTime>
 #include <QObject>
 #include <QString>
 #include <QVariantList>
 
+#include <functional>
 #include <vector>
-
-class RowNode;
 
 namespace workbench {
 
@@ -30,6 +31,8 @@ class ReportContext
     Q_PROPERTY(QString kind MEMBER kind)
     Q_PROPERTY(QString size MEMBER size)
     Q_PROPERTY(QString path MEMBER path)
+    Q_PROPERTY(QString signatures MEMBER signatures)
+    Q_PROPERTY(int changedSinceEntry MEMBER changedSinceEntry)
 
 public:
     ReportContext() = default;
@@ -51,6 +54,10 @@ public:
     QString kind;
     QString size;
     QString path;
+    QString signatures;
+    int changedSinceEntry = 0;
+    /// Looks up what the audit trail says about a row; without it, nothing is said.
+    std::function<ReportTrail(const RowNode &)> trailOf;
 };
 
 } // namespace workbench

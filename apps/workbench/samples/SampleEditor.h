@@ -48,6 +48,8 @@ public:
     /// To look at and to connect to; steps go through the editor.
     [[nodiscard]] const QUndoStack &history() const { return m_stack; }
     [[nodiscard]] const AuditTrail &trail() const { return m_trail; }
+    /// Records what is not a step: signatures, reviews, exports.
+    [[nodiscard]] ozm::audit::Logger &logger() { return m_logger; }
 
     /// Reads what the trail holds already. To be called once, before anything else.
     ozm::Error start();

@@ -1,7 +1,6 @@
 #include "window/MainWindow.h"
 
-#include "audit/AuditTrailModel.h"
-#include "audit/TrailView.h"
+#include "audit/DemonstrationAuthenticator.h"
 #include "data/DataImport.h"
 #include "reports/ReportDialog.h"
 #include "reports/WorkbenchTemplateEditor.h"
@@ -16,6 +15,9 @@
 #include "window/MainActions.h"
 #include "window/StyleDialog.h"
 
+#include <ozm_audit_widgets/SigningSession.h>
+#include <ozm_audit_widgets/TrailView.h>
+#include <ozm_common_core_mini/ColumnNames.h>
 #include <ozm_widgets/BlackSplitterHandle.h>
 #include <ozm_widgets/FileCrawlerDialog.h>
 #include <ozm_widgets/OZMDockWidgetTitleBar.h>
@@ -28,8 +30,11 @@
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLabel>
 #include <QStackedWidget>
+#include <QStandardPaths>
 #include <QStatusBar>
 
 #include <algorithm>
@@ -43,7 +48,7 @@ namespace workbench {
 namespace {
 
 constexpr int kHistoryWidth = 230;
-constexpr int kTrailHeight = 270;
+constexpr int kTrailHeight = 340;
 constexpr int kDetailsWidth = 240;
 constexpr int kStatusMs = 15000;
 
@@ -63,7 +68,6 @@ MainWindow::MainWindow(SampleEditor &editor, const QString &trailPath, QWidget *
     : QMainWindow(parent)
     , m_editor(editor)
     , m_samples(new SampleTableModel(editor, this))
-    , m_trail(new AuditTrailModel(editor.trail(), this))
     , m_actions(new MainActions(this))
     , m_import(new DataImport(
           editor, [this] { return files::askDataFolder(this); }, this))
@@ -140,9 +144,35 @@ void MainWindow::createDocks()
     history->setItemDelegate(new RoomyDelegate(history));
     resizeDocks({addDock(u"historyDock"_s, tr("History"), history, Qt::RightDockWidgetArea)}, {kHistoryWidth},
                 Qt::Horizontal);
-    auto *trail = new TrailView(m_trail, this);
-    resizeDocks({addDock(u"trailDock"_s, tr("Audit trail"), trail, Qt::BottomDockWidgetArea)}, {kTrailHeight},
-                Qt::Vertical);
+    m_trail = createTrail();
+    resizeDocks({addDock(u"trailDock"_s, tr("Audit trail"), m_trail, Qt::BottomDockWidgetArea)},
+                {kTrailHeight}, Qt::Vertical);
+}
+
+ozm::audit::TrailView *MainWindow::createTrail()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    m_signers = std::make_unique<DemonstrationAuthenticator>(folder + u"/demonstration-signers.txt"_s);
+    ozm::audit::Logger &logger = m_editor.logger();
+    auto *trail = new ozm::audit::TrailView(logger.store(), this);
+    trail->setLogger(&logger, {m_editor.user()});
+    trail->setSigningSession(
+        new ozm::audit::SigningSession(logger, *m_signers, ozm::audit::SigningSession::usualIdle(), trail));
+    trail->setSubjectHook([this](const QString &, const QString &key) { selectSample(key); });
+    return trail;
+}
+
+void MainWindow::selectSample(const QString &subjectKey)
+{
+    const QString name = QJsonDocument::fromJson(subjectKey.toUtf8()).object().value(kName).toString();
+    for (int row = 0; row < m_editor.table().rowCount(); ++row) {
+        if (m_editor.table().row(row)->getDataAt(kName).toString() == name) {
+            m_table->selectRow(row);
+            m_table->setFocus();
+            return;
+        }
+    }
+    statusBar()->showMessage(tr("There is no sample \"%1\" in the table now.").arg(name), kStatusMs);
 }
 
 void MainWindow::createStatusBar(const QString &trailPath)
@@ -245,7 +275,11 @@ std::vector<RowNode> MainWindow::reportedRows() const
 ReportContext MainWindow::reportContext(const std::vector<RowNode> &rows) const
 {
     const QString source = m_file.isEmpty() ? tr("the open table") : QFileInfo(m_file).fileName();
-    return {m_editor.user(), source, rows};
+    ReportContext context(m_editor.user(), source, rows);
+    context.trailOf = [&store = m_editor.logger().store()](const RowNode &row) {
+        return ReportTrail::of(store, row);
+    };
+    return context;
 }
 
 void MainWindow::showReport()

@@ -4,6 +4,7 @@
 
 #include <QMainWindow>
 
+#include <memory>
 #include <vector>
 
 class QDockWidget;
@@ -11,9 +12,13 @@ class QLabel;
 class QStackedWidget;
 class RowNode;
 
+namespace ozm::audit {
+class TrailView;
+}
+
 namespace workbench {
 
-class AuditTrailModel;
+class DemonstrationAuthenticator;
 class DataImport;
 class MainActions;
 class ReportContext;
@@ -52,6 +57,7 @@ private:
     QDockWidget *addDock(const QString &name, const QString &title, QWidget *content,
                          Qt::DockWidgetArea area);
     void createDocks();
+    [[nodiscard]] ozm::audit::TrailView *createTrail();
     void createStatusBar(const QString &trailPath);
     void follow();
 
@@ -70,15 +76,17 @@ private:
     void refresh();
     void setFile(const QString &path);
     [[nodiscard]] bool mayDiscard();
+    void selectSample(const QString &subjectKey);
     [[nodiscard]] QList<qint64> selectedIds() const;
 
     SampleEditor &m_editor;
     SampleTableModel *m_samples = nullptr;
-    AuditTrailModel *m_trail = nullptr;
     MainActions *m_actions = nullptr;
     DataImport *m_import = nullptr;
     QStackedWidget *m_pages = nullptr;
     SampleTableView *m_table = nullptr;
+    std::unique_ptr<DemonstrationAuthenticator> m_signers;
+    ozm::audit::TrailView *m_trail = nullptr;
     QLabel *m_count = nullptr;
     QString m_file;
     bool m_showMessages = true;
