@@ -60,9 +60,9 @@ int main(int argc, char *argv[])
         if (arguments.value(1) == trial.name)
             return trial.run(Arguments(arguments)) == 0 ? 0 : 1;
     }
-    std::puts("audit_stress mutations --verifier FILE [--step N]\n"
+    std::puts("audit_stress mutations --verifier FILE [--step N] [--only WORD]\n"
               "audit_stress kills --address A [--count N] [--queued]\n"
-              "audit_stress powercuts [--count N] [--sharing processes] [--lose-syncs]\n"
+              "audit_stress powercuts [--count N] [--sharing processes] [--lose-syncs] [--synchronous off]\n"
               "audit_stress processes --address A [--count N] [--seconds N]");
     return 2;
 }

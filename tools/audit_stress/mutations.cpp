@@ -231,7 +231,10 @@ int mutations(const Arguments &arguments)
     Bench bench(arguments.text(u"verifier"_s));
     bench.judge(u"untouched"_s, 0);
     QTextStream out(stdout);
+    const QString only = arguments.text(u"only"_s);
     const auto run = [&](const char *name, void (*trial)(Bench &, int), int every) {
+        if (!QString::fromLatin1(name).contains(only))
+            return;
         const int before = bench.count;
         trial(bench, every);
         out << name << ": " << bench.count - before << Qt::endl;

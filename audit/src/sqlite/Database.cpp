@@ -196,8 +196,7 @@ Result<std::unique_ptr<Database>> Database::open(const QString &path, Access acc
     sqlite3_busy_timeout(handle, patienceMs);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-    if (Error error = database->run(
-            "PRAGMA recursive_triggers = ON; PRAGMA cell_size_check = ON; PRAGMA cache_size = -8192");
+    if (Error error = database->run("PRAGMA recursive_triggers = ON; PRAGMA cell_size_check = ON");
         error.hasError())
         return error;
     return database;

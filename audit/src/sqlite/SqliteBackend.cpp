@@ -322,6 +322,9 @@ Error makeStore(Database &database, const QString &path)
 /// After the tables are made, so that they are in the file itself and not in a log beside it.
 Error setJournal(Database &database, bool shared)
 {
+    // Not earlier: it reads the file, which must be locked by then.
+    if (Error error = database.run("PRAGMA cache_size = -8192"); error.hasError())
+        return error;
     if (Error error = database.run(shared ? "PRAGMA synchronous = EXTRA" : "PRAGMA synchronous = FULL");
         error.hasError())
         return error;
