@@ -1,3 +1,5 @@
 if(OZM_BUILD_AUDIT)
     ozm_add_benchmark(bench_audit SOURCES bench_audit.cpp AuditedEdit.h LIBRARIES ozm::ozm_audit SQLite::SQLite3)
+    ozm_add_benchmark(bench_audit_widgets SOURCES bench_audit_widgets.cpp LIBRARIES ozm::ozm_audit_widgets)
+    target_include_directories(bench_audit_widgets PRIVATE "${PROJECT_SOURCE_DIR}/audit/src")
 endif()

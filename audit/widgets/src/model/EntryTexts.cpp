@@ -142,7 +142,6 @@ QString subjectText(const QString &type, const QString &key)
 EntryTexts EntryTexts::of(const Entry &entry)
 {
     EntryTexts texts;
-    texts.subject = subjectText(entry.subjectType, entry.subjectKey);
     if (entry.outcomeCode != 0)
         texts.outcome = entry.outcomeText.isEmpty() ? WidgetTexts::tr("Error %1").arg(entry.outcomeCode)
                                                     : entry.outcomeText;
@@ -154,9 +153,11 @@ EntryTexts EntryTexts::of(const Entry &entry)
     const OperationLogItemData data(entry.record, &parsed);
     if (!parsed || !data.isValid()) {
         texts.what = sentenceOf(entry);
+        texts.subject = subjectText(entry.subjectType, entry.subjectKey);
         return texts;
     }
     texts.what = data.toString();
+    texts.subject = (data.subject().typeToString() + u' ' + data.subject().keyToString()).trimmed();
     texts.oldValue = data.oldValueToString();
     texts.newValue = data.valueToString();
     return texts;

@@ -6,6 +6,7 @@
 
 #include <QCache>
 
+#include <array>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -17,6 +18,10 @@ struct TrailRow
 {
     Entry entry;
     std::optional<EntryTexts> texts;
+    TrailModel::Marks marks;
+    int marksStamp = -1; ///< Which state of all marks the row's are from.
+    /// What cells show; null where it was not made yet.
+    std::array<QString, TrailModel::ColumnCount> cells;
 };
 
 /**

@@ -72,6 +72,7 @@ TrailModel::Zone TrailModel::zone() const
 void TrailModel::setZone(Zone zone)
 {
     d->zone = zone;
+    d->pages.clear();
     Q_EMIT headerDataChanged(Qt::Horizontal, Time, Time);
     if (rowCount() > 0)
         Q_EMIT dataChanged(index(0, Time), index(rowCount() - 1, Time));

@@ -19,6 +19,14 @@ namespace {
 constexpr qsizetype kMostInCell = 300;
 constexpr int kPendingMs = 200;
 
+/// Unusual entries differ in form, not in colour, so that every palette can show it.
+QFont italicFont()
+{
+    QFont font;
+    font.setItalic(true);
+    return font;
+}
+
 QString oneLine(const QString &text)
 {
     return text.left(kMostInCell).simplified();
@@ -63,6 +71,7 @@ TrailModel::Private::~Private()
 
 QList<qint64> TrailModel::Private::numbersAt(qint64 position, qint64 wanted) const
 {
+    scanner->giveWay();
     if (isFiltered())
         return found.mid(position, wanted);
     QList<qint64> numbers(qMax<qint64>(0, qMin(wanted, size - position)));
@@ -105,25 +114,44 @@ QVariant TrailModel::Private::cell(int row, int column, int role)
         return entry.number;
     if (role == GroupRole)
         return entry.kind == Kind::Commit ? 0 : entry.parent;
-    const Marks state = q.marks(entry);
-    if (role == MarksRole)
-        return int(state.toInt());
-    if (role == Qt::DecorationRole)
-        return column == State && state != Marks() ? QVariant(marksIcon(state)) : QVariant();
-    if (role == Qt::FontRole) {
-        QFont font;
-        font.setItalic(state.testAnyFlags(Mark::Undone | Mark::Unfinished | Mark::Disposed));
-        return font.italic() ? QVariant(font) : QVariant();
+    if (at->marksStamp != marksStamp) {
+        at->marks = q.marks(entry);
+        at->marksStamp = marksStamp;
+        at->cells[State].clear();
     }
-    if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
-        return {};
-    if (!at->texts)
-        at->texts = EntryTexts::of(entry);
-    const QString text = cellText(entry, *at->texts, state, column, zone);
-    if (role == Qt::ToolTipRole)
-        return text;
-    const bool indented = column == What && entry.parent != 0 && entry.kind != Kind::Commit;
-    return indented ? u"\u2003\u2003"_s + oneLine(text) : oneLine(text);
+    const Marks state = at->marks;
+    switch (role) {
+    case MarksRole:
+        return int(state.toInt());
+    case Qt::DecorationRole:
+        return column == State && state != Marks() ? QVariant(marksIcon(state)) : QVariant();
+    case Qt::FontRole:
+        return state.testAnyFlags(Mark::Undone | Mark::Unfinished | Mark::Disposed) ? QVariant(italicFont())
+                                                                                    : QVariant();
+    case Qt::DisplayRole: {
+        QString &shown = at->cells.at(std::size_t(column));
+        if (shown.isNull())
+            shown = shownText(*at, column);
+        return shown;
+    }
+    default:
+        return fullText(*at, column);
+    }
+}
+
+QString TrailModel::Private::fullText(TrailRow &row, int column) const
+{
+    if (!row.texts)
+        row.texts = EntryTexts::of(row.entry);
+    return cellText(row.entry, *row.texts, row.marks, column, zone);
+}
+
+QString TrailModel::Private::shownText(TrailRow &row, int column) const
+{
+    const QString text = oneLine(fullText(row, column));
+    const bool indented = column == What && row.entry.parent != 0 && row.entry.kind != Kind::Commit;
+    // Not null: that means that it was not made.
+    return (indented ? u"\u2003\u2003"_s : u""_s) + text;
 }
 
 QVariant TrailModel::Private::pendingCell(int column, int role) const
@@ -203,6 +231,7 @@ void TrailModel::Private::updatePending()
 
 void TrailModel::Private::marked()
 {
+    ++marksStamp;
     // A view asks for the rows that it shows, and for no others.
     if (q.rowCount() > 0)
         Q_EMIT q.dataChanged(q.index(0, State), q.index(q.rowCount() - 1, State));

@@ -28,6 +28,9 @@ public:
     [[nodiscard]] int rowOfPosition(qint64 position) const;
     [[nodiscard]] TrailRow *rowAt(int row);
     [[nodiscard]] QVariant cell(int row, int column, int role);
+    [[nodiscard]] QString fullText(TrailRow &row, int column) const;
+    /// In one line, of which a cell shows the beginning.
+    [[nodiscard]] QString shownText(TrailRow &row, int column) const;
     [[nodiscard]] QVariant pendingCell(int column, int role) const;
 
     void grown(qint64 to);
@@ -47,6 +50,7 @@ public:
 
     TrailFilter filter;
     Zone zone = Zone::Local;
+    int marksStamp = 0;
     int generation = 0;
     qint64 size = 0;
     qint64 searched = 0;

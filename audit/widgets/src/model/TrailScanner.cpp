@@ -17,7 +17,8 @@ constexpr int kPollMs = 150;
 constexpr qint64 kPieceMs = 15;
 constexpr qint64 kSmallestPiece = 128;
 constexpr qint64 kLargestPiece = 1 << 16;
-constexpr qint64 kMarkPiece = 500;
+constexpr qint64 kMarkPiece = 100;
+constexpr int kGiveWayMs = 60;
 // A view draws itself again each time.
 constexpr int kTellMs = 250;
 
@@ -64,12 +65,12 @@ void TrailScanner::poll()
     schedule();
 }
 
-void TrailScanner::schedule()
+void TrailScanner::schedule(int afterMs)
 {
     if (m_scheduled)
         return;
     m_scheduled = true;
-    QTimer::singleShot(0, this, &TrailScanner::step);
+    QTimer::singleShot(afterMs, this, &TrailScanner::step);
 }
 
 void TrailScanner::step()
@@ -80,7 +81,13 @@ void TrailScanner::step()
         if (Error error = readEvidence(); error.hasError())
             Q_EMIT failed(error);
     }
-    if (searchPiece() || markPiece())
+    const bool more = searchPiece();
+    // A mutex is not fair: who takes it again and again keeps others out.
+    if (!more && m_wanted.exchange(false)) {
+        schedule(kGiveWayMs);
+        return;
+    }
+    if (more || markPiece())
         schedule();
 }
 

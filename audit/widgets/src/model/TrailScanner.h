@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QObject>
 
+#include <atomic>
 #include <memory>
 #include <optional>
 
@@ -27,6 +28,9 @@ public:
     TrailScanner(const Store &store, std::shared_ptr<TrailMarks> marks);
     ~TrailScanner() override;
 
+    /// From any thread: the store is wanted for rows in sight. The scanner leaves it alone for a moment.
+    void giveWay() { m_wanted = true; }
+
     // Called on the scanner's thread.
     void start();
     void setFilter(const TrailFilter &filter, int generation);
@@ -43,7 +47,7 @@ Q_SIGNALS:
 private:
     void poll();
     void step();
-    void schedule();
+    void schedule(int afterMs = 0);
     [[nodiscard]] bool searchPiece();
     [[nodiscard]] Result<QList<qint64>> search(qint64 first, qint64 last);
     [[nodiscard]] bool markPiece();
@@ -53,6 +57,7 @@ private:
     const std::shared_ptr<TrailMarks> m_marks;
     QTimer *m_poll = nullptr;
     QElapsedTimer m_sinceMarked;
+    std::atomic<bool> m_wanted = false;
     bool m_scheduled = false;
     qint64 m_size = 0;
     bool m_evidenceRead = false;

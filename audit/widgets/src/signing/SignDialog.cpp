@@ -21,6 +21,7 @@ namespace {
 constexpr int kContentLines = 4;
 constexpr int kDigestBlock = 8;
 constexpr int kWidth = 560;
+constexpr int kRoom = 6;
 
 /// Digits in blocks, so that two people can compare them.
 QString blocks(const QByteArray &hex)
@@ -76,6 +77,7 @@ SignDialog::SignDialog(SigningSession &session, const SignedContent &content, co
     digest->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     digest->setAccessibleName(tr("Digest of what is signed"));
     digest->setWordWrap(true);
+    digest->setMinimumHeight(digest->fontMetrics().lineSpacing() * 2 + kRoom);
     d->meaning = new QComboBox;
     d->meaning->setObjectName(u"signatureMeaning"_s);
     d->meaning->addItems(meanings.isEmpty()

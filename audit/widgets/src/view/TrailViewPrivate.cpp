@@ -76,6 +76,10 @@ void TrailView::Private::build()
 
     table.setObjectName(u"trailTable"_s);
     table.setAccessibleName(tr("Entries of the audit trail"));
+    // Before the model: each of these goes over all rows.
+    table.verticalHeader()->hide();
+    table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + kRoom);
     table.setModel(&model);
     table.setSelectionBehavior(QAbstractItemView::SelectRows);
     table.setAlternatingRowColors(true);
@@ -83,9 +87,6 @@ void TrailView::Private::build()
     table.setShowGrid(false);
     table.setTabKeyNavigation(false);
     table.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    table.verticalHeader()->hide();
-    table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + kRoom);
     for (int column = 0; column < TrailModel::ColumnCount; ++column)
         table.setColumnWidth(column, kWidths.at(std::size_t(column)));
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
