@@ -24,9 +24,10 @@ namespace ozm {
  *     document.insertSource(cursor, u"[Charge]"_s);
  *     const QString source = document.source();
  *
- * Reading brings a source into this class's own short form of HTML; what it writes, it reads and writes
- * again without a change. Codes, scripts, tables and images are the same in both. A page's head, and
- * classes and identifiers of elements, are not kept, unless they hold a code or script.
+ * Edits are written into the source that was read. Lines that nobody touched stay as they are to the letter,
+ * with all that formatted text has no form for; so do the tags around those that were edited. Where that is not
+ * possible, as for a table that got a row, it is written anew in a short form of HTML. What is written reads
+ * as the document, and is written again without a change.
  *
  * Text that is set to a document on screen should come in by insertSource(): setSource() ends the undo
  * history. GUI thread only; nothing is ever loaded from a network or from disk.

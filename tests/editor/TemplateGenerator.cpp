@@ -146,11 +146,17 @@ QString TemplateGenerator::block(int depth)
     return u'<' + tag + style + u'>' + inlines(0) + "</"_L1 + tag + ">\n"_L1;
 }
 
+QStringList TemplateGenerator::blocks()
+{
+    QStringList all;
+    for (int i = below(8) + 1; i > 0; --i)
+        all += block(0);
+    return all;
+}
+
 QString TemplateGenerator::next()
 {
-    QString html;
-    for (int i = below(8) + 1; i > 0; --i)
-        html += block(0);
+    QString html = blocks().join(QString());
     if (chance(20)) {
         html = "<html><head><title>[Name]</title></head><body style=\"font-family:'Arial'\">"_L1 + html +
                "</body></html>"_L1;

@@ -13,6 +13,8 @@ public:
     {}
 
     QString next();
+    /// The parts that a template is made of.
+    QStringList blocks();
 
 private:
     int below(int bound) { return m_random.bounded(bound); }

@@ -16,6 +16,9 @@ inline constexpr int kChipObject = QTextFormat::UserObject + 1;
 /// blocks at the edges of a table.
 inline constexpr int kWrittenLine = QTextFormat::UserProperty + 3;
 
+/// Set on the format of a block that was read: the index of its run in the source.
+inline constexpr int kSourceRun = QTextFormat::UserProperty + 4;
+
 /// @p base with what makes one object replacement character the chip of @p part.
 [[nodiscard]] QTextCharFormat chipFormat(const TemplatePart &part, const QTextCharFormat &base);
 

@@ -1,5 +1,6 @@
 #include <ozm_widgets/TemplateDocument.h>
 
+#include "templates/document/KeptSource.h"
 #include "templates/document/TemplateChip.h"
 #include "templates/document/TemplateParts.h"
 #include "templates/document/TemplateSourceWriter.h"
@@ -28,6 +29,7 @@ class TemplateDocument::Private
 {
 public:
     editor::ChipPainter painter;
+    editor::KeptSource kept;
 };
 
 namespace {
@@ -65,25 +67,34 @@ QString linesAsParagraphs(const QString &text)
     return html;
 }
 
-void replaceMarker(const QTextCursor &found, const editor::SplitTemplate &split)
+void replaceMarker(const QTextCursor &found, const editor::SplitTemplate &split, bool remember)
 {
     QTextCursor cursor(found);
     const QString marker = cursor.selectedText();
     const qsizetype index = QStringView(marker).sliced(1, marker.size() - 2).toInt();
-    if (split.parts.at(index).source.isEmpty()) {
-        QTextBlockFormat line;
-        line.setProperty(editor::kWrittenLine, true);
+    const TemplatePart &part = split.parts.at(index);
+    const int run = split.places.at(index).run;
+    if (part.source.isEmpty()) {
         cursor.removeSelectedText();
+        QTextBlockFormat line;
+        if (run < 0)
+            line.setProperty(editor::kWrittenLine, true);
+        else if (remember)
+            line.setProperty(editor::kSourceRun, run);
         cursor.mergeBlockFormat(line);
         return;
     }
     const QTextCharFormat base = cursor.charFormat();
+    if (part.kind == PartKind::None) {
+        cursor.insertText(part.source, base);
+        return;
+    }
     cursor.insertText(QString(QChar::ObjectReplacementCharacter),
                       editor::chipFormat(split.parts.at(index), base));
 }
 
 // From the end on, so that positions found before stay true.
-void replaceMarkers(QTextDocument &document, const editor::SplitTemplate &split)
+void replaceMarkers(QTextDocument &document, const editor::SplitTemplate &split, bool remember)
 {
     const QString text = document.toRawText();
     QTextCursor edit(&document);
@@ -93,7 +104,7 @@ void replaceMarkers(QTextDocument &document, const editor::SplitTemplate &split)
         const qsizetype start = text.lastIndexOf(split.markerStart, end);
         edit.setPosition(int(start));
         edit.setPosition(int(end) + 1, QTextCursor::KeepAnchor);
-        replaceMarker(edit, split);
+        replaceMarker(edit, split, remember);
         end = start > 0 ? text.lastIndexOf(split.markerEnd, start - 1) : -1;
     }
     edit.endEditBlock();
@@ -130,16 +141,48 @@ void removeLinesAfterTables(QTextDocument &document)
     }
 }
 
+// A rule has no text in which a mark could stand.
+void rememberRules(QTextDocument &document, const editor::SplitTemplate &split)
+{
+    QList<QTextBlock> rules;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        if (block.blockFormat().hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth))
+            rules.append(block);
+    QList<int> runs;
+    for (int run = 0; run < split.runs.size(); ++run)
+        if (split.runs.at(run).isRule)
+            runs.append(run);
+    for (qsizetype index = 0; runs.size() == rules.size() && index < rules.size(); ++index) {
+        QTextBlockFormat line;
+        line.setProperty(editor::kSourceRun, runs.at(index));
+        QTextCursor(rules.at(index)).mergeBlockFormat(line);
+    }
+}
+
 void read(QTextDocument &document, const QString &source)
 {
     const QString html = TemplateDocument::isHtml(source) ? source : linesAsParagraphs(source);
-    const editor::SplitTemplate split = editor::splitTemplate(html);
-    const bool undo = document.isUndoRedoEnabled();
-    document.setUndoRedoEnabled(false);
-    document.setHtml(split.html);
-    removeLinesAfterTables(document);
-    replaceMarkers(document, split);
-    document.setUndoRedoEnabled(undo);
+    editor::readSource(document, html, false);
+}
+
+/// The chips of @p document at their places in its source.
+QList<editor::ChipPlace> chipPlaces(const TemplateDocument &document)
+{
+    const editor::WrittenSource written = editor::writeSource(document);
+    const QString source = document.source();
+    if (source == written.text)
+        return written.chips;
+    QList<editor::PartPlace> places;
+    const editor::SplitTemplate split = editor::splitTemplate(source);
+    for (qsizetype index = 0; index < split.parts.size(); ++index)
+        if (split.parts.at(index).kind != PartKind::None && !split.parts.at(index).source.isEmpty())
+            places.append(split.places.at(index));
+    QList<editor::ChipPlace> chips = written.chips;
+    for (qsizetype index = 0; index < qMin(chips.size(), places.size()); ++index) {
+        chips[index].start = places.at(index).start;
+        chips[index].end = places.at(index).end;
+    }
+    return chips;
 }
 
 QImage missingImage()
@@ -153,6 +196,20 @@ QImage missingImage()
 }
 
 } // namespace
+
+editor::SplitTemplate editor::readSource(QTextDocument &document, const QString &source, bool remember)
+{
+    SplitTemplate split = splitTemplate(source);
+    const bool undo = document.isUndoRedoEnabled();
+    document.setUndoRedoEnabled(false);
+    document.setHtml(split.html);
+    removeLinesAfterTables(document);
+    replaceMarkers(document, split, remember);
+    if (remember)
+        rememberRules(document, split);
+    document.setUndoRedoEnabled(undo);
+    return split;
+}
 
 TemplateDocument::TemplateDocument(QObject *parent)
     : QTextDocument(parent)
@@ -174,12 +231,19 @@ bool TemplateDocument::isHtml(const QString &source)
 
 void TemplateDocument::setSource(const QString &source)
 {
-    read(*this, source);
+    editor::SplitTemplate split;
+    if (isHtml(source))
+        split = editor::readSource(*this, source, true);
+    else
+        read(*this, source);
+    d->kept = editor::KeptSource(source, split, *this);
     setModified(false);
 }
 
 QString TemplateDocument::source() const
 {
+    if (const auto kept = d->kept.write(*this))
+        return *kept;
     return editor::writeSource(*this).text;
 }
 
@@ -246,7 +310,7 @@ bool TemplateDocument::setChipSource(int position, const QString &source)
 int TemplateDocument::positionOf(qsizetype offset) const
 {
     int position = -1;
-    for (const editor::ChipPlace &chip : editor::writeSource(*this).chips) {
+    for (const editor::ChipPlace &chip : chipPlaces(*this)) {
         if (chip.start > offset)
             break;
         position = chip.position;
@@ -256,7 +320,7 @@ int TemplateDocument::positionOf(qsizetype offset) const
 
 qsizetype TemplateDocument::offsetOf(int position) const
 {
-    for (const editor::ChipPlace &chip : editor::writeSource(*this).chips)
+    for (const editor::ChipPlace &chip : chipPlaces(*this))
         if (chip.position == position)
             return chip.start;
     return -1;

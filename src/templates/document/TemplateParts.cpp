@@ -4,11 +4,13 @@
 #include "templates/syntax/HtmlScanner.h"
 #include "templates/syntax/ScriptTags.h"
 
+#include <QHash>
 #include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -43,6 +45,19 @@ constexpr std::array kBlockElements{"blockquote"_L1, "body"_L1,  "br"_L1,    "di
                                     "th"_L1,         "thead"_L1, "tr"_L1,    "ul"_L1};
 
 constexpr std::array kLineElements{"div"_L1, "h1"_L1, "h2"_L1, "h3"_L1, "h4"_L1, "h5"_L1, "h6"_L1, "p"_L1};
+
+struct SpaceRow
+{
+    QLatin1StringView name;
+    char16_t character;
+};
+
+constexpr std::array kSpaces{SpaceRow{"ensp"_L1, 0x2002},   SpaceRow{"emsp"_L1, 0x2003},
+                             SpaceRow{"numsp"_L1, 0x2007},  SpaceRow{"puncsp"_L1, 0x2008},
+                             SpaceRow{"thinsp"_L1, 0x2009}, SpaceRow{"hairsp"_L1, 0x200A}};
+
+// Elements around a line that are looked at; more of them would be no template that somebody wrote.
+constexpr qsizetype kDeepest = 30;
 
 template <typename Table>
 bool contains(const Table &table, const QString &name)
@@ -80,10 +95,13 @@ public:
             if (kept < m_kept.size() && token.start >= m_kept.at(kept).start) {
                 if (token.start == m_kept.at(kept).start && !m_kept.at(kept).dropped)
                     appendPart(PartKind::Markup, m_kept.at(kept).start, m_kept.at(kept).end);
+                if (m_kept.at(kept).dropped)
+                    m_runIsOpen = false;
                 continue;
             }
             append(token);
         }
+        finishRuns();
         return m_result;
     }
 
@@ -122,13 +140,97 @@ private:
             break;
         case HtmlTokenKind::StartTag:
         case HtmlTokenKind::EndTag:
-            m_result.html += text(token);
-            if (isEmptyLine()) {
-                appendPart(PartKind::Markup, token.end, token.end);
-                ++m_index;
-            }
+            appendTag(token);
             break;
         }
+    }
+
+    void appendTag(const HtmlToken &token)
+    {
+        if (const qsizetype last = emptyElementEnd(); last > m_index) {
+            m_index = last;
+            m_runIsOpen = false;
+            m_pending = -1;
+            return;
+        }
+        const bool opens = token.kind == HtmlTokenKind::StartTag;
+        const bool isPage = token.name == "html"_L1 || token.name == "body"_L1;
+        if (opens && isPage)
+            m_result.around += text(token);
+        if (token.name == "br"_L1 || token.name == "img"_L1)
+            beginRun(token.start);
+        if (isEdge(token)) {
+            m_runIsOpen = false;
+            m_pending = -1;
+        } else if (!m_runIsOpen && m_pending < 0) {
+            m_pending = token.start;
+        }
+        m_result.html += text(token);
+        if (m_runIsOpen)
+            m_result.runs.last().end = token.end;
+        if (token.name == "hr"_L1 && opens)
+            m_result.runs.append({token.start, token.end, -1, {}, {}, true});
+        if (isEmptyLine()) {
+            beginRun(token.end);
+            appendPart(PartKind::Markup, token.end, token.end);
+            m_result.runs.last().end = m_tokens.at(++m_index).end;
+        } else if (isEmptyCell(token)) {
+            beginRun(token.end);
+        }
+    }
+
+    // Ends the line that stands before.
+    static bool isEdge(const HtmlToken &token)
+    {
+        return contains(kBlockElements, token.name) ? token.name != "br"_L1 : token.name == "hr"_L1;
+    }
+
+    // The reader drops an item without text, and a cell without any has nothing to know it by.
+    bool isEmptyCell(const HtmlToken &token) const
+    {
+        if (token.kind != HtmlTokenKind::StartTag ||
+            !(token.name == "td"_L1 || token.name == "th"_L1 || token.name == "li"_L1))
+            return false;
+        for (qsizetype next = m_index + 1; next < m_tokens.size(); ++next) {
+            const HtmlToken &after = m_tokens.at(next);
+            if (after.kind == HtmlTokenKind::Text && text(after).trimmed().isEmpty())
+                continue;
+            return after.kind == HtmlTokenKind::EndTag ||
+                   (after.kind == HtmlTokenKind::StartTag && after.name == token.name);
+        }
+        return true;
+    }
+
+    // The mark stands where the line's first text will: a line that is not there makes none.
+    void beginRun(qsizetype start)
+    {
+        if (std::exchange(m_runIsOpen, true))
+            return;
+        const qsizetype from = m_pending < 0 ? start : std::exchange(m_pending, -1);
+        addPart({PartKind::None, {}}, {from, from, int(m_result.runs.size())});
+        m_result.runs.append({from, from});
+    }
+
+    void addPart(const TemplatePart &part, const PartPlace &place)
+    {
+        m_result.html += m_result.markerStart + QString::number(m_result.parts.size()) + m_result.markerEnd;
+        m_result.parts.append(part);
+        m_result.places.append(place);
+    }
+
+    // "<p></p>": the reader makes a line of it in some places only, where a page shows none anywhere.
+    qsizetype emptyElementEnd() const
+    {
+        const HtmlToken &token = m_tokens.at(m_index);
+        if (token.kind != HtmlTokenKind::StartTag || !contains(kLineElements, token.name))
+            return m_index;
+        qsizetype next = m_index + 1;
+        if (next < m_tokens.size() && m_tokens.at(next).kind == HtmlTokenKind::Text &&
+            text(m_tokens.at(next)).trimmed().isEmpty())
+            ++next;
+        const bool isEmpty = next < m_tokens.size() && m_tokens.at(next).kind == HtmlTokenKind::EndTag &&
+                             m_tokens.at(next).name == token.name;
+        return isEmpty ? next : m_index;
     }
 
     // "<p><br/></p>": the reader keeps such lines or drops them depending on what stands around them.
@@ -192,16 +294,162 @@ private:
         appendPlain(at, end);
     }
 
+    void finishRuns()
+    {
+        findSections();
+        for (SourceRun &run : m_result.runs)
+            findHost(run);
+        QHash<qsizetype, int> held;
+        for (const SourceRun &run : std::as_const(m_result.runs))
+            for (const HtmlElement &element : run.outer)
+                ++held[element.start];
+        for (SourceRun &run : m_result.runs) {
+            const HtmlElement inner = run.outer.value(0);
+            const bool isHost = !run.isRule && held.value(inner.start) == 1 &&
+                                (contains(kLineElements, inner.name) || inner.name == "li"_L1 ||
+                                 inner.name == "td"_L1 || inner.name == "th"_L1);
+            if (isHost)
+                run.host = run.outer.takeFirst();
+            run.outer.removeIf(
+                [](const HtmlElement &element) { return contains(kTableParts, element.name); });
+        }
+    }
+
+    void findHost(SourceRun &run)
+    {
+        for (int at = innermostAt(run.start); at >= 0 && run.outer.size() < kDeepest;
+             at = m_tree.elements.at(at).parent) {
+            const HtmlElement &element = m_tree.elements.at(at);
+            if (element.name == "html"_L1 || element.name == "body"_L1)
+                break;
+            if (contains(kBlockElements, element.name) && element.startTagEnd <= run.start)
+                run.outer.append(element);
+        }
+        int depth = 0;
+        const auto from = std::ranges::lower_bound(m_tokens, run.start, {}, &HtmlToken::start);
+        for (auto token = from; token != m_tokens.end() && token->start < run.end; ++token) {
+            if (isKept(token->start))
+                continue;
+            if (token->kind == HtmlTokenKind::StartTag && !isVoidElement(token->name))
+                ++depth;
+            else if (token->kind == HtmlTokenKind::EndTag && --depth < 0)
+                run.isBalanced = false;
+        }
+        run.isBalanced = run.isBalanced && depth == 0;
+    }
+
+    /// The innermost element around @p position, which is the end of a token or the start of one.
+    [[nodiscard]] int innermostAt(qsizetype position) const
+    {
+        const auto token = std::ranges::upper_bound(m_tokens, position, {}, &HtmlToken::end);
+        const auto before = token - m_tokens.begin() - (token != m_tokens.begin() ? 1 : 0);
+        if (token == m_tokens.begin() || m_tokens.isEmpty())
+            return -1;
+        return m_tree.innermost.at(before);
+    }
+
+    void findSections()
+    {
+        QList<qsizetype> starts{0};
+        QList<qsizetype> ends;
+        for (const HtmlToken &token : m_tokens)
+            if ((token.kind == HtmlTokenKind::StartTag || token.kind == HtmlTokenKind::EndTag) &&
+                isEdge(token) && !isKept(token.start))
+                m_edges.append(token.start);
+        for (const HtmlElement &element : m_tree.elements) {
+            const bool isPage =
+                element.name == "html"_L1 || element.name == "body"_L1 || element.name == "head"_L1;
+            if (isPage)
+                starts.append({element.start, element.startTagEnd});
+            const bool isInside = (!ends.isEmpty() && element.start < ends.last()) || isKept(element.start);
+            if (isPage || isInside)
+                continue;
+            const bool isInline = !contains(kBlockElements, element.name) && element.name != "hr"_L1;
+            if (isInline && !holdsLines(element))
+                continue;
+            if (element.name == "br"_L1)
+                continue;
+            starts.append({element.start, element.end});
+            ends.append(element.end);
+        }
+        std::ranges::sort(starts);
+        starts.erase(std::unique(starts.begin(), starts.end()), starts.end());
+        // Elements that cross one another can end within a line.
+        starts.removeIf([this](qsizetype start) {
+            const auto after = std::ranges::lower_bound(m_result.runs, start, {}, &SourceRun::start);
+            return after != m_result.runs.begin() && start < (after - 1)->end;
+        });
+        qsizetype run = 0;
+        for (qsizetype i = 0; i < starts.size(); ++i) {
+            SourceSection section{starts.at(i), i + 1 < starts.size() ? starts.at(i + 1) : m_source.size(),
+                                  int(run), 0};
+            while (run < m_result.runs.size() && m_result.runs.at(run).start < section.end) {
+                m_result.runs[run++].section = int(m_result.sections.size());
+                ++section.runs;
+            }
+            m_result.sections.append(section);
+        }
+    }
+
+    /// True in a part that is shown as a whole.
+    bool isKept(qsizetype position) const
+    {
+        const auto after = std::ranges::upper_bound(m_kept, position, {}, &Range::start);
+        return after != m_kept.begin() && !(after - 1)->dropped && position < (after - 1)->end;
+    }
+
+    bool holdsLines(const HtmlElement &inlineElement) const
+    {
+        const auto edge = std::ranges::upper_bound(m_edges, inlineElement.start);
+        return edge != m_edges.end() && *edge < inlineElement.end;
+    }
+
     // A "<" that opens no tag would still be taken for one by the rich-text reader.
     void appendPlain(qsizetype start, qsizetype end)
     {
-        m_result.html += m_source.sliced(start, end - start).replace(u'<', "&lt;"_L1);
+        if (start == end)
+            return;
+        const QString plain = m_source.sliced(start, end - start);
+        if (!m_runIsOpen && plain.trimmed().isEmpty()) {
+            m_result.html += plain;
+            return;
+        }
+        beginRun(start);
+        // The reader takes all of these for blanks, and several for one.
+        static const QRegularExpression wide(
+            uR"([\x{1680}\x{2000}-\x{200A}\x{202F}\x{205F}\x{3000}])"
+            uR"(|&(?:thinsp|ensp|emsp|hairsp|numsp|puncsp);|&#(?:819[2-9]|820[0-2]|8239|8287|12288);)"
+            uR"(|&#[xX](?:200[0-9aA]|202[fF]|205[fF]|3000);)"_s);
+        qsizetype at = 0;
+        for (auto spaces = wide.globalMatch(plain); spaces.hasNext();) {
+            const QRegularExpressionMatch space = spaces.next();
+            m_result.html += plain.sliced(at, space.capturedStart() - at).replace(u'<', "&lt;"_L1);
+            at = space.capturedEnd();
+            addPart({PartKind::None, spaceOf(space.captured())},
+                    {start + space.capturedStart(), start + space.capturedEnd()});
+        }
+        m_result.html += plain.sliced(at).replace(u'<', "&lt;"_L1);
+        m_result.runs.last().end = end;
+    }
+
+    static QString spaceOf(const QString &written)
+    {
+        if (!written.startsWith(u'&'))
+            return written;
+        const QString name = written.sliced(1).chopped(1);
+        const auto *row =
+            std::ranges::find_if(kSpaces, [&name](const SpaceRow &each) { return name == each.name; });
+        if (row != kSpaces.end())
+            return QString(QChar(row->character));
+        const bool isHex = name.at(1).toLower() == u'x';
+        return QString(QChar(isHex ? name.sliced(2).toUInt(nullptr, 16) : name.sliced(1).toUInt()));
     }
 
     void appendPart(PartKind kind, qsizetype start, qsizetype end)
     {
-        m_result.html += m_result.markerStart + QString::number(m_result.parts.size()) + m_result.markerEnd;
-        m_result.parts.append({kind, m_source.sliced(start, end - start)});
+        beginRun(start);
+        addPart({kind, m_source.sliced(start, end - start)}, {start, end});
+        m_result.runs.last().end = qMax(m_result.runs.last().end, end);
     }
 
     void findKeptRanges()
@@ -314,6 +562,9 @@ private:
     QList<Range> m_kept;
     QList<bool> m_keepsBlanks;
     qsizetype m_index = 0;
+    bool m_runIsOpen = false;
+    qsizetype m_pending = -1; ///< The first tag behind the last edge that may belong to a line.
+    QList<qsizetype> m_edges;
     SplitTemplate m_result;
 };
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "templates/syntax/HtmlScanner.h"
+
 #include <ozm_widgets/TemplateDocument.h>
 
 #include <QList>
@@ -10,6 +12,37 @@ namespace ozm::editor {
 /// A part of a template's source that is shown as a chip, with its text to the letter.
 using TemplatePart = TemplateDocument::Chip;
 using PartKind = TemplateDocument::ChipKind;
+
+/// Where a part comes from, or the run that begins where it stands: it then is a mark without a text.
+struct PartPlace
+{
+    qsizetype start = 0;
+    qsizetype end = 0;
+    int run = -1;
+};
+
+/// The text of one line of a document as it stands in the source, with the formatting inside of the line.
+struct SourceRun
+{
+    qsizetype start = 0;
+    qsizetype end = 0;
+    int section = -1;
+    /// The element that holds this line and nothing else; empty where there is none.
+    HtmlElement host = {};
+    /// The elements around it, from the innermost, that can go once they hold nothing.
+    QList<HtmlElement> outer = {};
+    bool isRule = false;
+    bool isBalanced = true; ///< It opens and closes the same inline elements.
+};
+
+/// A part of the source that stands by itself.
+struct SourceSection
+{
+    qsizetype start = 0;
+    qsizetype end = 0;
+    int firstRun = 0;
+    int runs = 0;
+};
 
 /**
  * A template's source taken apart for a rich-text document: HTML that such a document understands, in which
@@ -22,7 +55,12 @@ using PartKind = TemplateDocument::ChipKind;
 struct SplitTemplate
 {
     QString html;
+    /// One without kind and source is a line without text; one without kind is text as it stands.
     QList<TemplatePart> parts;
+    QList<PartPlace> places; ///< Of the parts, in their order.
+    QList<SourceRun> runs;
+    QList<SourceSection> sections; ///< Cover the source without a gap.
+    QString around;                ///< The start tags of the page and its body.
     QChar markerStart;
     QChar markerEnd;
 };

@@ -115,7 +115,8 @@ QStringList blockDeclarations(const QTextBlock &block, const Surroundings &aroun
     const QTextBlockFormat format = block.blockFormat();
     QStringList css;
     const Qt::Alignment alignment = format.alignment() & Qt::AlignHorizontal_Mask;
-    if ((format.hasProperty(QTextFormat::BlockAlignment) ? alignment : around.alignment) !=
+    const bool isLeft = block.textList() && around.alignment != Qt::AlignLeft; // where it says nothing, too
+    if ((format.hasProperty(QTextFormat::BlockAlignment) || isLeft ? alignment : around.alignment) !=
         around.alignment) {
         css.append(alignment & Qt::AlignHCenter   ? u"text-align:center"_s
                    : alignment & Qt::AlignRight   ? u"text-align:right"_s
@@ -148,13 +149,50 @@ public:
     WrittenSource run(const QTextDocument &document)
     {
         writeBlocks(document.rootFrame()->begin(), document.rootFrame()->end(), {});
-        if (m_out.text.endsWith(u'\n'))
+        endItem();
+        if (m_out.text.endsWith(u'\n')) {
             m_out.text.chop(1);
-        return m_out;
+            for (WrittenLine &line : m_out.lines)
+                line.end = qMin(line.end, m_out.text.size());
+        }
+        return std::move(m_out);
     }
 
 private:
     void add(const QString &text) { m_out.text += text; }
+
+    void addStructure(const QString &tag) { m_out.items.last().steps.append({tag}); }
+
+    void beginItem()
+    {
+        if (m_depth > 0)
+            return;
+        endItem();
+        m_out.items.append({m_out.text.size(), m_out.text.size(), {}});
+    }
+
+    void endItem()
+    {
+        if (!m_out.items.isEmpty())
+            m_out.items.last().end = m_out.text.size();
+    }
+
+    WrittenLine &beginLine(const QTextBlock &block)
+    {
+        const QTextBlockFormat format = block.blockFormat();
+        const int run = format.hasProperty(kSourceRun) ? format.intProperty(kSourceRun) : -1;
+        m_out.items.last().steps.append({{}, int(m_out.lines.size())});
+        m_out.lines.append({run, block.position(), m_out.text.size()});
+        return m_out.lines.last();
+    }
+
+    void beginInner() { m_out.lines.last().innerStart = m_out.text.size(); }
+
+    void endInner()
+    {
+        m_out.lines.last().innerEnd = m_out.text.size();
+        m_out.lines.last().end = m_out.text.size();
+    }
 
     void writeBlocks(QTextFrame::iterator at, const QTextFrame::iterator &end, const Surroundings &around)
     {
@@ -167,6 +205,7 @@ private:
             const bool beforeFrame = at == end || at.currentFrame();
             if (child) {
                 closeLists(listsOutside);
+                beginItem();
                 writeFrame(child, around);
             } else if (!(afterFrame && beforeFrame && isEmpty(block))) {
                 // An empty block alone between frames is there because a frame needs one at its edges.
@@ -195,12 +234,24 @@ private:
     {
         if (QTextList *list = block.textList()) {
             enterList(list, listsOutside);
-            const QStringList css = blockDeclarations(block, around);
+            // An item hands its alignment down to the lists in it.
+            Surroundings own = around;
+            if (m_lists.size() > listsOutside + 1)
+                own.alignment = m_alignments.at(m_lists.size() - 2);
+            m_alignments.resize(m_lists.size());
+            m_alignments.last() = block.blockFormat().hasProperty(QTextFormat::BlockAlignment)
+                                      ? block.blockFormat().alignment() & Qt::AlignHorizontal_Mask
+                                      : Qt::Alignment(Qt::AlignLeft);
+            const QStringList css = blockDeclarations(block, own);
+            beginLine(block);
             add("<li"_L1 + styleAttribute(css) + u'>');
+            beginInner();
             writeText(block, around.text);
+            endInner();
             return;
         }
         closeLists(listsOutside);
+        beginItem();
         if (isRuler(block))
             writeRuler(block);
         // Text that was typed on a rule is a line behind it.
@@ -212,7 +263,11 @@ private:
     {
         const QTextLength width =
             block.blockFormat().lengthProperty(QTextFormat::BlockTrailingHorizontalRulerWidth);
+        beginLine(block);
+        beginInner();
+        endInner();
         add("<hr"_L1 + widthAttribute(width) + "/>\n"_L1);
+        m_out.lines.last().end = m_out.text.size();
     }
 
     void writeParagraph(const QTextBlock &block, const Surroundings &around)
@@ -230,14 +285,18 @@ private:
             css.append("margin-bottom:"_L1 + px(format.bottomMargin()));
         }
         const bool empty = block.length() <= 1;
+        beginLine(block);
         add(u'<' + tag + styleAttribute(css) + u'>');
+        beginInner();
         if (empty)
             add(u"<br/>"_s);
         QTextCharFormat base = around.text;
         if (level > 0)
             base.merge(defaults.text);
         writeText(block, base);
+        endInner();
         add("</"_L1 + tag + ">\n"_L1);
+        m_out.lines.last().end = m_out.text.size();
     }
 
     // The reader hands a block's colour down to its text.
@@ -315,12 +374,15 @@ private:
         if (known >= listsOutside) {
             closeLists(known + 1);
             add(u"</li>\n"_s);
-            return;
+            return; // in the item that the list began
         }
         const int indent = list->format().indent();
         while (m_lists.size() > listsOutside && m_lists.last()->format().indent() >= indent)
             closeLists(m_lists.size() - 1);
+        if (m_lists.isEmpty())
+            beginItem();
         const ListRow &row = listRow(list->format());
+        addStructure(u'(' + row.tag + row.type);
         add(u'<' + row.tag + row.type + ">\n"_L1);
         m_lists.append(list);
     }
@@ -328,6 +390,7 @@ private:
     void closeLists(qsizetype keep)
     {
         while (m_lists.size() > keep) {
+            addStructure(u")"_s);
             add("</li>\n</"_L1 + listRow(m_lists.last()->format()).tag + ">\n"_L1);
             m_lists.removeLast();
         }
@@ -350,6 +413,7 @@ private:
         if (format.background().style() == Qt::SolidPattern)
             css.append("background-color:"_L1 + cssColor(format.background().color()));
         const Qt::Alignment alignment = format.alignment() & Qt::AlignHorizontal_Mask;
+        const qsizetype start = m_out.text.size();
         add(u"<table border=\"%1\" cellspacing=\"%2\" cellpadding=\"%3\""_s.arg(
                 QString::number(format.border()), QString::number(format.cellSpacing()),
                 QString::number(format.cellPadding())) +
@@ -358,7 +422,10 @@ private:
              : alignment & Qt::AlignRight ? u" align=\"right\""_s
                                           : QString()) +
             styleAttribute(css) + ">\n"_L1);
+        addStructure(m_out.text.sliced(start));
+        ++m_depth;
         writeRows(table);
+        --m_depth;
         add(u"</table>\n"_s);
     }
 
@@ -367,6 +434,7 @@ private:
         const int headers = qMin(table.format().headerRowCount(), table.rows());
         for (int row = 0; row < table.rows(); ++row) {
             add(row == 0 && headers > 0 ? u"<thead><tr>"_s : u"<tr>"_s);
+            addStructure(row < headers ? u"<thead>"_s : u"<tr>"_s);
             for (int column = 0; column < table.columns(); ++column) {
                 const QTextTableCell cell = table.cellAt(row, column);
                 if (cell.row() == row && cell.column() == column)
@@ -380,6 +448,7 @@ private:
     {
         const QString tag = header ? u"th"_s : u"td"_s;
         add(u'<' + tag + cellAttributes(table, cell));
+        addStructure(u'<' + tag + cellAttributes(table, cell) + styleAttribute(cellDeclarations(cell)));
         Surroundings around;
         if (header)
             around = {headerCellText(), Qt::AlignHCenter};
@@ -388,8 +457,11 @@ private:
         const bool single = first == cell.lastCursorPosition().block() && !first.textList() &&
                             !isRuler(first) && cell.begin().currentFrame() == nullptr;
         if (single && isPlain(first)) {
+            beginLine(first);
             add(styleAttribute(blockDeclarations(first, around) + cellDeclarations(cell)) + u'>');
+            beginInner();
             writeText(first, around.text);
+            endInner();
         } else {
             add(styleAttribute(cellDeclarations(cell)) + u'>');
             writeBlocks(cell.begin(), cell.end(), around);
@@ -446,6 +518,8 @@ private:
     WrittenSource m_out;
     QSet<int> m_looseBrackets;
     QList<QTextList *> m_lists;
+    QList<Qt::Alignment> m_alignments; ///< Of the last item of each of them.
+    int m_depth = 0;                   ///< Of tables.
 };
 
 } // namespace

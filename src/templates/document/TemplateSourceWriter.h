@@ -15,10 +15,38 @@ struct ChipPlace
     int position = 0;
 };
 
+/// A line of the document: its own tag, what stands in it, and what ends it.
+struct WrittenLine
+{
+    int run = -1; ///< The run of the source that it was read from; -1 for a new one.
+    int position = 0;
+    qsizetype start = 0;
+    qsizetype innerStart = 0;
+    qsizetype innerEnd = 0;
+    qsizetype end = 0;
+};
+
+/// A part of the document that stands by itself: a paragraph, a table, a list.
+struct WrittenItem
+{
+    /// A tag of a table or list, or a line.
+    struct Step
+    {
+        QString tag;
+        int line = -1;
+    };
+
+    qsizetype start = 0;
+    qsizetype end = 0;
+    QList<Step> steps;
+};
+
 struct WrittenSource
 {
     QString text;
     QList<ChipPlace> chips; ///< In order of both.
+    QList<WrittenLine> lines;
+    QList<WrittenItem> items;
 };
 
 /**

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "templates/document/TemplateParts.h"
+#include "templates/document/TemplateSourceWriter.h"
+
+#include <QHash>
+#include <QList>
+#include <QSet>
+#include <QString>
+
+#include <optional>
+
+class QTextDocument;
+
+namespace ozm::editor {
+
+/// Reads @p source into @p document and gives what it was taken apart into. Where @p remember is set, lines
+/// know their runs of the source.
+SplitTemplate readSource(QTextDocument &document, const QString &source, bool remember);
+
+/**
+ * The source that a document was read from, into which its edits are written.
+ *
+ * A rich document holds less than a source says: classes, borders of cells, line ends. So an edited document is
+ * not written anew. Sections that nobody touched stay as they are, to the letter; in the others, the edited
+ * lines are replaced, in tags that stay. Whatever comes out is read once more: where it is not the document,
+ * the section is written anew after all.
+ */
+class KeptSource
+{
+public:
+    KeptSource() = default;
+    /// @p document has just been read from @p source, which was taken apart into @p split.
+    KeptSource(const QString &source, const SplitTemplate &split, QTextDocument &document);
+
+    /// The source with the edits; nothing when the document has too little in common with it.
+    [[nodiscard]] std::optional<QString> write(const QTextDocument &document) const;
+
+private:
+    struct Section
+    {
+        QList<const WrittenItem *> items; ///< Those with lines of the section.
+        QString before;                   ///< New ones, written.
+        QString after;
+    };
+    class Patch;
+
+    void joinSections(const WrittenSource &written);
+    void rememberOtherLines(WrittenSource &written, QTextDocument &document) const;
+    [[nodiscard]] int sectionOf(int run) const;
+    [[nodiscard]] std::optional<QList<Section>> sectionsOf(const WrittenSource &written) const;
+    [[nodiscard]] QList<bool> changedSections(const QList<Section> &sections, const WrittenSource &written,
+                                              bool withNeighbours) const;
+    [[nodiscard]] size_t fingerprint(const WrittenSource &written,
+                                     const QList<const WrittenItem *> &items) const;
+    [[nodiscard]] QString sectionText(int index) const;
+    [[nodiscard]] QString withLineEnds(QString text) const;
+    /// New lines behind those of the source that they were parted from.
+    [[nodiscard]] QString newItem(const WrittenSource &written, const WrittenItem &item) const;
+    [[nodiscard]] QString edited(int index, const QTextDocument &document, const WrittenSource &written,
+                                 const Section &section, bool anew) const;
+    [[nodiscard]] QString joined(const QList<Section> &sections, const QTextDocument &document,
+                                 const WrittenSource &written, bool anew) const;
+
+    QString m_source;
+    QString m_around;
+    QList<SourceRun> m_runs;
+    QList<SourceSection> m_sections;
+    QList<size_t> m_fingerprints; ///< Of the sections as they were read.
+    size_t m_fingerprint = 0;     ///< Of the whole.
+    bool m_isMapped = false;      ///< Each line has its own run, and each item its section.
+};
+
+} // namespace ozm::editor
