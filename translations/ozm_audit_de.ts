@@ -370,6 +370,10 @@
         <source>The bytes of entry %1 are gone, and no disposal is recorded.</source>
         <translation>Der Inhalt von Eintrag %1 ist weg, und es ist keine Vernichtung aufgezeichnet.</translation>
     </message>
+    <message>
+        <source>this program was built without zip files. Choose a folder.</source>
+        <translation>dieses Programm wurde ohne Zip-Dateien gebaut. Wählen Sie einen Ordner.</translation>
+    </message>
 </context>
 <context>
     <name>ozm::audit::EntryDetails</name>

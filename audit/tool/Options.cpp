@@ -75,6 +75,9 @@ Query Options::query() const
         query.outcome = Query::Outcome::Failed;
     if (has(u"newest"_s))
         query.order = Query::Order::NewestFirst;
+    const Range numbers = range();
+    query.firstNumber = numbers.first;
+    query.lastNumber = has(u"range"_s) ? qMax(numbers.first, numbers.last) : 0;
     query.pageSize = qMax(1, value(u"limit"_s).toInt());
     return query;
 }

@@ -19,7 +19,8 @@ struct CopyOptions
 
 /**
  * Writes an inspection copy of @p store to the new folder @p folder: the entries byte for byte, checkpoints,
- * a proof for each entry of a filtered copy, and what a person reads: PDF, CSV, README.
+ * a proof for each entry of a filtered copy, and what a person reads: PDF, CSV, README. A name that ends with
+ * ".zip" is a file that all of it is packed into.
  *
  *     trail.sqlite      a store like any other, for the whole of a trail
  *     entries.ndjson    number, hash, and the exact bytes in Base64, one entry a line

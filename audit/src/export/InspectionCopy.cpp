@@ -2,10 +2,12 @@
 #include "../sqlite/SqliteBackend.h"
 #include "../tree/MerkleTree.h"
 #include "CopyFiles.h"
+#include "ZipFile.h"
 
 #include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTemporaryDir>
 
 #include <ranges>
 
@@ -28,7 +30,8 @@ bool isWhole(const Query &query)
     const Query all;
     return query.user.isEmpty() && query.kinds.isEmpty() && query.fromMs == 0 && query.untilMs == 0 &&
            query.subjectType.isEmpty() && query.subjectKey.isEmpty() && query.attribute.isEmpty() &&
-           query.outcome == all.outcome && query.text.isEmpty();
+           query.outcome == all.outcome && query.text.isEmpty() && query.firstNumber <= 1 &&
+           query.lastNumber == 0;
 }
 
 QByteArray recordOf(const CopyOptions &options, const QString &folder)
@@ -44,6 +47,10 @@ QByteArray recordOf(const CopyOptions &options, const QString &folder)
     for (const auto &[name, value] : filters) {
         if (!value.isEmpty())
             json.insert(name, value);
+    }
+    if (options.query.firstNumber != 0 || options.query.lastNumber != 0) {
+        json.insert(u"first"_s, options.query.firstNumber);
+        json.insert(u"last"_s, options.query.lastNumber);
     }
     if (options.query.fromMs != 0)
         json.insert(u"fromMs"_s, options.query.fromMs);
@@ -179,16 +186,32 @@ Error writeCopy(Store &store, const QDir &target, const CopyOptions &options)
     return writeFiles(target, store, entries.value(), checkpoint.value(), options);
 }
 
+Error isThere(const QString &path)
+{
+    return Error(ErrorCode::FileAccess, Texts::tr("The folder \"%1\" is there already or cannot be made.")
+                                            .arg(QDir::toNativeSeparators(path)))
+        .ecatch(OZM_HERE);
+}
+
+/// Written beside the file, so that there is room for the one where there is room for the other.
+Error writeZip(Store &store, const QString &path, const CopyOptions &options)
+{
+    const QTemporaryDir beside(path + u"-XXXXXX"_s);
+    if (!beside.isValid())
+        return isThere(path);
+    const QDir target(beside.path());
+    Error error = writeCopy(store, target, options);
+    return error.hasError() ? error : packFolder(target.path(), path);
+}
+
 } // namespace
 
 Error writeInspectionCopy(Store &store, const QString &folder, const CopyOptions &options)
 {
     const QDir target(folder);
-    if (target.exists() || !QDir().mkpath(folder)) {
-        return Error(ErrorCode::FileAccess, Texts::tr("The folder \"%1\" is there already or cannot be made.")
-                                                .arg(QDir::toNativeSeparators(folder)))
-            .ecatch(OZM_HERE);
-    }
+    const bool zipped = folder.endsWith(".zip"_L1, Qt::CaseInsensitive);
+    if (QFileInfo::exists(folder) || (!zipped && !QDir().mkpath(folder)))
+        return isThere(folder);
     Draft draft;
     draft.kind = options.archived ? Kind::Archive : Kind::Export;
     draft.user = options.user;
@@ -196,7 +219,7 @@ Error writeInspectionCopy(Store &store, const QString &folder, const CopyOptions
     draft.record = recordOf(options, folder);
     if (const auto number = store.append({draft}); !number)
         return number.error();
-    Error error = writeCopy(store, target, options);
+    Error error = zipped ? writeZip(store, folder, options) : writeCopy(store, target, options);
     if (!error.hasError())
         return {};
     QDir(folder).removeRecursively();

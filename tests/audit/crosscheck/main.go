@@ -1,10 +1,10 @@
 // Checks what ozm-audit writes against golang.org/x/mod/sumdb, which knows nothing of it: signed notes, roots,
 // inclusion and consistency proofs.
 //
-//	crosscheck WHOLE PART CONSISTENCY OLDER
+//	crosscheck WHOLE CONSISTENCY PART...
 //
-// WHOLE and PART are inspection copies of a whole trail and of a part; CONSISTENCY holds the proof that the
-// trail of WHOLE goes on from its first OLDER entries.
+// WHOLE and PART are inspection copies of a whole trail and of parts; each file of CONSISTENCY, named after a number
+// of entries, holds the proof that the trail of WHOLE goes on from so many.
 package main
 
 import (
@@ -73,7 +73,7 @@ func hashes(lines []string) (list []tlog.Hash) {
 }
 
 func main() {
-	whole, part := os.Args[1], os.Args[2]
+	whole, parts := os.Args[1], os.Args[3:]
 	var stored []tlog.Hash
 	reader := tlog.HashReaderFunc(func(indexes []int64) (found []tlog.Hash, err error) {
 		for _, i := range indexes {
@@ -102,24 +102,30 @@ func main() {
 		}
 	}
 	proofs := 0
-	for _, e := range entries(part) {
-		text := read(part, "proofs", fmt.Sprintf("%012d.tlog-proof", e.Number))
-		head, signed, _ := strings.Cut(text, "\n\n")
-		lines := strings.Split(head, "\n")
-		if lines[1] != fmt.Sprintf("index %d", e.Number-1) {
-			log.Fatalf("entry %d: %s", e.Number, lines[1])
+	for _, part := range parts {
+		for _, e := range entries(part) {
+			text := read(part, "proofs", fmt.Sprintf("%012d.tlog-proof", e.Number))
+			head, signed, _ := strings.Cut(text, "\n\n")
+			lines := strings.Split(head, "\n")
+			if lines[1] != fmt.Sprintf("index %d", e.Number-1) {
+				log.Fatalf("entry %d: %s", e.Number, lines[1])
+			}
+			tree := checkpoint(part, signed)
+			must(tlog.CheckRecord(hashes(lines[2:]), tree.N, tree.Hash, e.Number-1, tlog.RecordHash(e.Bytes)))
+			proofs++
 		}
-		tree := checkpoint(part, signed)
-		must(tlog.CheckRecord(hashes(lines[2:]), tree.N, tree.Hash, e.Number-1, tlog.RecordHash(e.Bytes)))
-		proofs++
 	}
-	older, err := strconv.ParseInt(os.Args[4], 10, 64)
+	growths, err := filepath.Glob(filepath.Join(os.Args[2], "*"))
 	must(err)
-	olderRoot, err := tlog.TreeHash(older, reader)
-	must(err)
-	must(tlog.CheckTree(hashes(strings.Fields(read(os.Args[3]))), newest.N, newest.Hash, older, olderRoot))
-	if len(notes) == 0 || proofs == 0 {
+	for _, file := range growths {
+		older, err := strconv.ParseInt(filepath.Base(file), 10, 64)
+		must(err)
+		olderRoot, err := tlog.TreeHash(older, reader)
+		must(err)
+		must(tlog.CheckTree(hashes(strings.Fields(read(file))), newest.N, newest.Hash, older, olderRoot))
+	}
+	if len(notes) == 0 || proofs == 0 || len(growths) == 0 {
 		log.Fatal("nothing was checked")
 	}
-	fmt.Printf("%d entries, %d notes, %d inclusion proofs, 1 consistency proof: agreed\n", len(all), len(notes), proofs)
+	fmt.Printf("%d entries, %d notes, %d inclusion proofs, %d consistency proofs: agreed\n", len(all), len(notes), proofs, len(growths))
 }
