@@ -12,15 +12,18 @@
 #include <ozm_audit_widgets/TrailView.h>
 #include <ozm_widgets/db/common/OperationLogItemData.h>
 
+#include <QAction>
 #include <QComboBox>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QTableView>
+#include <QTimer>
 
 using namespace ozm::test;
 
@@ -151,6 +154,21 @@ private Q_SLOTS:
         review.accept();
         QCOMPARE(review.result(), int(QDialog::Accepted));
         QTRY_COMPARE(model.notReviewed(), 0);
+
+        // Verifies in the background, which is recorded.
+        QString words;
+        QTimer closer;
+        connect(&closer, &QTimer::timeout, &closer, [&words] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                words = box->text();
+                box->close();
+            }
+        });
+        closer.start();
+        view.action(TrailView::Action::Verify)->trigger();
+        closer.stop();
+        QVERIFY2(words.contains(u"The trail is whole."_s), qPrintable(words));
+        QVERIFY(store.value()->entry(store.value()->size().value()).value().record.contains("\"verified\""));
 
         // Takes it away: paper, a table, and a copy that another program verifies.
         const TrailOutput output(model, kReviewer);
