@@ -839,7 +839,7 @@
     </message>
     <message>
         <source>&amp;Go to entry …</source>
-        <translation>Zum &amp;Eintrag gehen …</translation>
+        <translation>Zum EintraZum &amp;Eintrag gehen …amp;g gehen …</translation>
     </message>
     <message>
         <source>&amp;Print …</source>
@@ -868,6 +868,10 @@
     <message>
         <source>Open fi&amp;lter …</source>
         <translation>Filter öff&amp;nen …</translation>
+    </message>
+    <message>
+        <source>D&amp;etails</source>
+        <translation>&amp;Einzelheiten</translation>
     </message>
     <message>
         <source>Entries of the audit trail</source>

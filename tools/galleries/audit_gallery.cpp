@@ -1,5 +1,8 @@
-// Pictures of the trail's views and dialogs for people to look at, and a printed copy: audit_gallery <folder>
+// Pictures of the trail's views and dialogs and of the workbench for people to look at, and a printed copy: audit_gallery <folder>
 // [language]. Twice the size with QT_SCALE_FACTOR=2. Not a test: what looks wrong is for eyes to say.
+
+#include "window/MainWindow.h"
+#include "workbench/SampleFixture.h"
 
 #include <ozm_audit/Logger.h>
 #include <ozm_audit_widgets/ReasonDialog.h>
@@ -111,6 +114,21 @@ void save(QWidget &widget, const QDir &out, const QString &name)
     widget.grab().save(out.filePath(name));
 }
 
+void takeWorkbench(const QDir &out, const QString &suffix)
+{
+    const ozm::test::SampleFixture fixture;
+    (void)fixture.editor->setCell(fixture.idAt(0), kCharge, u"3"_s);
+    (void)fixture.editor->setCell(fixture.idAt(0), kCharge, u"x"_s);
+    (void)fixture.editor->renameSamples({fixture.idAt(1), fixture.idAt(2)}, u"Day 1, #"_s);
+    (void)fixture.editor->setCell(fixture.idAt(1), kComment, u"short, measured again"_s);
+    (void)fixture.editor->undo();
+    workbench::MainWindow window(*fixture.editor, fixture.trailPath());
+    window.setMessagesShown(false);
+    const auto *view = window.findChild<TrailView *>();
+    settle(view->model());
+    save(window, out, u"workbench-%1.png"_s.arg(suffix));
+}
+
 void takePictures(const QDir &out, const QString &suffix)
 {
     auto store = Store::open(u"memory:"_s);
@@ -178,14 +196,16 @@ int main(int argc, char **argv)
     const QString language = QApplication::arguments().value(2, u"en"_s);
     QLocale::setDefault(QLocale(language));
     ozm::OzmCoreApplication::start();
-    for (const QString &name : {u"ozm_widgets"_s, u"ozm_audit"_s})
+    for (const QString &name : {u"ozm_widgets"_s, u"ozm_audit"_s, u"workbench"_s})
         ozm::OzmCoreApplication::loadTranslation(QLocale(language), name);
     OZMStyle::apply();
     for (const auto scheme : {OZMStyle::Scheme::Light, OZMStyle::Scheme::Dark}) {
         QApplication::setPalette(OZMStyle::palette(scheme));
-        takePictures(out,
-                     u"%1-%2-%3x"_s.arg(scheme == OZMStyle::Scheme::Dark ? u"dark"_s : u"light"_s, language)
-                         .arg(application.devicePixelRatio()));
+        const QString suffix =
+            u"%1-%2-%3x"_s.arg(scheme == OZMStyle::Scheme::Dark ? u"dark"_s : u"light"_s, language)
+                .arg(application.devicePixelRatio());
+        takePictures(out, suffix);
+        takeWorkbench(out, suffix);
     }
     return 0;
 }

@@ -47,6 +47,7 @@ public:
         SaveFilter,
         OpenFilter,
         GoTo,
+        Details, ///< Shows them or not; at first, where the view is high enough.
     };
     /// Shows the object with a key as the entry has it: type of the subject, and JSON.
     using SubjectHook = std::function<void(const QString &type, const QString &key)>;

@@ -117,6 +117,12 @@ Entry TrailView::currentEntry() const
 bool TrailView::event(QEvent *event)
 {
     const auto type = event->type();
+    if (type == QEvent::Resize || type == QEvent::Show) {
+        d->fitDetails();
+        // Once the table has its new height.
+        QMetaObject::invokeMethod(
+            this, [this] { d->follow(); }, Qt::QueuedConnection);
+    }
     if (type != QEvent::ShortcutOverride && type != QEvent::KeyPress)
         return QWidget::event(event);
     if (!static_cast<QKeyEvent *>(event)->matches(QKeySequence::Find))

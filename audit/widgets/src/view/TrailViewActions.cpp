@@ -62,6 +62,9 @@ void TrailView::Private::run(Action action)
         return saveFilter();
     case Action::OpenFilter:
         return openFilter();
+    case Action::Details:
+        detailsChosen = true;
+        return;
     }
 }
 

@@ -35,6 +35,7 @@ constexpr std::array kActions{
               "history"_L1},
     ActionRow{Action::ShowSubject, QT_TRANSLATE_NOOP("ozm::audit::TrailView", "Show the &object"),
               "go-next"_L1},
+    ActionRow{Action::Details, QT_TRANSLATE_NOOP("ozm::audit::TrailView", "D&etails"), "view-list"_L1},
     ActionRow{Action::GoTo, QT_TRANSLATE_NOOP("ozm::audit::TrailView", "&Go to entry …"), "edit-find"_L1},
     ActionRow{Action::Print, QT_TRANSLATE_NOOP("ozm::audit::TrailView", "&Print …"), "document-print"_L1},
     ActionRow{Action::SavePdf, QT_TRANSLATE_NOOP("ozm::audit::TrailView", "Save as P&DF …"),
@@ -49,11 +50,13 @@ constexpr std::array kActions{
               "document-open"_L1},
 };
 // Beside the table; the rest is in the menu.
-constexpr std::array kInBar{Action::Sign, Action::Review, Action::History, Action::Verify};
+constexpr std::array kInBar{Action::Sign, Action::Review, Action::History, Action::Verify, Action::Details};
 
 constexpr std::array kWidths{60, 205, 190, 130, 330, 130, 110, 110, 130, 130};
 static_assert(kWidths.size() == TrailModel::ColumnCount);
 constexpr int kRoom = 8;
+// Below it, the entries need the room themselves.
+constexpr int kHeightForDetails = 450;
 // Rows beyond this are selected by mistake.
 constexpr int kMostCopied = 10'000;
 
@@ -140,6 +143,8 @@ void TrailView::Private::addActions(QToolBar &tools)
         else
             menu->addAction(action);
     }
+    actions.at(Action::Details)->setCheckable(true);
+    QObject::connect(actions.at(Action::Details), &QAction::toggled, &details, &QWidget::setVisible);
     actions.at(Action::GoTo)->setShortcut(QKeySequence(u"Ctrl+G"_s));
     actions.at(Action::GoTo)->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     q.addAction(actions.at(Action::GoTo));
@@ -187,6 +192,13 @@ void TrailView::Private::connectAll()
                      [this](const Error &error) { status.setText(error.errorMessage()); });
     QObject::connect(&details, &EntryDetails::entryRequested, &q,
                      [this](qint64 number) { q.showEntry(number); });
+}
+
+void TrailView::Private::fitDetails()
+{
+    if (!detailsChosen)
+        actions.at(Action::Details)->setChecked(q.height() >= kHeightForDetails);
+    details.setVisible(actions.at(Action::Details)->isChecked());
 }
 
 void TrailView::Private::updateActions()

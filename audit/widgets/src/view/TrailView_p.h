@@ -64,7 +64,10 @@ public:
     SigningSession *session = nullptr;
     SubjectHook hook;
     QString verifier;
+    void fitDetails();
+
     bool follows = true;
+    bool detailsChosen = false; ///< By the user; otherwise by the height of the view.
 };
 
 } // namespace ozm::audit
