@@ -1045,6 +1045,33 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     </message>
 </context>
 <context>
+    <name>ozm::editor::ForeignPage</name>
+    <message>
+        <source>scripts</source>
+        <translation>Skripte</translation>
+    </message>
+    <message>
+        <source>frames</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>loaded objects</source>
+        <translation>geladene Objekte</translation>
+    </message>
+    <message>
+        <source>Left out of what was pasted: %1</source>
+        <translation>Beim Einfügen weggelassen: %1</translation>
+    </message>
+    <message>
+        <source>images</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>links</source>
+        <translation>Verweise</translation>
+    </message>
+</context>
+<context>
     <name>ozm::editor::PreviewPane</name>
     <message>
         <source>Data of the preview</source>

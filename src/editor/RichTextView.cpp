@@ -3,6 +3,7 @@
 #include "editor/CodeCompleter.h"
 #include "editor/CodeModel.h"
 #include "editor/EditorKeys.h"
+#include "editor/ForeignPage.h"
 #include "templates/document/InlineHtml.h"
 #include "templates/document/TemplateParts.h"
 #include "templates/syntax/Codes.h"
@@ -319,12 +320,15 @@ bool RichTextView::canInsertFromMimeData(const QMimeData *source) const
 void RichTextView::insertFromMimeData(const QMimeData *source)
 {
     const QString type = QString::fromLatin1(kTemplateMimeType);
+    // Word processors put a picture of the text beside it; browsers, the address of an image beside the image.
+    const QString page = source->hasHtml() ? sourceOfPage(source->html()) : QString();
+    const bool isPicture = source->hasImage() && (page.isEmpty() || page.startsWith("<!--"_L1));
     if (source->hasFormat(type))
         insertSource(QString::fromUtf8(source->data(type)));
-    else if (source->hasImage())
+    else if (isPicture)
         insertImage(qvariant_cast<QImage>(source->imageData()));
     else if (source->hasHtml())
-        insertSource(source->html());
+        insertSource(page);
     else
         insertPlain(source->text());
 }

@@ -116,6 +116,8 @@ public:
         QTextCursor cursor(&document);
         for (int tries = 0; tries == 0 || (tries < 50 && !isOfTheSource(cursor.block())); ++tries)
             cursor.setPosition(m_random.bounded(document.characterCount()));
+        if (document.characterAt(cursor.position()).isLowSurrogate())
+            cursor.setPosition(cursor.position() - 1);
         switch (kind) {
         case Kind::Type:
             cursor.insertText(m_random.bounded(4) == 0 ? u"< &"_s : u"X"_s);

@@ -1,0 +1,177 @@
+#include "editor/ForeignPage.h"
+
+#include "templates/document/TemplateChip.h"
+#include "templates/document/TemplateSourceWriter.h"
+#include "templates/syntax/Codes.h"
+#include "templates/syntax/HtmlScanner.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QUrl>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm::editor {
+
+namespace {
+
+struct LeftOutRow
+{
+    QLatin1StringView element;
+    const char *name;
+};
+
+constexpr std::array kLeftOut{
+    LeftOutRow{"script"_L1, QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "scripts")},
+    LeftOutRow{"iframe"_L1, QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "frames")},
+    LeftOutRow{"frame"_L1, QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "frames")},
+    LeftOutRow{"object"_L1, QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "loaded objects")},
+    LeftOutRow{"embed"_L1, QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "loaded objects")},
+    LeftOutRow{"applet"_L1, QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "loaded objects")},
+    LeftOutRow{"svg"_L1, QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "loaded objects")},
+};
+
+constexpr std::array kSchemes{"http"_L1, "https"_L1, "mailto"_L1, "ftp"_L1, "tel"_L1};
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("ozm::editor::ForeignPage", text);
+}
+
+/// Loads nothing.
+class PageDocument : public QTextDocument
+{
+protected:
+    QVariant loadResource(int, const QUrl &) override { return QByteArray(); }
+};
+
+bool mayComeIn(const QTextImageFormat &image)
+{
+    static const QRegularExpression embedded(
+        u"^data:image/(png|jpe?g|gif|bmp|webp);base64,[A-Za-z0-9+/=\\s]+$"_s);
+    return image.name().contains(embedded);
+}
+
+bool mayComeIn(const QString &href)
+{
+    if (href.startsWith(u'#'))
+        return true;
+    const QString scheme = QUrl(href.trimmed()).scheme();
+    return std::ranges::any_of(kSchemes, [&scheme](QLatin1StringView each) { return scheme == each; });
+}
+
+struct Fragment
+{
+    int position;
+    int length;
+    QTextCharFormat format;
+};
+
+class Cleaning
+{
+public:
+    explicit Cleaning(const QString &html)
+    {
+        for (const HtmlToken &token : scanHtml(html)) {
+            const QString name = token.kind == HtmlTokenKind::Script ? u"script"_s : token.name;
+            for (const LeftOutRow &row : kLeftOut)
+                if (name == row.element && token.kind != HtmlTokenKind::EndTag)
+                    leaveOut(row.name);
+        }
+        m_page.setUndoRedoEnabled(false);
+        m_page.setHtml(html);
+    }
+
+    QString run()
+    {
+        cleanFragments();
+        const bool isEmpty = m_page.toPlainText().trimmed().isEmpty() && m_page.blockCount() == 1;
+        makeCodes();
+        const QString source = isEmpty ? QString() : writeSource(m_page).text;
+        if (m_leftOut.isEmpty())
+            return source;
+        return source + "<!-- "_L1 +
+               translated(QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "Left out of what was pasted: %1"))
+                   .arg(m_leftOut.join(", "_L1)) +
+               " -->"_L1;
+    }
+
+private:
+    void leaveOut(const char *name)
+    {
+        if (!m_leftOut.contains(translated(name)))
+            m_leftOut.append(translated(name));
+    }
+
+    // From the end on, so that places before stay true.
+    void cleanFragments()
+    {
+        for (QTextBlock block = m_page.lastBlock(); block.isValid(); block = block.previous()) {
+            // Fragments are not what they were once one of them is changed.
+            QList<Fragment> fragments;
+            for (auto at = block.begin(); !at.atEnd(); ++at)
+                fragments.prepend(
+                    {at.fragment().position(), at.fragment().length(), at.fragment().charFormat()});
+            for (const Fragment &fragment : std::as_const(fragments))
+                clean(fragment);
+        }
+    }
+
+    void clean(const Fragment &fragment)
+    {
+        QTextCharFormat format = fragment.format;
+        QTextCursor cursor(&m_page);
+        cursor.setPosition(fragment.position);
+        cursor.setPosition(fragment.position + fragment.length, QTextCursor::KeepAnchor);
+        if (format.isImageFormat() && !mayComeIn(format.toImageFormat())) {
+            leaveOut(QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "images"));
+            cursor.removeSelectedText();
+        } else if (format.isAnchor() && !format.anchorHref().isEmpty() && !mayComeIn(format.anchorHref())) {
+            leaveOut(QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "links"));
+            format.setAnchor(false);
+            for (const int property :
+                 {QTextFormat::AnchorHref, QTextFormat::AnchorName, QTextFormat::IsAnchor})
+                format.clearProperty(property);
+            cursor.setCharFormat(format);
+        }
+    }
+
+    // One with markup in it stays text: as a code it would stand in the source as it is.
+    void makeCodes()
+    {
+        static const QRegularExpression markup(u"[<>&\\x{FFFC}\\x{2028}]"_s);
+        for (QTextBlock block = m_page.lastBlock(); block.isValid(); block = block.previous()) {
+            QList<QRegularExpressionMatch> codes;
+            for (auto all = syntax::codePattern().globalMatch(block.text()); all.hasNext();)
+                codes.prepend(all.next());
+            for (const QRegularExpressionMatch &code : std::as_const(codes)) {
+                if (code.captured().contains(markup))
+                    continue;
+                QTextCursor cursor(block);
+                cursor.setPosition(block.position() + int(code.capturedStart()));
+                cursor.setPosition(block.position() + int(code.capturedEnd()), QTextCursor::KeepAnchor);
+                const QTextCharFormat format = cursor.charFormat();
+                cursor.insertText(QString(QChar::ObjectReplacementCharacter),
+                                  chipFormat({PartKind::Code, code.captured()}, format));
+            }
+        }
+    }
+
+    PageDocument m_page;
+    QStringList m_leftOut;
+};
+
+} // namespace
+
+QString sourceOfPage(const QString &html)
+{
+    return Cleaning(html).run();
+}
+
+} // namespace ozm::editor
