@@ -12,8 +12,10 @@
 #include <QSaveFile>
 #include <QStringList>
 
+#include <algorithm>
 #include <array>
 #include <functional>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 

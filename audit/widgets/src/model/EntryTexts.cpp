@@ -9,6 +9,7 @@
 #include <QJsonObject>
 #include <QTimeZone>
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;

@@ -4,6 +4,7 @@
 
 #include <ozm_widgets/OZMStyle.h>
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;

@@ -6,6 +6,7 @@
 
 #include <QFont>
 
+#include <algorithm>
 #include <limits>
 #include <numeric>
 

@@ -10,6 +10,7 @@
 #include <QSaveFile>
 #include <QTimeZone>
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,8 @@
 #include "Difference.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QJsonValue>
 #include <QRegularExpression>
 #include <QStringList>
