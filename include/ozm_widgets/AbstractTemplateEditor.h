@@ -43,6 +43,11 @@ class RowNode;
 class OZM_WIDGETS_EXPORT AbstractTemplateEditor : public QMainWindow
 {
     Q_OBJECT
+    Q_PROPERTY(QString sourceText READ sourceText WRITE setSourceText NOTIFY sourceTextChanged)
+    Q_PROPERTY(Mode mode READ mode WRITE setMode NOTIFY modeChanged)
+    Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly NOTIFY readOnlyChanged)
+    Q_PROPERTY(bool modified READ isModified NOTIFY modifiedChanged)
+    Q_PROPERTY(QString filePath READ filePath NOTIFY filePathChanged)
 
 public:
     class Private;
@@ -133,6 +138,9 @@ Q_SIGNALS:
     /// After every edit, undo and redo, and when another template is shown.
     void sourceTextChanged();
     void modeChanged(AbstractTemplateEditor::Mode mode);
+    void readOnlyChanged(bool readOnly);
+    void modifiedChanged(bool modified);
+    void filePathChanged(const QString &path);
     void saved(const QString &path);
 
 protected:

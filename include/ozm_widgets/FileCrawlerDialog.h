@@ -22,8 +22,9 @@
 class OZM_WIDGETS_EXPORT FileCrawlerDialog : public QDialog
 {
     Q_OBJECT
-    Q_PROPERTY(QString crawlFolderReference READ crawlFolderReference WRITE setCrawlFolderReference)
-    Q_PROPERTY(bool recursiveSearch READ recursiveSearch)
+    Q_PROPERTY(QString crawlFolderReference READ crawlFolderReference WRITE setCrawlFolderReference NOTIFY
+                   crawlFolderReferenceChanged)
+    Q_PROPERTY(bool recursiveSearch READ recursiveSearch NOTIFY recursiveSearchChanged)
 
 public:
     using DestinationFileLocation = ozm::IFileAccessor::DestinationFileLocation;
@@ -60,6 +61,10 @@ public Q_SLOTS:
     void accept() override;
     /// Ends a running search; closes the dialog when none is.
     void reject() override;
+
+Q_SIGNALS:
+    void crawlFolderReferenceChanged(const QString &folder);
+    void recursiveSearchChanged(bool recursive);
 
 protected:
     /// The data to list. An error (code 1, "Search path does not exist", when there is no such folder, or as

@@ -221,6 +221,10 @@ FileCrawlerDialog::FileCrawlerDialog(QWidget *parent)
 {
     connect(d->form.buttonBox, &QDialogButtonBox::accepted, this, &FileCrawlerDialog::accept);
     connect(d->form.buttonBox, &QDialogButtonBox::rejected, this, &FileCrawlerDialog::reject);
+    connect(d->form.crawlPathLine, &QLineEdit::textChanged, this,
+            &FileCrawlerDialog::crawlFolderReferenceChanged);
+    connect(d->form.enableRecursiveSearch, &QCheckBox::toggled, this,
+            &FileCrawlerDialog::recursiveSearchChanged);
 }
 
 FileCrawlerDialog::~FileCrawlerDialog() = default;

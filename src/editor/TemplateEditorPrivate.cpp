@@ -19,6 +19,8 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 using namespace ozm::editor;
 
@@ -171,7 +173,12 @@ void AbstractTemplateEditor::Private::connectParts()
     });
     connect(m_scripts.get(), &EditorScripts::told, this, &Private::tell);
     connect(&m_questions, &EditorQuestions::told, this, &Private::tell);
-    connect(&m_files, &EditorFiles::pathChanged, this, &Private::updateTitle);
+    connect(&m_files, &EditorFiles::pathChanged, this, [this] {
+        updateTitle();
+        const QString path = m_files.path();
+        if (std::exchange(m_toldPath, path) != path)
+            Q_EMIT qptr->filePathChanged(path);
+    });
     connect(&m_files, &EditorFiles::told, this, &Private::tell);
     connect(&m_files, &EditorFiles::saved, qptr, &AbstractTemplateEditor::saved);
 }
@@ -300,17 +307,28 @@ void AbstractTemplateEditor::Private::tell(const QString &text)
 
 void AbstractTemplateEditor::Private::setReadOnly(bool on)
 {
+    const bool wasReadOnly = isReadOnly();
     m_views.setReadOnly(on);
     m_codePanel->setReadOnly(on);
     m_scriptPane->setReadOnly(on);
     updateState();
     updateTitle();
+    if (wasReadOnly != on)
+        Q_EMIT qptr->readOnlyChanged(on);
 }
 
 void AbstractTemplateEditor::Private::updateState()
 {
     m_actions->update();
-    qptr->setWindowModified(isModified());
+    updateModified();
+}
+
+void AbstractTemplateEditor::Private::updateModified()
+{
+    const bool modified = isModified();
+    qptr->setWindowModified(modified);
+    if (std::exchange(m_wasModified, modified) != modified)
+        Q_EMIT qptr->modifiedChanged(modified);
 }
 
 void AbstractTemplateEditor::Private::updateTitle()
@@ -318,5 +336,5 @@ void AbstractTemplateEditor::Private::updateTitle()
     const QString file = m_files.path().isEmpty() ? tr("New template") : QFileInfo(m_files.path()).fileName();
     qptr->setWindowTitle(m_views.isReadOnly() ? tr("%1[*] (read only) - Template editor").arg(file)
                                               : tr("%1[*] - Template editor").arg(file));
-    qptr->setWindowModified(isModified());
+    updateModified();
 }

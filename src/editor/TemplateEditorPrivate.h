@@ -64,6 +64,7 @@ private:
     void tell(const QString &text);
     void updateState();
     void updateTitle();
+    void updateModified();
 
     AbstractTemplateEditor *const qptr;
     ozm::editor::EditorHistory *m_history;
@@ -84,4 +85,6 @@ private:
     QDockWidget *m_scriptDock = nullptr;
     QDockWidget *m_previewDock = nullptr;
     bool m_isShown = false;
+    bool m_wasModified = false; ///< As it was told last.
+    QString m_toldPath;
 };

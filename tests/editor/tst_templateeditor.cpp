@@ -326,6 +326,13 @@ void TestTemplateEditor::undoAfterSavingIsAChange()
 {
     EditorFixture f;
     auto *rich = f.child<QTextEdit>("richView");
+    QStringList told;
+    connect(&f.editor, &AbstractTemplateEditor::modifiedChanged, this,
+            [&](bool modified) { told += modified ? u"changed"_s : u"as saved"_s; });
+    connect(&f.editor, &AbstractTemplateEditor::filePathChanged, this,
+            [&](const QString &path) { told += QFileInfo(path).fileName(); });
+    connect(&f.editor, &AbstractTemplateEditor::readOnlyChanged, this,
+            [&](bool readOnly) { told += readOnly ? u"locked"_s : u"open"_s; });
     QTest::keyClick(rich, Qt::Key_A);
     f.answerPath(f.path(u"t.ozt"_s));
     f.trigger("saveAction");
@@ -334,6 +341,11 @@ void TestTemplateEditor::undoAfterSavingIsAChange()
     QVERIFY(f.editor.isModified());
     f.trigger("undoAction");
     QVERIFY(!f.editor.isModified());
+    f.editor.setReadOnly(true);
+    f.editor.setReadOnly(true);
+    f.editor.setReadOnly(false);
+    QCOMPARE(told, QStringList({u"changed"_s, u"as saved"_s, u"t.ozt"_s, u"changed"_s, u"as saved"_s,
+                                u"locked"_s, u"open"_s}));
     QCOMPARE(f.content(), u"<div>a</div>"_s);
     // Another mode is not a change.
     f.trigger("plainModeAction");
