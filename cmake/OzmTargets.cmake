@@ -64,15 +64,17 @@ function(ozm_configure_target target)
 endfunction()
 
 # ozm_add_library(<name> HEADERS_BASE <dir> HEADERS <h>... SOURCES <cpp>...
-#                 [PUBLIC <target>...] [PRIVATE <target>...] [PACKAGES "<find_dependency arguments>"...])
+#                 [PUBLIC <target>...] [PRIVATE <target>...] [PACKAGES "<find_dependency arguments>"...]
+#                 [STATIC_PACKAGES "<find_dependency arguments>"...])
 #
-# A shared library ozm::<name> with a generated <name>/<name>_export.h, an installed package of that name,
+# A library ozm::<name>, shared unless BUILD_SHARED_LIBS is off, when its users link STATIC_PACKAGES as well, with a generated <name>/<name>_export.h, an installed package of that name,
 # and a header set whose every header is checked to compile by itself (target all_verify_interface_header_sets).
 function(ozm_add_library name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "HEADERS_BASE" "HEADERS;SOURCES;PUBLIC;PRIVATE;PACKAGES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "HEADERS_BASE"
+        "HEADERS;SOURCES;PUBLIC;PRIVATE;PACKAGES;STATIC_PACKAGES")
 
     # The headers are named here for moc as well, which otherwise looks beside the sources only.
-    add_library(${name} SHARED ${arg_SOURCES} ${arg_HEADERS})
+    add_library(${name} ${arg_SOURCES} ${arg_HEADERS})
     add_library(ozm::${name} ALIAS ${name})
     ozm_configure_target(${name})
     target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
@@ -81,6 +83,13 @@ function(ozm_add_library name)
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}
         INSTALL_RPATH "$<$<NOT:$<PLATFORM_ID:Windows,Darwin>>:$ORIGIN>$<$<PLATFORM_ID:Darwin>:@loader_path>")
+
+    if(NOT BUILD_SHARED_LIBS)
+        string(TOUPPER ${name} upper)
+        target_compile_definitions(${name} PUBLIC ${upper}_STATIC_DEFINE)
+        set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+        list(APPEND arg_PACKAGES ${arg_STATIC_PACKAGES})
+    endif()
 
     set(generated "${CMAKE_CURRENT_BINARY_DIR}/generated")
     generate_export_header(${name} EXPORT_FILE_NAME "${generated}/${name}/${name}_export.h")
@@ -114,11 +123,22 @@ function(ozm_install_library name packages)
         "${CMAKE_CURRENT_BINARY_DIR}/${name}ConfigVersion.cmake" DESTINATION ${package_dir})
 endfunction()
 
+# ozm_add_resources(<target> <name> <qt_add_resources arguments>...): a static library keeps its resources in
+# objects beside it, which are installed with it.
+function(ozm_add_resources target name)
+    qt_add_resources(${target} ${name} ${ARGN} OUTPUT_TARGETS objects)
+    if(objects)
+        install(TARGETS ${objects} EXPORT ${target}Targets
+            OBJECTS DESTINATION ${CMAKE_INSTALL_LIBDIR}/objects)
+    endif()
+endfunction()
+
 # ozm_add_plugin(<name> SOURCES <file>... LIBRARIES <target>...): a module that ozm_widgets finds at run time,
 # below its own folder in the build tree as after an install.
 function(ozm_add_plugin name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
-    if(WIN32)
+    # Beside what asks for it: the program that holds a static library, or the library itself.
+    if(WIN32 OR NOT BUILD_SHARED_LIBS)
         set(library_folder "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
         set(install_folder ${CMAKE_INSTALL_BINDIR})
     else()

@@ -7,7 +7,7 @@ foreach(icon IN LISTS icons)
     set_source_files_properties("${icon}" PROPERTIES QT_RESOURCE_ALIAS "icons/${name}")
 endforeach()
 set_source_files_properties("${resources_dir}/stylesheet.qss" PROPERTIES QT_RESOURCE_ALIAS "stylesheet")
-qt_add_resources(ozm_widgets ozm_widgets_style PREFIX "/style"
+ozm_add_resources(ozm_widgets ozm_widgets_style PREFIX "/style"
     FILES "${resources_dir}/stylesheet.qss" ${icons})
 
 include(OzmTranslations)
