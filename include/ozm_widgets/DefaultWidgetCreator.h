@@ -13,8 +13,8 @@ namespace ozm {
  *
  *     ozm::DefaultWidgetCreator::initialize(); // once, at start-up
  *     ...
- *     const QString path = ozm::DefaultWidgetCreator::fileAccessor()->getOpenFileName(this, title, {},
- * filter);
+ *     const auto accessor = ozm::DefaultWidgetCreator::fileAccessor();
+ *     const QString path = accessor->getOpenFileName(this, title, {}, filter);
  *
  * GUI thread only.
  */

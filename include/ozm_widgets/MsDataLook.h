@@ -14,7 +14,7 @@ namespace ozm::msreader {
  * Looks at entries on disk beside the event loop and tells what data each of them holds.
  *
  *     auto *look = new ozm::msreader::MsDataLook(this);
- *     connect(look, &ozm::msreader::MsDataLook::seen, model, &SampleModel::append);
+ *     connect(look, &ozm::msreader::MsDataLook::seen, model, &SampleModel::add);
  *     look->look(droppedPaths);
  *
  * A share that does not answer holds up neither the thread that asks nor the object's end, nor what is asked for

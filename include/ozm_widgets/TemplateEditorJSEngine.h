@@ -20,8 +20,8 @@ class TemplateEditorJSEnginePrivate;
  * script library as `templateEditorCore`:
  *
  *     TemplateEditorJSEngine engine;
- *     engine.evaluateJS(u"templateEditorCore.number(inputParameters['[Mass]'], 2)"_s, {{u"[Mass]"_s,
- * 1045.534}});
+ *     engine.evaluateJS(u"templateEditorCore.number(inputParameters['[Mass]'], 2)"_s,
+ *                       {{u"[Mass]"_s, 1045.534}});
  *
  * The library is a file that evaluates to an object of functions, which keep no state of their own. Without
  * a usable one the engine is not valid, has said so in one warning, and runs scripts without helpers.
