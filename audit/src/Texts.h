@@ -3,6 +3,7 @@
 #include <ozm_common_stable/Error.h>
 
 #include <QCoreApplication>
+#include <QLoggingCategory>
 
 namespace ozm::audit {
 
@@ -11,5 +12,8 @@ class Texts
 {
     Q_DECLARE_TR_FUNCTIONS(ozm::audit)
 };
+
+/// Messages of this library: "ozm.audit".
+Q_DECLARE_LOGGING_CATEGORY(lcAudit)
 
 } // namespace ozm::audit

@@ -1,5 +1,7 @@
 #include "dialogs/DataDelegate.h"
 
+#include "dialogs/DialogParts.h"
+
 #include <ozm_widgets/OZMStyle.h>
 #include <ozm_widgets/SpectrumFileDialog.h>
 
@@ -10,9 +12,6 @@ using namespace Qt::StringLiterals;
 namespace ozm {
 
 namespace {
-
-// As QFileSystemModel orders its columns: name, size, type, date.
-constexpr int kTypeColumn = 2;
 
 /// Ordinary folders are not looked into: their trees may be deep.
 bool mayBeData(const QString &path, bool isFolder)

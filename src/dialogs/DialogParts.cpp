@@ -15,10 +15,6 @@ namespace ozm {
 
 namespace {
 
-// As QFileSystemModel orders its columns.
-constexpr int kNameColumn = 0;
-constexpr int kTypeColumn = 2;
-constexpr int kDateColumn = 3;
 // "Open data format mzML" has room.
 constexpr int kTypeCharacters = 20;
 constexpr int kCellMargin = 8;

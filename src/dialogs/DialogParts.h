@@ -7,6 +7,11 @@ class QWidget;
 
 namespace ozm {
 
+// As QFileSystemModel orders its columns.
+constexpr int kNameColumn = 0;
+constexpr int kTypeColumn = 2;
+constexpr int kDateColumn = 3;
+
 // Parts of a file dialog that the toolkit draws, by the names it gives them. A toolkit that renames them
 // gives null, and the dialogs do without.
 

@@ -11,10 +11,12 @@
 #include <ozm_widgets/DefaultFileAccessor.h>
 #include <ozm_widgets/DefaultWidgetCreator.h>
 #include <ozm_widgets/FileCrawlerDialog.h>
+#include <ozm_widgets/TemplateFile.h>
 #include <ozm_widgets/openfilefolderdialog.h>
 
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QRadioButton>
 #include <QSignalSpy>
 
@@ -209,10 +211,15 @@ private Q_SLOTS:
         const std::vector<RowNode> rows{*fixture.editor->table().row(0)};
         ReportDialog dialog(rows, ReportContext(u"jdoe"_s, {}, rows));
         const QString path = fixture.folder.filePath(u"report.html"_s);
-        fixture.answers.paths = {path};
+        const QString saved = fixture.folder.filePath(u"mine.ozt"_s);
+        QVERIFY(!ozm::TemplateFile::write(saved, u"<p>Mine: [Name]</p>"_s).hasError());
+        fixture.answers.paths = {saved, path};
+        dialog.findChild<QPushButton *>(u"otherTemplate"_s)->click();
+        QCOMPARE(dialog.findChild<QComboBox *>(u"template"_s)->currentText(), u"mine"_s);
         dialog.findChild<QPushButton *>(u"save"_s)->click();
-        QCOMPARE(fixture.answers.questions, (QStringList{u"Save report"_s, u"saveFile"_s}));
-        QVERIFY(readFile(path).contains("T1"));
+        QCOMPARE(fixture.answers.questions,
+                 (QStringList{u"Choose template"_s, u"Save report"_s, u"saveFile"_s}));
+        QVERIFY(readFile(path).contains("Mine: T1"));
     }
 
     void savedFilesCanBeOpened()

@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -11,6 +12,9 @@
 #include <QRadioButton>
 #include <QTextBrowser>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using ozm::Error;
@@ -32,6 +36,7 @@ ReportDialog::ReportDialog(std::vector<RowNode> rows, const ReportContext &conte
     : QDialog(parent)
     , m_rows(std::move(rows))
     , m_context(context)
+    , m_templates(reportTemplates())
     , m_template(named(new QComboBox(this), "template"))
     , m_each(named(new QRadioButton(tr("&One by one"), this), "each"))
     , m_group(named(new QRadioButton(tr("As a &group"), this), "group"))
@@ -43,7 +48,7 @@ ReportDialog::ReportDialog(std::vector<RowNode> rows, const ReportContext &conte
     setWindowTitle(m_rows.size() == 1 ? tr("Report on 1 sample")
                                       : tr("Report on %1 samples").arg(m_rows.size()));
     resize(820, 720);
-    for (const ReportTemplate &each : reportTemplates())
+    for (const ReportTemplate &each : std::as_const(m_templates))
         m_template->addItem(each.title);
     m_note->setWordWrap(true);
     // Paper is white, whatever the desktop is.
@@ -55,9 +60,12 @@ ReportDialog::ReportDialog(std::vector<RowNode> rows, const ReportContext &conte
 
     auto *label = new QLabel(tr("&Template:"), this);
     label->setBuddy(m_template);
+    auto *other = named(new QPushButton(tr("&Other…"), this), "otherTemplate");
+    other->setToolTip(tr("Takes a template that was saved in the template editor"));
     auto *choices = new QHBoxLayout;
     choices->addWidget(label);
     choices->addWidget(m_template);
+    choices->addWidget(other);
     choices->addSpacing(16);
     choices->addWidget(m_each);
     choices->addWidget(m_group);
@@ -71,6 +79,7 @@ ReportDialog::ReportDialog(std::vector<RowNode> rows, const ReportContext &conte
     layout->addWidget(buttons);
 
     connect(m_template, &QComboBox::currentIndexChanged, this, &ReportDialog::chooseTemplate);
+    connect(other, &QPushButton::clicked, this, &ReportDialog::askTemplate);
     connect(m_group, &QRadioButton::toggled, this, &ReportDialog::fill);
     connect(buttons, &QDialogButtonBox::rejected, this, &ReportDialog::reject);
     connect(m_save, &QPushButton::clicked, this, &ReportDialog::save);
@@ -81,17 +90,31 @@ ReportDialog::~ReportDialog() = default;
 
 void ReportDialog::chooseTemplate()
 {
-    const bool group = reportTemplates().at(m_template->currentIndex()).forGroup;
+    const bool group = m_templates.at(m_template->currentIndex()).forGroup;
     const QSignalBlocker quiet(m_group);
     m_each->setChecked(!group);
     m_group->setChecked(group);
     fill();
 }
 
+void ReportDialog::askTemplate()
+{
+    const QString path = files::askOpenTemplate(this);
+    if (path.isEmpty())
+        return;
+    qsizetype index = std::ranges::find(m_templates, path, &ReportTemplate::path) - m_templates.begin();
+    if (index == m_templates.size()) {
+        m_templates.append({QFileInfo(path).completeBaseName(), path, false});
+        m_template->addItem(m_templates.constLast().title);
+        m_template->setItemData(m_template->count() - 1, QDir::toNativeSeparators(path), Qt::ToolTipRole);
+    }
+    m_template->setCurrentIndex(static_cast<int>(index));
+}
+
 void ReportDialog::fill()
 {
-    const auto filled = fillReport(reportTemplates().at(m_template->currentIndex()).path,
-                                   m_group->isChecked(), m_rows, m_context);
+    const auto filled =
+        fillReport(m_templates.at(m_template->currentIndex()).path, m_group->isChecked(), m_rows, m_context);
     m_report = filled ? filled.value() : ReportPages();
     m_preview->setHtml(reportHtml(m_report, PageEnd::Line));
     showNote(filled ? m_report.troubles.join(u'\n') : filled.error().errorMessage());

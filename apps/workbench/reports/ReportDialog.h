@@ -15,7 +15,8 @@ class QTextBrowser;
 namespace workbench {
 
 /**
- * Fills a template with samples, shows the outcome, and saves it as HTML or PDF.
+ * Fills a template with samples, shows the outcome, and saves it as HTML or PDF: one of the workbench's own, or one
+ * that the editor saved.
  *
  * The samples are copies: what is edited while the dialog is open does not get into the report.
  */
@@ -29,12 +30,14 @@ public:
 
 private:
     void chooseTemplate();
+    void askTemplate();
     void fill();
     void save();
     void showNote(const QString &text);
 
     const std::vector<RowNode> m_rows;
     const ReportContext m_context;
+    QList<ReportTemplate> m_templates;
     ReportPages m_report;
     QComboBox *m_template;
     QRadioButton *m_each;

@@ -50,6 +50,13 @@ DirLocation reportLocation()
     return location;
 }
 
+DirLocation templateLocation()
+{
+    // By this name the template editor remembers its folder.
+    static const DirLocation location = FileSystemSettings::addLocation(u"templates"_s);
+    return location;
+}
+
 FileExtensionsNameFilter samplesFilter()
 {
     return FileExtensionsNameFilter(tr("Samples (*.csv)"));
@@ -99,6 +106,13 @@ Location askExportTrail(QWidget *parent)
     return DefaultWidgetCreator::fileAccessor()->getSaveFileName(
         parent, tr("Export audit trail"), {}, u"audit.json"_s,
         FileExtensionsNameFilter(tr("JSON (*.json);;Table (*.csv)")), nullptr, {}, trailLocation());
+}
+
+QString askOpenTemplate(QWidget *parent)
+{
+    return DefaultWidgetCreator::fileAccessor()->getOpenFileName(
+        parent, tr("Choose template"), {}, FileExtensionsNameFilter(tr("Templates (*.ozt *.html *.txt)")),
+        templateLocation());
 }
 
 Location askSaveReport(QWidget *parent, const QString &name)

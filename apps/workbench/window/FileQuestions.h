@@ -23,6 +23,8 @@ using Location = ozm::IFileAccessor::DestinationFileLocation;
 [[nodiscard]] Location askExportTrail(QWidget *parent);
 
 /// HTML or PDF, by the extension.
+/// A template in the folder that the editor saves to; empty when canceled.
+[[nodiscard]] QString askOpenTemplate(QWidget *parent);
 [[nodiscard]] Location askSaveReport(QWidget *parent, const QString &name);
 
 /// Saves through the accessor, as @p writer does, and offers to open what was written.

@@ -2,6 +2,7 @@
 
 #include "../Texts.h"
 #include "../store/StoreBackend.h"
+#include "Texts.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -13,9 +14,9 @@ using namespace Qt::StringLiterals;
 
 namespace ozm::audit {
 
-namespace {
-
 Q_LOGGING_CATEGORY(lcAudit, "ozm.audit")
+
+namespace {
 
 // Time servers correct by less than this at a time; people and faults by more.
 constexpr qint64 kJumpMs = 2000;

@@ -1,5 +1,6 @@
 #include "WriteQueue.h"
 
+#include "Texts.h"
 #include <QLoggingCategory>
 
 #include <algorithm>
@@ -7,8 +8,6 @@
 namespace ozm::audit {
 
 namespace {
-
-Q_LOGGING_CATEGORY(lcAudit, "ozm.audit")
 
 // So many entries in a commit cost little more than one, and make nobody wait long.
 constexpr std::size_t kGroup = 512;

@@ -10,7 +10,7 @@ namespace ozm::audit {
 namespace {
 
 // As many as other threads wait for.
-constexpr qint64 kPage = 1000;
+constexpr qint64 kCopiedAtOnce = 1000;
 
 /// Bytes, hashes and head; the rest follows from them.
 Error copyRows(const Store &from, Database &to, qint64 last, const Progress &progress)
@@ -31,8 +31,8 @@ Error copyRows(const Store &from, Database &to, qint64 last, const Progress &pro
             failed = keepSubtrees(to, completed);
         return !failed.hasError();
     };
-    for (qint64 first = 1; first <= last; first += kPage) {
-        const qint64 end = qMin(last, first + kPage - 1);
+    for (qint64 first = 1; first <= last; first += kCopiedAtOnce) {
+        const qint64 end = qMin(last, first + kCopiedAtOnce - 1);
         const auto lock = from.locked();
         if (Error error = from.backend().rows(first, end, copyRow); error.hasError() || failed.hasError())
             return error.hasError() ? error : failed;

@@ -14,7 +14,7 @@ namespace ozm::audit {
 
 namespace {
 
-constexpr qint64 kPage = 4096;
+constexpr qint64 kVerifiedAtOnce = 4096;
 // A trail with more is not read further by anybody.
 constexpr qsizetype kMostFindings = 1000;
 
@@ -126,18 +126,19 @@ Error Verifier::readHead()
 
 Error Verifier::readRows(const Progress &between)
 {
-    for (qint64 first = 1; first <= m_end; first += kPage) {
+    for (qint64 first = 1; first <= m_end; first += kVerifiedAtOnce) {
         const qint64 before = m_next;
-        Error error = m_backend.rows(first, qMin(m_end, first + kPage - 1), [this](const StoredRow &row) {
-            checkRow(row);
-            return true;
-        });
+        Error error =
+            m_backend.rows(first, qMin(m_end, first + kVerifiedAtOnce - 1), [this](const StoredRow &row) {
+                checkRow(row);
+                return true;
+            });
         if (error.hasError())
             return error;
         // A head that is damaged can claim any number.
         if (m_next == before && first > m_lastRow)
             break;
-        if (!between(qMin(m_end, first + kPage - 1), m_end))
+        if (!between(qMin(m_end, first + kVerifiedAtOnce - 1), m_end))
             return Error(ErrorCode::Failed, Texts::tr("The verification was cancelled.")).ecatch(OZM_HERE);
     }
     return {};

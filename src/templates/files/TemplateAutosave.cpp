@@ -27,7 +27,7 @@ constexpr auto kDamaged = ".damaged"_L1;
 // What QUuid::Id128 writes.
 constexpr qsizetype kIdLength = 32;
 
-QString folderOf(const QString &directory)
+QString rescueFolder(const QString &directory)
 {
     return directory.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
                                : directory;
@@ -93,7 +93,7 @@ class TemplateAutosave::Private
 {
 public:
     Private(const QString &storageName, const QString &directory)
-        : folder(folderOf(directory))
+        : folder(rescueFolder(directory))
         , base(folder + u'/' + prefixOf(storageName) + QUuid::createUuid().toString(QUuid::Id128))
         , lock(base + kCopy + kLock)
     {
@@ -130,7 +130,7 @@ QList<TemplateAutosave::Rescued> TemplateAutosave::rescued(const QString &storag
                                                            const QString &directory)
 {
     QList<Rescued> all;
-    const QDir folder(folderOf(directory));
+    const QDir folder(rescueFolder(directory));
     const QStringList names = copiesIn(folder, storageName);
     for (const QString &name : names) {
         const QString file = folder.filePath(name);

@@ -83,12 +83,6 @@ constexpr std::array kAssignments{"="_L1,    "+="_L1,  "-="_L1,  "*="_L1,  "/="_
 constexpr std::array kBeforeList{"return"_L1, "of"_L1,    "in"_L1,   "typeof"_L1, "case"_L1,
                                  "else"_L1,   "throw"_L1, "void"_L1, "do"_L1};
 
-template <typename List>
-bool isOneOf(QStringView text, const List &list)
-{
-    return std::ranges::any_of(list, [text](QLatin1StringView each) { return text == each; });
-}
-
 /**
  * Reads the tokens of a script and doubts all that it does not know.
  *

@@ -30,12 +30,6 @@ constexpr std::array kBeforeExpression{
 // With these, a closing parenthesis may stand before a regular expression.
 constexpr std::array kWithParentheses{"if"_L1, "while"_L1, "for"_L1, "with"_L1};
 
-template <typename List>
-bool isOneOf(QStringView text, const List &list)
-{
-    return std::ranges::any_of(list, [text](QLatin1StringView each) { return text == each; });
-}
-
 bool isLineEnd(QChar character)
 {
     return character == u'\n' || character == u'\r' || character == QChar::LineSeparator ||

@@ -2,10 +2,17 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
 namespace ozm {
+
+template <typename List>
+[[nodiscard]] bool isOneOf(QStringView text, const List &list)
+{
+    return std::ranges::any_of(list, [text](QLatin1StringView each) { return text == each; });
+}
 
 struct ScriptToken
 {

@@ -34,7 +34,7 @@ constexpr std::array kImpliedEnds{
     ImpliedEnd{"body"_L1, "head"_L1}};
 
 template <typename Table>
-bool contains(const Table &table, const QString &name)
+bool isIn(const Table &table, const QString &name)
 {
     return std::any_of(table.begin(), table.end(), [&](QLatin1StringView row) { return name == row; });
 }
@@ -144,7 +144,7 @@ private:
         const QString name = m_source.sliced(nameStart, nameEnd - nameStart).toLower();
         if (closing)
             return take(HtmlTokenKind::EndTag, end, name);
-        if (contains(kRawElements, name)) {
+        if (isIn(kRawElements, name)) {
             const qsizetype close = m_source.indexOf(u"</"_s + name, end, Qt::CaseInsensitive);
             return take(HtmlTokenKind::RawElement, close < 0 ? m_source.size() : after(u">", close), name);
         }
@@ -248,7 +248,7 @@ QString missingEnd(const QString &source, const HtmlToken &token)
 
 bool isVoidElement(const QString &name)
 {
-    return contains(kVoidElements, name);
+    return isIn(kVoidElements, name);
 }
 
 HtmlTree treeOf(const QList<HtmlToken> &tokens)

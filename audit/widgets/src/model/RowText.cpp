@@ -52,7 +52,7 @@ constexpr std::array kColumnTitles{
 };
 static_assert(kColumnTitles.size() == TrailModel::ColumnCount);
 
-QString translated(const char *text)
+QString markText(const char *text)
 {
     return QCoreApplication::translate("ozm::audit::WidgetTexts", text);
 }
@@ -64,7 +64,7 @@ QString TrailModel::marksText(Marks marks)
     QStringList texts;
     for (const MarkRow &row : kMarks) {
         if (marks.testFlag(row.mark))
-            texts.append(translated(row.text));
+            texts.append(markText(row.text));
     }
     return texts.join(u", "_s);
 }
@@ -114,7 +114,7 @@ QString columnTitle(int column, TrailModel::Zone zone)
 {
     if (column == TrailModel::Time)
         return timeTitle(zone);
-    return translated(kColumnTitles.at(std::size_t(column)));
+    return markText(kColumnTitles.at(std::size_t(column)));
 }
 
 } // namespace ozm::audit

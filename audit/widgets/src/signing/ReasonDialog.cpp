@@ -15,7 +15,7 @@ namespace ozm::audit {
 
 namespace {
 
-constexpr int kWidth = 420;
+constexpr int kDialogWidth = 420;
 
 } // namespace
 
@@ -39,7 +39,7 @@ ReasonDialog::ReasonDialog(const QString &what, ReasonPolicy::Demand demand, con
     d->reason = new QComboBox;
     d->reason->setObjectName(u"reason"_s);
     d->reason->setEditable(demand != Demand::FromList);
-    d->reason->setMinimumWidth(kWidth);
+    d->reason->setMinimumWidth(kDialogWidth);
     d->reason->addItems(choices);
     d->reason->setCurrentIndex(-1);
     if (d->reason->isEditable())

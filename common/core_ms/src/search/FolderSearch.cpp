@@ -21,7 +21,7 @@ namespace {
 using disk::FolderReader;
 using disk::Obstacle;
 
-class Text
+class SearchText
 {
     Q_DECLARE_TR_FUNCTIONS(ozm::msreader::FolderSearch)
 };
@@ -62,12 +62,12 @@ Error FolderSearch::checkStart(const QString &folder)
     case EntryKind::File:
     case EntryKind::Other:
         return Error(ozm::codes::BadParameter,
-                     Text::tr("The search path is a file, not a folder: %1").arg(folder));
+                     SearchText::tr("The search path is a file, not a folder: %1").arg(folder));
     case EntryKind::Missing:
         break;
     }
     if (entry.obstacle == Obstacle::Missing || entry.obstacle == Obstacle::NotText)
-        return Error(ozm::codes::Failed, Text::tr("Search path does not exist"));
+        return Error(ozm::codes::Failed, SearchText::tr("Search path does not exist"));
     return Error(ozm::codes::FileAccess, folder + u": "_s + refusalReason(folder, entry));
 }
 
@@ -82,8 +82,9 @@ Error FolderSearch::search(const QString &folder)
     if (listIfData(start))
         return {};
     if (const Obstacle obstacle = readFolder(start); obstacle != Obstacle::None) {
-        return Error(ozm::codes::FileAccess, Text::tr("The search path cannot be read: %1").arg(folder) +
-                                                 u'\n' + folderReason(obstacle))
+        return Error(ozm::codes::FileAccess,
+                     SearchText::tr("The search path cannot be read: %1").arg(folder) + u'\n' +
+                         folderReason(obstacle))
             .ecatch(OZM_PLACE);
     }
     searchWaiting();

@@ -18,7 +18,7 @@ namespace {
 
 using disk::Obstacle;
 
-class Text
+class RefusalText
 {
     Q_DECLARE_TR_FUNCTIONS(ozm::msreader::RefusalReason)
 };
@@ -58,8 +58,8 @@ QString missingText(const QString &path, EntryKind kind)
     const auto part = std::ranges::find_if(kMissingParts, [&](const MissingPart &row) {
         return row.kind == kind && hasExtension(path, row.extension);
     });
-    return part != kMissingParts.end() ? Text::tr(part->text)
-                                       : Text::tr("It changed while it was looked at.");
+    return part != kMissingParts.end() ? RefusalText::tr(part->text)
+                                       : RefusalText::tr("It changed while it was looked at.");
 }
 
 /// Nothing unless letter case is all that is wrong.
@@ -67,7 +67,7 @@ QString letterCaseText(const WrongCase &wrong)
 {
     if (wrong.found.isEmpty())
         return {};
-    return Text::tr("\"%1\" would have to be called \"%2\": here, capital and small letters count.")
+    return RefusalText::tr("\"%1\" would have to be called \"%2\": here, capital and small letters count.")
         .arg(wrong.found, wrong.wanted);
 }
 
@@ -78,7 +78,7 @@ QString halfPairText(const QStringList &names)
         const QString data = index + "_bin"_L1;
         const bool hasIndex = names.contains(index, Qt::CaseInsensitive);
         if (hasIndex != names.contains(data, Qt::CaseInsensitive)) {
-            return Text::tr("The folder holds \"%1\", but not \"%2\", which belongs to it (Bruker).")
+            return RefusalText::tr("The folder holds \"%1\", but not \"%2\", which belongs to it (Bruker).")
                 .arg(hasIndex ? index : data, hasIndex ? data : index);
         }
     }
@@ -127,8 +127,8 @@ QString descriptionsOf(const QSet<VendorDataFormat> &formats)
 QString kindText(const QSet<VendorDataFormat> &named, EntryKind kind)
 {
     const QString text = kind == EntryKind::Folder
-                             ? Text::tr("Data with this name (%1) is a file, but this is a folder.")
-                             : Text::tr("Data with this name (%1) is a folder, but this is a file.");
+                             ? RefusalText::tr("Data with this name (%1) is a file, but this is a folder.")
+                             : RefusalText::tr("Data with this name (%1) is a folder, but this is a file.");
     return text.arg(descriptionsOf(named));
 }
 
@@ -137,13 +137,13 @@ QString obstacleText(Obstacle obstacle)
 {
     switch (obstacle) {
     case Obstacle::TooLong:
-        return Text::tr("The path is too long for this system.");
+        return RefusalText::tr("The path is too long for this system.");
     case Obstacle::LinkLoop:
-        return Text::tr("The link leads back to itself.");
+        return RefusalText::tr("The link leads back to itself.");
     case Obstacle::NotText:
         return nameReason();
     case Obstacle::TooManyOpen:
-        return Text::tr("Too many files are open. Close some windows and try again.");
+        return RefusalText::tr("Too many files are open. Close some windows and try again.");
     case Obstacle::None:
     case Obstacle::Missing:
     case Obstacle::Closed:
@@ -158,11 +158,11 @@ QString noEntryText(const QString &path, Obstacle obstacle)
     if (QString text = obstacleText(obstacle); !text.isNull())
         return text;
     if (obstacle == Obstacle::Closed)
-        return Text::tr("A folder above it does not allow access.");
+        return RefusalText::tr("A folder above it does not allow access.");
     if (obstacle == Obstacle::NotAnswering)
-        return Text::tr("The disk or the share does not answer.");
-    return QFileInfo(path).isSymLink() ? Text::tr("The link leads to nothing.")
-                                       : Text::tr("There is no such file or folder.");
+        return RefusalText::tr("The disk or the share does not answer.");
+    return QFileInfo(path).isSymLink() ? RefusalText::tr("The link leads to nothing.")
+                                       : RefusalText::tr("There is no such file or folder.");
 }
 
 } // namespace
@@ -172,10 +172,10 @@ QString refusalReason(const QString &path, const disk::DiskEntry &entry)
     if (entry.kind == EntryKind::Missing)
         return noEntryText(path, entry.obstacle);
     if (entry.kind == EntryKind::Other)
-        return Text::tr("This is neither a file nor a folder.");
+        return RefusalText::tr("This is neither a file nor a folder.");
     const QSet<VendorDataFormat> named = detectFormats(DataSourceLocation::fromLocalPath(path), true, false);
     if (named.isEmpty())
-        return Text::tr("The name has none of the extensions of mass-spectrometry data.");
+        return RefusalText::tr("The name has none of the extensions of mass-spectrometry data.");
     if (formatByName(path, entry.kind) == VendorDataFormat::Unknown)
         return kindText(named, entry.kind);
     return entry.kind == EntryKind::Folder ? folderText(path) : fileText(path);
@@ -186,15 +186,15 @@ QString folderReason(Obstacle obstacle)
     if (QString text = obstacleText(obstacle); !text.isNull())
         return text;
     if (obstacle == Obstacle::Missing)
-        return Text::tr("The folder is no longer there.");
+        return RefusalText::tr("The folder is no longer there.");
     if (obstacle == Obstacle::Closed)
-        return Text::tr("The folder cannot be read. Access is not allowed.");
-    return Text::tr("The folder cannot be read. The disk or the share does not answer.");
+        return RefusalText::tr("The folder cannot be read. Access is not allowed.");
+    return RefusalText::tr("The folder cannot be read. The disk or the share does not answer.");
 }
 
 QString nameReason()
 {
-    return Text::tr("The name is not valid text. Rename it to use the data.");
+    return RefusalText::tr("The name is not valid text. Rename it to use the data.");
 }
 
 } // namespace ozm::msreader
