@@ -595,6 +595,14 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
         <source>&amp;Save…</source>
         <translation>&amp;Speichern …</translation>
     </message>
+    <message>
+        <source>&amp;Other…</source>
+        <translation>&amp;Andere …</translation>
+    </message>
+    <message>
+        <source>Takes a template that was saved in the template editor</source>
+        <translation>Nimmt eine Vorlage, die im Vorlageneditor gespeichert wurde</translation>
+    </message>
 </context>
 <context>
     <name>workbench::Run</name>
@@ -938,6 +946,14 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
     <message>
         <source>PDF (*.pdf);;HTML (*.html)</source>
         <translation>PDF (*.pdf);;HTML (*.html)</translation>
+    </message>
+    <message>
+        <source>Choose template</source>
+        <translation>Vorlage wählen</translation>
+    </message>
+    <message>
+        <source>Templates (*.ozt *.html *.txt)</source>
+        <translation>Vorlagen (*.ozt *.html *.txt)</translation>
     </message>
 </context>
 <context>
