@@ -213,8 +213,9 @@ private Q_SLOTS:
         const QString path = fixture.folder.filePath(u"report.html"_s);
         const QString saved = fixture.folder.filePath(u"mine.ozt"_s);
         QVERIFY(!ozm::TemplateFile::write(saved, u"<p>Mine: [Name]</p>"_s).hasError());
-        fixture.answers.paths = {saved, path};
+        fixture.answers.paths = {saved};
         dialog.findChild<QPushButton *>(u"otherTemplate"_s)->click();
+        fixture.answers.paths = {path};
         QCOMPARE(dialog.findChild<QComboBox *>(u"template"_s)->currentText(), u"mine"_s);
         dialog.findChild<QPushButton *>(u"save"_s)->click();
         QCOMPARE(fixture.answers.questions,
