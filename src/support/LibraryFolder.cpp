@@ -50,14 +50,14 @@ QString libraryFolder()
     return file.isEmpty() ? QString() : QFileInfo(file).absolutePath();
 }
 
-QStringList pluginFolders()
+QStringList pluginFolders(QLatin1StringView name)
 {
     QStringList folders;
     if (const QString folder = libraryFolder(); !folder.isEmpty())
-        folders.append(QDir::cleanPath(folder + "/ozm_widgets/plugins"_L1));
+        folders.append(QDir::cleanPath(folder + u'/' + name + "/plugins"_L1));
     const QStringList paths = QCoreApplication::libraryPaths();
     for (const QString &path : paths)
-        folders.append(QDir::cleanPath(path + "/ozm_widgets"_L1));
+        folders.append(QDir::cleanPath(path + u'/' + name));
     return folders;
 }
 
