@@ -119,13 +119,30 @@ void TableEditing::insert(int rows, int columns)
 void TableEditing::insertRow(Side side)
 {
     if (const Range cells = selected(); cells.table)
-        cells.table->insertRows(side == Side::Before ? cells.row : cells.row + cells.rows, 1);
+        insertBeside(side, [&](bool isBefore) {
+            cells.table->insertRows(isBefore ? cells.row : cells.row + cells.rows, 1);
+        });
 }
 
 void TableEditing::insertColumn(Side side)
 {
     if (const Range cells = selected(); cells.table)
-        cells.table->insertColumns(side == Side::Before ? cells.column : cells.column + cells.columns, 1);
+        insertBeside(side, [&](bool isBefore) {
+            cells.table->insertColumns(isBefore ? cells.column : cells.column + cells.columns, 1);
+        });
+}
+
+void TableEditing::insertBeside(Side side, const std::function<void(bool isBefore)> &insertCells)
+{
+    // At the end of its cell the caret would go along with the cells that are put behind it.
+    QTextCursor caret = m_view->textCursor();
+    const bool isSelecting = caret.hasSelection();
+    caret.setKeepPositionOnInsert(side == Side::After);
+    insertCells(side == Side::Before);
+    caret.setKeepPositionOnInsert(false);
+    if (!isSelecting)
+        caret.clearSelection();
+    m_view->setTextCursor(caret);
 }
 
 void TableEditing::removeRows()

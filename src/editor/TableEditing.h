@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include <functional>
+
 class QTextTable;
 
 namespace ozm::editor {
@@ -49,6 +51,7 @@ private:
     };
     [[nodiscard]] Range selected() const;
     [[nodiscard]] bool mayRemove(const Range &cells) const;
+    void insertBeside(Side side, const std::function<void(bool isBefore)> &insertCells);
 
     RichTextView *m_view;
 };

@@ -93,7 +93,7 @@ private Q_SLOTS:
         b->addChild(x);
         b->addChild({});
         QCOMPARE(idsOf(b->children()), (QList<qint64>{4, 3}));
-        a->setChildren({y, {}, y, item(5)});
+        a->setChildren({y, {}, item(5), y});
         QCOMPARE(idsOf(a->children()), (QList<qint64>{4, 5}));
         QCOMPARE(idsOf(b->children()), QList<qint64>{3});
         a->setChildren({});

@@ -251,10 +251,17 @@ private Q_SLOTS:
         };
         QCOMPARE(size(), QSize(2, 3));
         QTest::keyClicks(rich, u"[Lot]"_s);
+        const auto place = [rich] {
+            const QTextTableCell cell = rich->textCursor().currentTable()->cellAt(rich->textCursor());
+            return QPoint(cell.column(), cell.row());
+        };
         f.trigger("rowAboveAction");
+        QCOMPARE(place(), QPoint(0, 1));
         f.trigger("rowBelowAction");
         f.trigger("columnBeforeAction");
+        QCOMPARE(place(), QPoint(1, 1));
         f.trigger("columnAfterAction");
+        QCOMPARE(place(), QPoint(1, 1));
         QCOMPARE(size(), QSize(4, 5));
         f.trigger("deleteColumnAction");
         QCOMPARE(size(), QSize(3, 5));
