@@ -650,6 +650,10 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
         <source>report: </source>
         <translation>Bericht: </translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used as data. %2</source>
+        <translation>„%1“ kann nicht als Messdaten verwendet werden. %2</translation>
+    </message>
 </context>
 <context>
     <name>workbench::SampleDetails</name>

@@ -7,6 +7,7 @@
 #include "window/MainWindow.h"
 
 #include <ozm_common_core_mini/ColumnNames.h>
+#include <ozm_qt_shared_libs_core/FileTypes.h>
 #include <ozm_widgets/MsDataSearch.h>
 
 #include <QApplication>
@@ -139,6 +140,13 @@ private:
 
     Error load()
     {
+        // As a table it would be refused for its columns, which says nothing about what is wrong with it.
+        const auto dataTypes = FileTypes::find(u"MS"_s);
+        if (!m_input.isOfData() && m_input.sample.kind != ozm::EntryKind::Missing && dataTypes &&
+            FileTypes::fileMatchesAnyType(m_options.input, {*dataTypes}))
+            return Error(ErrorCode::BadParameter,
+                         tr("\"%1\" cannot be used as data. %2")
+                             .arg(QDir::toNativeSeparators(m_options.input), m_input.sample.refusal));
         Error error = m_input.isOfData() ? loadData() : m_editor.load(m_options.input);
         if (error.hasError() || m_editor.table().rowCount() > 0)
             return error;

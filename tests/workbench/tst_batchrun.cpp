@@ -192,6 +192,9 @@ private Q_SLOTS:
         QTest::newRow("pipe") << QStringList{u"--batch"_s, u"DIR/pipe"_s, u"--out"_s, u"DIR"_s} << 1
                               << u"pipe\" cannot be read: it is not a file"_s;
 #endif
+        QTest::newRow("data without its other file")
+            << QStringList{u"--batch"_s, u"DIR/Lost.wiff"_s, u"--out"_s, u"DIR"_s} << 1
+            << u"Lost.wiff\" cannot be used as data. "_s;
         QTest::newRow("no samples") << QStringList{u"--batch"_s, u"DIR/empty.csv"_s, u"--out"_s, u"DIR"_s}
                                     << 1 << u"holds no samples"_s;
         QTest::newRow("no data") << QStringList{u"--batch"_s, u"DIR"_s, u"--out"_s, u"DIR/out"_s} << 1
@@ -213,6 +216,7 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         QVERIFY(writeFile(folder.filePath(u"bad.csv"_s), "Name,Mass,Charge\nA,1,2\nB,1,999\n"));
         QVERIFY(writeFile(folder.filePath(u"empty.csv"_s), "Name,Mass\n"));
+        QVERIFY(writeFile(folder.filePath(u"Lost.wiff"_s), {}));
 #ifdef Q_OS_UNIX
         QCOMPARE(mkfifo(QFile::encodeName(folder.filePath(u"pipe"_s)).constData(), 0600), 0);
 #endif
