@@ -119,7 +119,7 @@ QList<QPixmap> dialogBoxPictures(const workbench::StyleDialog &dialog)
 QPixmap windowPicture()
 {
     ozm::test::SampleFixture fixture;
-    workbench::MainWindow window(*fixture.editor, fixture.databasePath());
+    workbench::MainWindow window(*fixture.editor, fixture.trailPath());
     window.resize(1180, 700);
     (void)fixture.editor->setCell(fixture.idAt(0), kCharge, u"3"_s);
     (void)fixture.editor->renameSamples({fixture.idAt(0), fixture.idAt(1)}, u"R#"_s);
