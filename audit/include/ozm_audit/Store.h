@@ -9,7 +9,6 @@
 
 #include <QDeadlineTimer>
 #include <QList>
-#include <QRecursiveMutex>
 #include <QString>
 
 #include <functional>
@@ -121,7 +120,7 @@ public:
     /// For the parts of this library.
     [[nodiscard]] StoreBackend &backend() const;
     /// Keeps other threads from the store while the back end is used.
-    [[nodiscard]] std::unique_lock<QRecursiveMutex> locked() const;
+    [[nodiscard]] std::unique_lock<std::recursive_mutex> locked() const;
 
 private:
     class Private;

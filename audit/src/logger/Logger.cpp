@@ -225,7 +225,7 @@ Error Logger::checkpoint()
 
 Error Logger::checkpointError() const
 {
-    const QMutexLocker lock(&d->checkpointMutex);
+    const std::lock_guard lock(d->checkpointMutex);
     return d->checkpointError;
 }
 

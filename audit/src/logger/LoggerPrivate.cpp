@@ -300,7 +300,7 @@ Error Logger::Private::makeCheckpoint()
                 failed = refused;
         }
     }
-    const QMutexLocker lock(&checkpointMutex);
+    const std::lock_guard lock(checkpointMutex);
     checkpointError = failed;
     return failed;
 }

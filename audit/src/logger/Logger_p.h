@@ -7,6 +7,7 @@
 #include <ozm_widgets/db/common/UndoCommand.h>
 
 #include <atomic>
+#include <mutex>
 #include <optional>
 
 namespace ozm::audit {
@@ -79,7 +80,7 @@ public:
     Error error;
     qint64 serial = 0;
 
-    mutable QMutex checkpointMutex;
+    mutable std::mutex checkpointMutex;
     std::atomic<qint64> lastCheckpoint = 0;
     Error checkpointError;
 

@@ -4,6 +4,7 @@
 #include <QLoggingCategory>
 
 #include <algorithm>
+#include <chrono>
 
 namespace ozm::audit {
 
@@ -11,7 +12,7 @@ namespace {
 
 // So many entries in a commit cost little more than one, and make nobody wait long.
 constexpr std::size_t kGroup = 512;
-constexpr int kRetryMs = 200;
+constexpr std::chrono::milliseconds kRetry{200};
 
 } // namespace
 
@@ -27,9 +28,9 @@ WriteQueue::WriteQueue(Store &store, const SessionFacts &facts, int length,
 WriteQueue::~WriteQueue()
 {
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard lock(m_mutex);
         m_ending = true;
-        m_work.wakeAll();
+        m_work.notify_all();
     }
     m_thread.join();
     if (!m_waiting.empty()) {
@@ -40,9 +41,8 @@ WriteQueue::~WriteQueue()
 
 Result<qint64> WriteQueue::push(QList<PendingRecord> records)
 {
-    const QMutexLocker lock(&m_mutex);
-    while (!m_error.hasError() && qsizetype(m_waiting.size()) >= m_length)
-        m_progress.wait(&m_mutex);
+    std::unique_lock lock(m_mutex);
+    m_progress.wait(lock, [this] { return m_error.hasError() || qsizetype(m_waiting.size()) < m_length; });
     if (m_error.hasError())
         return m_error;
     const qint64 first = m_handedOver + 1;
@@ -51,41 +51,42 @@ Result<qint64> WriteQueue::push(QList<PendingRecord> records)
         m_waiting.push_back({std::move(record), below});
     }
     m_handedOver += records.size();
-    m_work.wakeOne();
+    m_work.notify_one();
     return first;
 }
 
 qint64 WriteQueue::watermark() const
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     return m_watermark;
 }
 
 qint64 WriteQueue::handedOver() const
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     return m_handedOver;
 }
 
 Error WriteQueue::error() const
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     return m_error;
 }
 
 bool WriteQueue::wait(qint64 ticket, QDeadlineTimer deadline)
 {
-    const QMutexLocker lock(&m_mutex);
-    while (m_watermark < ticket && !m_error.hasError()) {
-        if (!m_progress.wait(&m_mutex, deadline))
-            break;
-    }
+    std::unique_lock lock(m_mutex);
+    const auto isDone = [this, ticket] { return m_watermark >= ticket || m_error.hasError(); };
+    if (deadline.isForever())
+        m_progress.wait(lock, isDone);
+    else
+        (void)m_progress.wait_until(lock, deadline.deadline<std::chrono::steady_clock>(), isDone);
     return m_watermark >= ticket;
 }
 
 qint64 WriteQueue::numberOf(qint64 ticket) const
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     return numberLocked(ticket);
 }
 
@@ -102,25 +103,24 @@ qint64 WriteQueue::numberLocked(qint64 ticket) const
 
 void WriteQueue::write()
 {
-    QMutexLocker lock(&m_mutex);
+    std::unique_lock lock(m_mutex);
     while (true) {
-        while (m_waiting.empty() && !m_ending)
-            m_work.wait(&m_mutex);
+        m_work.wait(lock, [this] { return !m_waiting.empty() || m_ending; });
         if (m_waiting.empty())
             return;
         const QList<Draft> group = nextGroup(m_watermark + 1);
         lock.unlock();
         const auto number = m_store.append(group);
-        lock.relock();
+        lock.lock();
         settleGroup(number, group.size());
         if (number) {
             lock.unlock();
             m_written(number.value() + group.size() - 1);
-            lock.relock();
+            lock.lock();
         } else if (m_ending) {
             return;
         } else {
-            m_work.wait(&m_mutex, kRetryMs);
+            m_work.wait_for(lock, kRetry);
         }
     }
 }
@@ -164,7 +164,7 @@ void WriteQueue::settleGroup(const Result<qint64> &number, qsizetype count)
         m_watermark += count;
         m_waiting.erase(m_waiting.begin(), m_waiting.begin() + count);
     }
-    m_progress.wakeAll();
+    m_progress.notify_all();
 }
 
 } // namespace ozm::audit

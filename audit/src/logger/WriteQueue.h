@@ -2,11 +2,12 @@
 
 #include "SessionFacts.h"
 
-#include <QMutex>
-#include <QWaitCondition>
+#include <QDeadlineTimer>
 
+#include <condition_variable>
 #include <deque>
 #include <functional>
+#include <mutex>
 #include <thread>
 
 namespace ozm::audit {
@@ -62,9 +63,10 @@ private:
     const qsizetype m_length;
     const std::function<void(qint64)> m_written;
 
-    mutable QMutex m_mutex;
-    QWaitCondition m_work;
-    QWaitCondition m_progress;
+    // The standard library's, as the thread sanitizer knows nothing of Qt's.
+    mutable std::mutex m_mutex;
+    std::condition_variable m_work;
+    std::condition_variable m_progress;
     // A deque keeps its elements in place: the writing thread reads those in front while others are added.
     std::deque<Waiting> m_waiting;
     qint64 m_handedOver = 0;

@@ -7,11 +7,11 @@
 #include "../sqlite/SqliteBackend.h"
 #include "PluginBackend.h"
 
-#include <QRecursiveMutex>
 #include <QThread>
 #include <QUuid>
 
 #include <algorithm>
+#include <mutex>
 
 using namespace Qt::StringLiterals;
 
@@ -29,7 +29,7 @@ public:
     [[nodiscard]] Error checkHead();
 
     std::unique_ptr<StoreBackend> backend;
-    mutable QRecursiveMutex mutex;
+    mutable std::recursive_mutex mutex;
     /// Set when the head does not follow from the entries: appending would hide it.
     Error damage;
 };
@@ -143,14 +143,14 @@ StoreBackend &Store::backend() const
     return *d->backend;
 }
 
-std::unique_lock<QRecursiveMutex> Store::locked() const
+std::unique_lock<std::recursive_mutex> Store::locked() const
 {
     return std::unique_lock(d->mutex);
 }
 
 Result<qint64> Store::size() const
 {
-    const QMutexLocker lock(&d->mutex);
+    const std::lock_guard lock(d->mutex);
     const auto head = d->backend->head();
     if (!head)
         return head.error();
@@ -164,7 +164,7 @@ Result<qint64> Store::append(const QList<Draft> &drafts)
     QList<NewEntry> entries;
     entries.reserve(drafts.size());
     std::ranges::transform(drafts, std::back_inserter(entries), newEntry);
-    const QMutexLocker lock(&d->mutex);
+    const std::lock_guard lock(d->mutex);
     if (d->damage.hasError())
         return d->damage;
     return d->backend->append(entries);
@@ -172,13 +172,13 @@ Result<qint64> Store::append(const QList<Draft> &drafts)
 
 Result<QList<Entry>> Store::find(const Query &query) const
 {
-    const QMutexLocker lock(&d->mutex);
+    const std::lock_guard lock(d->mutex);
     return d->backend->find(query);
 }
 
 Result<QList<qint64>> Store::findNumbers(const Query &query) const
 {
-    const QMutexLocker lock(&d->mutex);
+    const std::lock_guard lock(d->mutex);
     return d->backend->findNumbers(query);
 }
 
@@ -204,7 +204,7 @@ Error Store::forEach(qint64 first, qint64 last, const std::function<bool(const E
     for (qint64 begin = first; more && begin <= last; begin += kPage) {
         QList<Entry> page;
         {
-            const QMutexLocker lock(&d->mutex);
+            const std::lock_guard lock(d->mutex);
             Error error =
                 d->backend->rows(begin, qMin(last, begin + kPage - 1), [&page](const StoredRow &row) {
                     auto read = Entry::fromBytes(row.bytes);
@@ -231,7 +231,7 @@ bool Store::waitForEntries(qint64 known, QDeadlineTimer deadline) const
     constexpr unsigned long kPauseMs = 100;
     while (true) {
         {
-            const QMutexLocker lock(&d->mutex);
+            const std::lock_guard lock(d->mutex);
             const auto changed = d->backend->hasChanged(known);
             if (changed && changed.value())
                 return true;
@@ -244,7 +244,7 @@ bool Store::waitForEntries(qint64 known, QDeadlineTimer deadline) const
 
 Result<Checkpoint> Store::makeCheckpoint(const SigningKey *key)
 {
-    const QMutexLocker lock(&d->mutex);
+    const std::lock_guard lock(d->mutex);
     if (d->damage.hasError())
         return d->damage;
     const auto frontier = d->frontier();
@@ -263,7 +263,7 @@ Result<Checkpoint> Store::makeCheckpoint(const SigningKey *key)
 
 Result<QList<Checkpoint>> Store::keptCheckpoints() const
 {
-    const QMutexLocker lock(&d->mutex);
+    const std::lock_guard lock(d->mutex);
     return d->backend->keptCheckpoints();
 }
 
@@ -281,7 +281,7 @@ Result<Verification> Store::verify(const QList<Checkpoint> &outside, const Publi
 
 Result<qint64> Store::reAnchor(const Verification &verification, const Draft &draft)
 {
-    const QMutexLocker lock(&d->mutex);
+    const std::lock_guard lock(d->mutex);
     if (verification.isWhole())
         return badParameter(Texts::tr("The audit trail is whole: there is nothing to be recorded."));
     if (draft.reason.isEmpty() || draft.user.id.isEmpty())
@@ -317,7 +317,7 @@ Result<qint64> Store::reAnchor(const Verification &verification, const Draft &dr
 
 Result<Proof> Store::proof(qint64 number, const Checkpoint &checkpoint) const
 {
-    const QMutexLocker lock(&d->mutex);
+    const std::lock_guard lock(d->mutex);
     if (number < 1 || number > checkpoint.size)
         return badParameter(Texts::tr("The checkpoint does not count entry %1.").arg(number));
     auto hashes = d->proofs().inclusion(number - 1, checkpoint.size);
@@ -328,7 +328,7 @@ Result<Proof> Store::proof(qint64 number, const Checkpoint &checkpoint) const
 
 Result<QList<QByteArray>> Store::consistencyProof(qint64 olderSize, qint64 newerSize) const
 {
-    const QMutexLocker lock(&d->mutex);
+    const std::lock_guard lock(d->mutex);
     if (olderSize < 0 || olderSize > newerSize)
         return badParameter(Texts::tr("The older checkpoint must count fewer entries."));
     return d->proofs().consistency(olderSize, newerSize);
@@ -336,7 +336,7 @@ Result<QList<QByteArray>> Store::consistencyProof(qint64 olderSize, qint64 newer
 
 Result<QByteArray> Store::root(qint64 size) const
 {
-    const QMutexLocker lock(&d->mutex);
+    const std::lock_guard lock(d->mutex);
     const auto root = d->proofs().root(size);
     if (!root)
         return root.error();
@@ -345,7 +345,7 @@ Result<QByteArray> Store::root(qint64 size) const
 
 Result<qint64> Store::dispose(Range range, Draft draft)
 {
-    const QMutexLocker lock(&d->mutex);
+    const std::lock_guard lock(d->mutex);
     if (d->damage.hasError())
         return d->damage;
     if (draft.user.id.isEmpty() || draft.authoriser.isEmpty() || draft.authoriser == draft.user.id)
