@@ -10,6 +10,7 @@
 #include <ozm_common_core_mini/RowNode.h>
 #include <ozm_common_core_mini/TextUtils.h>
 #include <ozm_widgets/TemplateEditorJSEngine.h>
+#include <platform/Errors.h>
 
 #include <QCoreApplication>
 #include <QMetaProperty>
@@ -86,7 +87,7 @@ void movePositions(ozm::TemplateReport &report, qsizetype by)
 void refuse(ozm::TemplateReport *report, const QString &text)
 {
     if (report)
-        report->error = ozm::Error(ozm::ErrorCode::BadParameter, text).ecatch(OZM_HERE);
+        report->error = ozm::Error(ozm::codes::BadParameter, text).ecatch(OZM_PLACE);
 }
 
 QString decodeWrapped(const QString &text, const QList<DecodeTecExtraData> &extraData,
