@@ -64,6 +64,9 @@ QString writtenAnew(const ozm::TemplateDocument &document)
 {
     ozm::TemplateDocument copy;
     QTextCursor(&copy).insertFragment(QTextDocumentFragment(&document));
+    // A fragment leaves the line that it comes into as it is.
+    if (!document.begin().textList())
+        QTextCursor(&copy).setBlockFormat(document.begin().blockFormat());
     return copy.source();
 }
 

@@ -98,6 +98,28 @@ bool needsBlanksKept(const QString &text)
            text.contains(u" \u2028"_s) || text.contains(u"\u2028 "_s);
 }
 
+// Beside these the reader drops blanks.
+constexpr std::array kBlockMarkup{"<table"_L1, "<form"_L1, "<ul"_L1, "<ol"_L1, "<div"_L1, "<p"_L1};
+
+bool hasBlankBesideMarkup(const QTextBlock &block)
+{
+    const QString text = block.text();
+    for (auto at = block.begin(); !at.atEnd(); ++at) {
+        const QTextFragment fragment = at.fragment();
+        const QString markup =
+            isChip(fragment.charFormat()) ? chipPart(fragment.charFormat()).source : QString();
+        if (std::ranges::none_of(kBlockMarkup, [&markup](QLatin1StringView tag) {
+                return markup.startsWith(tag, Qt::CaseInsensitive);
+            }))
+            continue;
+        const qsizetype first = fragment.position() - block.position();
+        const qsizetype after = first + fragment.length();
+        if ((first > 0 && text.at(first - 1) == u' ') || (after < text.size() && text.at(after) == u' '))
+            return true;
+    }
+    return false;
+}
+
 bool isRuler(const QTextBlock &block)
 {
     return block.blockFormat().hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth);
@@ -132,13 +154,14 @@ QStringList blockDeclarations(const QTextBlock &block, const Surroundings &aroun
         css.append("text-indent:"_L1 + px(format.textIndent()));
     if (format.lineHeightType() == QTextBlockFormat::ProportionalHeight && format.lineHeight() != 100)
         css.append(u"line-height:%1%"_s.arg(format.lineHeight()));
-    if (format.background().style() == Qt::SolidPattern)
+    // The reader hands a cell's down to the lines in it.
+    if (format.background().style() == Qt::SolidPattern && format.background() != around.text.background())
         css.append("background-color:"_L1 + cssColor(format.background().color()));
     if (format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore)
         css.append(u"page-break-before:always"_s);
     if (format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysAfter)
         css.append(u"page-break-after:always"_s);
-    if (needsBlanksKept(block.text()))
+    if (needsBlanksKept(block.text()) || hasBlankBesideMarkup(block))
         css.append(u"white-space:pre-wrap"_s);
     return css;
 }
@@ -246,6 +269,9 @@ private:
             beginLine(block);
             add("<li"_L1 + styleAttribute(css) + u'>');
             beginInner();
+            // The reader makes no line of an item in which a list comes first.
+            if (block.length() <= 1 && isListBelow(block.next(), *list))
+                add(u"<div><br/></div>"_s);
             writeText(block, around.text);
             endInner();
             return;
@@ -257,6 +283,12 @@ private:
         // Text that was typed on a rule is a line behind it.
         if (!isRuler(block) || block.length() > 1)
             writeParagraph(block, around);
+    }
+
+    static bool isListBelow(const QTextBlock &block, const QTextList &list)
+    {
+        return block.isValid() && block.textList() &&
+               block.textList()->format().indent() > list.format().indent();
     }
 
     void writeRuler(const QTextBlock &block)
