@@ -30,6 +30,7 @@ class TemplateDocument::Private
 public:
     editor::ChipPainter painter;
     editor::KeptSource kept;
+    bool isHtml = false; ///< Of the source that was read.
 };
 
 namespace {
@@ -232,7 +233,8 @@ bool TemplateDocument::isHtml(const QString &source)
 void TemplateDocument::setSource(const QString &source)
 {
     editor::SplitTemplate split;
-    if (isHtml(source))
+    d->isHtml = isHtml(source);
+    if (d->isHtml)
         split = editor::readSource(*this, source, true);
     else
         read(*this, source);
@@ -242,7 +244,8 @@ void TemplateDocument::setSource(const QString &source)
 
 QString TemplateDocument::source() const
 {
-    if (const auto kept = d->kept.write(*this))
+    // What is left of a page without its last tag would be read as plain text.
+    if (const auto kept = d->kept.write(*this); kept && isHtml(*kept) == d->isHtml)
         return *kept;
     return editor::writeSource(*this).text;
 }
