@@ -93,7 +93,7 @@ public:
         cleanFragments();
         const bool isEmpty = m_page.toPlainText().trimmed().isEmpty() && m_page.blockCount() == 1;
         makeCodes();
-        const QString source = isEmpty ? QString() : writeSource(m_page).text;
+        QString source = isEmpty ? QString() : writeSource(m_page).text;
         if (m_leftOut.isEmpty())
             return source;
         return source + "<!-- "_L1 +

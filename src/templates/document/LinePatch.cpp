@@ -320,8 +320,10 @@ std::optional<QString> patchedLine(const QString &run, const QList<LineObject> &
         return std::nullopt;
     const QList<Change> changes = changesBetween(cellsBefore, cellsNow);
     QString result = run;
-    for (auto change = changes.crbegin(); change != changes.crend(); ++change) {
-        const auto insertion = insertionOf(*change, cellsBefore, cellsNow, *places, run.size());
+    // From the last one on, so that the places of those before hold.
+    for (qsizetype at = changes.size(); at-- > 0;) {
+        const Change &change = changes.at(at);
+        const auto insertion = insertionOf(change, cellsBefore, cellsNow, *places, run.size());
         if (!insertion)
             return std::nullopt;
         bool isPut = false;
@@ -329,7 +331,7 @@ std::optional<QString> patchedLine(const QString &run, const QList<LineObject> &
             if (!std::exchange(isPut, true))
                 result.insert(insertion->place, insertion->source);
         };
-        for (qsizetype index = change->to - 1; index >= change->from; --index) {
+        for (qsizetype index = change.to - 1; index >= change.from; --index) {
             const SourceRange &range = places->at(index);
             if (insertion->place >= range.end)
                 put();
