@@ -2,6 +2,8 @@
 
 #include <QScopedValueRollback>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace ozm {
@@ -66,6 +68,9 @@ int lineOf(const QJSValue &result, const QStringList &stack)
     return stack.isEmpty() ? 1 : qMax(1, stack.constLast().section(u':', 1, 1).toInt());
 }
 
+// A deadline that is made for short scripts leaves no time to read a library on a busy machine.
+constexpr std::chrono::milliseconds kLibraryTime{1000};
+
 } // namespace
 
 EngineScriptRealm::EngineScriptRealm(const ScriptLibrary &library, ScriptRulesNow rules, QString *trouble)
@@ -93,7 +98,8 @@ void EngineScriptRealm::watch(std::chrono::milliseconds deadline)
 
 std::optional<QString> EngineScriptRealm::load(const ScriptLibrary &library)
 {
-    watch(m_rules().deadline);
+    const std::chrono::milliseconds deadline = m_rules().deadline;
+    watch(deadline.count() > 0 ? std::max(deadline, kLibraryTime) : deadline);
     QStringList stack;
     const QJSValue result = m_engine.evaluate(library.content, library.path, 1, &stack);
     if (result.isError() || !stack.isEmpty() || isLate())
