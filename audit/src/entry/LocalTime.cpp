@@ -7,7 +7,7 @@ namespace ozm::audit {
 
 namespace {
 
-constexpr qint64 kQuarterMs = 15 * 60 * 1000;
+constexpr qint64 kQuarterMs = 900'000;
 
 } // namespace
 
