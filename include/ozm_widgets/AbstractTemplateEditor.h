@@ -68,7 +68,7 @@ public:
     [[nodiscard]] virtual QList<ShortCode> shortCodes() const = 0;
     /// The rows that fill the preview; they must outlive the window, or the next refresh().
     [[nodiscard]] virtual QList<RowNode *> previewRows() const;
-    /// What @p row is called in the preview; unless overridden, its first value.
+    /// The name of @p row in the preview; unless overridden, its first value.
     [[nodiscard]] virtual QString previewName(const RowNode &row) const;
     /// The objects that fill codes which @p row does not know; a null row stands for all rows as a group, or for none.
     [[nodiscard]] virtual QList<DecodeTecExtraData> extraData(const RowNode *row) const;

@@ -35,7 +35,7 @@ private:
 /// The engine of one of the library's own icons; null when there is none of that name.
 [[nodiscard]] std::unique_ptr<StyleIconEngine> loadStyleIcon(const QString &name);
 
-/// Whether OZMStyle::apply() has given the application its look.
+/// True once OZMStyle::apply() has given the application its look.
 [[nodiscard]] bool isStyleApplied();
 
 } // namespace ozm

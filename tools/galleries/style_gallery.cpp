@@ -69,7 +69,7 @@ QPixmap picture(QWidget &widget)
     return widget.grab();
 }
 
-/// What @p show brings up, with its details open.
+/// The box that @p show brings up, with its details open.
 QPixmap boxPicture(const std::function<void()> &show)
 {
     QPixmap pixmap;

@@ -10,7 +10,7 @@ class Store;
 
 namespace workbench {
 
-/// What the audit trail says about one sample, for its report.
+/// The audit trail of one sample, for its report.
 struct ReportTrail
 {
     QString signatures; ///< Meaning, printed name and time of each, in lines.

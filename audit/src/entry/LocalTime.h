@@ -4,7 +4,7 @@
 
 namespace ozm::audit {
 
-/// What the clock on the wall shows beside UTC.
+/// The offset and the name of the local time zone beside UTC.
 struct LocalTime
 {
     int utcOffset = 0; ///< Seconds east.

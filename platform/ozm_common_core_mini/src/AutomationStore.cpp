@@ -24,7 +24,7 @@ Error parse(const QByteArray &json, const QString &source, QVariantHash *answers
     const QJsonDocument document = QJsonDocument::fromJson(json, &fault);
     if (!document.isObject()) {
         const QString reason =
-            fault.error == QJsonParseError::NoError ? u"it is no JSON object"_s : fault.errorString();
+            fault.error == QJsonParseError::NoError ? u"it is not a JSON object"_s : fault.errorString();
         return Error(ErrorCode::BadParameter,
                      u"The automation answers in %1 cannot be used: %2."_s.arg(source, reason));
     }

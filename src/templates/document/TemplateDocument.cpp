@@ -244,7 +244,7 @@ void TemplateDocument::setSource(const QString &source)
 
 QString TemplateDocument::source() const
 {
-    // What is left of a page without its last tag would be read as plain text.
+    // A page that lost its last tag would be read as plain text.
     if (const auto kept = d->kept.write(*this); kept && isHtml(*kept) == d->isHtml)
         return *kept;
     return editor::writeSource(*this).text;

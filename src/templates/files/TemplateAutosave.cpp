@@ -24,7 +24,7 @@ namespace {
 constexpr auto kCopy = ".autosave"_L1;
 constexpr auto kLock = ".lock"_L1;
 constexpr auto kDamaged = ".damaged"_L1;
-// What QUuid::Id128 writes.
+// As QUuid::Id128 writes it.
 constexpr qsizetype kIdLength = 32;
 
 QString rescueFolder(const QString &directory)

@@ -33,7 +33,7 @@ struct HtmlToken
  */
 [[nodiscard]] QList<HtmlToken> scanHtml(const QString &source);
 
-/// What @p token lacks because the source ended in it; written without, it would swallow what follows.
+/// The end that @p token lacks because the source ended in it; without, it would swallow the text behind it.
 [[nodiscard]] QString missingEnd(const QString &source, const HtmlToken &token);
 
 /// An element by its range; an element that is never closed ends where its parent does.

@@ -7,7 +7,7 @@ class QPagedPaintDevice;
 namespace ozm::audit {
 
 /**
- * What the filter of a model shows, on paper or as a table for spreadsheets.
+ * The entries that pass the filter of a model, on paper or as a table for spreadsheets.
  *
  * The head says which trail, the filter in words, the range, by whom and when, and "n of m entries"; each page
  * says the checkpoint of the trail and "page x of y". Values that were changed later are marked, and signatures

@@ -58,7 +58,7 @@ public:
     [[nodiscard]] TrailModel &model() const;
     [[nodiscard]] QAction *action(Action action) const;
 
-    /// What is done here is recorded by @p logger as done by @p user.
+    /// Signatures, reviews and other acts in this view are recorded by @p logger as done by @p user.
     void setLogger(Logger *logger, const Person &user);
     void setSigningSession(SigningSession *session);
     void setSubjectHook(const SubjectHook &hook);

@@ -20,7 +20,7 @@ struct TrailRow
     std::optional<EntryTexts> texts;
     TrailModel::Marks marks;
     int marksStamp = -1; ///< Which state of all marks the row's are from.
-    /// What cells show; null where it was not made yet.
+    /// The texts of the cells; null where they were not made yet.
     std::array<QString, TrailModel::ColumnCount> cells;
 };
 

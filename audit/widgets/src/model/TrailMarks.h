@@ -13,7 +13,7 @@
 namespace ozm::audit {
 
 /**
- * What later entries say about earlier ones: undone, finished, signed, reviewed, changed again.
+ * The marks that later entries put on earlier ones: undone, finished, signed, reviewed, changed again.
  *
  * Filled on the thread that reads the trail, asked on the GUI thread.
  */

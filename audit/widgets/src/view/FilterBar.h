@@ -12,7 +12,7 @@ class QToolButton;
 
 namespace ozm::audit {
 
-/// What is searched for and filtered by, each condition as a chip that takes it away.
+/// The search text and the filter, each condition as a chip that takes it away.
 class FilterBar : public QWidget
 {
     Q_OBJECT

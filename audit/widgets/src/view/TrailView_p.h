@@ -35,7 +35,7 @@ public:
     void show(const Error &error);
     void showContextMenu(const QPoint &position);
 
-    // What the actions do.
+    // Called by the actions.
     void run(Action action);
     void sign();
     void review();

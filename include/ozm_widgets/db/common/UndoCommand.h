@@ -92,7 +92,7 @@ protected:
     /// After the last step of such a run; @p committed is false when the macro was aborted.
     virtual Error afterEndLast(bool committed);
 
-    /// Whether @p other may be merged into this: both are UndoCommands of the same id() other than -1, and
+    /// True when @p other may be merged into this: both are UndoCommands of the same id() other than -1, and
     /// the last step of neither failed.
     [[nodiscard]] bool canMergeWith(const QUndoCommand *other) const;
 

@@ -42,6 +42,6 @@ public:
     /// The display name of @p column; the column's own name when the table does not know it.
     [[nodiscard]] static QString friendlyName(const QString &column);
 
-    /// What @p column holds, in a few words; the column's own name when the table does not know it.
+    /// A few words about the contents of @p column; the column's own name when the table does not know it.
     [[nodiscard]] static QString toolTip(const QString &column);
 };
