@@ -58,12 +58,16 @@ private Q_SLOTS:
     void copiesAllOrAPart_data()
     {
         QTest::addColumn<bool>("whole");
-        QTest::newRow("the whole trail") << true;
-        QTest::newRow("a part, with proofs") << false;
+        QTest::addColumn<bool>("byNumbers");
+        QTest::addColumn<int>("entries");
+        QTest::newRow("the whole trail") << true << false << 302;
+        QTest::newRow("a part, with proofs") << false << false << 99;
+        QTest::newRow("chosen entries, some after the checkpoint") << false << true << 2;
     }
     void copiesAllOrAPart()
     {
         QFETCH(bool, whole);
+        QFETCH(bool, byNumbers);
         const Stores stores;
         auto store = Store::open(stores.path());
         VERIFY_RESULT(store.value()->append(drafts(1, 300)));
@@ -76,10 +80,13 @@ private Q_SLOTS:
         options.user = {u"inspector"_s};
         options.key = &key.value();
         options.verifier = QStringLiteral(VERIFIER);
-        if (!whole)
+        if (!whole && !byNumbers) {
             options.query.subjectKey = u"{\"Name\":\"T1\"}"_s;
-        if (!whole)
             options.query.subjectType = u"Label"_s;
+        } else if (byNumbers) {
+            options.ranges = {{4, 4}, {302, 400}};
+            options.choice = u"by hand"_s;
+        }
         const QString folder = stores.file(u"copy"_s);
         const ozm::Error error = writeInspectionCopy(*store.value(), folder, options);
         QVERIFY2(!error.hasError(), qPrintable(error.errorMessage()));
@@ -110,8 +117,10 @@ private Q_SLOTS:
             const auto proof = Proof::fromText(contentOf(folder + u"/proofs/000000000004.tlog-proof"_s));
             VERIFY_RESULT(proof);
             QVERIFY(proof.value().proves(store.value()->entry(4).value().bytes));
-            QCOMPARE(contentOf(folder + u"/entries.ndjson"_s).count('\n'), 99);
+            QCOMPARE(contentOf(folder + u"/README.txt"_s).contains("by hand"), byNumbers);
+            QCOMPARE(store.value()->entry(302).value().record.contains("by hand"), byNumbers);
         }
+        QTEST(int(contentOf(folder + u"/entries.ndjson"_s).count('\n')), "entries");
     }
 
     void takesOverAFormerTrail()

@@ -4,12 +4,17 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace ozm::audit {
 
 struct CopyOptions
 {
     Query query = {}; ///< Which entries; all of them when nothing narrows it.
-    Person user = {}; ///< Who makes the copy.
+    /// These entries, in ascending order, in place of those that the query finds: for a choice that is no query.
+    std::optional<QList<Range>> ranges = {};
+    QString choice = {}; ///< In words, why these: the entry about the copy and README hold it.
+    Person user = {};    ///< Who makes the copy.
     QString reason = {};
     const SigningKey *key = nullptr; ///< Signs the checkpoint of the copy.
     bool archived = false;           ///< Records the copy as an archive instead of an export.
@@ -29,15 +34,17 @@ struct CopyOptions
  *     trail.csv, trail.pdf, README.txt, key.pub, key.pem, ozm_audit_verify.py
  *
  * The copy is itself an entry, made before it, and in it. A copy that fails or is cancelled is removed, and a
- * further entry says so. Runs on any thread; the store is free for others most of the time. FileAccess when @p folder is there already or
- * cannot be written. Needs a QGuiApplication for the PDF, and leaves it out without one.
+ * further entry says so. Memory does not grow with the trail. Runs on any thread; the store is free for others
+ * most of the time. FileAccess when @p folder is there already or cannot be written. Needs a QGuiApplication for
+ * the PDF, and leaves it out without one.
  */
 [[nodiscard]] OZM_AUDIT_EXPORT Error writeInspectionCopy(Store &store, const QString &folder,
                                                          const CopyOptions &options);
 
 /**
  * Appends the entries of a trail in the form that the workbench wrote before ("audit_trail" in SQLite), each
- * record byte for byte, after an entry that says which file they came from and its SHA-256. Returns how many.
+ * record byte for byte, after an entry that says which file they came from and its SHA-256: all of it, or nothing.
+ * They are one append, whoever else writes, and are in memory until it ends. Returns how many rows there were.
  */
 [[nodiscard]] OZM_AUDIT_EXPORT Result<qint64> importFormerTrail(Store &store, const QString &path,
                                                                 const Draft &importedBy);

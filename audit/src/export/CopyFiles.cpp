@@ -1,8 +1,8 @@
 #include "CopyFiles.h"
 
 #include "../Texts.h"
+#include "../tree/MerkleTree.h"
 
-#include <QFile>
 #include <QGuiApplication>
 #include <QPageLayout>
 #include <QPainter>
@@ -45,22 +45,42 @@ QString shortened(const QFontMetrics &metrics, const QString &text, int width)
     return metrics.elidedText(text, Qt::ElideRight, width);
 }
 
+Error notWritten(const QFile &file)
+{
+    return Error(ErrorCode::FileAccess,
+                 Texts::tr("\"%1\" cannot be written: %2")
+                     .arg(QDir::toNativeSeparators(file.fileName()), file.errorString()))
+        .ecatch(OZM_HERE);
+}
+
+Error write(QFile &file, const QByteArray &bytes)
+{
+    return file.write(bytes) == bytes.size() ? Error() : notWritten(file);
+}
+
+} // namespace
+
 /// Draws pages of lines, each with the trail, the checkpoint and its number.
-class Pages
+class CopyFiles::Pages
 {
 public:
-    Pages(QPdfWriter &writer, const QString &title, const Checkpoint &checkpoint, qsizetype lines)
-        : m_writer(writer)
+    Pages(QFile &file, const QString &title, const Checkpoint &checkpoint, qint64 lines)
+        : m_writer(&file)
         , m_title(title)
         , m_foot(Texts::tr("Checkpoint: %1 entries, root %2")
                      .arg(checkpoint.size)
                      .arg(QString::fromLatin1(checkpoint.root.toBase64())))
-        , m_painter(&writer)
     {
+        m_writer.setPageSize(QPageSize(QPageSize::A4));
+        m_writer.setPageOrientation(QPageLayout::Landscape);
+        m_writer.setResolution(300);
+        m_writer.setTitle(title);
+        m_painter.begin(&m_writer);
         m_painter.setFont(QFont(u"DejaVu Sans"_s, 7));
         m_line = m_painter.fontMetrics().lineSpacing();
         m_perPage = qMax(1, m_writer.height() / m_line - 5);
-        m_pages = qMax(1, int((lines + m_perPage - 1) / m_perPage));
+        m_pages = qMax<qint64>(1, (lines + m_perPage - 1) / m_perPage);
+        frame();
     }
 
     void add(const QString &text)
@@ -69,9 +89,8 @@ public:
             m_writer.newPage();
             ++m_page;
             m_at = 0;
-        }
-        if (m_at == 0)
             frame();
+        }
         draw(m_at++ + 2, text);
     }
 
@@ -89,18 +108,16 @@ private:
                            shortened(m_painter.fontMetrics(), text, m_writer.width()));
     }
 
-    QPdfWriter &m_writer;
+    QPdfWriter m_writer;
     const QString m_title;
     const QString m_foot;
     QPainter m_painter;
     int m_line = 0;
     int m_perPage = 0;
-    int m_pages = 0;
-    int m_page = 1;
+    qint64 m_pages = 0;
+    qint64 m_page = 1;
     int m_at = 0;
 };
-
-} // namespace
 
 Error writeCopyFile(const QDir &folder, const QString &name, const QByteArray &bytes)
 {
@@ -108,48 +125,72 @@ Error writeCopyFile(const QDir &folder, const QString &name, const QByteArray &b
     if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.write(bytes) == bytes.size() &&
         file.flush())
         return {};
-    return Error(ErrorCode::FileAccess,
-                 Texts::tr("\"%1\" cannot be written: %2")
-                     .arg(QDir::toNativeSeparators(file.fileName()), file.errorString()))
-        .ecatch(OZM_HERE);
+    return notWritten(file);
 }
 
-Error writeCopyCsv(const QDir &folder, const QList<Entry> &entries)
+CopyFiles::CopyFiles(const QDir &folder, const QString &title, const Checkpoint &checkpoint, qint64 count)
+    : m_title(title)
+    , m_checkpoint(checkpoint)
+    , m_count(count)
+    , m_entries(folder.filePath(u"entries.ndjson"_s))
+    , m_csv(folder.filePath(u"trail.csv"_s))
+    , m_pdf(folder.filePath(u"trail.pdf"_s))
+{}
+
+CopyFiles::~CopyFiles() = default;
+
+Error CopyFiles::open()
 {
-    QByteArray csv = "number,time,zone,user,name,role,kind,context,text,reason,outcome\n";
-    for (const Entry &entry : entries) {
-        QStringList fields = fieldsOf(entry);
-        std::ranges::transform(fields, fields.begin(), csvField);
-        csv += fields.join(u',').toUtf8() + '\n';
+    for (QFile *file : {&m_entries, &m_csv}) {
+        if (!file->open(QIODevice::WriteOnly | QIODevice::NewOnly))
+            return notWritten(*file);
     }
-    return writeCopyFile(folder, u"trail.csv"_s, csv);
+    // There are no fonts without it.
+    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
+        if (!m_pdf.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+            return notWritten(m_pdf);
+        m_pages = std::make_unique<Pages>(m_pdf, m_title, m_checkpoint, m_count);
+    }
+    return write(m_csv, "number,time,zone,user,name,role,kind,context,text,reason,outcome\n");
 }
 
-Error writeCopyPdf(const QDir &folder, const QList<Entry> &entries, const QString &title,
-                   const Checkpoint &checkpoint)
+Error CopyFiles::add(const Entry &entry)
 {
-    // There are no fonts without it.
-    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
-        return {};
-    QPdfWriter writer(folder.filePath(u"trail.pdf"_s));
-    writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setPageOrientation(QPageLayout::Landscape);
-    writer.setResolution(300);
-    writer.setTitle(title);
-    Pages pages(writer, title, checkpoint, entries.size());
-    for (const Entry &entry : entries) {
-        QStringList fields = fieldsOf(entry);
-        fields.removeAll(QString());
-        pages.add(fields.join(u"  "_s).simplified());
+    Error error = write(m_entries, "{\"number\":" + QByteArray::number(entry.number) + ",\"hash\":\"" +
+                                       toBytes(leafHash(entry.bytes)).toHex() + "\",\"bytes\":\"" +
+                                       entry.bytes.toBase64() + "\"}\n");
+    if (error.hasError())
+        return error;
+    const QStringList facts = fieldsOf(entry);
+    if (m_pages) {
+        QStringList words = facts;
+        words.removeAll(QString());
+        m_pages->add(words.join(u"  "_s).simplified());
+    }
+    QStringList fields = facts;
+    std::ranges::transform(fields, fields.begin(), csvField);
+    return write(m_csv, fields.join(u',').toUtf8() + '\n');
+}
+
+Error CopyFiles::close()
+{
+    // Ends the document, whose writer itself tells of no error.
+    m_pages.reset();
+    for (QFile *file : {&m_entries, &m_csv, &m_pdf}) {
+        if (file->isOpen() && (!file->flush() || file->error() != QFile::NoError))
+            return notWritten(*file);
+        file->close();
     }
     return {};
 }
 
-QByteArray copyReadme(const Checkpoint &checkpoint, qsizetype entries, bool whole)
+QByteArray copyReadme(const Checkpoint &checkpoint, qint64 entries, const QString &choice, bool whole)
 {
     QByteArray text = "Inspection copy of the audit trail " + checkpoint.origin.toUtf8() + "\n\n" +
                       QByteArray::number(entries) + " of " + QByteArray::number(checkpoint.size) +
                       " entries.\n\n";
+    if (!choice.isEmpty())
+        text += "Chosen: " + choice.toUtf8() + "\n\n";
     if (whole) {
         text += "Check the trail, with Python and nothing else:\n\n"
                 "    python3 ozm_audit_verify.py trail.sqlite --checkpoints checkpoints\n\n"

@@ -22,19 +22,16 @@ namespace {
 constexpr const char *kRows =
     "SELECT sequence, kind, item, parent, time_ms, utc_offset_s, user, undo_context, "
     "outcome_code, outcome_text, record FROM audit_trail ORDER BY sequence";
-// As many as are appended at once.
-constexpr qsizetype kBatch = 1000;
-
-/// Carries rows over, and the numbers that their items get.
+/// The rows as drafts of one append, which begins with the entry that says where they came from.
 class Importer
 {
 public:
-    Importer(Store &store, qint64 origin)
-        : m_store(store)
-        , m_origin(origin)
+    Importer(const Draft &origin, const QByteArray &hash)
+        : m_hash(QString::fromLatin1(hash.first(12)))
+        , m_drafts{origin}
     {}
 
-    [[nodiscard]] Error take(const Statement &row)
+    void take(const Statement &row)
     {
         Draft draft;
         draft.kind = kindFromString(QString::fromUtf8(row.text(1)));
@@ -45,31 +42,19 @@ public:
         draft.outcomeCode = int(row.number(8));
         draft.outcomeText = QString::fromUtf8(row.text(9));
         draft.record = row.text(10);
-        draft.session = u"imported-%1-row-%2"_s.arg(m_origin).arg(row.number(0));
+        draft.session = u"imported-%1-row-%2"_s.arg(m_hash).arg(row.number(0));
         takeSubject(draft);
         const bool isMark = draft.kind == Kind::Commit;
         draft.parent = placeOf(isMark ? row.number(2) : row.number(3));
+        // Entries have no numbers yet, so that the rows have to do.
         if (isMark)
-            draft.record = "{\"parent\":" + QByteArray::number(placeOf(row.number(3))) + '}';
+            draft.record = "{\"parentRow\":" + QByteArray::number(row.number(3)) + '}';
         else
-            m_places.insert(row.number(2), m_next);
-        ++m_next;
-        m_batch.append(draft);
-        return m_batch.size() < kBatch ? Error() : flush();
+            m_places.insert(row.number(2), Draft::below(m_drafts.size()));
+        m_drafts.append(draft);
     }
 
-    [[nodiscard]] Error flush()
-    {
-        if (m_batch.isEmpty())
-            return {};
-        const auto first = m_store.append(m_batch);
-        if (!first)
-            return first.error();
-        m_batch.clear();
-        return {};
-    }
-
-    [[nodiscard]] qint64 count() const { return m_next - m_origin - 1; }
+    [[nodiscard]] const QList<Draft> &drafts() const { return m_drafts; }
 
 private:
     static void takeSubject(Draft &draft)
@@ -86,11 +71,9 @@ private:
 
     [[nodiscard]] qint64 placeOf(qint64 item) const { return m_places.value(item); }
 
-    Store &m_store;
-    const qint64 m_origin;
-    qint64 m_next = m_origin + 1;
+    const QString m_hash;
     QHash<qint64, qint64> m_places;
-    QList<Draft> m_batch;
+    QList<Draft> m_drafts;
 };
 
 Result<QByteArray> hashOfFile(const QString &path)
@@ -125,19 +108,16 @@ Result<qint64> importFormerTrail(Store &store, const QString &path, const Draft 
                                               {u"sha256"_s, QString::fromLatin1(hash.value())},
                                               {u"rows"_s, rows.value()}})
                         .toJson(QJsonDocument::Compact);
-    const auto first = store.append({origin});
+    Importer importer(origin, hash.value());
+    Statement row(*database.value(), kRows);
+    while (row.step())
+        importer.take(row);
+    if (row.error().hasError())
+        return row.error();
+    const auto first = store.append(importer.drafts());
     if (!first)
         return first.error();
-    Importer importer(store, first.value());
-    Statement row(*database.value(), kRows);
-    while (row.step()) {
-        if (Error error = importer.take(row); error.hasError())
-            return error;
-    }
-    Error error = row.error().hasError() ? row.error() : importer.flush();
-    if (error.hasError())
-        return error;
-    return importer.count();
+    return importer.drafts().size() - 1;
 }
 
 } // namespace ozm::audit

@@ -1,6 +1,5 @@
 #include "../Texts.h"
 #include "../sqlite/SqliteBackend.h"
-#include "../tree/MerkleTree.h"
 #include "CopyFiles.h"
 #include "ZipFile.h"
 
@@ -9,7 +8,8 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
-#include <ranges>
+#include <functional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -22,11 +22,17 @@ Error copyCancelled()
 
 namespace {
 
-// Reading counts as half of the work, writing as the other.
+// Of a whole trail, the files for people count as half of the work, the store as the other.
 constexpr qint64 kHalves = 2;
 
-bool isWhole(const Query &query)
+// Read at a time, and then let go.
+constexpr qint64 kPage = 1000;
+
+bool isWhole(const CopyOptions &options)
 {
+    if (options.ranges)
+        return false;
+    const Query &query = options.query;
     const Query all;
     return query.user.isEmpty() && query.kinds.isEmpty() && query.fromMs == 0 && query.untilMs == 0 &&
            query.subjectType.isEmpty() && query.subjectKey.isEmpty() && query.attribute.isEmpty() &&
@@ -38,12 +44,13 @@ QByteArray recordOf(const CopyOptions &options, const QString &folder)
 {
     QJsonObject json{{u"event"_s, options.archived ? u"archive"_s : u"export"_s},
                      {u"folder"_s, QDir(folder).absolutePath()},
-                     {u"whole"_s, isWhole(options.query)}};
+                     {u"whole"_s, isWhole(options)}};
     const QList<std::pair<QString, QString>> filters{{u"user"_s, options.query.user},
                                                      {u"subjectType"_s, options.query.subjectType},
                                                      {u"subjectKey"_s, options.query.subjectKey},
                                                      {u"attribute"_s, options.query.attribute},
-                                                     {u"text"_s, options.query.text}};
+                                                     {u"text"_s, options.query.text},
+                                                     {u"choice"_s, options.choice}};
     for (const auto &[name, value] : filters) {
         if (!value.isEmpty())
             json.insert(name, value);
@@ -59,63 +66,133 @@ QByteArray recordOf(const CopyOptions &options, const QString &folder)
     return QJsonDocument(json).toJson(QJsonDocument::Compact);
 }
 
-Result<QList<Entry>> entriesOf(const Store &store, const CopyOptions &options, qint64 last)
+using ShowPage = std::function<Error(const QList<Entry> &)>;
+
+Error showRange(const Store &store, Range range, const ShowPage &show)
 {
-    QList<Entry> entries;
-    if (isWhole(options.query)) {
-        bool cancelled = false;
-        Error error = store.forEach(1, last, [&](const Entry &entry) {
-            entries.append(entry);
-            cancelled = options.progress && !options.progress(entry.number, last * kHalves);
-            return !cancelled;
+    for (qint64 first = range.first; first <= range.last; first += kPage) {
+        QList<Entry> page;
+        Error error = store.forEach(first, qMin(range.last, first + kPage - 1), [&page](const Entry &entry) {
+            page.append(entry);
+            return true;
         });
-        if (error.hasError() || cancelled)
-            return cancelled ? copyCancelled() : error;
-        return entries;
-    }
-    Query query = options.query;
-    query.pageSize = 1000;
-    while (true) {
-        const auto page = store.find(query);
-        if (!page)
-            return page.error();
-        if (page.value().isEmpty())
-            return entries;
-        entries += page.value();
-        query.after = entries.constLast().number;
-        if (options.progress && !options.progress(qMin(last, query.after), last * kHalves))
-            return copyCancelled();
-    }
-}
-
-Error writeEntries(const QDir &folder, const QList<Entry> &entries)
-{
-    QByteArray lines;
-    for (const Entry &entry : entries) {
-        lines += "{\"number\":" + QByteArray::number(entry.number) + ",\"hash\":\"" +
-                 toBytes(leafHash(entry.bytes)).toHex() + "\",\"bytes\":\"" + entry.bytes.toBase64() +
-                 "\"}\n";
-    }
-    return writeCopyFile(folder, u"entries.ndjson"_s, lines);
-}
-
-Error writeProofs(const QDir &folder, const Store &store, const QList<Entry> &entries,
-                  const Checkpoint &checkpoint, const Progress &progress)
-{
-    if (!folder.mkdir(u"proofs"_s))
-        return Error(ErrorCode::FileAccess, Texts::tr("The folder for proofs cannot be made."))
-            .ecatch(OZM_HERE);
-    for (const Entry &entry : entries) {
-        const auto proof = store.proof(entry.number, checkpoint);
-        if (!proof)
-            return proof.error();
-        const QString name = u"proofs/%1.tlog-proof"_s.arg(entry.number, 12, 10, '0'_L1);
-        if (Error error = writeCopyFile(folder, name, proof.value().toText()); error.hasError())
+        if (!error.hasError())
+            error = show(page);
+        if (error.hasError())
             return error;
-        if (progress && !progress(entry.number, checkpoint.size))
-            return copyCancelled();
     }
     return {};
+}
+
+Error showFound(const Store &store, Query query, const ShowPage &show)
+{
+    while (true) {
+        const auto page = store.find(query);
+        if (!page || page.value().isEmpty())
+            return page ? Error() : page.error();
+        if (Error error = show(page.value()); error.hasError())
+            return error;
+        query.after = page.value().constLast().number;
+    }
+}
+
+/// The entries of a copy, of those that its checkpoint counts: others may append meanwhile.
+class CopyChoice
+{
+public:
+    CopyChoice(const Store &store, const CopyOptions &options, qint64 last)
+        : m_store(store)
+        , m_query(options.query)
+        , m_ranges(options.ranges)
+    {
+        if (isWhole(options))
+            m_ranges = QList<Range>{{1, last}};
+        m_query.pageSize = int(kPage);
+        m_query.order = Query::Order::OldestFirst;
+        m_query.lastNumber = m_query.lastNumber == 0 ? last : qMin(last, m_query.lastNumber);
+        if (!m_ranges)
+            return;
+        for (Range &range : *m_ranges)
+            range.last = qMin(range.last, last);
+    }
+
+    [[nodiscard]] Result<qint64> count() const
+    {
+        qint64 count = 0;
+        if (m_ranges) {
+            for (const Range &range : *m_ranges)
+                count += qMax<qint64>(0, range.last - range.first + 1);
+            return count;
+        }
+        Query query = m_query;
+        while (true) {
+            const auto page = m_store.findNumbers(query);
+            if (!page)
+                return page.error();
+            if (page.value().isEmpty())
+                return count;
+            count += page.value().size();
+            query.after = page.value().constLast();
+        }
+    }
+
+    [[nodiscard]] Error forEachPage(const ShowPage &show) const
+    {
+        if (!m_ranges)
+            return showFound(m_store, m_query, show);
+        for (const Range &range : *m_ranges) {
+            if (Error error = showRange(m_store, range, show); error.hasError())
+                return error;
+        }
+        return {};
+    }
+
+private:
+    const Store &m_store;
+    Query m_query;
+    std::optional<QList<Range>> m_ranges;
+};
+
+Error writeProof(const QDir &folder, const Store &store, const Entry &entry, const Checkpoint &checkpoint)
+{
+    const auto proof = store.proof(entry.number, checkpoint);
+    if (!proof)
+        return proof.error();
+    const QString name = u"proofs/%1.tlog-proof"_s.arg(entry.number, 12, 10, '0'_L1);
+    return writeCopyFile(folder, name, proof.value().toText());
+}
+
+/// What has a line, or a proof, for each entry.
+Error writeEntries(const QDir &folder, const Store &store, const CopyChoice &choice, qint64 count,
+                   const Checkpoint &checkpoint, const CopyOptions &options)
+{
+    const bool whole = isWhole(options);
+    if (!whole && !folder.mkdir(u"proofs"_s))
+        return Error(ErrorCode::FileAccess, Texts::tr("The folder for proofs cannot be made."))
+            .ecatch(OZM_HERE);
+    const QString title = Texts::tr("Audit trail %1, %2 of %3 entries, copied by %4 on %5")
+                              .arg(store.trail())
+                              .arg(count)
+                              .arg(checkpoint.size)
+                              .arg(options.user.id, QDateTime::currentDateTime().toString(Qt::ISODate));
+    CopyFiles files(folder, title, checkpoint, count);
+    Error error = files.open();
+    if (error.hasError())
+        return error;
+    qint64 done = 0;
+    error = choice.forEachPage([&](const QList<Entry> &page) {
+        for (const Entry &entry : page) {
+            Error failed = files.add(entry);
+            if (!failed.hasError() && !whole)
+                failed = writeProof(folder, store, entry, checkpoint);
+            if (failed.hasError())
+                return failed;
+            if (options.progress && !options.progress(++done, whole ? count * kHalves : count))
+                return copyCancelled();
+        }
+        return Error();
+    });
+    return error.hasError() ? error : files.close();
 }
 
 Error writeCheckpoints(const QDir &folder, const Store &store, const Checkpoint &own, const SigningKey *key)
@@ -142,30 +219,29 @@ Error copyVerifier(const QDir &folder, const QString &verifier)
         .ecatch(OZM_HERE);
 }
 
-Error writeFiles(const QDir &folder, const Store &store, const QList<Entry> &entries,
-                 const Checkpoint &checkpoint, const CopyOptions &options)
+Error writeFiles(const QDir &folder, const Store &store, const Checkpoint &checkpoint,
+                 const CopyOptions &options)
 {
-    const bool whole = isWhole(options.query);
-    const QString title = Texts::tr("Audit trail %1, %2 of %3 entries, copied by %4 on %5")
-                              .arg(store.trail())
-                              .arg(entries.size())
-                              .arg(checkpoint.size)
-                              .arg(options.user.id, QDateTime::currentDateTime().toString(Qt::ISODate));
+    const bool whole = isWhole(options);
+    const CopyChoice choice(store, options, checkpoint.size);
+    const auto count = choice.count();
+    if (!count)
+        return count.error();
     const Progress progress = [&options](qint64 done, qint64 total) {
         return !options.progress || options.progress(total + done, total * kHalves);
     };
     const auto steps = {
-        std::function([&] { return writeEntries(folder, entries); }),
+        std::function(
+            [&] { return writeEntries(folder, store, choice, count.value(), checkpoint, options); }),
         std::function([&] {
             return whole ? copyToSqlite(store, folder.filePath(u"trail.sqlite"_s), checkpoint.size, progress)
-                         : writeProofs(folder, store, entries, checkpoint, progress);
+                         : Error();
         }),
         std::function([&] { return writeCheckpoints(folder, store, checkpoint, options.key); }),
-        std::function([&] { return writeCopyCsv(folder, entries); }),
-        std::function([&] { return writeCopyPdf(folder, entries, title, checkpoint); }),
         std::function([&] { return copyVerifier(folder, options.verifier); }),
         std::function([&] {
-            return writeCopyFile(folder, u"README.txt"_s, copyReadme(checkpoint, entries.size(), whole));
+            return writeCopyFile(folder, u"README.txt"_s,
+                                 copyReadme(checkpoint, count.value(), options.choice, whole));
         }),
     };
     for (const auto &step : steps) {
@@ -178,12 +254,7 @@ Error writeFiles(const QDir &folder, const Store &store, const QList<Entry> &ent
 Error writeCopy(Store &store, const QDir &target, const CopyOptions &options)
 {
     const auto checkpoint = store.makeCheckpoint(options.key);
-    if (!checkpoint)
-        return checkpoint.error();
-    const auto entries = entriesOf(store, options, checkpoint.value().size);
-    if (!entries)
-        return entries.error();
-    return writeFiles(target, store, entries.value(), checkpoint.value(), options);
+    return checkpoint ? writeFiles(target, store, checkpoint.value(), options) : checkpoint.error();
 }
 
 Error isThere(const QString &path)

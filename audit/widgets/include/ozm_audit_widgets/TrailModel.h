@@ -134,6 +134,8 @@ public:
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    /// Looks the row up once, where a view asks for each cell in several roles.
+    void multiData(const QModelIndex &index, QModelRoleDataSpan roleDataSpan) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 Q_SIGNALS:

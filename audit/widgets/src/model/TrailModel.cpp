@@ -5,7 +5,8 @@
 
 #include <ozm_audit/Logger.h>
 
-#include <numeric>
+#include <algorithm>
+#include <array>
 
 namespace ozm::audit {
 
@@ -13,6 +14,17 @@ namespace {
 
 // Read, made into texts and sorted within a second or two.
 constexpr int kSortLimit = 50'000;
+
+// A view asks for many more roles, and each would look up the row.
+constexpr std::array kRoles{int(Qt::DisplayRole),        int(Qt::ToolTipRole),
+                            int(Qt::FontRole),           int(Qt::DecorationRole),
+                            int(TrailModel::NumberRole), int(TrailModel::GroupRole),
+                            int(TrailModel::MarksRole)};
+
+bool isAnswered(int role)
+{
+    return std::ranges::find(kRoles, role) != kRoles.end();
+}
 
 } // namespace
 
@@ -47,6 +59,7 @@ void TrailModel::setFilter(const TrailFilter &filter)
 {
     d->reset([this, &filter] {
         d->filter = filter;
+        d->filtered = !filter.isEmpty();
         d->found.clear();
         d->foundSet = {};
         d->searched = 0;
@@ -232,13 +245,20 @@ int TrailModel::columnCount(const QModelIndex &parent) const
 
 QVariant TrailModel::data(const QModelIndex &index, int role) const
 {
-    static constexpr std::array kRoles{int(Qt::DisplayRole),    int(Qt::ToolTipRole), int(Qt::FontRole),
-                                       int(Qt::DecorationRole), int(NumberRole),      int(GroupRole),
-                                       int(MarksRole)};
-    // A view asks for many more roles, and each would look up the row.
-    if (!index.isValid() || std::ranges::find(kRoles, role) == kRoles.end())
+    if (!index.isValid() || !isAnswered(role))
         return {};
-    return d->cell(index.row(), index.column(), role);
+    return d->cell(d->rowAt(index.row()), index.column(), role);
+}
+
+void TrailModel::multiData(const QModelIndex &index, QModelRoleDataSpan roleDataSpan) const
+{
+    TrailRow *row = index.isValid() ? d->rowAt(index.row()) : nullptr;
+    for (QModelRoleData &part : roleDataSpan) {
+        if (index.isValid() && isAnswered(part.role()))
+            part.setData(d->cell(row, index.column(), part.role()));
+        else
+            part.clearData();
+    }
 }
 
 QVariant TrailModel::headerData(int section, Qt::Orientation orientation, int role) const

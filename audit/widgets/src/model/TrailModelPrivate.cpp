@@ -105,9 +105,8 @@ TrailRow *TrailModel::Private::rowAt(int row)
     return found_;
 }
 
-QVariant TrailModel::Private::cell(int row, int column, int role)
+QVariant TrailModel::Private::cell(TrailRow *at, int column, int role)
 {
-    TrailRow *at = rowAt(row);
     if (!at)
         return pendingCell(column, role);
     const Entry &entry = at->entry;

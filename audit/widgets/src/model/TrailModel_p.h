@@ -20,14 +20,14 @@ public:
     Private(TrailModel &model, Store &used);
     ~Private();
 
-    [[nodiscard]] bool isFiltered() const { return !filter.isEmpty(); }
+    [[nodiscard]] bool isFiltered() const { return filtered; }
     [[nodiscard]] qint64 count() const { return isFiltered() ? found.count() : size; }
     [[nodiscard]] QList<qint64> numbersAt(qint64 position, qint64 wanted) const;
     /// The position in the order of the store, or -1 for a pending row.
     [[nodiscard]] qint64 positionOf(int row) const;
     [[nodiscard]] int rowOfPosition(qint64 position) const;
     [[nodiscard]] TrailRow *rowAt(int row);
-    [[nodiscard]] QVariant cell(int row, int column, int role);
+    [[nodiscard]] QVariant cell(TrailRow *row, int column, int role);
     [[nodiscard]] QString fullText(TrailRow &row, int column) const;
     /// In one line, of which a cell shows the beginning.
     [[nodiscard]] QString shownText(TrailRow &row, int column) const;
@@ -49,6 +49,7 @@ public:
     const std::shared_ptr<TrailMarks> marks = std::make_shared<TrailMarks>();
 
     TrailFilter filter;
+    bool filtered = false; ///< Asked for with each cell, and the filter would put its conditions into words.
     Zone zone = Zone::Local;
     int marksStamp = 0;
     int generation = 0;

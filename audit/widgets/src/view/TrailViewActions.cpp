@@ -148,19 +148,22 @@ void TrailView::Private::recordOutput(const QString &what)
 void TrailView::Private::makeCopy()
 {
     const TrailFilter filter = model.filter();
+    CopyOptions options;
+    options.query = filter.query;
     if (filter.needsEntries()) {
-        return show(
-            Error(ErrorCode::NotAllowed,
-                  tr("A copy cannot be made by a condition that looks at more than one entry, a reason or a "
-                     "session. Take these conditions away."))
-                .ecatch(OZM_HERE));
+        const auto numbers = model.shownNumbers();
+        if (!numbers)
+            return show(numbers.error());
+        options.ranges.emplace();
+        for (const NumberSet::Run &run : numbers.value().runs())
+            options.ranges->append({run.first, run.last});
     }
+    if (!filter.isEmpty())
+        options.choice = filter.inWords();
     const QString folder =
         QFileDialog::getSaveFileName(&q, tr("New folder for the inspection copy"), u"inspection-copy"_s);
     if (folder.isEmpty())
         return;
-    CopyOptions options;
-    options.query = filter.query;
     options.user = user;
     options.verifier = verifier;
     Error error;
