@@ -782,10 +782,6 @@
         <translation>%1, %2</translation>
     </message>
     <message>
-        <source>A copy cannot be made by a condition that looks at more than one entry, a reason or a session. Take these conditions away.</source>
-        <translation>Eine Kopie kann nicht nach einer Bedingung gemacht werden, die mehr als einen Eintrag, eine Begründung oder eine Sitzung ansieht. Nehmen Sie diese Bedingungen weg.</translation>
-    </message>
-    <message>
         <source>New folder for the inspection copy</source>
         <translation>Neuer Ordner für die Inspektionskopie</translation>
     </message>
