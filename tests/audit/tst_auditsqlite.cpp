@@ -145,7 +145,12 @@ private Q_SLOTS:
                  qPrintable(other.error().errorMessage()));
         QVERIFY(Store::open(stores.path(), Store::Mode::Create).hasError());
         store.reset();
-        QVERIFY(Store::open(stores.address(u"shared"_s)));
+        {
+            const auto shared = Store::open(stores.address(u"shared"_s));
+            const auto alone = Store::open(stores.path());
+            QVERIFY(shared && alone.hasError());
+            QVERIFY(alone.error().errorMessage().contains(u"locked by another program"_s));
+        }
         QVERIFY(Store::open(stores.path()));
         QVERIFY(Store::open(stores.file(u"none"_s), Store::Mode::Existing).hasError());
         QVERIFY(!QFile::exists(stores.file(u"none"_s)));

@@ -246,7 +246,18 @@ Error Database::transact(const std::function<Error()> &work)
 
 void Database::takeTurns()
 {
-    m_turns = std::make_unique<Turns>(m_path + "-turn"_L1);
+    m_turns = std::make_unique<Turns>(turnsFile());
+    m_turns->attend();
+}
+
+Error Database::checkNotShared() const
+{
+    return Turns::isAttended(turnsFile()) ? failure(SQLITE_BUSY) : Error();
+}
+
+QString Database::turnsFile() const
+{
+    return m_path + "-turn"_L1;
 }
 
 bool Database::hasMoved() const

@@ -84,6 +84,8 @@ public:
     [[nodiscard]] Error transact(const std::function<Error()> &work);
     /// From now on, transactions of all programs that say so come in turn.
     void takeTurns();
+    /// FileAccess when a program that takes turns has the file open.
+    [[nodiscard]] Error checkNotShared() const;
 
     /// True when the file was deleted or replaced under the connection.
     [[nodiscard]] bool hasMoved() const;
@@ -92,6 +94,8 @@ public:
 
 private:
     Database(const QString &path, sqlite3 *handle, int patienceMs);
+
+    [[nodiscard]] QString turnsFile() const;
 
     const QString m_path;
     sqlite3 *m_handle;

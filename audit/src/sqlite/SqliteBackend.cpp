@@ -383,8 +383,13 @@ Result<std::unique_ptr<StoreBackend>> openSqlite(const Address &address, Store::
         Database::open(address.path, access, shared ? kSharedPatienceMs : kPatienceMs, address.vfs);
     if (!database)
         return database.error();
-    if (shared && !readOnly && address.vfs.isEmpty())
-        database.value()->takeTurns();
+    if (!readOnly && address.vfs.isEmpty()) {
+        // SQLite would let this one turn the journal into another kind beneath those who have the file open.
+        if (Error error = shared ? Error() : database.value()->checkNotShared(); error.hasError())
+            return error;
+        if (shared)
+            database.value()->takeTurns();
+    }
     if (Error error = prepareStore(*database.value(), mode, shared); error.hasError())
         return error;
     const auto trail = database.value()->text("SELECT trail FROM head");

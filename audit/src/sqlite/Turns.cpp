@@ -17,6 +17,9 @@ constexpr qint64 kDrawing = sizeof(qint64);
 // More than there can be programs. A system may keep others from reading a byte that is locked.
 constexpr qint64 kSlots = 4096;
 constexpr qint64 kFirstSlot = 64;
+// Behind the slots, a byte for each program that has the file open.
+constexpr qint64 kFirstUser = kFirstSlot + kSlots;
+constexpr qint64 kUsers = 256;
 
 qint64 slotOf(qint64 number)
 {
@@ -33,8 +36,28 @@ Turns::~Turns() = default;
 
 bool Turns::open()
 {
-    // At the first write, so that those who only read leave nothing behind.
     return m_file.isOpen() || m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
+}
+
+void Turns::attend()
+{
+    for (qint64 byte = kFirstUser; open() && byte < kFirstUser + kUsers; ++byte) {
+        if (tryLock(m_file, byte))
+            return;
+    }
+}
+
+bool Turns::isAttended(const QString &path)
+{
+    QFile file(path);
+    if (!file.exists() || !file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+        return false;
+    // Closing the file gives back what was locked.
+    for (qint64 byte = kFirstUser; byte < kFirstUser + kUsers; ++byte) {
+        if (!tryLock(file, byte))
+            return true;
+    }
+    return false;
 }
 
 bool Turns::lockSoon(qint64 byte, QDeadlineTimer deadline)

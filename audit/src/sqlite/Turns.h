@@ -25,6 +25,11 @@ public:
     explicit Turns(const QString &path);
     ~Turns();
 
+    /// Lets others see that this program uses the file, until it ends.
+    void attend();
+    /// True when any program, this one included, attends the turns at @p path.
+    [[nodiscard]] static bool isAttended(const QString &path);
+
     /// Has the turn, or has waited for it in vain, until it goes.
     class Turn
     {
