@@ -1,5 +1,6 @@
 #include <ozm_widgets/OZMStyle.h>
 
+#include "style/ContrastStyle.h"
 #include "style/StyleIconEngine.h"
 #include "style/StylePalette.h"
 #include "support/Logging.h"
@@ -25,6 +26,7 @@ static void initResources()
 namespace {
 
 const QString kIconFolder = u":/style/icons"_s;
+const QString kFusion = u"fusion"_s;
 // Kept with the application, since that is what it is true of.
 constexpr const char *kApplied = "ozmAppliedStyle";
 
@@ -52,7 +54,7 @@ QString installedStyle(const QString &wanted)
     if (QStyleFactory::keys().contains(wanted, Qt::CaseInsensitive))
         return wanted;
     OZM_WIDGETS_WARNING() << "The style" << wanted << "is not installed; Fusion is used instead.";
-    return u"fusion"_s;
+    return kFusion;
 }
 
 /// Tool tips have a palette of their own, which does not follow the application's.
@@ -114,7 +116,11 @@ void OZMStyle::apply(const QString &style)
 {
     if (qApp->property(kApplied).toString() == style && qApp->styleSheet() == sheet())
         return;
-    QApplication::setStyle(installedStyle(style));
+    const QString installed = installedStyle(style);
+    if (installed.compare(kFusion, Qt::CaseInsensitive) == 0)
+        QApplication::setStyle(new ozm::ContrastStyle);
+    else
+        QApplication::setStyle(installed);
     qApp->setStyleSheet(sheet());
     qApp->setProperty(kApplied, style);
     followPalette();

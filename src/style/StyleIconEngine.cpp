@@ -14,6 +14,11 @@ namespace ozm {
 
 namespace {
 
+// At this many pixels and fewer, the usual line is thinner than one of them and would be half as strong.
+constexpr int kSmall = 20;
+constexpr auto kLine = "stroke-width=\"1.75\"";
+constexpr auto kLineWhenSmall = "stroke-width=\"2.25\"";
+
 QColor colorOf(QIcon::Mode mode)
 {
     const QPalette palette = QGuiApplication::palette();
@@ -66,6 +71,8 @@ QPixmap StyleIconEngine::render(const QSize &pixels, const QColor &color) const
         return pixmap;
     QByteArray svg = m_svg;
     svg.replace("currentColor", color.name().toLatin1());
+    if (qMin(pixels.width(), pixels.height()) <= kSmall)
+        svg.replace(kLine, kLineWhenSmall);
     QSvgRenderer renderer(svg);
     renderer.setAspectRatioMode(Qt::KeepAspectRatio);
     pixmap = QPixmap(pixels);

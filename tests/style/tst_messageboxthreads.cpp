@@ -293,14 +293,17 @@ private Q_SLOTS:
     void applicationEnds_data()
     {
         QTest::addColumn<bool>("asksAfter");
-        QTest::newRow("asked as the event loop ends") << false;
-        QTest::newRow("asked when it has ended") << true;
+        QTest::addColumn<bool>("runsLoop");
+        QTest::newRow("asked as the event loop ends") << false << false;
+        QTest::newRow("asked when it has ended") << true << false;
+        QTest::newRow("asked when one has run after it") << true << true;
     }
 
     // The GUI thread waits for its workers when its loop has ended; nobody takes their boxes any more.
     void applicationEnds()
     {
         QFETCH(const bool, asksAfter);
+        QFETCH(const bool, runsLoop);
         const BoxDriver driver([](OzmMessageBox *box) { box->done(0); });
         QWidget parent;
         Loop loop;
@@ -322,6 +325,13 @@ private Q_SLOTS:
             if (!asksAfter)
                 worker->start();
             QCoreApplication::quit();
+        });
+        const QObject end;
+        connect(qApp, &QCoreApplication::aboutToQuit, &end, [runsLoop] {
+            QEventLoop loop;
+            QTimer::singleShot(0, &loop, &QEventLoop::quit);
+            if (runsLoop)
+                loop.exec();
         });
         QCoreApplication::exec();
         if (asksAfter)

@@ -1,3 +1,4 @@
+#include "Palettes.h"
 #include "support/StrictTest.h"
 
 #include <ozm_widgets/BlackSplitterHandle.h>
@@ -6,11 +7,13 @@
 #include <ozm_widgets/OzmCoreApplication.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDockWidget>
 #include <QFile>
 #include <QLoggingCategory>
 #include <QMainWindow>
 #include <QPainter>
+#include <QRadioButton>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QToolBar>
@@ -55,11 +58,27 @@ double luminance(const QColor &color)
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
+double contrast(const QColor &a, const QColor &b)
+{
+    const double first = luminance(a) + 0.05;
+    const double second = luminance(b) + 0.05;
+    return qMax(first, second) / qMin(first, second);
+}
+
 double contrast(const QPalette &palette, QPalette::ColorRole a, QPalette::ColorRole b)
 {
-    const double first = luminance(palette.color(a)) + 0.05;
-    const double second = luminance(palette.color(b)) + 0.05;
-    return qMax(first, second) / qMin(first, second);
+    return contrast(palette.color(a), palette.color(b));
+}
+
+/// The number of pixels that can be told from @p ground.
+int visiblePixels(const QImage &image, const QColor &ground)
+{
+    constexpr double kVisible = 3.0;
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += contrast(image.pixelColor(x, y), ground) >= kVisible ? 1 : 0;
+    return count;
 }
 
 /// Under a style sheet the style has no name, but still its measures.
@@ -199,6 +218,49 @@ private:
     }
 
 private Q_SLOTS:
+    void drawingsAreSeen_data()
+    {
+        QTest::addColumn<QPalette>("palette");
+        for (const auto &[name, colors] : palettes())
+            QTest::addRow("%s", qPrintable(name)) << colors;
+    }
+
+    void drawingsAreSeen()
+    {
+        QFETCH(const QPalette, palette);
+        OZMStyle::apply();
+        QApplication::setPalette(palette);
+        const QColor window = palette.color(QPalette::Window);
+        QCheckBox box;
+        QRadioButton radio;
+        // Most of an outline around 13 pixels.
+        for (QWidget *button : {static_cast<QWidget *>(&box), static_cast<QWidget *>(&radio)}) {
+            const int outline = visiblePixels(button->grab().toImage(), window);
+            QVERIFY2(outline > 30, qPrintable(u"%1"_s.arg(outline)));
+        }
+
+        QToolBar bar;
+        for (int i = 0; i < 9; ++i)
+            bar.addAction(u"A long name of an action"_s);
+        bar.resize(300, 40);
+        bar.show();
+        auto *more = bar.findChild<QToolButton *>(u"qt_toolbar_ext_button"_s);
+        QTRY_VERIFY(more->isVisible());
+        const QImage arrow = more->grab().toImage();
+        const QRect inside = arrow.rect().adjusted(1, 1, -1, -1);
+        QVERIFY(visiblePixels(arrow.copy(inside), arrow.pixelColor(inside.topLeft())) > 12);
+
+        const QColor highlight = palette.color(QPalette::Highlight);
+        for (const QString &name : OZMStyle::iconNames()) {
+            QImage image(16, 16, QImage::Format_RGB32);
+            image.fill(highlight);
+            QPainter painter(&image);
+            OZMStyle::icon(name).paint(&painter, image.rect(), Qt::AlignCenter, QIcon::Selected);
+            painter.end();
+            QVERIFY2(visiblePixels(image, highlight) >= 8, qPrintable(name));
+        }
+    }
+
     void everyIconIsDrawn()
     {
         const QStringList names = OZMStyle::iconNames();

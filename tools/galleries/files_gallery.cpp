@@ -1,8 +1,9 @@
-// Pictures of the file dialogs for people to look at: files_gallery <folder>. Twice the size with
-// QT_SCALE_FACTOR=2. Not a test: what looks wrong is for eyes to say.
+// Pictures of the file dialogs for people to look at: files_gallery <folder> [<locale> [<points>]]. Twice the size
+// with QT_SCALE_FACTOR=2. Not a test: what looks wrong is for eyes to say.
 
 #include "core_ms/SampleTree.h"
 #include "files/DialogDriver.h"
+#include "style/Palettes.h"
 #include "support/WithoutRights.h"
 
 #include <ozm_widgets/FileCrawlerDialog.h>
@@ -173,7 +174,12 @@ int main(int argc, char **argv)
     const FileStateGuard guard;
     const QDir out(QApplication::arguments().value(1, u"."_s));
     out.mkpath(u"."_s);
+    QLocale::setDefault(QLocale(QApplication::arguments().value(2, u"en"_s)));
     ozm::OzmCoreApplication::start();
+    QFont font = QApplication::font();
+    if (const int points = QApplication::arguments().value(3).toInt())
+        font.setPointSize(points);
+    QApplication::setFont(font);
     const SampleTree tree;
     tree.make({u"Day 1/x.mzml"_s, u"Run 12.d/AcqData/"_s, u"Run 13.d/analysis.tdf"_s, u"Empty.d/"_s,
                u"HeLa 200 ng.mzml"_s, u"blank.raw"_s, u"results.csv"_s, u"notes.txt"_s,
@@ -181,8 +187,8 @@ int main(int argc, char **argv)
     const SampleTree large;
     for (int i = 0; i < 5000; ++i)
         large.makeOne(u"Day %1/x.mzml"_s.arg(i));
-    for (const auto scheme : {OZMStyle::Scheme::Light, OZMStyle::Scheme::Dark}) {
-        QApplication::setPalette(OZMStyle::palette(scheme));
+    for (const auto &[name, palette] : palettes()) {
+        QApplication::setPalette(palette);
         QList<QPixmap> pictures{
             spectrumPicture(tree, {}, QFileDialog::Detail),
             spectrumPicture(tree, {u"Empty.d"_s}, QFileDialog::Detail),
@@ -195,9 +201,9 @@ int main(int argc, char **argv)
         };
         pictures += finderPictures(large);
         pictures.append(passedOverPicture());
-        const QString name = scheme == OZMStyle::Scheme::Dark ? u"dark"_s : u"light"_s;
-        sheetOf(pictures).save(
-            out.filePath(u"files-%1-%2x.png"_s.arg(name).arg(application.devicePixelRatio())));
+        sheetOf(pictures).save(out.filePath(u"files-%1-%2-%3pt-%4x.png"_s.arg(name, QLocale().name().left(2))
+                                                .arg(font.pointSize())
+                                                .arg(application.devicePixelRatio())));
     }
     return 0;
 }

@@ -1,6 +1,7 @@
-// Pictures of the style for people to look at: style_gallery <folder> [<locale>]. Twice the size with
+// Pictures of the style for people to look at: style_gallery <folder> [<locale> [<points>]]. Twice the size with
 // QT_SCALE_FACTOR=2. Not a test: what looks wrong is for eyes to say.
 
+#include "style/Palettes.h"
 #include "window/MainWindow.h"
 #include "window/StyleDialog.h"
 #include "workbench/SampleFixture.h"
@@ -22,7 +23,6 @@
 
 using namespace Qt::StringLiterals;
 using ozm::OzmMessageBox;
-using Scheme = OZMStyle::Scheme;
 
 namespace {
 
@@ -141,11 +141,15 @@ int main(int argc, char **argv)
     ozm::OzmCoreApplication::start();
     ozm::OzmCoreApplication::loadTranslation(QLocale(), u"workbench"_s);
     out.mkpath(u"."_s);
-    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
-        const QString suffix =
-            u"-%1-%2-%3x.png"_s.arg(scheme == Scheme::Dark ? u"dark"_s : u"light"_s, QLocale().name().left(2))
-                .arg(application.devicePixelRatio());
-        QApplication::setPalette(OZMStyle::palette(scheme));
+    QFont font = QApplication::font();
+    if (const int points = QApplication::arguments().value(3).toInt())
+        font.setPointSize(points);
+    QApplication::setFont(font);
+    for (const auto &[name, palette] : ozm::test::palettes()) {
+        const QString suffix = u"-%1-%2-%3pt-%4x.png"_s.arg(name, QLocale().name().left(2))
+                                   .arg(font.pointSize())
+                                   .arg(application.devicePixelRatio());
+        QApplication::setPalette(palette);
         QWidget parent;
         QApplication::setWindowIcon(OZMStyle::icon(u"spectrum"_s));
         sheetOf(boxPictures(&parent), 3).save(out.filePath(u"boxes"_s + suffix));

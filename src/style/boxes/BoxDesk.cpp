@@ -3,6 +3,7 @@
 #include <ozm_common_core_mini/AsyncUtils.h>
 
 #include "support/Platform.h"
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QThread>
 
@@ -13,6 +14,8 @@ namespace {
 void openDeskOfApplication()
 {
     BoxDesk::instance().open();
+    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake,
+                     [] { BoxDesk::instance().awaitLoopEnd(); });
     const auto close = [] { BoxDesk::instance().close(); };
     // Not qApp, which may stand for a kind of application that this one is not.
     QCoreApplication *application = QCoreApplication::instance();
@@ -84,7 +87,21 @@ void BoxDesk::close()
         QCoreApplication::removePostedEvents(m_receiver.get());
         QThread::yieldCurrentThread();
     } while (m_waiting > 0);
-    reopenWithTheLoop();
+    // What else is called as the application ends may run loops of its own, which end without a word.
+    if (!m_loopEnd)
+        reopenWithTheLoop();
+}
+
+void BoxDesk::awaitLoopEnd()
+{
+    if (m_loopEnd || QThread::currentThread()->loopLevel() == 0)
+        return;
+    m_loopEnd = new QObject;
+    QObject::connect(m_loopEnd, &QObject::destroyed, [this] {
+        if (!isOpen())
+            reopenWithTheLoop();
+    });
+    m_loopEnd->deleteLater();
 }
 
 void BoxDesk::reopenWithTheLoop()

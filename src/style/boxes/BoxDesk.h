@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMessageBox>
+#include <QPointer>
 
 #include <atomic>
 #include <functional>
@@ -29,9 +30,11 @@ public:
     void post(const std::function<void()> &work);
     [[nodiscard]] bool isOpen();
 
-    /// GUI thread, both.
+    // GUI thread, all three.
     void open();
     void close();
+    /// To be called as the event loop wakes up: tells the end of this loop, with all that aboutToQuit() calls.
+    void awaitLoopEnd();
 
 private:
     void reopenWithTheLoop();
@@ -40,6 +43,8 @@ private:
     bool m_open = false;
     /// Receives what is handed in; it outlives the application, so that nobody posts to a dead object.
     std::unique_ptr<QObject> m_receiver;
+    /// Deleted when the event loop has ended that it was left to, and not by loops that run inside it or at its end.
+    QPointer<QObject> m_loopEnd;
     /// Calls that are on their way, or posted and not begun.
     std::atomic<int> m_waiting = 0;
 };

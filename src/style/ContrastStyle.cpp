@@ -1,0 +1,79 @@
+#include "style/ContrastStyle.h"
+
+#include <ozm_widgets/OZMStyle.h>
+
+#include <QPainter>
+#include <QStyleOption>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm {
+
+namespace {
+
+// Of the text's colour; the rest is that of the window. More than 3 to 1 on any palette that can be read.
+constexpr float kOutline = 0.7F;
+// A round line lies between the pixels and needs more than one of them.
+constexpr qreal kRoundLine = 1.5;
+// A little more than Fusion has, for an icon that is sharp.
+constexpr int kExtensionExtent = 16;
+
+QColor outlineColor(const QStyleOption &option)
+{
+    if (option.state.testFlag(QStyle::State_HasFocus) &&
+        option.state.testFlag(QStyle::State_KeyboardFocusChange))
+        return option.palette.color(QPalette::Highlight);
+    const QColor text = option.palette.color(QPalette::WindowText);
+    const QColor ground = option.palette.color(QPalette::Window);
+    const auto mixed = [](int a, int b) { return qRound(kOutline * float(a) + (1 - kOutline) * float(b)); };
+    return QColor(mixed(text.red(), ground.red()), mixed(text.green(), ground.green()),
+                  mixed(text.blue(), ground.blue()));
+}
+
+} // namespace
+
+ContrastStyle::ContrastStyle()
+    : QProxyStyle(u"fusion"_s)
+{}
+
+QIcon ContrastStyle::standardIcon(StandardPixmap icon, const QStyleOption *option,
+                                  const QWidget *widget) const
+{
+    // The toolkit's own is a picture in black.
+    if (icon == SP_ToolBarHorizontalExtensionButton)
+        return OZMStyle::icon(u"toolbar-more"_s);
+    if (icon == SP_ToolBarVerticalExtensionButton)
+        return OZMStyle::icon(u"go-down"_s);
+    return QProxyStyle::standardIcon(icon, option, widget);
+}
+
+int ContrastStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
+{
+    return metric == PM_ToolBarExtensionExtent ? kExtensionExtent
+                                               : QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+void ContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                                  const QWidget *widget) const
+{
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton)
+        return;
+    // Over the outline that Fusion has drawn, as it has drawn it.
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(outlineColor(*option));
+    painter->setBrush(Qt::NoBrush);
+    const QRectF place = option->rect;
+    if (element == PE_IndicatorCheckBox) {
+        painter->drawRect(place.adjusted(0.5, 0.5, -0.5, -0.5));
+    } else {
+        const QPointF middle = option->rect.center() + QPoint(1, 1);
+        const qreal radius = (option->rect.width() + (option->rect.width() + 1) % 2) / 2.0 - 1;
+        painter->setPen(QPen(painter->pen().color(), kRoundLine));
+        painter->drawEllipse(middle, radius, radius);
+    }
+    painter->restore();
+}
+
+} // namespace ozm
