@@ -107,7 +107,8 @@ int interact(const QString &database, const QString &user, const QString &file)
 {
     // Batch runs speak English, whatever the language: their output is for scripts.
     ozm::OzmCoreApplication::start();
-    ozm::OzmCoreApplication::loadTranslation(QLocale(), u"workbench"_s);
+    for (const QString &name : {u"ozm_audit"_s, u"workbench"_s})
+        ozm::OzmCoreApplication::loadTranslation(QLocale(), name);
     const auto store = workbench::openTrail(database, dataFolder(), user);
     if (!store)
         return complainOnScreen(store.error());

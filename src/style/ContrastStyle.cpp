@@ -18,10 +18,19 @@ constexpr qreal kRoundLine = 1.5;
 // A little more than Fusion has, for an icon that is sharp.
 constexpr int kExtensionExtent = 16;
 
+/// Nothing is darker than this window, which is how Fusion makes its outlines.
+bool isBlack(const QPalette &palette)
+{
+    constexpr int kNearlyBlack = 16;
+    return palette.color(QPalette::Window).lightness() < kNearlyBlack;
+}
+
 QColor outlineColor(const QStyleOption &option)
 {
-    if (option.state.testFlag(QStyle::State_HasFocus) &&
-        option.state.testFlag(QStyle::State_KeyboardFocusChange))
+    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(&option);
+    const bool isDefault = button && button->features.testFlag(QStyleOptionButton::DefaultButton);
+    if (isDefault || (option.state.testFlag(QStyle::State_HasFocus) &&
+                      option.state.testFlag(QStyle::State_KeyboardFocusChange)))
         return option.palette.color(QPalette::Highlight);
     const QColor text = option.palette.color(QPalette::WindowText);
     const QColor ground = option.palette.color(QPalette::Window);
@@ -57,7 +66,9 @@ void ContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *
                                   const QWidget *widget) const
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton)
+    const bool isIndicator = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
+    const bool isField = element == PE_PanelButtonCommand || element == PE_FrameLineEdit;
+    if (!isIndicator && !(isField && isBlack(option->palette)))
         return;
     // Over the outline that Fusion has drawn, as it has drawn it.
     painter->save();
@@ -65,8 +76,8 @@ void ContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *
     painter->setPen(outlineColor(*option));
     painter->setBrush(Qt::NoBrush);
     const QRectF place = option->rect;
-    if (element == PE_IndicatorCheckBox) {
-        painter->drawRect(place.adjusted(0.5, 0.5, -0.5, -0.5));
+    if (element != PE_IndicatorRadioButton) {
+        painter->drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), isField ? 2 : 0, isField ? 2 : 0);
     } else {
         const QPointF middle = option->rect.center() + QPoint(1, 1);
         const qreal radius = (option->rect.width() + (option->rect.width() + 1) % 2) / 2.0 - 1;

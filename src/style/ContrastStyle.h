@@ -5,8 +5,8 @@
 namespace ozm {
 
 /**
- * Fusion, with the outlines of check boxes and radio buttons, and the arrow of a tool bar without room, drawn
- * to be seen on every palette.
+ * Fusion, with the outlines of check boxes and radio buttons, on black those of buttons and fields as well, and the
+ * arrow of a tool bar without room, drawn to be seen on every palette.
  *
  * Fusion derives them from the colour of the window by a fixed step, which is next to nothing on dark.
  */

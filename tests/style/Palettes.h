@@ -11,6 +11,7 @@ inline QList<std::pair<QString, QPalette>> palettes()
 {
     QPalette contrast(Qt::white, Qt::black, Qt::white, Qt::black, Qt::gray, Qt::white, Qt::white, Qt::black,
                       Qt::black);
+    contrast.setColor(QPalette::Link, Qt::yellow);
     contrast.setColor(QPalette::Highlight, Qt::cyan);
     contrast.setColor(QPalette::HighlightedText, Qt::black);
     return {{QStringLiteral("light"), OZMStyle::palette(OZMStyle::Scheme::Light)},

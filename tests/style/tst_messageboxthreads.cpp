@@ -328,10 +328,10 @@ private Q_SLOTS:
         });
         const QObject end;
         connect(qApp, &QCoreApplication::aboutToQuit, &end, [runsLoop] {
-            QEventLoop loop;
-            QTimer::singleShot(0, &loop, &QEventLoop::quit);
+            QEventLoop own;
+            QTimer::singleShot(0, &own, &QEventLoop::quit);
             if (runsLoop)
-                loop.exec();
+                own.exec();
         });
         QCoreApplication::exec();
         if (asksAfter)

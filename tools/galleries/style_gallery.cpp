@@ -120,7 +120,6 @@ QPixmap windowPicture()
 {
     ozm::test::SampleFixture fixture;
     workbench::MainWindow window(*fixture.editor, fixture.trailPath());
-    window.resize(1180, 700);
     (void)fixture.editor->setCell(fixture.idAt(0), kCharge, u"3"_s);
     (void)fixture.editor->renameSamples({fixture.idAt(0), fixture.idAt(1)}, u"R#"_s);
     // One upright title bar beside the lying ones.
@@ -139,7 +138,8 @@ int main(int argc, char **argv)
     const QDir out(QApplication::arguments().value(1, u"."_s));
     QLocale::setDefault(QLocale(QApplication::arguments().value(2, u"en"_s)));
     ozm::OzmCoreApplication::start();
-    ozm::OzmCoreApplication::loadTranslation(QLocale(), u"workbench"_s);
+    for (const QString &text : {u"ozm_audit"_s, u"workbench"_s})
+        ozm::OzmCoreApplication::loadTranslation(QLocale(), text);
     out.mkpath(u"."_s);
     QFont font = QApplication::font();
     if (const int points = QApplication::arguments().value(3).toInt())
@@ -155,7 +155,7 @@ int main(int argc, char **argv)
         sheetOf(boxPictures(&parent), 3).save(out.filePath(u"boxes"_s + suffix));
         windowPicture().save(out.filePath(u"window"_s + suffix));
         workbench::StyleDialog dialog;
-        dialog.resize(1440, 900);
+        dialog.resize(dialog.size().expandedTo({1440, 900}));
         picture(dialog).save(out.filePath(u"style"_s + suffix));
         dialog.hide();
         sheetOf(dialogBoxPictures(dialog), 3).save(out.filePath(u"examples"_s + suffix));

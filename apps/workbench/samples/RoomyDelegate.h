@@ -1,8 +1,16 @@
 #pragma once
 
 #include <QStyledItemDelegate>
+#include <QWidget>
 
 namespace workbench {
+
+/// @p pixels, which fit the usual font, for the font of @p widget.
+inline int forFontOf(const QWidget &widget, int pixels)
+{
+    constexpr int kUsualHeight = 15;
+    return qMax(pixels, pixels * widget.fontMetrics().height() / kUsualHeight);
+}
 
 /// Gives the rows of a tree the room that those of a table have.
 class RoomyDelegate : public QStyledItemDelegate

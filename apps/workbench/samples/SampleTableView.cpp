@@ -1,6 +1,7 @@
 #include "samples/SampleTableView.h"
 
 #include "data/DataColumns.h"
+#include "samples/RoomyDelegate.h"
 #include "samples/SampleTable.h"
 #include "samples/SampleTableModel.h"
 
@@ -56,8 +57,10 @@ SampleTableView::SampleTableView(SampleTableModel *model, const SampleTable &sam
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);
-    for (int column = 0; column < static_cast<int>(kTableWidths.size()); ++column)
-        setColumnWidth(column, kTableWidths.at(static_cast<std::size_t>(column)));
+    for (int column = 0; column < static_cast<int>(kTableWidths.size()); ++column) {
+        const int width = forFontOf(*this, kTableWidths.at(static_cast<std::size_t>(column)));
+        setColumnWidth(column, qMax(width, horizontalHeader()->sectionSizeHint(column)));
+    }
     setItemDelegateForColumn(sectionOf(kPath), new PathDelegate(this));
     horizontalHeader()->moveSection(sectionOf(kComment), sectionOf(kPath));
 }

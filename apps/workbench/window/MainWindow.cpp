@@ -33,6 +33,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QStandardPaths>
 #include <QStatusBar>
@@ -59,6 +60,7 @@ QLabel *emptyPage(QWidget *parent)
         parent);
     page->setObjectName(u"emptyPage"_s);
     page->setAlignment(Qt::AlignCenter);
+    page->setWordWrap(true);
     return page;
 }
 
@@ -73,7 +75,7 @@ MainWindow::MainWindow(SampleEditor &editor, const QString &trailPath, QWidget *
           editor, [this] { return files::askDataFolder(this); }, this))
 {
     setObjectName(u"mainWindow"_s);
-    resize(1200, 760);
+    resize(QSize(forFontOf(*this, 1200), forFontOf(*this, 760)).boundedTo(screen()->availableSize()));
     createTable();
     connectActions();
     createDocks();
@@ -122,7 +124,8 @@ void MainWindow::createTable()
     splitter->addWidget(new SampleDetails(m_table, splitter));
     splitter->setCollapsible(0, false);
     splitter->setStretchFactor(0, 1);
-    splitter->setSizes({width() - kDetailsWidth, kDetailsWidth});
+    const int details = forFontOf(*this, kDetailsWidth);
+    splitter->setSizes({width() - details, details});
     setCentralWidget(splitter);
     m_import->acceptDropsOn(m_pages);
 }
@@ -142,8 +145,8 @@ void MainWindow::createDocks()
 {
     auto *history = new HistoryView(m_editor, this);
     history->setItemDelegate(new RoomyDelegate(history));
-    resizeDocks({addDock(u"historyDock"_s, tr("History"), history, Qt::RightDockWidgetArea)}, {kHistoryWidth},
-                Qt::Horizontal);
+    resizeDocks({addDock(u"historyDock"_s, tr("History"), history, Qt::RightDockWidgetArea)},
+                {forFontOf(*this, kHistoryWidth)}, Qt::Horizontal);
     m_trail = createTrail();
     resizeDocks({addDock(u"trailDock"_s, tr("Audit trail"), m_trail, Qt::BottomDockWidgetArea)},
                 {kTrailHeight}, Qt::Vertical);

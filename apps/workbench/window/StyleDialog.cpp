@@ -1,5 +1,6 @@
 #include "window/StyleDialog.h"
 
+#include "samples/RoomyDelegate.h"
 #include "window/FileQuestions.h"
 
 #include <ozm_widgets/BlackSplitterHandle.h>
@@ -12,6 +13,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <array>
@@ -91,7 +93,7 @@ StyleDialog::StyleDialog(QWidget *parent)
 {
     setObjectName(u"styleDialog"_s);
     setWindowTitle(tr("Style"));
-    resize(900, 620);
+    resize(QSize(forFontOf(*this, 900), forFontOf(*this, 620)).boundedTo(screen()->availableSize()));
 
     auto *side = new QWidget(this);
     auto *column = new QVBoxLayout(side);
@@ -121,10 +123,11 @@ QWidget *StyleDialog::createIcons()
     icons->setResizeMode(QListView::Adjust);
     icons->setMovement(QListView::Static);
     icons->setIconSize({24, 24});
-    icons->setGridSize(kCell);
+    const QSize cell(forFontOf(*this, kCell.width()), forFontOf(*this, kCell.height()));
+    icons->setGridSize(cell);
     for (const QString &name : OZMStyle::iconNames()) {
         auto *item = new QListWidgetItem(OZMStyle::icon(name), name, icons);
-        item->setSizeHint(kCell);
+        item->setSizeHint(cell);
         item->setToolTip(name);
     }
     return icons;

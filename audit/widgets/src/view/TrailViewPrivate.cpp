@@ -53,6 +53,8 @@ constexpr std::array kActions{
 // Beside the table; the rest is in the menu.
 constexpr std::array kInBar{Action::Sign, Action::Review, Action::History, Action::Verify, Action::Details};
 
+// The widths below fit a font of this height.
+constexpr int kUsualFontHeight = 15;
 constexpr std::array kWidths{60, 205, 190, 130, 330, 130, 110, 110, 130, 130};
 static_assert(kWidths.size() == TrailModel::ColumnCount);
 constexpr int kRoom = 8;
@@ -91,9 +93,12 @@ void TrailView::Private::build()
     table.setShowGrid(false);
     table.setTabKeyNavigation(false);
     table.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    for (int column = 0; column < TrailModel::ColumnCount; ++column)
-        table.setColumnWidth(column, kWidths.at(std::size_t(column)));
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    for (int column = 0; column < TrailModel::ColumnCount; ++column) {
+        const int width = kWidths.at(std::size_t(column)) *
+                          qMax(kUsualFontHeight, table.fontMetrics().height()) / kUsualFontHeight;
+        table.setColumnWidth(column, qMax(width, table.horizontalHeader()->sectionSizeHint(column)));
+    }
     table.horizontalHeader()->setSortIndicator(TrailModel::Number, Qt::AscendingOrder);
     table.horizontalHeader()->setSortIndicatorShown(true);
     table.horizontalHeader()->setSectionsClickable(true);
