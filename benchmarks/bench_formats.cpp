@@ -8,6 +8,7 @@
 #include <ozm_common_ms/MsDataFileUtils.h>
 
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
@@ -163,16 +164,21 @@ void largeFolder(benchmark::State &state)
             benchmark::DoNotOptimize(nearestFormat(location.localPath));
 }
 
-/// A study folder of ten thousand samples, files and folders by turns.
-void recursiveSearch(benchmark::State &state)
+/// A study folder of so many samples, files and folders by turns.
+void makeStudy(const QTemporaryDir &dir, int count)
 {
-    const QTemporaryDir dir;
-    const int count = int(state.range(0));
     for (int i = 0; i < count; ++i) {
         const QString name = u"study %1/sample %2"_s.arg(i / 100).arg(i);
         ozm::bench::make(dir.path(), i % 2 == 0 ? QStringList{name + u".mzML"_s}
                                                 : QStringList{name + u".d/AcqData/msscan.bin"_s});
     }
+}
+
+void recursiveSearch(benchmark::State &state)
+{
+    const QTemporaryDir dir;
+    const int count = int(state.range(0));
+    makeStudy(dir, count);
     for (auto _ : state) {
         const auto found = MsDataFileUtils::searchForMSFilesAndDirectories(
             dir.path(), true, MsDataFileInfo::CheckLevel::Content);
@@ -181,6 +187,22 @@ void recursiveSearch(benchmark::State &state)
     }
     state.SetItemsProcessed(state.iterations() * count);
 }
+
+#ifdef Q_OS_UNIX
+/// Lists the same folders and nothing more.
+void systemFind(benchmark::State &state)
+{
+    const QTemporaryDir dir;
+    makeStudy(dir, int(state.range(0)));
+    for (auto _ : state) {
+        QProcess find;
+        find.start(u"find"_s, {dir.path()});
+        if (!find.waitForFinished(-1) || find.readAllStandardOutput().isEmpty())
+            state.SkipWithError("nothing is listed");
+    }
+}
+BENCHMARK(systemFind)->Arg(10'000)->Unit(benchmark::kMillisecond)->UseRealTime();
+#endif
 
 BENCHMARK(byNameBare)->Unit(benchmark::kMillisecond);
 BENCHMARK(byName)->Unit(benchmark::kMillisecond);

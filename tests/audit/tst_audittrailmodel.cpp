@@ -2,6 +2,7 @@
 
 #include "StoreFixture.h"
 
+#include <ozm_audit/Logger.h>
 #include <ozm_audit_widgets/Review.h>
 #include <ozm_audit_widgets/Signature.h>
 #include <ozm_audit_widgets/TrailModel.h>
@@ -158,6 +159,33 @@ private Q_SLOTS:
         const QModelIndex state = model.index(0, TrailModel::State);
         QVERIFY(state.data().toString().contains(u"Signed"_s));
         QVERIFY(!state.data(Qt::DecorationRole).value<QIcon>().isNull());
+    }
+
+    /// Steps above the watermark stand at the newest end, and become rows like any other.
+    void showsWhatIsNotYetOnDisk()
+    {
+        auto store = Store::open(u"memory:"_s);
+        VERIFY_RESULT(store.value()->append(drafts(1, 2)));
+        Logger logger(*store.value(), {.user = {u"jdoe"_s}, .queued = true});
+        QVERIFY(logger.waitForDurable());
+        // Keeps the writer from the store, and this thread not.
+        auto lock = store.value()->locked();
+        for (int i = 0; i < 3; ++i)
+            QVERIFY(!logger.record(change(u"A"_s, u"Mass"_s, i + 1, i)).hasError());
+        const int stored = int(store.value()->size().value());
+        const int waiting = int(logger.handedOver() - logger.watermark());
+        QVERIFY(waiting >= 3);
+        TrailModel model(*store.value());
+        const QAbstractItemModelTester tester(&model);
+        model.setLogger(&logger);
+        QCOMPARE(model.rowCount(), stored + waiting);
+        const QModelIndex last = model.index(stored + waiting - 1, TrailModel::State);
+        QCOMPARE(last.data().toString(), u"Not yet on disk"_s);
+        QVERIFY(!last.data(Qt::DecorationRole).value<QIcon>().isNull());
+        lock.unlock();
+        QTRY_COMPARE(model.pending(), 0);
+        QTRY_COMPARE(model.rowCount(), stored + waiting);
+        QCOMPARE(model.entryAt(stored + waiting - 1).attributes, QStringList{u"Mass"_s});
     }
 
     /// Pages, sparse filters and sorting give what the store gives, however long the trail is.
