@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/DialogDriver.h"
+#include "files/FileDialogDriver.h"
 #include "style/BoxDriver.h"
 
 #include <ozm_common_core_mini/RowNode.h>

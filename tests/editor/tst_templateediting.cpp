@@ -302,7 +302,7 @@ private Q_SLOTS:
         f.answerPath(f.path(u"no.png"_s));
         BoxDriver box([](OzmMessageBox *shown) { press(shown, QMessageBox::Ok); });
         f.trigger("insertImageAction");
-        QCOMPARE(box.shown(), 1);
+        QCOMPARE(box.opened(), 1);
         QCOMPARE(f.content(), before);
 
         f.setContent({});

@@ -109,7 +109,7 @@ void TestTemplateEditorFiles::closingAsks()
     {
         BoxDriver box([answer](OzmMessageBox *shown) { press(shown, answer); });
         QCOMPARE(f.editor.close(), closed);
-        QCOMPARE(box.shown(), 1);
+        QCOMPARE(box.opened(), 1);
     }
     QCOMPARE(QFile::exists(f.path(u"t.ozt"_s)), written);
     QCOMPARE(f.content(), u"<div>a</div>"_s);
@@ -118,7 +118,7 @@ void TestTemplateEditorFiles::closingAsks()
         BoxDriver box([](OzmMessageBox *shown) { press(shown, QMessageBox::Cancel); });
         f.trigger("newAction");
         f.trigger("openAction");
-        QCOMPARE(box.shown(), 2);
+        QCOMPARE(box.opened(), 2);
         QCOMPARE(f.content(), u"<div>a</div>"_s);
     }
 }
@@ -168,13 +168,13 @@ void TestTemplateEditorFiles::failedSavesKeepTheWork()
         press(shown, QMessageBox::Ok);
     });
     f.trigger("saveAction");
-    QCOMPARE(box.shown(), 1);
+    QCOMPARE(box.opened(), 1);
     QVERIFY2(text.contains("unchanged in the window"_L1), qPrintable(text));
     QVERIFY(f.editor.isModified());
     QVERIFY(f.editor.filePath().isEmpty());
     QCOMPARE(f.content(), u"<div>a</div>"_s);
     f.trigger("pdfAction");
-    QCOMPARE(box.shown(), 2);
+    QCOMPARE(box.opened(), 2);
 }
 
 #ifdef Q_OS_UNIX
@@ -197,7 +197,7 @@ void TestTemplateEditorFiles::fullDiskKeepsBoth()
         const FullDisk disk(4096);
         f.trigger("saveAction");
     }
-    QCOMPARE(box.shown(), 1);
+    QCOMPARE(box.opened(), 1);
     QVERIFY2(text.contains("unchanged in the window"_L1), qPrintable(text));
     QVERIFY(f.editor.isModified());
     QCOMPARE(f.content(), mine);
@@ -218,7 +218,7 @@ void TestTemplateEditorFiles::changesOnDiskAreNoticed()
     {
         BoxDriver box([](OzmMessageBox *shown) { press(shown, QMessageBox::Cancel); });
         f.trigger("saveAction");
-        QCOMPARE(box.shown(), 1);
+        QCOMPARE(box.opened(), 1);
     }
     QVERIFY(f.editor.isModified());
     QFile theirs(f.path(u"t.ozt"_s));

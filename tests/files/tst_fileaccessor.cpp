@@ -1,5 +1,5 @@
 #include "../core_ms/SampleTree.h"
-#include "DialogDriver.h"
+#include "FileDialogDriver.h"
 #include "support/Files.h"
 #include "support/StrictTest.h"
 

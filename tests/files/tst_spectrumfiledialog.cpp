@@ -1,5 +1,5 @@
 #include "../core_ms/SampleTree.h"
-#include "DialogDriver.h"
+#include "FileDialogDriver.h"
 #include "support/StrictTest.h"
 
 #include <ozm_widgets/SpectrumFileDialog.h>

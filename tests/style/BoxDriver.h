@@ -1,41 +1,23 @@
 #pragma once
 
+#include "support/DialogDriver.h"
+
 #include <ozm_widgets/OzmCoreApplication.h>
 #include <ozm_widgets/OzmMessageBox.h>
 
-#include <QPointer>
 #include <QPushButton>
-#include <QtTest>
-
-#include <functional>
 
 namespace ozm::test {
 
-/// Works on every box that is shown while it lives. A box that is still open afterwards fails the test, and
-/// is closed, so that nothing hangs.
-class BoxDriver : public QObject
+/// Works on every box while it is being shown, wherever it was asked for, and on no other dialog.
+class BoxDriver : public DialogDriver
 {
 public:
-    using Work = std::function<void(OzmMessageBox *)>;
-
-    explicit BoxDriver(const Work &work)
+    explicit BoxDriver(const std::function<void(OzmMessageBox *)> &work)
     {
         connect(OzmCoreApplication::instance(), &OzmCoreApplication::ozmMessageBoxShown, this,
-                [this, work](OzmMessageBox *box) {
-                    ++m_shown;
-                    const QPointer<OzmMessageBox> guard(box);
-                    work(box);
-                    if (!guard || !guard->isVisible())
-                        return;
-                    guard->done(0);
-                    QFAIL("the box was left open");
-                });
+                [this, work](OzmMessageBox *box) { workOn(box, [work, box](QDialog *) { work(box); }); });
     }
-
-    [[nodiscard]] int shown() const { return m_shown; }
-
-private:
-    int m_shown = 0;
 };
 
 inline void press(OzmMessageBox *box, QMessageBox::StandardButton button)

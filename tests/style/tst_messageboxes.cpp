@@ -227,7 +227,7 @@ private Q_SLOTS:
                 ozm::test::press(box, static_cast<S>(press));
             });
             QCOMPARE(call(over), press);
-            QCOMPARE(driver.shown(), 1);
+            QCOMPARE(driver.opened(), 1);
         }
     }
 
@@ -356,7 +356,7 @@ private Q_SLOTS:
         OZMStyle::openWarning(
             &parent, kSignal, kTitle, kRich, this, [&](S given) { answers.append(given); }, kYesNo, Box::No);
         QTRY_COMPARE(answers, QList<int>{int(Box::Ok)});
-        QCOMPARE(driver.shown(), 0);
+        QCOMPARE(driver.opened(), 0);
     }
 
     void otherBoxesOffScreenAreShown()
@@ -369,7 +369,7 @@ private Q_SLOTS:
             press(box, Box::No);
         });
         QCOMPARE(OZMStyle::question(&parent, kSignal, kTitle, kText), Box::No);
-        QCOMPARE(driver.shown(), 1);
+        QCOMPARE(driver.opened(), 1);
     }
 
     void shownIsEmittedOncePerShow()
@@ -382,11 +382,11 @@ private Q_SLOTS:
         });
         QCOMPARE(box.exec(), int(Box::Ok));
         QCOMPARE(box.exec(), int(Box::Ok));
-        QCOMPARE(driver.shown(), 2);
+        QCOMPARE(driver.opened(), 2);
         box.show();
         box.hide();
         box.show();
-        QTRY_COMPARE(driver.shown(), 3);
+        QTRY_COMPARE(driver.opened(), 3);
     }
 
     void longTextKeepsTheButtonsOnScreen()
@@ -402,7 +402,7 @@ private Q_SLOTS:
                 press(box, Box::Ok);
             });
             OZMStyle::warning(nullptr, kSignal, kTitle, text);
-            QCOMPARE(driver.shown(), 1);
+            QCOMPARE(driver.opened(), 1);
         }
     }
 
@@ -422,7 +422,7 @@ private Q_SLOTS:
         });
         OZMStyle::about(nullptr, kTitle, kRich);
         QApplication::setWindowIcon({});
-        QCOMPARE(driver.shown(), 1);
+        QCOMPARE(driver.opened(), 1);
     }
 
     void userNameIsTheSystemsUntilSet()

@@ -239,7 +239,7 @@ private Q_SLOTS:
                 const Worker worker([&] { answer = OZMStyle::question(over, kSignal, u"T"_s, "text"); });
             }
             QCOMPARE(answer, int(Box::No));
-            QCOMPARE(driver.shown(), 1);
+            QCOMPARE(driver.opened(), 1);
         }
     }
 
@@ -262,7 +262,7 @@ private Q_SLOTS:
             });
         }
         QCOMPARE(answers, (QList<int>{Box::No, Box::No, Box::No, Box::Cancel}));
-        QCOMPARE(driver.shown(), 0);
+        QCOMPARE(driver.opened(), 0);
     }
 
     void openFromAWorker()
@@ -340,7 +340,7 @@ private Q_SLOTS:
         QCOMPARE(answers, (QList<int>{Box::Cancel, Box::No}));
         QVERIFY2(captured.expired(), "the callback is kept");
         QTRY_COMPARE(opened.load(), int(Box::No));
-        QCOMPARE(driver.shown(), 0);
+        QCOMPARE(driver.opened(), 0);
     }
 
     void manyWorkersWithDyingParents()

@@ -1,7 +1,7 @@
 #include "SampleFixture.h"
 #include "core_ms/SampleTree.h"
 #include "data/DataImport.h"
-#include "files/DialogDriver.h"
+#include "files/FileDialogDriver.h"
 #include "reports/ReportDialog.h"
 #include "support/StrictTest.h"
 #include "window/FileQuestions.h"

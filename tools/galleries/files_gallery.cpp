@@ -2,7 +2,7 @@
 // with QT_SCALE_FACTOR=2. Not a test: what looks wrong is for eyes to say.
 
 #include "core_ms/SampleTree.h"
-#include "files/DialogDriver.h"
+#include "files/FileDialogDriver.h"
 #include "style/Palettes.h"
 #include "support/WithoutRights.h"
 

@@ -410,7 +410,9 @@ private:
         if (start == end)
             return;
         const QString plain = m_source.sliced(start, end - start);
-        if (!m_runIsOpen && plain.trimmed().isEmpty()) {
+        // Where blanks are kept, they are a line by themselves; a line end between elements is none.
+        const bool isLine = keepsBlanks(m_tree.innermost.at(m_index)) && !plain.contains(u'\n');
+        if (!m_runIsOpen && !isLine && plain.trimmed().isEmpty()) {
             m_result.html += plain;
             return;
         }

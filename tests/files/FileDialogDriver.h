@@ -1,76 +1,22 @@
 #pragma once
 
+#include "support/DialogDriver.h"
+
 #include <ozm_common_core/FileSystemSettings.h>
 #include <ozm_common_core_mini/AutomationStore.h>
 
 #include <QApplication>
 #include <QCollator>
-#include <QDialog>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFileSystemModel>
 #include <QLineEdit>
 #include <QListView>
-#include <QPointer>
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTimer>
-#include <QtTest>
-
-#include <functional>
 
 namespace ozm::test {
-
-/**
- * Works on the modal dialogs that open while it lives: the first function on the first dialog, and so on.
- *
- *     DialogDriver driver({[](QDialog *dialog) { dialog->reject(); }});
- *     const QString path = FileDialog::getSaveFileName(...);
- *     QCOMPARE(driver.opened(), 1);
- *
- * A dialog that is still open after its function, or that has none, fails the test and is closed, so that
- * nothing hangs.
- */
-class DialogDriver : public QObject
-{
-public:
-    using Work = std::function<void(QDialog *)>;
-
-    explicit DialogDriver(const QList<Work> &works)
-        : m_works(works)
-    {
-        qApp->installEventFilter(this);
-    }
-    ~DialogDriver() override { qApp->removeEventFilter(this); }
-
-    [[nodiscard]] int opened() const { return m_opened; }
-
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        auto *dialog = qobject_cast<QDialog *>(watched);
-        if (event->type() == QEvent::Show && dialog && !event->spontaneous()) {
-            const QPointer<QDialog> guard(dialog);
-            const Work work = m_works.value(m_opened++);
-            QTimer::singleShot(0, dialog, [guard, work] { drive(guard, work); });
-        }
-        return false;
-    }
-
-private:
-    static void drive(const QPointer<QDialog> &dialog, const Work &work)
-    {
-        if (work)
-            work(dialog);
-        if (!dialog || !dialog->isVisible())
-            return;
-        dialog->done(QDialog::Rejected);
-        QFAIL("a dialog was left open");
-    }
-
-    const QList<Work> m_works;
-    int m_opened = 0;
-};
 
 /// Folders are remembered in memory, settings of the toolkit in a folder of their own, and nothing is
 /// answered or switched from outside, until it ends.
