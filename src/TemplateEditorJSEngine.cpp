@@ -41,6 +41,14 @@ bool isPlain(const QVariant &value)
     }
 }
 
+QList<ozm::ScriptOutcome> piecesPastDeadline(const ozm::TemplateText &parsed)
+{
+    QList<ozm::ScriptOutcome> failed;
+    for (const ozm::ScriptPiece &piece : parsed.pieces())
+        failed.append({piece.code, true, 1, u"The scripts before took all the time that there is."_s});
+    return failed;
+}
+
 QString withResults(const ozm::TemplateText &parsed, const QList<ozm::ScriptOutcome> &outcomes)
 {
     QString result;
@@ -181,14 +189,15 @@ std::shared_ptr<const ozm::TemplateText> TemplateEditorJSCodeReader::Private::pa
 
 QString TemplateEditorJSCodeReader::Private::read(const ozm::TemplateText &parsed,
                                                   const QMap<QString, QVariant> &parameters,
-                                                  ozm::TemplateReport *report)
+                                                  ozm::TemplateReport *report, bool runsScripts)
 {
     if (parsed.pieces().isEmpty()) {
         if (report)
             report->broughtIn = ozm::tokens::broughtIn(parsed.text(), parsed.marks(), parameters);
         return ozm::tokens::replace(parsed.text(), parsed.marks(), parameters);
     }
-    const QList<ozm::ScriptOutcome> outcomes = runPieces(parsed, parameters);
+    const QList<ozm::ScriptOutcome> outcomes =
+        runsScripts ? runPieces(parsed, parameters) : piecesPastDeadline(parsed);
     const QString text = withResults(parsed, outcomes);
     const ozm::syntax::MarkedText marks = ozm::syntax::marked(text);
     if (report) {

@@ -29,9 +29,10 @@ class TemplateEditorJSCodeReader::Private
 {
 public:
     [[nodiscard]] std::shared_ptr<const ozm::TemplateText> parsed(const QString &text);
-    /// As readAsString(); what failed and what values brought in goes to @p report unless that is null.
+    /// As readAsString(); what failed and what values brought in goes to @p report unless that is null. Scripts
+    /// that are not run have failed.
     [[nodiscard]] QString read(const ozm::TemplateText &parsed, const QMap<QString, QVariant> &parameters,
-                               ozm::TemplateReport *report);
+                               ozm::TemplateReport *report, bool runsScripts = true);
 
     TemplateEditorJSEngine engine;
 

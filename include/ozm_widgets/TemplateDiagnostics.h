@@ -32,6 +32,14 @@ struct BroughtInCode
     qsizetype position = -1; ///< Of @c by, or of the piece of script, in the text handed in.
 };
 
+/// An instruction that could not be followed, so that it stands in the filled text. See fillTemplate().
+struct FaultyInstruction
+{
+    QString instruction;     ///< As it stands in the template.
+    qsizetype position = -1; ///< In the text handed in.
+    QString message;
+};
+
 /// A decoded template together with what went wrong in it, for editors and batch runs.
 struct TemplateReport
 {
@@ -41,11 +49,13 @@ struct TemplateReport
     QList<BroughtInCode> broughtIn;   ///< In order of position.
     Error error =
         {}; ///< Code 2 when nothing was decoded: the text has no envelope where it needs one, or no row.
+    QList<FaultyInstruction> faulty = {}; ///< In order of position.
 
     /// True when the template was decoded, and each code and script in it came out as its author meant.
     [[nodiscard]] bool isComplete() const
     {
-        return !error.hasError() && unresolved.isEmpty() && failed.isEmpty() && broughtIn.isEmpty();
+        return !error.hasError() && unresolved.isEmpty() && failed.isEmpty() && broughtIn.isEmpty() &&
+               faulty.isEmpty();
     }
 };
 

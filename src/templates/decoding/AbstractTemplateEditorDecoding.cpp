@@ -63,6 +63,8 @@ KeptReader &extraDataReader()
     return reader;
 }
 
+} // namespace
+
 TemplateDecoder rowDecoder()
 {
     return keptDecoder<rowReader>();
@@ -72,6 +74,8 @@ TemplateDecoder extraDataDecoder()
 {
     return keptDecoder<extraDataReader>();
 }
+
+namespace {
 
 /// Codes are found in the content, but their places are wanted in the text that holds it.
 void movePositions(ozm::TemplateReport &report, qsizetype by)

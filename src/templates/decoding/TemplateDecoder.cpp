@@ -52,15 +52,16 @@ public:
             m_names.append(QString::fromLatin1(type.property(index).name()));
     }
 
-    /// The text of the first property whose name the pattern matches.
-    [[nodiscard]] std::optional<QString> textOf(const ozm::NamePattern &pattern)
+    /// The first property whose name the pattern matches, with its text.
+    [[nodiscard]] std::optional<ozm::TemplateField> fieldOf(const ozm::NamePattern &pattern)
     {
         const auto found = std::ranges::find_if(
             std::as_const(m_names), [&pattern](const QString &name) { return pattern.matches(name); });
         if (found == m_names.cend())
             return std::nullopt;
         const auto index = static_cast<int>(found - m_names.cbegin());
-        return propertyText(m_data.read(m_data.metaObject.propertyOffset() + index), column(*found));
+        const QVariant value = m_data.read(m_data.metaObject.propertyOffset() + index);
+        return ozm::TemplateField{value, propertyText(value, column(*found))};
     }
 
 private:
@@ -79,6 +80,22 @@ private:
     QList<QString> m_names;
     QHash<QString, const FriendlyName *> m_columns;
 };
+
+struct PropertyPlace
+{
+    const DecodeTecExtraData *data = nullptr;
+    int index = -1;
+};
+
+/// The property that the one-row decoding takes for a code which the row does not know.
+PropertyPlace propertyOf(const QString &code, const QList<DecodeTecExtraData> &extraData)
+{
+    const QByteArray name = ozm::TextUtils::toLowerFirstChar(code).toLatin1();
+    for (const DecodeTecExtraData &data : extraData)
+        if (const int index = data.metaObject.indexOfProperty(name.constData()); index >= 0)
+            return {&data, index};
+    return {};
+}
 
 /// Where the one-row decoding finds the values of one code.
 class RowSource
@@ -118,14 +135,9 @@ public:
 private:
     void findProperty(const QList<DecodeTecExtraData> &extraData)
     {
-        const QByteArray name = ozm::TextUtils::toLowerFirstChar(m_code).toLatin1();
-        for (const DecodeTecExtraData &data : extraData) {
-            m_property = data.metaObject.indexOfProperty(name.constData());
-            if (m_property >= 0) {
-                m_extra = &data;
-                return;
-            }
-        }
+        const PropertyPlace place = propertyOf(m_code, extraData);
+        m_extra = place.data;
+        m_property = place.index;
     }
 
     QString m_code;
@@ -177,8 +189,8 @@ QString TemplateDecoder::decode(const QString &content, const QList<DecodeTecExt
     QMap<QString, QVariant> parameters;
     for (const int index : parsed->sequence()) {
         for (OwnProperties &source : sources) {
-            if (const auto text = source.textOf(patterns[static_cast<std::size_t>(index)])) {
-                parameters.insert(keyOf(parsed->names().at(index)), *text);
+            if (const auto field = source.fieldOf(patterns[static_cast<std::size_t>(index)])) {
+                parameters.insert(keyOf(parsed->names().at(index)), field->shown);
                 break;
             }
         }
@@ -200,16 +212,63 @@ QString TemplateDecoder::decode(const QString &text, const RowNode &row,
     return read(*parsed, parameters, report);
 }
 
+QString TemplateDecoder::decode(const QString &text, const ValueOf &valueOf, ozm::TemplateReport *report)
+{
+    const auto parsed = m_reader.d->parsed(text);
+    QMap<QString, QVariant> parameters;
+    for (const QString &name : parsed->names())
+        if (const auto value = valueOf(name))
+            parameters.insert(keyOf(name), *value);
+    return read(*parsed, parameters, report);
+}
+
 QString TemplateDecoder::read(const ozm::TemplateText &parsed, const QMap<QString, QVariant> &parameters,
                               ozm::TemplateReport *report)
 {
-    QString text = m_reader.d->read(parsed, parameters, report);
+    QString text = m_reader.d->read(parsed, parameters, report, m_runsScripts);
     if (report) {
         report->text = text;
         report->unresolved = unresolvedCodes(parsed, parameters);
     }
     return text;
 }
+
+namespace ozm {
+
+std::optional<TemplateField> fieldOf(const QString &name, const RowNode &row)
+{
+    bool found = false;
+    const QVariant value = row.getDataAt(name, &found, false);
+    if (!found)
+        return std::nullopt;
+    const FriendlyNames &names = ColumnFriendlyName::getColumnFriendlyNames();
+    const auto column = names.constFind(name);
+    return TemplateField{value, column != names.constEnd() ? column->valueToString(value) : value};
+}
+
+std::optional<TemplateField> fieldOf(const QString &name, const RowNode &row,
+                                     const QList<DecodeTecExtraData> &extraData)
+{
+    if (ColumnFriendlyName::getColumnFriendlyNames().contains(name))
+        if (auto field = fieldOf(name, row))
+            return field;
+    const PropertyPlace place = propertyOf(name, extraData);
+    if (!place.data)
+        return fieldOf(name, row);
+    const QVariant value = place.data->read(place.index);
+    return TemplateField{value, value};
+}
+
+std::optional<TemplateField> fieldOf(const QString &name, const QList<DecodeTecExtraData> &extraData)
+{
+    const NamePattern pattern(name);
+    for (const DecodeTecExtraData &data : extraData)
+        if (auto field = OwnProperties(data).fieldOf(pattern))
+            return field;
+    return std::nullopt;
+}
+
+} // namespace ozm
 
 SummaryRow::SummaryRow(const QList<RowNode *> &rows)
     : m_root(std::make_unique<RowNode>(*ozm::platform::rootOf(rows.constFirst())))

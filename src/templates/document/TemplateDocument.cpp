@@ -4,6 +4,7 @@
 #include "templates/document/TemplateChip.h"
 #include "templates/document/TemplateParts.h"
 #include "templates/document/TemplateSourceWriter.h"
+#include "templates/instructions/InstructionSyntax.h"
 #include "templates/syntax/HtmlScanner.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -17,6 +18,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -223,10 +225,19 @@ TemplateDocument::~TemplateDocument() = default;
 
 bool TemplateDocument::isHtml(const QString &source)
 {
+    using Kind = editor::HtmlTokenKind;
     const QList<editor::HtmlToken> tokens = editor::scanHtml(source);
-    return std::any_of(tokens.begin(), tokens.end(), [](const editor::HtmlToken &token) {
-        return token.kind == editor::HtmlTokenKind::StartTag || token.kind == editor::HtmlTokenKind::EndTag ||
-               token.kind == editor::HtmlTokenKind::RawElement;
+    // A code with a format does not make a plain text a page.
+    bool isInFormat = false;
+    return std::any_of(tokens.begin(), tokens.end(), [&](const editor::HtmlToken &token) {
+        if (token.kind == Kind::StartTag &&
+            instructions::isFormatTag(QStringView(source).sliced(token.start, token.end - token.start))) {
+            isInFormat = true;
+            return false;
+        }
+        if (isInFormat && token.kind == Kind::EndTag)
+            return std::exchange(isInFormat, false) && token.name != "span"_L1;
+        return token.kind == Kind::StartTag || token.kind == Kind::EndTag || token.kind == Kind::RawElement;
     });
 }
 
@@ -274,7 +285,8 @@ void TemplateDocument::insertSource(QTextCursor &cursor, const QString &source)
     const TemplatePart part = editor::partOf(source);
     const QTextCharFormat around = editor::withoutChip(cursor.charFormat());
     cursor.beginEditBlock();
-    if (part.kind == PartKind::Markup) {
+    const bool isChip = part.kind != PartKind::Markup || instructions::readInstruction(source);
+    if (!isChip) {
         QTextDocument parsed;
         read(parsed, source);
         cursor.insertFragment(QTextDocumentFragment(&parsed));

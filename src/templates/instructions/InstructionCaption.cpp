@@ -1,0 +1,109 @@
+#include "templates/instructions/InstructionCaption.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm::instructions {
+
+namespace {
+
+template <typename Value>
+struct NameRow
+{
+    Value value;
+    const char *text;
+};
+
+constexpr std::array kTestNames{
+    NameRow{Test::Present, QT_TRANSLATE_NOOP("ozm::instructions", "has a value")},
+    NameRow{Test::Absent, QT_TRANSLATE_NOOP("ozm::instructions", "has no value")},
+    NameRow{Test::Equals, QT_TRANSLATE_NOOP("ozm::instructions", "is equal to")},
+    NameRow{Test::Differs, QT_TRANSLATE_NOOP("ozm::instructions", "is not equal to")},
+    NameRow{Test::Above, QT_TRANSLATE_NOOP("ozm::instructions", "is above")},
+    NameRow{Test::Below, QT_TRANSLATE_NOOP("ozm::instructions", "is below")},
+};
+
+constexpr std::array kTotalNames{
+    NameRow{Total::None, QT_TRANSLATE_NOOP("ozm::instructions", "none")},
+    NameRow{Total::Sum, QT_TRANSLATE_NOOP("ozm::instructions", "sum")},
+    NameRow{Total::Mean, QT_TRANSLATE_NOOP("ozm::instructions", "mean")},
+    NameRow{Total::Smallest, QT_TRANSLATE_NOOP("ozm::instructions", "smallest")},
+    NameRow{Total::Largest, QT_TRANSLATE_NOOP("ozm::instructions", "largest")},
+    NameRow{Total::Count, QT_TRANSLATE_NOOP("ozm::instructions", "count")},
+};
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ozm::instructions", text);
+}
+
+template <typename Value, std::size_t Count>
+QString nameIn(const std::array<NameRow<Value>, Count> &rows, Value value)
+{
+    return tr(std::ranges::find(rows, value, &NameRow<Value>::value)->text);
+}
+
+QString numberPattern(const CodeFormat &format)
+{
+    QString pattern = format.thousands.isEmpty() ? u"0"_s : u'0' + format.thousands + "000"_L1;
+    if (format.digits != 0)
+        pattern += format.decimal + (format.digits < 0 ? u"…"_s : QString(format.digits, u'0'));
+    return format.unit.isEmpty() ? pattern : pattern + u' ' + format.unit;
+}
+
+struct Captioner
+{
+    QString operator()(const Repeat &repeat) const
+    {
+        QString text = repeat.of.isEmpty() ? tr("For each row") : tr("For each of %1").arg(repeat.of);
+        if (!repeat.sort.isEmpty())
+            text += tr(", by %1").arg(repeat.sort);
+        return repeat.extent == Extent::Row ? text : text + u'…';
+    }
+    QString operator()(const Condition &condition) const
+    {
+        const QString text =
+            tr("If %1 %2 %3").arg(condition.code, testName(condition.test), condition.value).trimmed();
+        return condition.extent == Extent::Row ? text : text + u'…';
+    }
+    QString operator()(const End & /*end*/) const { return tr("End"); }
+    QString operator()(const CodeFormat &format) const
+    {
+        if (format.total != Total::None)
+            return tr("%1 of %2").arg(totalName(format.total), format.code);
+        switch (format.kind) {
+        case FormatKind::Number:
+            return format.code + u' ' + numberPattern(format);
+        case FormatKind::Date:
+            return format.code + u' ' + format.pattern;
+        case FormatKind::Image:
+            return tr("Image %1").arg(format.code);
+        case FormatKind::Text:
+            break;
+        }
+        return tr("%1 as text").arg(format.code);
+    }
+};
+
+} // namespace
+
+QString captionOf(const Instruction &instruction)
+{
+    return std::visit(Captioner(), instruction);
+}
+
+QString testName(Test test)
+{
+    return nameIn(kTestNames, test);
+}
+
+QString totalName(Total total)
+{
+    return nameIn(kTotalNames, total);
+}
+
+} // namespace ozm::instructions
