@@ -37,6 +37,12 @@ QList<DecodeTecExtraData> AbstractTemplateEditor::extraData(const RowNode *row) 
     return {};
 }
 
+QMap<QString, QList<RowNode *>> AbstractTemplateEditor::rowLists(const RowNode *row) const
+{
+    Q_UNUSED(row);
+    return {};
+}
+
 QString AbstractTemplateEditor::storageDirectory() const
 {
     return {};

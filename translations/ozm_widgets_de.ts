@@ -512,6 +512,45 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::editor::ConditionDialog</name>
+    <message>
+        <source>Condition</source>
+        <translation>Bedingung</translation>
+    </message>
+    <message>
+        <source>Show:</source>
+        <translation>Zeigen:</translation>
+    </message>
+    <message>
+        <source>&amp;If the code:</source>
+        <translation>&amp;Wenn der Platzhalter:</translation>
+    </message>
+    <message>
+        <source>&amp;Test:</source>
+        <translation>&amp;Prüfung:</translation>
+    </message>
+    <message>
+        <source>&amp;Value:</source>
+        <translation>Wer&amp;t:</translation>
+    </message>
+    <message>
+        <source>Preview:</source>
+        <translation>Vorschau:</translation>
+    </message>
+    <message>
+        <source>No value in the preview</source>
+        <translation>Kein Wert in der Vorschau</translation>
+    </message>
+    <message>
+        <source>Shown</source>
+        <translation>Wird gezeigt</translation>
+    </message>
+    <message>
+        <source>Not shown</source>
+        <translation>Wird nicht gezeigt</translation>
+    </message>
+</context>
+<context>
     <name>ozm::editor::EditorActions</name>
     <message>
         <source>&amp;File</source>
@@ -624,10 +663,6 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     <message>
         <source>&amp;Script…</source>
         <translation>&amp;Skript…</translation>
-    </message>
-    <message>
-        <source>&amp;Edit the script at the cursor</source>
-        <translation>Skript an der Schreibmarke &amp;bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Image…</source>
@@ -788,6 +823,22 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     <message>
         <source>Format</source>
         <translation>Format</translation>
+    </message>
+    <message>
+        <source>&amp;Edit what is at the cursor</source>
+        <translation>Am Cursor b&amp;earbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat for each row…</source>
+        <translation>Für jede Zeile &amp;wiederholen…</translation>
+    </message>
+    <message>
+        <source>Co&amp;ndition…</source>
+        <translation>Bedin&amp;gung…</translation>
+    </message>
+    <message>
+        <source>&amp;Format of a code…</source>
+        <translation>&amp;Format eines Platzhalters…</translation>
     </message>
 </context>
 <context>
@@ -1072,6 +1123,172 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     </message>
 </context>
 <context>
+    <name>ozm::editor::FormatDialog</name>
+    <message>
+        <source>Format of a code</source>
+        <translation>Format eines Platzhalters</translation>
+    </message>
+    <message>
+        <source>&amp;Code:</source>
+        <translation>&amp;Platzhalter:</translation>
+    </message>
+    <message>
+        <source>&amp;Show as:</source>
+        <translation>&amp;Zeigen als:</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Preview:</source>
+        <translation>Vorschau:</translation>
+    </message>
+    <message>
+        <source>&amp;Letters:</source>
+        <translation>Bu&amp;chstaben:</translation>
+    </message>
+    <message>
+        <source>As they are</source>
+        <translation>Wie sie sind</translation>
+    </message>
+    <message>
+        <source>UPPER CASE</source>
+        <translation>GROSS</translation>
+    </message>
+    <message>
+        <source>lower case</source>
+        <translation>klein</translation>
+    </message>
+    <message>
+        <source>&amp;Digits after the point:</source>
+        <translation>Nachkomma&amp;stellen:</translation>
+    </message>
+    <message>
+        <source>As many as there are</source>
+        <translation>So viele wie vorhanden</translation>
+    </message>
+    <message>
+        <source>T&amp;housands:</source>
+        <translation>&amp;Tausender:</translation>
+    </message>
+    <message>
+        <source>Together</source>
+        <translation>Ohne Trennung</translation>
+    </message>
+    <message>
+        <source>Thin space</source>
+        <translation>Schmales Leerzeichen</translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation>Komma</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Apostrophe</source>
+        <translation>Apostroph</translation>
+    </message>
+    <message>
+        <source>Dec&amp;imal sign:</source>
+        <translation>&amp;Dezimalzeichen:</translation>
+    </message>
+    <message>
+        <source>&amp;Multiplied by:</source>
+        <translation>&amp;Mal:</translation>
+    </message>
+    <message>
+        <source>&amp;Unit:</source>
+        <translation>&amp;Einheit:</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>&amp;Total:</source>
+        <translation>&amp;Gesamtwert:</translation>
+    </message>
+    <message>
+        <source>&amp;Over:</source>
+        <translation>&amp;Über:</translation>
+    </message>
+    <message>
+        <source>&amp;Pattern:</source>
+        <translation>&amp;Muster:</translation>
+    </message>
+    <message>
+        <source>&amp;Width in pixels:</source>
+        <translation>&amp;Breite in Pixeln:</translation>
+    </message>
+    <message>
+        <source>That of the image</source>
+        <translation>Die des Bilds</translation>
+    </message>
+    <message>
+        <source>&amp;Alternative text:</source>
+        <translation>&amp;Ersatztext:</translation>
+    </message>
+    <message>
+        <source>Ma&amp;rkup in it:</source>
+        <translation>&amp;HTML darin:</translation>
+    </message>
+    <message>
+        <source>Shown to the letter</source>
+        <translation>Wörtlich zeigen</translation>
+    </message>
+    <message>
+        <source>Taken as HTML</source>
+        <translation>Als HTML übernehmen</translation>
+    </message>
+    <message>
+        <source>Without a &amp;value:</source>
+        <translation>Ohne &amp;Wert:</translation>
+    </message>
+    <message>
+        <source>Reported as missing</source>
+        <translation>Als fehlend melden</translation>
+    </message>
+    <message>
+        <source>No value in the preview</source>
+        <translation>Kein Wert in der Vorschau</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::InstructionDialog</name>
+    <message>
+        <source>The table &amp;row or list item at the cursor</source>
+        <translation>Die &amp;Tabellenzeile oder der Listenpunkt am Cursor</translation>
+    </message>
+    <message>
+        <source>The selected &amp;lines</source>
+        <translation>Die ausgewählten &amp;Absätze</translation>
+    </message>
+    <message>
+        <source>The rows of the report</source>
+        <translation>Die Zeilen des Berichts</translation>
+    </message>
+    <message>
+        <source>With the data of the preview</source>
+        <translation>Mit den Daten der Vorschau</translation>
+    </message>
+</context>
+<context>
     <name>ozm::editor::PreviewPane</name>
     <message>
         <source>Data of the preview</source>
@@ -1135,6 +1352,41 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     </message>
 </context>
 <context>
+    <name>ozm::editor::RepeatDialog</name>
+    <message>
+        <source>Repeat for each row</source>
+        <translation>Für jede Zeile wiederholen</translation>
+    </message>
+    <message>
+        <source>Repeat:</source>
+        <translation>Wiederholen:</translation>
+    </message>
+    <message>
+        <source>&amp;For each of:</source>
+        <translation>&amp;Für jede von:</translation>
+    </message>
+    <message>
+        <source>&amp;Sorted by:</source>
+        <translation>&amp;Sortiert nach:</translation>
+    </message>
+    <message>
+        <source>As they come</source>
+        <translation>In ihrer Reihenfolge</translation>
+    </message>
+    <message>
+        <source>The &amp;highest first</source>
+        <translation>Die &amp;höchsten zuerst</translation>
+    </message>
+    <message>
+        <source>&amp;Without any:</source>
+        <translation>&amp;Ohne Zeilen:</translation>
+    </message>
+    <message>
+        <source>Nothing is shown</source>
+        <translation>Nichts wird gezeigt</translation>
+    </message>
+</context>
+<context>
     <name>ozm::editor::RichTextView</name>
     <message>
         <source>Double-click to edit this script.</source>
@@ -1143,6 +1395,10 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     <message>
         <source>Kept as it is; change it in the source.</source>
         <translation>Bleibt, wie es ist; im Quelltext zu ändern.</translation>
+    </message>
+    <message>
+        <source>Double-click to change it.</source>
+        <translation>Zum Ändern doppelklicken.</translation>
     </message>
 </context>
 <context>
@@ -1252,6 +1508,157 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     <message>
         <source>Colour behind the text</source>
         <translation>Farbe hinter dem Text</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::instructions</name>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
+        <translation>„%1“ ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>has a value</source>
+        <translation>hat einen Wert</translation>
+    </message>
+    <message>
+        <source>has no value</source>
+        <translation>hat keinen Wert</translation>
+    </message>
+    <message>
+        <source>is equal to</source>
+        <translation>ist gleich</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>ist nicht gleich</translation>
+    </message>
+    <message>
+        <source>is above</source>
+        <translation>ist größer als</translation>
+    </message>
+    <message>
+        <source>is below</source>
+        <translation>ist kleiner als</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keiner</translation>
+    </message>
+    <message>
+        <source>sum</source>
+        <translation>Summe</translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation>Mittelwert</translation>
+    </message>
+    <message>
+        <source>smallest</source>
+        <translation>kleinster Wert</translation>
+    </message>
+    <message>
+        <source>largest</source>
+        <translation>größter Wert</translation>
+    </message>
+    <message>
+        <source>count</source>
+        <translation>Anzahl</translation>
+    </message>
+    <message>
+        <source>The comment does not end.</source>
+        <translation>Der Kommentar endet nicht.</translation>
+    </message>
+    <message>
+        <source>There is no instruction &quot;%1&quot;.</source>
+        <translation>Es gibt keine Anweisung „%1“.</translation>
+    </message>
+    <message>
+        <source>A format is for one code.</source>
+        <translation>Ein Format gilt für einen Platzhalter.</translation>
+    </message>
+    <message>
+        <source>For each row</source>
+        <translation>Für jede Zeile</translation>
+    </message>
+    <message>
+        <source>For each of %1</source>
+        <translation>Für jede von %1</translation>
+    </message>
+    <message>
+        <source>, by %1</source>
+        <translation>, nach %1</translation>
+    </message>
+    <message>
+        <source>If %1 %2 %3</source>
+        <translation>Wenn %1 %2 %3</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Image %1</source>
+        <translation>Bild %1</translation>
+    </message>
+    <message>
+        <source>%1 as text</source>
+        <translation>%1 als Text</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an attribute.</source>
+        <translation>„%1“ ist kein Attribut.</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; is missing.</source>
+        <translation>Das Attribut „%1“ fehlt.</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; is not known here.</source>
+        <translation>Das Attribut „%1“ ist hier nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; cannot be &quot;%2&quot;.</source>
+        <translation>Das Attribut „%1“ kann nicht „%2“ sein.</translation>
+    </message>
+    <message>
+        <source>The section has no end.</source>
+        <translation>Der Abschnitt hat kein Ende.</translation>
+    </message>
+    <message>
+        <source>There is no section that ends here.</source>
+        <translation>Es gibt keinen Abschnitt, der hier endet.</translation>
+    </message>
+    <message>
+        <source>The section ends in another element than it begins in.</source>
+        <translation>Der Abschnitt endet in einem anderen Element, als er beginnt.</translation>
+    </message>
+    <message>
+        <source>There is no table row and no list item around this.</source>
+        <translation>Darum steht keine Tabellenzeile und kein Listenpunkt.</translation>
+    </message>
+    <message>
+        <source>This row repeats already.</source>
+        <translation>Diese Zeile wird schon wiederholt.</translation>
+    </message>
+    <message>
+        <source>The section crosses another one.</source>
+        <translation>Der Abschnitt überschneidet einen anderen.</translation>
+    </message>
+    <message>
+        <source>There are too many sections within one another.</source>
+        <translation>Es sind zu viele Abschnitte ineinander.</translation>
+    </message>
+    <message>
+        <source>There is no list of rows &quot;%1&quot;.</source>
+        <translation>Es gibt keine Zeilenliste „%1“.</translation>
+    </message>
+    <message>
+        <source>The part becomes too long.</source>
+        <translation>Der Teil wird zu lang.</translation>
     </message>
 </context>
 <context>

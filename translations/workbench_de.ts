@@ -220,6 +220,10 @@
         <source>%1 came in with a value.</source>
         <translation>%1 kam mit einem Wert hinein.</translation>
     </message>
+    <message>
+        <source>%1 cannot be followed. %2</source>
+        <translation>%1 kann nicht befolgt werden. %2</translation>
+    </message>
 </context>
 <context>
     <name>workbench::AddSampleDialog</name>

@@ -7,6 +7,7 @@
 
 #include <QList>
 #include <QMainWindow>
+#include <QMap>
 #include <QMetaObject>
 #include <QString>
 
@@ -72,6 +73,9 @@ public:
     [[nodiscard]] virtual QString previewName(const RowNode &row) const;
     /// The objects that fill codes which @p row does not know; a null row stands for all rows as a group, or for none.
     [[nodiscard]] virtual QList<DecodeTecExtraData> extraData(const RowNode *row) const;
+    /// Further rows that the template's parts can repeat for in a report on @p row, by name; see ozm::fillTemplate().
+    /// They must live until the next call.
+    [[nodiscard]] virtual QMap<QString, QList<RowNode *>> rowLists(const RowNode *row) const;
     /// The folder in which questions for template files begin; empty leaves that to the accessor.
     [[nodiscard]] virtual QString storageDirectory() const;
 

@@ -5,6 +5,7 @@
 #include "editor/CodePanel.h"
 #include "editor/EditorFiles.h"
 #include "editor/EditorHistory.h"
+#include "editor/EditorInstructions.h"
 #include "editor/EditorQuestions.h"
 #include "editor/EditorScripts.h"
 #include "editor/EditorViews.h"
@@ -94,6 +95,12 @@ void pastePlain(const Parts &parts)
         parts.views.current().insertPlain(data->text());
 }
 
+void editAtCursor(const Parts &parts)
+{
+    if (!parts.instructions.editAtCursor())
+        parts.scripts.editAtCursor();
+}
+
 // Keys that the platform has a say in are in kPlatformKeys.
 constexpr std::array kActions{
     ActionRow{"newAction", Menu::File, "document-new",
@@ -165,8 +172,17 @@ constexpr std::array kActions{
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Script…"), "Ctrl+Shift+J",
               [](const Parts &p, bool) { p.scripts.startNew(); }, Edits | OnBar},
     ActionRow{"editScriptAction", Menu::Insert, "edit-rename",
-              QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Edit the script at the cursor"), "Ctrl+E",
-              [](const Parts &p, bool) { p.scripts.editAtCursor(); }, OnView | Starts},
+              QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Edit what is at the cursor"), "Ctrl+E",
+              [](const Parts &p, bool) { editAtCursor(p); }, OnView | Starts},
+    ActionRow{"repeatAction", Menu::Insert, "view-list",
+              QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Repeat for each row…"), "Ctrl+Shift+R",
+              [](const Parts &p, bool) { p.instructions.askRepeat(); }, Edits | OnBar | OnView | Starts},
+    ActionRow{"conditionAction", Menu::Insert, "view-filter",
+              QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Co&ndition…"), "Ctrl+Shift+K",
+              [](const Parts &p, bool) { p.instructions.askCondition(); }, Edits | OnBar | OnView},
+    ActionRow{"codeFormatAction", Menu::Insert, "settings",
+              QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Format of a code…"), "Ctrl+Shift+M",
+              [](const Parts &p, bool) { p.instructions.askFormat(); }, Edits | OnBar | OnView},
     ActionRow{"insertImageAction", Menu::Insert, "insert-image",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Image…"), "Ctrl+Shift+I",
               [](const Parts &p, bool) { p.questions.askImage(); }, Edits | OnBar | Starts},

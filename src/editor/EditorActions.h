@@ -18,6 +18,7 @@ class CodeModel;
 class CodePanel;
 class EditorFiles;
 class EditorHistory;
+class EditorInstructions;
 class EditorQuestions;
 class EditorScripts;
 class EditorViews;
@@ -34,6 +35,7 @@ struct EditorParts
     EditorHistory &history;
     EditorViews &views;
     EditorScripts &scripts;
+    EditorInstructions &instructions;
     EditorQuestions &questions;
     TemplatePrinting &printing;
     TextFormatting &format;

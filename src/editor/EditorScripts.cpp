@@ -32,7 +32,7 @@ void EditorScripts::editAtCursor()
     }
     m_place = place;
     m_dock->show();
-    m_pane->edit(m_views.current().scriptSource(place), false);
+    m_pane->edit(m_views.current().partSource(place), false);
 }
 
 void EditorScripts::run()
@@ -52,7 +52,7 @@ void EditorScripts::apply(const QString &script)
         end.setPosition(m_place.selectionEnd());
         const int before = m_place.selectionStart();
         const int after = int(m_place.document()->characterCount()) - end.position();
-        view.setScriptSource(m_place, script);
+        view.setPartSource(m_place, script);
         m_place.setPosition(before);
         m_place.setPosition(int(m_place.document()->characterCount()) - after, QTextCursor::KeepAnchor);
     } else {

@@ -2,7 +2,16 @@
 
 #include "editor/CodeEdit.h"
 #include "editor/RichTextView.h"
+#include "templates/document/TemplateChip.h"
+#include "templates/instructions/InstructionSyntax.h"
+#include "templates/syntax/Codes.h"
+#include "templates/syntax/HtmlScanner.h"
 #include "templates/syntax/ScriptTags.h"
+
+#include <QRegularExpression>
+#include <QTextBlock>
+
+using namespace Qt::StringLiterals;
 
 namespace ozm::editor {
 
@@ -20,6 +29,26 @@ QTextCursor selection(QTextCursor cursor, qsizetype from, qsizetype to)
     cursor.setPosition(int(from));
     cursor.setPosition(int(to), QTextCursor::KeepAnchor);
     return cursor;
+}
+
+/// The instruction or code of @p source around @p position; an empty range when there is none.
+syntax::ScriptRange codeAround(const QString &source, qsizetype position)
+{
+    const QList<HtmlToken> tokens = scanHtml(source);
+    for (const HtmlElement &element : treeOf(tokens).elements)
+        if (element.name == "span"_L1 && element.start <= position && position <= element.end &&
+            instructions::readInstruction(source.sliced(element.start, element.end - element.start)))
+            return {element.start, element.end};
+    for (const HtmlToken &token : tokens)
+        if (token.kind == HtmlTokenKind::Opaque && token.start <= position && position <= token.end &&
+            instructions::readInstruction(source.sliced(token.start, token.end - token.start)))
+            return {token.start, token.end};
+    for (auto codes = syntax::codePattern().globalMatch(source); codes.hasNext();) {
+        const QRegularExpressionMatch code = codes.next();
+        if (code.capturedStart() <= position && position <= code.capturedEnd())
+            return {code.capturedStart(), code.capturedEnd()};
+    }
+    return {};
 }
 
 } // namespace
@@ -104,11 +133,31 @@ QTextCursor FormattedView::scriptAtCursor() const
 {
     const int start = cursor().selectionStart();
     for (const int position : {start, start - 1}) {
-        const QTextCursor script = position < 0 ? QTextCursor() : selection(cursor(), position, position + 1);
-        if (isScript(script))
-            return script;
+        if (m_view->templateDocument()->chipAt(position).kind == TemplateDocument::ChipKind::Script)
+            return selection(cursor(), position, position + 1);
     }
     return {};
+}
+
+QTextCursor FormattedView::codeAtCursor() const
+{
+    const int start = cursor().selectionStart();
+    for (const int position : {start, start - 1}) {
+        const TemplateDocument::Chip chip = m_view->templateDocument()->chipAt(position);
+        if (chip.kind == TemplateDocument::ChipKind::Code || instructions::readInstruction(chip.source))
+            return selection(cursor(), position, position + 1);
+    }
+    return {};
+}
+
+void FormattedView::enclose(const QString &begin, const QString &end)
+{
+    m_view->enclose(begin, end);
+}
+
+bool FormattedView::isInRow() const
+{
+    return cursor().currentTable() || cursor().currentList();
 }
 
 bool FormattedView::isScript(const QTextCursor &selection) const
@@ -118,14 +167,14 @@ bool FormattedView::isScript(const QTextCursor &selection) const
                TemplateDocument::ChipKind::Script;
 }
 
-QString FormattedView::scriptSource(const QTextCursor &script) const
+QString FormattedView::partSource(const QTextCursor &part) const
 {
-    return m_view->templateDocument()->chipAt(script.selectionStart()).source;
+    return m_view->templateDocument()->chipAt(part.selectionStart()).source;
 }
 
-void FormattedView::setScriptSource(const QTextCursor &script, const QString &source)
+void FormattedView::setPartSource(const QTextCursor &part, const QString &source)
 {
-    m_view->templateDocument()->setChipSource(script.selectionStart(), source);
+    m_view->templateDocument()->setChipSource(part.selectionStart(), source);
 }
 
 QTextCursor FormattedView::insertedBeforeCursor(const QString & /*source*/) const
@@ -206,20 +255,48 @@ QTextCursor SourceView::scriptAtCursor() const
     return script ? selection(cursor(), script->start, script->end) : QTextCursor();
 }
 
+QTextCursor SourceView::codeAtCursor() const
+{
+    const syntax::ScriptRange code = codeAround(m_view->toPlainText(), cursor().position());
+    return code.end > code.start ? selection(cursor(), code.start, code.end) : QTextCursor();
+}
+
+void SourceView::enclose(const QString &begin, const QString &end)
+{
+    QTextCursor lines = cursor();
+    const QTextBlock first = lines.document()->findBlock(lines.selectionStart());
+    const QTextBlock last = lines.document()->findBlock(lines.selectionEnd());
+    const bool isWhole = first != last || !lines.hasSelection();
+    const QString lineEnd = isWhole ? QString(u'\n') : QString();
+    const int start = isWhole ? first.position() : lines.selectionStart();
+    const int stop = isWhole ? last.position() + last.length() - 1 : lines.selectionEnd();
+    lines.beginEditBlock();
+    lines.setPosition(stop);
+    lines.insertText(lineEnd + end);
+    lines.setPosition(start);
+    lines.insertText(begin + lineEnd);
+    lines.endEditBlock();
+}
+
+bool SourceView::isInRow() const
+{
+    return true;
+}
+
 bool SourceView::isScript(const QTextCursor &selection) const
 {
     return !selection.isNull() && selection.document() == m_view->document() &&
            syntax::isScript(selection.selectedText());
 }
 
-QString SourceView::scriptSource(const QTextCursor &script) const
+QString SourceView::partSource(const QTextCursor &part) const
 {
-    return script.selectedText().replace(QChar::ParagraphSeparator, u'\n');
+    return part.selectedText().replace(QChar::ParagraphSeparator, u'\n');
 }
 
-void SourceView::setScriptSource(const QTextCursor &script, const QString &source)
+void SourceView::setPartSource(const QTextCursor &part, const QString &source)
 {
-    QTextCursor(script).insertText(source);
+    QTextCursor(part).insertText(source);
 }
 
 QTextCursor SourceView::insertedBeforeCursor(const QString &source) const

@@ -42,9 +42,15 @@ public:
     /// The script at the cursor as a selection; null when there is none.
     [[nodiscard]] virtual QTextCursor scriptAtCursor() const = 0;
     [[nodiscard]] virtual bool isScript(const QTextCursor &selection) const = 0;
-    /// The source of a script that scriptAtCursor() gave, with its tags.
-    [[nodiscard]] virtual QString scriptSource(const QTextCursor &script) const = 0;
-    virtual void setScriptSource(const QTextCursor &script, const QString &source) = 0;
+    /// The code or instruction at the cursor as a selection; null when there is none.
+    [[nodiscard]] virtual QTextCursor codeAtCursor() const = 0;
+    /// The source of what scriptAtCursor() or codeAtCursor() gave, with its tags or brackets.
+    [[nodiscard]] virtual QString partSource(const QTextCursor &part) const = 0;
+    virtual void setPartSource(const QTextCursor &part, const QString &source) = 0;
+    /// Puts @p begin and @p end around the selected lines.
+    virtual void enclose(const QString &begin, const QString &end) = 0;
+    /// True when the cursor may stand in a table row or list item.
+    [[nodiscard]] virtual bool isInRow() const = 0;
     /// The @p source that was just inserted before the cursor, as a selection.
     [[nodiscard]] virtual QTextCursor insertedBeforeCursor(const QString &source) const = 0;
 };
@@ -71,8 +77,11 @@ public:
     bool linkSelection(const QString &href) override;
     [[nodiscard]] QTextCursor scriptAtCursor() const override;
     [[nodiscard]] bool isScript(const QTextCursor &selection) const override;
-    [[nodiscard]] QString scriptSource(const QTextCursor &script) const override;
-    void setScriptSource(const QTextCursor &script, const QString &source) override;
+    [[nodiscard]] QTextCursor codeAtCursor() const override;
+    [[nodiscard]] QString partSource(const QTextCursor &part) const override;
+    void setPartSource(const QTextCursor &part, const QString &source) override;
+    void enclose(const QString &begin, const QString &end) override;
+    [[nodiscard]] bool isInRow() const override;
     [[nodiscard]] QTextCursor insertedBeforeCursor(const QString &source) const override;
 
 private:
@@ -101,8 +110,11 @@ public:
     bool linkSelection(const QString &href) override;
     [[nodiscard]] QTextCursor scriptAtCursor() const override;
     [[nodiscard]] bool isScript(const QTextCursor &selection) const override;
-    [[nodiscard]] QString scriptSource(const QTextCursor &script) const override;
-    void setScriptSource(const QTextCursor &script, const QString &source) override;
+    [[nodiscard]] QTextCursor codeAtCursor() const override;
+    [[nodiscard]] QString partSource(const QTextCursor &part) const override;
+    void setPartSource(const QTextCursor &part, const QString &source) override;
+    void enclose(const QString &begin, const QString &end) override;
+    [[nodiscard]] bool isInRow() const override;
     [[nodiscard]] QTextCursor insertedBeforeCursor(const QString &source) const override;
 
 private:

@@ -175,6 +175,8 @@ void PreviewPane::listTroubles(const TemplateReport &report)
                                  : tr("%1 came in with the value of %2.").arg(code.code, code.by);
         addTrouble(u"dialog-warning"_s, text, code.position, code.by);
     }
+    for (const FaultyInstruction &instruction : report.faulty)
+        addTrouble(u"dialog-error"_s, instruction.message, instruction.position, instruction.instruction);
     const int count = m_troubles->count();
     m_count->setText(count == 0   ? tr("Everything was filled.")
                      : count == 1 ? tr("1 place could not be filled:")

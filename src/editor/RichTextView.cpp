@@ -5,7 +5,9 @@
 #include "editor/EditorKeys.h"
 #include "editor/ForeignPage.h"
 #include "templates/document/InlineHtml.h"
+#include "templates/document/TemplateChip.h"
 #include "templates/document/TemplateParts.h"
+#include "templates/instructions/InstructionCaption.h"
 #include "templates/syntax/Codes.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -15,6 +17,8 @@
 #include <QMimeData>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTextList>
+#include <QTextTable>
 #include <QToolTip>
 
 using namespace Qt::StringLiterals;
@@ -106,9 +110,9 @@ TemplateDocument *RichTextView::templateDocument() const
 bool RichTextView::mayRemove(const QTextCursor &selection)
 {
     for (int at = selection.selectionStart(); at < selection.selectionEnd(); ++at) {
-        const TemplateDocument::Chip chip = templateDocument()->chipAt(at);
-        if (chip.kind == ChipKind::Code && !m_codes->mayRemove(chip.source)) {
-            Q_EMIT removalRefused(chip.source);
+        const QString code = codeOf(templateDocument()->chipAt(at));
+        if (!code.isEmpty() && !m_codes->mayRemove(code)) {
+            Q_EMIT removalRefused(code);
             return false;
         }
     }
@@ -152,6 +156,58 @@ void RichTextView::cutSelection()
 {
     if (!isReadOnly() && mayRemove(textCursor()))
         cut();
+}
+
+void RichTextView::insertLine(const QTextBlock &block, bool isBehind, const QString &source)
+{
+    QTextCursor cursor(block);
+    if (isBehind)
+        cursor.movePosition(QTextCursor::EndOfBlock);
+    const bool isFree = block.length() <= 1 && !block.textList();
+    if (!isFree) {
+        cursor.insertBlock(block.blockFormat(), block.charFormat());
+        if (!isBehind)
+            cursor.movePosition(QTextCursor::PreviousBlock);
+        if (QTextList *list = cursor.block().textList())
+            list->remove(cursor.block());
+        cursor.setBlockFormat(QTextBlockFormat());
+        cursor.setBlockCharFormat(QTextCharFormat());
+        cursor.setCharFormat(QTextCharFormat());
+    }
+    templateDocument()->insertSource(cursor, source);
+}
+
+void RichTextView::enclose(const QString &begin, const QString &end)
+{
+    if (isReadOnly())
+        return;
+    QTextCursor cursor = textCursor();
+    int first = cursor.selectionStart();
+    int last = cursor.selectionEnd();
+    bool isTableFirst = false;
+    bool isTableLast = false;
+    for (;;) {
+        QTextCursor at(document());
+        at.setPosition(first);
+        const QTextTable *firstTable = at.currentTable();
+        at.setPosition(last);
+        const QTextTable *lastTable = at.currentTable();
+        if (firstTable == lastTable && (!firstTable || firstTable->cellAt(first) == firstTable->cellAt(last)))
+            break;
+        if (firstTable && (firstTable == lastTable || last > firstTable->lastPosition())) {
+            first = firstTable->firstPosition() - 1;
+            isTableFirst = true;
+        }
+        if (lastTable && first < lastTable->firstPosition()) {
+            last = lastTable->lastPosition() + 1;
+            isTableLast = true;
+        }
+    }
+    cursor.beginEditBlock();
+    // From the end on, so that the place before stays true.
+    insertLine(document()->findBlock(last), !isTableLast, end);
+    insertLine(document()->findBlock(first), isTableFirst, begin);
+    cursor.endEditBlock();
 }
 
 void RichTextView::mergeFormat(const QTextCharFormat &format)
@@ -274,6 +330,10 @@ QString RichTextView::toolTipOf(const TemplateDocument::Chip &chip) const
         return {};
     if (chip.kind == ChipKind::Code)
         return m_codes->toolTip(chip.source);
+    if (const auto instruction = instructions::readInstruction(chip.source)) {
+        return u"<p><b>"_s + escaped(instructions::captionOf(*instruction)) + u"</b></p><pre>"_s +
+               escaped(chip.source) + u"</pre><p>"_s + tr("Double-click to change it.") + u"</p>"_s;
+    }
     const QString hint = chip.kind == ChipKind::Script ? tr("Double-click to edit this script.")
                                                        : tr("Kept as it is; change it in the source.");
     return u"<pre>"_s + escaped(chip.source.left(kLongestToolTip)) + u"</pre><p>"_s + hint + u"</p>"_s;
@@ -282,7 +342,9 @@ QString RichTextView::toolTipOf(const TemplateDocument::Chip &chip) const
 void RichTextView::mouseDoubleClickEvent(QMouseEvent *event)
 {
     const int position = chipAtPoint(event->position().toPoint());
-    if (templateDocument()->chipAt(position).kind != ChipKind::Script) {
+    const TemplateDocument::Chip chip = templateDocument()->chipAt(position);
+    const bool isInstruction = instructions::readInstruction(chip.source).has_value();
+    if (chip.kind != ChipKind::Script && !isInstruction) {
         QTextEdit::mouseDoubleClickEvent(event);
         return;
     }
@@ -290,7 +352,10 @@ void RichTextView::mouseDoubleClickEvent(QMouseEvent *event)
     cursor.setPosition(position);
     cursor.setPosition(position + 1, QTextCursor::KeepAnchor);
     setTextCursor(cursor);
-    Q_EMIT scriptActivated(position);
+    if (isInstruction)
+        Q_EMIT instructionActivated();
+    else
+        Q_EMIT scriptActivated(position);
 }
 
 void RichTextView::dropEvent(QDropEvent *event)

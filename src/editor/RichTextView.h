@@ -39,10 +39,15 @@ public:
     [[nodiscard]] bool mayRemove(const QTextCursor &selection);
 
     /// Merges, as chips would not outlive a format that is set.
+    /// Puts @p begin and @p end into lines of their own around the selected ones, or around the tables that the
+    /// selection begins or ends in.
+    void enclose(const QString &begin, const QString &end);
     void mergeFormat(const QTextCharFormat &format);
 
 Q_SIGNALS:
     void scriptActivated(int position);
+    /// The cursor has it selected.
+    void instructionActivated();
     void removalRefused(const QString &code);
 
 protected:
@@ -61,6 +66,7 @@ private:
     [[nodiscard]] QTextCursor removedBy(const QKeyEvent &event) const;
     void closeCode();
     void replace(QTextCursor cursor, const QString &code);
+    void insertLine(const QTextBlock &block, bool isBehind, const QString &source);
 
     CodeModel *m_codes;
     CodeCompleter *m_completer;

@@ -11,6 +11,7 @@
 #include "support/Platform.h"
 #include <ozm_common_core_mini/RowNode.h>
 #include <ozm_widgets/OZMDockWidgetTitleBar.h>
+#include <ozm_widgets/TemplateFilling.h>
 
 #include <QApplication>
 #include <QDockWidget>
@@ -72,11 +73,17 @@ AbstractTemplateEditor::Private::Private(AbstractTemplateEditor *editor)
     buildCenter();
     buildDocks();
     m_scripts = std::make_unique<EditorScripts>(m_views, m_scriptPane, m_scriptDock);
+    m_instructions = std::make_unique<EditorInstructions>(
+        m_views, *m_codes,
+        EditorInstructions::Data{[this](const QString &content) { return decode(content); },
+                                 [this] { return qptr->rowLists(previewRow()); }},
+        qptr);
     m_actions = std::make_unique<EditorActions>(EditorParts{*qptr,
                                                             m_files,
                                                             *m_history,
                                                             m_views,
                                                             *m_scripts,
+                                                            *m_instructions,
                                                             m_questions,
                                                             m_printing,
                                                             *m_format,
@@ -163,6 +170,8 @@ void AbstractTemplateEditor::Private::connectParts()
     connect(rich, &QTextEdit::cursorPositionChanged, this, &Private::updateState);
     connect(rich, &QTextEdit::currentCharFormatChanged, this, &Private::updateState);
     connect(rich, &RichTextView::scriptActivated, m_scripts.get(), &EditorScripts::editAtCursor);
+    connect(rich, &RichTextView::instructionActivated, m_instructions.get(),
+            &EditorInstructions::editAtCursor);
     connect(rich, &RichTextView::removalRefused, this,
             [this](const QString &code) { tell(tr("%1 may not be removed from this template.").arg(code)); });
     connect(m_codePanel, &CodePanel::chosen, this, &Private::insertCode);
@@ -256,15 +265,21 @@ bool AbstractTemplateEditor::Private::showFirstTime()
     return true;
 }
 
+const RowNode *AbstractTemplateEditor::Private::previewRow() const
+{
+    return rows().value(m_preview->row());
+}
+
 ozm::TemplateReport AbstractTemplateEditor::Private::decode(const QString &content) const
 {
-    const QList<RowNode *> rows = this->rows();
-    const int index = m_preview->row();
-    if (rows.isEmpty())
+    QList<RowNode *> rows = this->rows();
+    // Without any data, repeated parts show what they are made of.
+    if (rows.isEmpty() && qptr->rowLists(nullptr).isEmpty())
         return ozm::decodeContent(content, qptr->extraData(nullptr));
-    const RowNode *row = index < 0 || index >= rows.size() ? nullptr : rows.at(index);
-    return row ? decodeTECReport(content, row, qptr->extraData(row))
-               : decodeTECReport(content, rows, qptr->extraData(nullptr));
+    const RowNode *row = previewRow();
+    if (row)
+        rows.removeIf([row](const RowNode *each) { return each != row; });
+    return ozm::fillTemplate(content, {rows, qptr->extraData(row), qptr->rowLists(row)});
 }
 
 void AbstractTemplateEditor::Private::goTo(const QString &content, qsizetype offset, const QString &part)

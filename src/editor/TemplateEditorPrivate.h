@@ -3,6 +3,7 @@
 #include "editor/EditorActions.h"
 #include "editor/EditorFiles.h"
 #include "editor/EditorHistory.h"
+#include "editor/EditorInstructions.h"
 #include "editor/EditorQuestions.h"
 #include "editor/EditorScripts.h"
 #include "editor/EditorViews.h"
@@ -56,6 +57,8 @@ private:
     /// The name that is proposed for the report.
     [[nodiscard]] QString name() const;
     [[nodiscard]] QList<RowNode *> rows() const;
+    /// The row that the preview shows; null for all as a group, or for none.
+    [[nodiscard]] const RowNode *previewRow() const;
     [[nodiscard]] ozm::TemplateReport decode(const QString &content) const;
     void showSession();
     void goToEdit(const QTextCursor &cursor);
@@ -76,6 +79,7 @@ private:
     ozm::editor::EditorFiles m_files;
     ozm::editor::EditorQuestions m_questions;
     std::unique_ptr<ozm::editor::EditorScripts> m_scripts;
+    std::unique_ptr<ozm::editor::EditorInstructions> m_instructions;
     std::unique_ptr<ozm::editor::EditorActions> m_actions;
     ozm::editor::FindBar *m_findBar = nullptr;
     ozm::editor::CodePanel *m_codePanel = nullptr;

@@ -9,12 +9,16 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QDialog>
 #include <QDir>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTextEdit>
 #include <QTextTable>
+#include <QTimer>
 #include <QTreeView>
 #include <QtTest>
 
@@ -60,6 +64,47 @@ struct Gallery
         picture.save(folder + u'/' + name + suffix + u".png"_s, "PNG", 0);
     }
 
+    /// The dialog that @p action opens, filled with the texts of @p fields by object name.
+    void takeDialog(QWidget &editor, const char *action, const QMap<QString, QString> &fields) const
+    {
+        QTimer::singleShot(0, &editor, [&] {
+            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            for (auto each = fields.cbegin(); dialog && each != fields.cend(); ++each) {
+                if (auto *line = dialog->findChild<QLineEdit *>(each.key()))
+                    line->setText(each.value());
+                if (auto *count = dialog->findChild<QSpinBox *>(each.key()))
+                    count->setValue(each.value().toInt());
+                if (auto *box = dialog->findChild<QComboBox *>(each.key()); box && box->isEditable())
+                    box->setCurrentText(each.value());
+                else if (box)
+                    box->setCurrentIndex(box->findText(each.value()));
+            }
+            if (!dialog)
+                return;
+            take(*dialog, QString::fromLatin1(action));
+            dialog->accept();
+        });
+        editor.findChild<QAction *>(QString::fromLatin1(action))->trigger();
+    }
+
+    void takeInstructions(AbstractTemplateEditor &editor, QTextEdit &rich) const
+    {
+        rich.setTextCursor(rich.document()->find(u"Remark"_s));
+        takeDialog(editor, "repeatAction", {{u"repeatOf"_s, u"Samples"_s}, {u"repeatSort"_s, u"Name"_s}});
+        rich.setTextCursor(rich.document()->find(u"batch "_s));
+        takeDialog(editor, "codeFormatAction",
+                   {{u"formatCode"_s, u"Mass"_s},
+                    {u"formatKind"_s, u"Number"_s},
+                    {u"formatDigits"_s, u"2"_s},
+                    {u"formatThousands"_s, u"Comma"_s},
+                    {u"formatUnit"_s, u"Da"_s}});
+        takeDialog(editor, "conditionAction",
+                   {{u"conditionCode"_s, u"Mass"_s},
+                    {u"conditionTest"_s, u"is above"_s},
+                    {u"conditionValue"_s, u"1000"_s}});
+        take(editor, u"instructions"_s);
+    }
+
     void takeAll() const
     {
         const std::vector<RowNode> rows{makeRow(u"T12"_s, u"SAMPLERPEPTIDE"_s, 1523.7102),
@@ -71,6 +116,7 @@ struct Gallery
         editor.activateWindow();
         take(editor, u"rich"_s);
         auto *rich = editor.findChild<QTextEdit *>(u"richView"_s);
+        takeInstructions(editor, *rich);
         rich->setTextCursor(rich->document()->find(u"Check"_s));
         rich->moveCursor(QTextCursor::EndOfBlock);
         editor.findChild<QAction *>(u"editScriptAction"_s)->trigger();

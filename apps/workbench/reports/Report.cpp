@@ -1,8 +1,11 @@
 #include "reports/Report.h"
 
+#include "reports/ReportLists.h"
+
 #include <ozm_widgets/AbstractTemplateEditor.h>
 #include <ozm_widgets/ReportPaper.h>
 #include <ozm_widgets/TemplateFile.h>
+#include <ozm_widgets/TemplateFilling.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -63,6 +66,9 @@ ReportPages pageOf(const ozm::TemplateReport &decoded)
         page.troubles.append(tr("A script failed in its line %1: %2").arg(script.line).arg(script.message));
     for (const ozm::BroughtInCode &code : decoded.broughtIn)
         page.troubles.append(tr("%1 came in with a value.").arg(code.code));
+    for (const ozm::FaultyInstruction &instruction : decoded.faulty)
+        page.troubles.append(
+            tr("%1 cannot be followed. %2").arg(instruction.instruction, instruction.message));
     return page;
 }
 
@@ -71,12 +77,10 @@ QList<DecodeTecExtraData> extraData(const ReportContext &context)
     return {{ReportContext::staticMetaObject, &context}};
 }
 
-ReportPages fillGroup(const QString &content, std::vector<RowNode> rows, const ReportContext &context)
+ReportPages fillGroup(const QString &content, const ReportContext &context, ReportLists &lists)
 {
-    QList<RowNode *> pointers;
-    for (RowNode &row : rows)
-        pointers.append(&row);
-    return pageOf(AbstractTemplateEditor::decodeTECReport(content, pointers, extraData(context)));
+    const auto all = lists.about(nullptr);
+    return pageOf(ozm::fillTemplate(content, {all.value(u"Samples"_s), extraData(context), all}));
 }
 
 } // namespace
@@ -106,12 +110,14 @@ ozm::Result<ReportPages> fillReport(const QString &path, bool asGroup, const std
     const auto content = loadTemplate(path);
     if (!content)
         return content.error();
+    ReportLists lists(rows);
     if (asGroup)
-        return fillGroup(content.value(), rows, context);
+        return fillGroup(content.value(), context, lists);
     ReportPages report;
     for (const RowNode &row : rows) {
         const ReportContext own = context.about(row);
-        report.append(pageOf(AbstractTemplateEditor::decodeTECReport(content.value(), &row, extraData(own))));
+        const ozm::ReportData data{{const_cast<RowNode *>(&row)}, extraData(own), lists.about(&row)};
+        report.append(pageOf(ozm::fillTemplate(content.value(), data)));
     }
     return report;
 }

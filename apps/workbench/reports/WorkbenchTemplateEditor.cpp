@@ -15,6 +15,7 @@ WorkbenchTemplateEditor::WorkbenchTemplateEditor(std::vector<RowNode> rows, cons
     , m_rows(std::move(rows))
     , m_context(context)
     , m_current(context)
+    , m_lists(m_rows)
 {
     setObjectName(u"workbenchTemplateEditor"_s);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -51,6 +52,11 @@ QList<DecodeTecExtraData> WorkbenchTemplateEditor::extraData(const RowNode *row)
 {
     m_current = row ? m_context.about(*row) : m_context;
     return {{ReportContext::staticMetaObject, &m_current}};
+}
+
+QMap<QString, QList<RowNode *>> WorkbenchTemplateEditor::rowLists(const RowNode *row) const
+{
+    return m_lists.about(row);
 }
 
 } // namespace workbench

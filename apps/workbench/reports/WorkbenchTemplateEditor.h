@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reports/ReportContext.h"
+#include "reports/ReportLists.h"
 
 #include <ozm_common_core_mini/RowNode.h>
 #include <ozm_widgets/AbstractTemplateEditor.h>
@@ -24,12 +25,14 @@ public:
     [[nodiscard]] QList<RowNode *> previewRows() const override;
     [[nodiscard]] QString previewName(const RowNode &row) const override;
     [[nodiscard]] QList<DecodeTecExtraData> extraData(const RowNode *row) const override;
+    [[nodiscard]] QMap<QString, QList<RowNode *>> rowLists(const RowNode *row) const override;
 
 private:
     std::vector<RowNode> m_rows;
     const ReportContext m_context;
     /// Decoding reads this after extraData() has returned.
     mutable ReportContext m_current;
+    mutable ReportLists m_lists;
 };
 
 } // namespace workbench

@@ -1,5 +1,6 @@
 #include "templates/document/TemplateChip.h"
 
+#include "templates/instructions/InstructionCaption.h"
 #include "templates/syntax/ScriptTags.h"
 
 #include <QFontMetricsF>
@@ -43,9 +44,17 @@ constexpr std::array kLooks{
     ChipLook{PartKind::None, ""_L1, Qt::gray}, ChipLook{PartKind::Code, ""_L1, Qt::blue},
     ChipLook{PartKind::Script, "JS "_L1, Qt::darkGreen}, ChipLook{PartKind::Markup, "< > "_L1, Qt::gray}};
 
-const ChipLook &lookOf(PartKind kind)
+constexpr ChipLook kInstructionLook{PartKind::Markup, ""_L1, Qt::darkMagenta};
+
+const ChipLook &lookOf(const TemplatePart &part)
 {
-    return kLooks.at(size_t(kind));
+    if (part.kind != PartKind::Markup)
+        return kLooks.at(size_t(part.kind));
+    const auto instruction = instructions::readInstruction(part.source);
+    if (!instruction)
+        return kLooks.at(size_t(PartKind::Markup));
+    const bool isCode = std::holds_alternative<instructions::CodeFormat>(*instruction);
+    return isCode ? kLooks.at(size_t(PartKind::Code)) : kInstructionLook;
 }
 
 QColor mixed(const QColor &a, const QColor &b, qreal share)
@@ -97,6 +106,16 @@ TemplatePart chipPart(const QTextFormat &format)
     return {PartKind(format.intProperty(kKindProperty)), format.stringProperty(kSourceProperty)};
 }
 
+QString codeOf(const TemplatePart &part)
+{
+    if (part.kind == PartKind::Code)
+        return part.source;
+    const auto instruction =
+        part.kind == PartKind::Markup ? instructions::readInstruction(part.source) : std::nullopt;
+    const auto *format = instruction ? std::get_if<instructions::CodeFormat>(&*instruction) : nullptr;
+    return format ? u'[' + format->code + u']' : QString();
+}
+
 QTextCharFormat withoutChip(QTextCharFormat format)
 {
     format.clearProperty(QTextFormat::ObjectType);
@@ -114,7 +133,10 @@ bool ChipPainter::isKnown(const QString &code) const
 
 QString ChipPainter::label(const TemplatePart &part) const
 {
-    const QLatin1StringView sign = lookOf(part.kind).sign;
+    const QLatin1StringView sign = lookOf(part).sign;
+    if (part.kind == PartKind::Markup)
+        if (const auto instruction = instructions::readInstruction(part.source))
+            return instructions::captionOf(*instruction);
     if (part.kind == PartKind::Code)
         return displayNames.value(part.source, part.source.sliced(1, part.source.size() - 2));
     return sign + firstLine(part.kind == PartKind::Script ? syntax::codeOf(part.source) : part.source);
@@ -131,8 +153,9 @@ void ChipPainter::drawObject(QPainter *painter, const QRectF &rect, QTextDocumen
                              const QTextFormat &format)
 {
     const TemplatePart part = chipPart(format);
-    const bool known = part.kind != PartKind::Code || isKnown(part.source);
-    const QColor tint = known ? QColor(lookOf(part.kind).tint) : QColor(Qt::red);
+    const QString code = codeOf(part);
+    const bool known = code.isEmpty() || isKnown(code);
+    const QColor tint = known ? QColor(lookOf(part).tint) : QColor(Qt::red);
     // Templates are shown on paper, which is white; a selection brings its own colours.
     const QTextCharFormat look = format.toCharFormat();
     const QColor base =

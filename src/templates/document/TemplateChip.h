@@ -27,6 +27,9 @@ inline constexpr int kSourceRun = QTextFormat::UserProperty + 4;
 /// The part of a chip; of any other format an empty one.
 [[nodiscard]] TemplatePart chipPart(const QTextFormat &format);
 
+/// The code that a part shows, with or without a format; empty for any other part.
+[[nodiscard]] QString codeOf(const TemplatePart &part);
+
 /// @p format for the text around a chip: its look, without being one.
 [[nodiscard]] QTextCharFormat withoutChip(QTextCharFormat format);
 

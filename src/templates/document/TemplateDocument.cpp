@@ -4,7 +4,7 @@
 #include "templates/document/TemplateChip.h"
 #include "templates/document/TemplateParts.h"
 #include "templates/document/TemplateSourceWriter.h"
-#include "templates/instructions/InstructionSyntax.h"
+#include "templates/instructions/InstructionTree.h"
 #include "templates/syntax/HtmlScanner.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -18,7 +18,6 @@
 #include <QUrl>
 
 #include <algorithm>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -225,20 +224,7 @@ TemplateDocument::~TemplateDocument() = default;
 
 bool TemplateDocument::isHtml(const QString &source)
 {
-    using Kind = editor::HtmlTokenKind;
-    const QList<editor::HtmlToken> tokens = editor::scanHtml(source);
-    // A code with a format does not make a plain text a page.
-    bool isInFormat = false;
-    return std::any_of(tokens.begin(), tokens.end(), [&](const editor::HtmlToken &token) {
-        if (token.kind == Kind::StartTag &&
-            instructions::isFormatTag(QStringView(source).sliced(token.start, token.end - token.start))) {
-            isInFormat = true;
-            return false;
-        }
-        if (isInFormat && token.kind == Kind::EndTag)
-            return std::exchange(isInFormat, false) && token.name != "span"_L1;
-        return token.kind == Kind::StartTag || token.kind == Kind::EndTag || token.kind == Kind::RawElement;
-    });
+    return instructions::isHtml(source);
 }
 
 void TemplateDocument::setSource(const QString &source)

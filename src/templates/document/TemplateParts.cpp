@@ -1,5 +1,6 @@
 #include "templates/document/TemplateParts.h"
 
+#include "templates/instructions/InstructionSyntax.h"
 #include "templates/syntax/Codes.h"
 #include "templates/syntax/HtmlScanner.h"
 #include "templates/syntax/ScriptTags.h"
@@ -481,7 +482,8 @@ private:
             if (element.name == "head"_L1)
                 keepHead(element);
             else if (contains(kMarkupElements, element.name) || contains(kKeepWholeElements, element.name) ||
-                     losesAttributes(element) || (element.name == "table"_L1 && !tablesWithCells.contains(i)))
+                     isFormat(element) || losesAttributes(element) ||
+                     (element.name == "table"_L1 && !tablesWithCells.contains(i)))
                 keep(i);
         }
     }
@@ -496,6 +498,15 @@ private:
                     text(token).contains(syntax::codePattern()));
         });
         m_kept.append({head.start, head.end, !matters});
+    }
+
+    // A code with its format is one part, as a code without is.
+    bool isFormat(const HtmlElement &element) const
+    {
+        const QStringView source = QStringView(m_source).sliced(element.start, element.end - element.start);
+        return element.name == "span"_L1 &&
+               instructions::isFormatTag(source.first(element.startTagEnd - element.start)) &&
+               instructions::readInstruction(source.toString());
     }
 
     // Only these attributes survive rich text as they are written; codes in others would be lost.

@@ -3,7 +3,6 @@
 #include "templates/decoding/TokenReplacement.h"
 
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QDateTime>
 #include <QImage>
 #include <QImageReader>
@@ -229,8 +228,7 @@ std::optional<TemplateField> totalOf(Total total, const QList<TemplateField> &fi
             continue;
         const auto number = numberOf(field);
         if (!number) {
-            *error = QCoreApplication::translate("ozm::instructions", "\"%1\" is not a number.")
-                         .arg(textOf(field));
+            *error = Texts::tr("\"%1\" is not a number.").arg(textOf(field));
             return std::nullopt;
         }
         numbers.append(*number);

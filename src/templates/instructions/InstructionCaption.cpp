@@ -1,7 +1,5 @@
 #include "templates/instructions/InstructionCaption.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <array>
 
@@ -36,15 +34,10 @@ constexpr std::array kTotalNames{
     NameRow{Total::Count, QT_TRANSLATE_NOOP("ozm::instructions", "count")},
 };
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ozm::instructions", text);
-}
-
 template <typename Value, std::size_t Count>
 QString nameIn(const std::array<NameRow<Value>, Count> &rows, Value value)
 {
-    return tr(std::ranges::find(rows, value, &NameRow<Value>::value)->text);
+    return Texts::tr(std::ranges::find(rows, value, &NameRow<Value>::value)->text);
 }
 
 QString numberPattern(const CodeFormat &format)
@@ -59,33 +52,34 @@ struct Captioner
 {
     QString operator()(const Repeat &repeat) const
     {
-        QString text = repeat.of.isEmpty() ? tr("For each row") : tr("For each of %1").arg(repeat.of);
+        QString text =
+            repeat.of.isEmpty() ? Texts::tr("For each row") : Texts::tr("For each of %1").arg(repeat.of);
         if (!repeat.sort.isEmpty())
-            text += tr(", by %1").arg(repeat.sort);
+            text += Texts::tr(", by %1").arg(repeat.sort);
         return repeat.extent == Extent::Row ? text : text + u'…';
     }
     QString operator()(const Condition &condition) const
     {
         const QString text =
-            tr("If %1 %2 %3").arg(condition.code, testName(condition.test), condition.value).trimmed();
+            Texts::tr("If %1 %2 %3").arg(condition.code, testName(condition.test), condition.value).trimmed();
         return condition.extent == Extent::Row ? text : text + u'…';
     }
-    QString operator()(const End & /*end*/) const { return tr("End"); }
+    QString operator()(const End & /*end*/) const { return Texts::tr("End"); }
     QString operator()(const CodeFormat &format) const
     {
         if (format.total != Total::None)
-            return tr("%1 of %2").arg(totalName(format.total), format.code);
+            return Texts::tr("%1 of %2").arg(totalName(format.total), format.code);
         switch (format.kind) {
         case FormatKind::Number:
             return format.code + u' ' + numberPattern(format);
         case FormatKind::Date:
             return format.code + u' ' + format.pattern;
         case FormatKind::Image:
-            return tr("Image %1").arg(format.code);
+            return Texts::tr("Image %1").arg(format.code);
         case FormatKind::Text:
             break;
         }
-        return tr("%1 as text").arg(format.code);
+        return Texts::tr("%1 as text").arg(format.code);
     }
 };
 

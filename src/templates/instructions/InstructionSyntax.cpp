@@ -2,7 +2,6 @@
 
 #include "templates/syntax/Codes.h"
 
-#include <QCoreApplication>
 #include <QList>
 #include <QRegularExpression>
 
@@ -50,11 +49,6 @@ template <typename Value, std::size_t Count>
 QLatin1StringView textOf(const std::array<Word<Value>, Count> &words, Value value)
 {
     return std::ranges::find(words, value, &Word<Value>::value)->text;
-}
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ozm::instructions", text);
 }
 
 QString withoutEntities(const QString &text)
@@ -108,7 +102,7 @@ public:
         }
         const QString rest = text.sliced(at).trimmed();
         if (!rest.isEmpty() && rest != "/"_L1)
-            fail(tr("\"%1\" is not an attribute.").arg(rest));
+            fail(Texts::tr("\"%1\" is not an attribute.").arg(rest));
     }
 
     QString text(QLatin1StringView name, const QString &usual = {})
@@ -125,7 +119,7 @@ public:
     {
         const QString value = text(name);
         if (value.isEmpty())
-            fail(tr("The attribute \"%1\" is missing.").arg(name));
+            fail(Texts::tr("The attribute \"%1\" is missing.").arg(name));
         return value;
     }
 
@@ -165,7 +159,7 @@ public:
     QString finish()
     {
         if (m_error.isNull() && !m_attributes.isEmpty())
-            fail(tr("The attribute \"%1\" is not known here.").arg(m_attributes.constFirst().name));
+            fail(Texts::tr("The attribute \"%1\" is not known here.").arg(m_attributes.constFirst().name));
         return m_error;
     }
 
@@ -185,7 +179,7 @@ private:
     template <typename Value>
     Value refuse(QLatin1StringView name, const QString &value, Value usual)
     {
-        fail(tr("The attribute \"%1\" cannot be \"%2\".").arg(name, value));
+        fail(Texts::tr("The attribute \"%1\" cannot be \"%2\".").arg(name, value));
         return usual;
     }
 
@@ -286,7 +280,7 @@ bool isFormatTag(QStringView tag)
 Reading readComment(const QString &comment)
 {
     if (!isInstructionComment(comment) || !comment.endsWith(kCommentEnd))
-        return {std::nullopt, tr("The comment does not end.")};
+        return {std::nullopt, Texts::tr("The comment does not end.")};
     const QString text = comment.sliced(kCommentStart.size()).chopped(kCommentEnd.size());
     const auto isInName = [](QChar c) { return c.isLetterOrNumber() || c == u'-'; };
     const auto nameEnd = std::ranges::find_if_not(text, isInName);
@@ -300,13 +294,13 @@ Reading readComment(const QString &comment)
     }
     if (name == kEnd)
         return reading(attributes, End());
-    return {std::nullopt, tr("There is no instruction \"%1\".").arg(name)};
+    return {std::nullopt, Texts::tr("There is no instruction \"%1\".").arg(name)};
 }
 
 Reading readFormat(const QString &tag, const QString &inner)
 {
     if (!syntax::isCode(inner))
-        return {std::nullopt, tr("A format is for one code.")};
+        return {std::nullopt, Texts::tr("A format is for one code.")};
     constexpr qsizetype kNameLength = 5; // "<span"
     Attributes attributes(tag.sliced(kNameLength).chopped(1));
     attributes.ignoreOthersBut(kDataPrefix);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringView>
 
@@ -9,6 +10,12 @@
 
 /// How instructions for filling a template are written in it.
 namespace ozm::instructions {
+
+/// The context of all texts about instructions.
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(ozm::instructions)
+};
 
 /// The part of the template that an instruction is about.
 enum class Extent

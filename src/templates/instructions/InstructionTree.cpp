@@ -2,7 +2,6 @@
 
 #include "templates/syntax/HtmlScanner.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -31,11 +30,6 @@ constexpr std::array kRows{"tr"_L1, "li"_L1};
 // Shown by themselves: a line that holds one is not empty.
 constexpr std::array kShown{"img"_L1, "br"_L1, "hr"_L1, "input"_L1};
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ozm::instructions", text);
-}
-
 template <typename Names>
 bool isOneOf(const Names &names, const QString &name)
 {
@@ -61,7 +55,7 @@ public:
                 takeFormat(index);
         }
         for (const OpenSection &open : std::as_const(m_open))
-            fail(open.mark, tr("The section has no end."));
+            fail(open.mark, Texts::tr("The section has no end."));
         nest();
         for (const InstructedPart &part : std::as_const(m_tree.parts))
             addCuts(part);
@@ -123,14 +117,14 @@ private:
     void endSection(qsizetype index, const SourceRange &mark)
     {
         if (m_open.isEmpty()) {
-            fail(mark, tr("There is no section that ends here."));
+            fail(mark, Texts::tr("There is no section that ends here."));
             return;
         }
         const OpenSection open = m_open.takeLast();
         const Line line = lineOf(index);
         if (open.parent != line.parent) {
-            fail(open.mark, tr("The section ends in another element than it begins in."));
-            fail(mark, tr("The section ends in another element than it begins in."));
+            fail(open.mark, Texts::tr("The section ends in another element than it begins in."));
+            fail(mark, Texts::tr("The section ends in another element than it begins in."));
             return;
         }
         m_tree.parts.append({open.instruction, {open.line.start, line.range.end}, open.mark});
@@ -141,13 +135,13 @@ private:
     {
         const int row = rowAround(index);
         if (row < 0) {
-            fail(mark, tr("There is no table row and no list item around this."));
+            fail(mark, Texts::tr("There is no table row and no list item around this."));
             return;
         }
         const HtmlElement &element = m_elements.elements.at(row);
         const bool isRepeat = std::holds_alternative<Repeat>(instruction);
         if (isRepeat && m_repeatedRows.contains(row)) {
-            fail(mark, tr("This row repeats already."));
+            fail(mark, Texts::tr("This row repeats already."));
             return;
         }
         if (isRepeat)
@@ -256,10 +250,10 @@ private:
             while (!around.isEmpty() && m_tree.parts.at(around.constLast()).range.end <= part.range.start)
                 around.removeLast();
             if (!around.isEmpty() && !m_tree.parts.at(around.constLast()).range.holds(part.range)) {
-                fail(part.mark, tr("The section crosses another one."));
+                fail(part.mark, Texts::tr("The section crosses another one."));
                 m_crossing.insert(index);
             } else if (around.size() >= kDeepest) {
-                fail(part.mark, tr("There are too many sections within one another."));
+                fail(part.mark, Texts::tr("There are too many sections within one another."));
                 m_crossing.insert(index);
             } else {
                 (around.isEmpty() ? m_tree.roots : m_tree.parts[around.constLast()].children).append(index);
@@ -296,6 +290,24 @@ InstructionTree instructionsOf(const QString &content)
     if (!content.contains("<!--ozm:"_L1) && !content.contains("data-format"_L1, Qt::CaseInsensitive))
         return {};
     return TreeReader(content).run();
+}
+
+bool isHtml(const QString &source)
+{
+    using Kind = HtmlTokenKind;
+    const QList<HtmlToken> tokens = editor::scanHtml(source);
+    // A code with a format does not make a plain text a page.
+    bool isInFormat = false;
+    return std::any_of(tokens.begin(), tokens.end(), [&](const HtmlToken &token) {
+        if (token.kind == Kind::StartTag &&
+            isFormatTag(QStringView(source).sliced(token.start, token.end - token.start))) {
+            isInFormat = true;
+            return false;
+        }
+        if (isInFormat && token.kind == Kind::EndTag)
+            return std::exchange(isInFormat, false) && token.name != "span"_L1;
+        return token.kind == Kind::StartTag || token.kind == Kind::EndTag || token.kind == Kind::RawElement;
+    });
 }
 
 QString rowWithText(const QString &content, const SourceRange &range, const QString &text)

@@ -48,6 +48,9 @@ struct InstructionTree
 
 [[nodiscard]] InstructionTree instructionsOf(const QString &content);
 
+/// True for a text with tags, other than those of codes with a format.
+[[nodiscard]] bool isHtml(const QString &source);
+
 /// The table row or list item in @p range with @p text in the place of all that is in it.
 [[nodiscard]] QString rowWithText(const QString &content, const SourceRange &range, const QString &text);
 

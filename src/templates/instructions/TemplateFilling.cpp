@@ -9,10 +9,8 @@
 
 #include <ozm_common_core_mini/RowNode.h>
 #include <ozm_widgets/AbstractTemplateEditor.h>
-#include <ozm_widgets/TemplateDocument.h>
 #include <ozm_widgets/TemplateEditorJSEngine.h>
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QSet>
 
@@ -36,11 +34,6 @@ constexpr qsizetype kMostCopies = 1'000'000;
 // Codes that no text has: what a repeated part or a format gives stands between them until all else is decoded.
 constexpr char16_t kFirstNoncharacter = 0xFDD0;
 constexpr char16_t kLastNoncharacter = 0xFDEF;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ozm::instructions", text);
-}
 
 /// A text made of pieces of the template and of results that are not decoded any more.
 struct Composed
@@ -123,7 +116,7 @@ public:
         : m_content(content)
         , m_data(data)
         , m_tree(instructionsOf(content))
-        , m_isHtml(TemplateDocument::isHtml(content))
+        , m_isHtml(isHtml(content))
     {
         m_report.faulty = m_tree.faulty;
         m_rows = data.rows;
@@ -280,7 +273,7 @@ private:
     {
         auto rows = rowsOf(repeat.of);
         if (!rows)
-            return refuse(part, tr("There is no list of rows \"%1\".").arg(repeat.of));
+            return refuse(part, Texts::tr("There is no list of rows \"%1\".").arg(repeat.of));
         if (rows->isEmpty())
             return withoutRows(repeat, part);
         if (!repeat.sort.isEmpty())
@@ -289,7 +282,7 @@ private:
         qsizetype number = 0;
         for (const RowNode *row : std::as_const(*rows)) {
             if (++m_copies > kMostCopies || m_characters > kMostCharacters)
-                return refuse(part, tr("The part becomes too long."));
+                return refuse(part, Texts::tr("The part becomes too long."));
             const TemplateScope own{row, nullptr, &scope, ++number, rows->size()};
             const QString copy = filled(part.range, part.children, own);
             m_characters += copy.size();
@@ -327,7 +320,7 @@ private:
     {
         const auto rows = rowsOf(format.of);
         if (!rows) {
-            refuse(part, tr("There is no list of rows \"%1\".").arg(format.of));
+            refuse(part, Texts::tr("There is no list of rows \"%1\".").arg(format.of));
             return std::nullopt;
         }
         QList<TemplateField> fields;

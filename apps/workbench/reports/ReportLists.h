@@ -1,0 +1,32 @@
+#pragma once
+
+#include <ozm_common_core_mini/RowNode.h>
+
+#include <QList>
+#include <QMap>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+namespace workbench {
+
+/**
+ * Rows that a part of a report can repeat for: "Samples", all samples of the report, and "ChargeStates", the ions of
+ * the one sample that a page is about, each with its charge and m/z.
+ */
+class ReportLists
+{
+public:
+    /// @p samples must outlive this.
+    explicit ReportLists(const std::vector<RowNode> &samples);
+
+    /// The lists of a page about @p sample; null for a page about all. The rows live until the next call.
+    [[nodiscard]] QMap<QString, QList<RowNode *>> about(const RowNode *sample);
+
+private:
+    QList<RowNode *> m_samples;
+    std::vector<std::unique_ptr<RowNode>> m_ions;
+};
+
+} // namespace workbench

@@ -1,0 +1,151 @@
+#include "editor/EditorInstructions.h"
+
+#include "editor/CodeModel.h"
+#include "editor/EditorViews.h"
+#include "editor/FormatDialog.h"
+
+#include "support/Platform.h"
+
+using namespace Qt::StringLiterals;
+
+namespace ozm::editor {
+
+namespace {
+
+using instructions::CodeFormat;
+using instructions::Condition;
+using instructions::End;
+using instructions::Extent;
+using instructions::Instruction;
+using instructions::Repeat;
+
+QString withoutBrackets(const QString &code)
+{
+    return code.sliced(1).chopped(1);
+}
+
+} // namespace
+
+EditorInstructions::EditorInstructions(EditorViews &views, const CodeModel &codes, const Data &data,
+                                       QWidget *window)
+    : QObject(window)
+    , m_views(views)
+    , m_codes(codes)
+    , m_data(data)
+    , m_window(window)
+{}
+
+void EditorInstructions::askRepeat()
+{
+    const auto present = atCursor();
+    if (const auto *repeat = present ? std::get_if<Repeat>(&*present) : nullptr)
+        ask(*repeat, false);
+    else
+        ask(Repeat{m_views.current().isInRow() ? Extent::Row : Extent::Section}, true);
+}
+
+void EditorInstructions::askCondition()
+{
+    const auto present = atCursor();
+    if (const auto *condition = present ? std::get_if<Condition>(&*present) : nullptr)
+        ask(*condition, false);
+    else
+        ask(Condition{}, true);
+}
+
+void EditorInstructions::askFormat()
+{
+    const QTextCursor place = m_views.current().codeAtCursor();
+    const QString source = place.isNull() ? QString() : m_views.current().partSource(place);
+    const auto present = instructions::readInstruction(source);
+    if (const auto *format = present ? std::get_if<CodeFormat>(&*present) : nullptr)
+        ask(*format, false);
+    else if (source.startsWith(u'['))
+        ask(CodeFormat{withoutBrackets(source)}, false);
+    else
+        ask(CodeFormat{}, true);
+}
+
+bool EditorInstructions::editAtCursor()
+{
+    const auto present = atCursor();
+    if (!present || m_views.isReadOnly())
+        return false;
+    if (const auto *repeat = std::get_if<Repeat>(&*present))
+        ask(*repeat, false);
+    else if (const auto *condition = std::get_if<Condition>(&*present))
+        ask(*condition, false);
+    else if (const auto *format = std::get_if<CodeFormat>(&*present))
+        ask(*format, false);
+    return true;
+}
+
+InstructionChoices EditorInstructions::choices(bool isNew) const
+{
+    InstructionChoices choices;
+    choices.isNew = isNew;
+    choices.isInRow = m_views.current().isInRow();
+    for (int row = 0; row < m_codes.rowCount(); ++row)
+        choices.codes.append(withoutBrackets(m_codes.codeAt(row)));
+    const auto lists = m_data.lists();
+    choices.lists = lists.keys();
+    for (const QList<RowNode *> &rows : lists)
+        if (!rows.isEmpty())
+            choices.codes += platform::columnsOf(*rows.constFirst());
+    choices.codes += {u"RowNumber"_s, u"RowCount"_s};
+    choices.codes.removeDuplicates();
+    choices.codes.sort(Qt::CaseInsensitive);
+    choices.filled = [this](const QString &content) {
+        const TemplateReport report = m_data.filled(content);
+        return report.isComplete() ? std::optional(report.text) : std::nullopt;
+    };
+    return choices;
+}
+
+std::optional<Instruction> EditorInstructions::atCursor() const
+{
+    const QTextCursor place = m_views.current().codeAtCursor();
+    return place.isNull() ? std::nullopt : instructions::readInstruction(m_views.current().partSource(place));
+}
+
+void EditorInstructions::ask(const Repeat &repeat, bool isNew)
+{
+    RepeatDialog dialog(repeat, choices(isNew), m_window);
+    if (dialog.exec() == QDialog::Accepted)
+        write(dialog.repeat(), dialog.repeat().extent, isNew);
+}
+
+void EditorInstructions::ask(const Condition &condition, bool isNew)
+{
+    ConditionDialog dialog(condition, choices(isNew), m_window);
+    if (dialog.exec() == QDialog::Accepted)
+        write(dialog.condition(), dialog.condition().extent, isNew);
+}
+
+void EditorInstructions::ask(const CodeFormat &format, bool isNew)
+{
+    FormatDialog dialog(format, choices(isNew), m_window);
+    if (dialog.exec() == QDialog::Accepted)
+        write(dialog.format(), Extent::Row, isNew);
+}
+
+void EditorInstructions::write(const Instruction &instruction, Extent extent, bool isNew)
+{
+    EditorView &view = m_views.current();
+    const QString source = sourceOf(instruction);
+    if (!isNew) {
+        view.setPartSource(view.codeAtCursor(), source);
+    } else if (extent == Extent::Section) {
+        view.enclose(source, sourceOf(End()));
+    } else {
+        // Within a code, there would be no code any more.
+        const QTextCursor code = view.codeAtCursor();
+        QTextCursor cursor = view.cursor();
+        cursor.setPosition(code.isNull() ? cursor.selectionStart() : code.selectionStart());
+        view.setCursor(cursor);
+        view.insertSource(source);
+    }
+    view.widget()->setFocus();
+}
+
+} // namespace ozm::editor

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "editor/InstructionDialogs.h"
+
+#include <ozm_widgets/TemplateDiagnostics.h>
+
+#include <QMap>
+#include <QObject>
+#include <QTextCursor>
+
+class RowNode;
+
+namespace ozm::editor {
+
+class CodeModel;
+class EditorViews;
+
+/// Asks for instructions - parts that repeat, conditions, formats - and writes them into the template.
+class EditorInstructions : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Data
+    {
+        std::function<TemplateReport(const QString &content)> filled;
+        std::function<QMap<QString, QList<RowNode *>>()> lists;
+    };
+
+    EditorInstructions(EditorViews &views, const CodeModel &codes, const Data &data, QWidget *window);
+
+    void askRepeat();
+    void askCondition();
+    void askFormat();
+    /// False when there is no instruction at the cursor.
+    bool editAtCursor();
+
+private:
+    [[nodiscard]] InstructionChoices choices(bool isNew) const;
+    [[nodiscard]] std::optional<instructions::Instruction> atCursor() const;
+    void ask(const instructions::Repeat &repeat, bool isNew);
+    void ask(const instructions::Condition &condition, bool isNew);
+    void ask(const instructions::CodeFormat &format, bool isNew);
+    void write(const instructions::Instruction &instruction, instructions::Extent extent, bool isNew);
+
+    EditorViews &m_views;
+    const CodeModel &m_codes;
+    const Data m_data;
+    QWidget *m_window;
+};
+
+} // namespace ozm::editor

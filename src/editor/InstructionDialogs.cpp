@@ -1,0 +1,192 @@
+#include "editor/InstructionDialogs.h"
+
+#include "templates/instructions/InstructionCaption.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm::editor {
+
+namespace {
+
+using instructions::Condition;
+using instructions::Extent;
+using instructions::Repeat;
+using instructions::Test;
+
+constexpr int kFieldWidth = 300;
+
+constexpr std::array kTests{Test::Present, Test::Absent, Test::Equals,
+                            Test::Differs, Test::Above,  Test::Below};
+
+bool hasValue(Test test)
+{
+    return test != Test::Present && test != Test::Absent;
+}
+
+} // namespace
+
+InstructionDialog::InstructionDialog(const char *name, const QString &title,
+                                     const InstructionChoices &choices, QWidget *parent)
+    : QDialog(parent)
+    , m_choices(choices)
+    , m_form(new QFormLayout(this))
+{
+    setObjectName(QString::fromLatin1(name));
+    setWindowTitle(title);
+    m_form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+}
+
+void InstructionDialog::addExtent(const QString &label, Extent extent)
+{
+    auto *choice = new QWidget(this);
+    auto *layout = new QVBoxLayout(choice);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_row = named(new QRadioButton(tr("The table &row or list item at the cursor"), choice), "extentRow");
+    auto *lines = named(new QRadioButton(tr("The selected &lines"), choice), "extentSection");
+    layout->addWidget(m_row);
+    layout->addWidget(lines);
+    (extent == Extent::Row ? m_row : lines)->setChecked(true);
+    // An instruction that is in the template already stands where its part is.
+    m_row->setEnabled(m_choices.isNew ? m_choices.isInRow : extent == Extent::Row);
+    lines->setEnabled(m_choices.isNew || extent == Extent::Section);
+    m_form->addRow(label, choice);
+}
+
+Extent InstructionDialog::extent() const
+{
+    return m_row->isChecked() ? Extent::Row : Extent::Section;
+}
+
+QComboBox *InstructionDialog::addCode(const char *name, const QString &label, const QString &code)
+{
+    auto *field = named(new QComboBox(this), name);
+    field->setEditable(true);
+    field->addItems(m_choices.codes);
+    field->setCurrentText(code);
+    field->setMinimumWidth(kFieldWidth);
+    m_form->addRow(label, field);
+    return field;
+}
+
+QComboBox *InstructionDialog::addList(const char *name, const QString &label, const QString &list)
+{
+    auto *field = named(new QComboBox(this), name);
+    field->addItem(tr("The rows of the report"), QString());
+    for (const QString &each : m_choices.lists)
+        field->addItem(each, each);
+    if (field->findData(list) < 0)
+        field->addItem(list, list);
+    field->setCurrentIndex(field->findData(list));
+    m_form->addRow(label, field);
+    return field;
+}
+
+QLineEdit *InstructionDialog::addLine(const char *name, const QString &label, const QString &text,
+                                      const QString &placeholder)
+{
+    auto *field = named(new QLineEdit(text, this), name);
+    field->setPlaceholderText(placeholder);
+    m_form->addRow(label, field);
+    return field;
+}
+
+QLabel *InstructionDialog::addSample(const char *name, const QString &label)
+{
+    auto *sample = named(new QLabel(this), name);
+    sample->setTextFormat(Qt::PlainText);
+    sample->setWordWrap(true);
+    sample->setAccessibleName(tr("With the data of the preview"));
+    sample->setFrameShape(QFrame::StyledPanel);
+    sample->setMargin(6);
+    m_form->addRow(label, sample);
+    return sample;
+}
+
+void InstructionDialog::addButtons()
+{
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    m_accept = buttons->button(QDialogButtonBox::Ok);
+    m_form->addRow(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+void InstructionDialog::setAcceptable(bool isAcceptable)
+{
+    m_accept->setEnabled(isAcceptable);
+}
+
+RepeatDialog::RepeatDialog(const Repeat &repeat, const InstructionChoices &choices, QWidget *parent)
+    : InstructionDialog("repeatDialog", tr("Repeat for each row"), choices, parent)
+{
+    addExtent(tr("Repeat:"), repeat.extent);
+    m_of = addList("repeatOf", tr("&For each of:"), repeat.of);
+    m_sort = addCode("repeatSort", tr("&Sorted by:"), repeat.sort);
+    m_sort->lineEdit()->setPlaceholderText(tr("As they come"));
+    m_descending = named(new QCheckBox(tr("The &highest first"), this), "repeatDescending");
+    m_descending->setChecked(repeat.isDescending);
+    form()->addRow(QString(), m_descending);
+    m_empty = addLine("repeatEmpty", tr("&Without any:"), repeat.empty, tr("Nothing is shown"));
+    addButtons();
+}
+
+Repeat RepeatDialog::repeat() const
+{
+    const QString sort = m_sort->currentText().trimmed();
+    return {extent(), m_of->currentData().toString(), sort, !sort.isEmpty() && m_descending->isChecked(),
+            m_empty->text()};
+}
+
+ConditionDialog::ConditionDialog(const Condition &condition, const InstructionChoices &choices,
+                                 QWidget *parent)
+    : InstructionDialog("conditionDialog", tr("Condition"), choices, parent)
+{
+    addExtent(tr("Show:"), condition.extent);
+    m_code = addCode("conditionCode", tr("&If the code:"), condition.code);
+    m_test = named(new QComboBox(this), "conditionTest");
+    for (const Test test : kTests)
+        m_test->addItem(instructions::testName(test), int(test));
+    m_test->setCurrentIndex(m_test->findData(int(condition.test)));
+    form()->addRow(tr("&Test:"), m_test);
+    m_value = addLine("conditionValue", tr("&Value:"), condition.value);
+    m_sample = addSample("conditionSample", tr("Preview:"));
+    addButtons();
+    connect(m_code, &QComboBox::currentTextChanged, this, &ConditionDialog::update);
+    connect(m_test, &QComboBox::currentIndexChanged, this, &ConditionDialog::update);
+    connect(m_value, &QLineEdit::textChanged, this, &ConditionDialog::update);
+    update();
+}
+
+Condition ConditionDialog::condition() const
+{
+    const auto test = Test(m_test->currentData().toInt());
+    return {extent(), m_code->currentText().trimmed(), test, hasValue(test) ? m_value->text() : QString()};
+}
+
+void ConditionDialog::update()
+{
+    Condition condition = this->condition();
+    m_value->setEnabled(hasValue(condition.test));
+    const bool isWhole = !condition.code.isEmpty() && m_value->isEnabled() == !condition.value.isEmpty();
+    setAcceptable(isWhole);
+    condition.extent = Extent::Section;
+    const QString shown = u"1"_s;
+    const auto filled = isWhole
+                            ? choices().filled(sourceOf(condition) + shown + sourceOf(instructions::End()))
+                            : std::nullopt;
+    m_sample->setText(!filled            ? tr("No value in the preview")
+                      : *filled == shown ? tr("Shown")
+                                         : tr("Not shown"));
+}
+
+} // namespace ozm::editor

@@ -1,0 +1,105 @@
+#pragma once
+
+#include "templates/instructions/InstructionSyntax.h"
+
+#include <QDialog>
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+
+class QCheckBox;
+class QComboBox;
+class QFormLayout;
+class QLabel;
+class QLineEdit;
+class QRadioButton;
+
+namespace ozm::editor {
+
+/// The names that a user can choose from, and the way to try an instruction.
+struct InstructionChoices
+{
+    QStringList codes; ///< Without brackets.
+    QStringList lists;
+    bool isInRow = false; ///< The cursor stands where a row can be meant.
+    bool isNew = false;   ///< The instruction is not in the template yet.
+    /// @p content filled with the data of the preview; nothing where that cannot be done.
+    std::function<std::optional<QString>(const QString &content)> filled;
+};
+
+/// A dialog with rows of fields above its buttons.
+class InstructionDialog : public QDialog
+{
+    Q_OBJECT
+
+protected:
+    InstructionDialog(const char *name, const QString &title, const InstructionChoices &choices,
+                      QWidget *parent);
+
+    [[nodiscard]] const InstructionChoices &choices() const { return m_choices; }
+    [[nodiscard]] QFormLayout *form() const { return m_form; }
+    /// Adds a choice between the row around the cursor and the selected lines.
+    void addExtent(const QString &label, instructions::Extent extent);
+    [[nodiscard]] instructions::Extent extent() const;
+    /// Adds a field for the name of a code. Without one, the dialog cannot be accepted; @p none is shown then.
+    [[nodiscard]] QComboBox *addCode(const char *name, const QString &label, const QString &code);
+    [[nodiscard]] QComboBox *addList(const char *name, const QString &label, const QString &list);
+    [[nodiscard]] QLineEdit *addLine(const char *name, const QString &label, const QString &text,
+                                     const QString &placeholder = {});
+    [[nodiscard]] QLabel *addSample(const char *name, const QString &label);
+    void addButtons();
+    void setAcceptable(bool isAcceptable);
+
+    template <typename Field>
+    Field *named(Field *field, const char *name)
+    {
+        field->setObjectName(QString::fromLatin1(name));
+        return field;
+    }
+
+private:
+    const InstructionChoices m_choices;
+    QFormLayout *m_form;
+    QRadioButton *m_row = nullptr;
+    class QPushButton *m_accept = nullptr;
+};
+
+/// Asks for the way in which a part repeats.
+class RepeatDialog : public InstructionDialog
+{
+    Q_OBJECT
+
+public:
+    RepeatDialog(const instructions::Repeat &repeat, const InstructionChoices &choices, QWidget *parent);
+
+    [[nodiscard]] instructions::Repeat repeat() const;
+
+private:
+    QComboBox *m_of;
+    QComboBox *m_sort;
+    QCheckBox *m_descending;
+    QLineEdit *m_empty;
+};
+
+/// Asks for the condition under which a part is shown.
+class ConditionDialog : public InstructionDialog
+{
+    Q_OBJECT
+
+public:
+    ConditionDialog(const instructions::Condition &condition, const InstructionChoices &choices,
+                    QWidget *parent);
+
+    [[nodiscard]] instructions::Condition condition() const;
+
+private:
+    void update();
+
+    QComboBox *m_code;
+    QComboBox *m_test;
+    QLineEdit *m_value;
+    QLabel *m_sample;
+};
+
+} // namespace ozm::editor
