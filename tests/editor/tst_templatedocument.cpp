@@ -258,6 +258,9 @@ void TestTemplateDocument::keepsSource_data()
     QTest::newRow("page around it")
         << u"<!DOCTYPE html><html><head><title>t</title></head><body><p>x</p></body></html>"_s
         << u"<p>x</p>"_s;
+    QTest::newRow("line of blanks that count")
+        << u"<p>x </p>\n<p style=\"white-space:pre-wrap\"> </p>\n<p> </p><p>y</p>"_s
+        << u"<p>x</p>\n<p style=\"white-space:pre-wrap\"> </p>\n<p>y</p>"_s;
     QTest::newRow("style sheet") << u"<style>p { color: red }</style><p>x</p>"_s
                                  << u"<div><style>p { color: red }</style></div>\n<p>x</p>"_s;
 }

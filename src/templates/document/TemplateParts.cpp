@@ -227,11 +227,20 @@ private:
             return m_index;
         qsizetype next = m_index + 1;
         if (next < m_tokens.size() && m_tokens.at(next).kind == HtmlTokenKind::Text &&
-            text(m_tokens.at(next)).trimmed().isEmpty())
+            text(m_tokens.at(next)).trimmed().isEmpty()) {
+            if (isLineOfBlanks(next))
+                return m_index;
             ++next;
+        }
         const bool isEmpty = next < m_tokens.size() && m_tokens.at(next).kind == HtmlTokenKind::EndTag &&
                              m_tokens.at(next).name == token.name;
         return isEmpty ? next : m_index;
+    }
+
+    // Where blanks are kept, they are a line by themselves; a line end between elements is none.
+    bool isLineOfBlanks(qsizetype index) const
+    {
+        return keepsBlanks(m_tree.innermost.at(index)) && !text(m_tokens.at(index)).contains(u'\n');
     }
 
     // "<p><br/></p>": the reader keeps such lines or drops them depending on what stands around them.
@@ -411,9 +420,7 @@ private:
         if (start == end)
             return;
         const QString plain = m_source.sliced(start, end - start);
-        // Where blanks are kept, they are a line by themselves; a line end between elements is none.
-        const bool isLine = keepsBlanks(m_tree.innermost.at(m_index)) && !plain.contains(u'\n');
-        if (!m_runIsOpen && !isLine && plain.trimmed().isEmpty()) {
+        if (!m_runIsOpen && !isLineOfBlanks(m_index) && plain.trimmed().isEmpty()) {
             m_result.html += plain;
             return;
         }
