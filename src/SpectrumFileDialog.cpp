@@ -1,13 +1,14 @@
 #include <ozm_widgets/SpectrumFileDialog.h>
 
 #include "dialogs/DataDelegate.h"
+#include "dialogs/DialogNavigation.h"
 #include "dialogs/DialogParts.h"
 #include "dialogs/GuardedDialog.h"
 #include "dialogs/MsFileTypes.h"
+#include "dialogs/PickCheck.h"
 #include "dialogs/PickRecognition.h"
+#include "dialogs/SeenEntries.h"
 #include "support/Logging.h"
-
-#include <FormatDetection.h>
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -17,25 +18,20 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
+using ozm::DialogNavigation;
 using ozm::GuardedDialog;
-using ozm::msreader::DataSourceLocation;
+using ozm::PickCheck;
 
 namespace {
 
 // Nobody reads more names in a box of one line.
 constexpr qsizetype kMostNamesShown = 100;
-
-bool isDataOnDisk(const QString &path)
-{
-    const QFileInfo info(path);
-    return info.isFile() ||
-           (info.isDir() && hasDetectableFormat(DataSourceLocation::fromLocalPath(path), false));
-}
 
 QPushButton *openButtonOf(const QFileDialog &dialog)
 {
@@ -53,20 +49,63 @@ QString withoutSlashAtEnd(QString path)
     return path;
 }
 
+/// The answer to the caller: @p data, with a line in the log for each of @p picks that is not among it.
+QList<QString> tellDropped(const QStringList &picks, const QStringList &data)
+{
+    for (const QString &pick : picks)
+        if (!data.contains(withoutSlashAtEnd(pick)))
+            qCDebug(lcOzmWidgets).noquote() << "Dropped, as it holds no data:" << withoutSlashAtEnd(pick);
+    if (!data.isEmpty())
+        DialogNavigation::addRecent(QFileInfo(data.constFirst()).absolutePath());
+    return data;
+}
+
+QList<QString> dataAmong(const QStringList &picks, const std::shared_ptr<ozm::SeenEntries> &seen,
+                         QWidget *parent)
+{
+    if (picks.isEmpty())
+        return {};
+    const PickCheck check(picks, seen);
+    const bool isDone = check.waitBriefly() || check.waitWithMessage(parent);
+    return isDone ? tellDropped(picks, check.data()) : QList<QString>();
+}
+
+/// Calls @p answered when the check is done, and not when @p context is gone by then.
+void whenDone(const PickCheck &check, const QStringList &picks, QObject *context,
+              const SpectrumFileDialog::Answered &answered)
+{
+    auto *poll = new QTimer(context);
+    QObject::connect(poll, &QTimer::timeout, context, [check, picks, answered, poll] {
+        if (!check.isDone())
+            return;
+        poll->stop();
+        poll->deleteLater();
+        answered(tellDropped(picks, check.data()));
+    });
+    poll->start(std::chrono::milliseconds(20));
+}
+
 } // namespace
 
 SpectrumFileDialog::SpectrumFileDialog(QWidget *parent)
     : RestrictedFileDialog(parent)
+    , m_seen(std::make_shared<ozm::SeenEntries>())
 {
     setOption(QFileDialog::DontUseNativeDialog, true);
     setFileMode(QFileDialog::ExistingFiles);
+    showFormats();
+    m_navigation = new DialogNavigation(*this, DialogNavigation::RawFolders::Picked);
+    connect(m_navigation, &DialogNavigation::chosen, this, &SpectrumFileDialog::enter);
     if (QPushButton *button = openButtonOf(*this))
         rewire(button);
     else
         qCDebug(lcOzmWidgets) << "openButton is nullptr";
 }
 
-SpectrumFileDialog::~SpectrumFileDialog() = default;
+SpectrumFileDialog::~SpectrumFileDialog()
+{
+    delete m_navigation;
+}
 
 void SpectrumFileDialog::rewire(QWidget *openButton)
 {
@@ -76,9 +115,6 @@ void SpectrumFileDialog::rewire(QWidget *openButton)
     connect(this, &QFileDialog::currentChanged, this, &SpectrumFileDialog::currentChanged_custom);
     connect(this, &QFileDialog::directoryEntered, this, &SpectrumFileDialog::directoryEntered_custom);
 
-    auto *delegate = new ozm::DataDelegate(this);
-    setItemDelegate(delegate);
-    ozm::widenColumns(*this);
     addRecognition();
     if (const QItemSelectionModel *selection = ozm::selectionModel(*this)) {
         connect(selection, &QItemSelectionModel::selectionChanged, this, &SpectrumFileDialog::showPicks);
@@ -86,10 +122,17 @@ void SpectrumFileDialog::rewire(QWidget *openButton)
     }
     if (const QLineEdit *name = ozm::nameBox(*this))
         connect(name, &QLineEdit::textEdited, this, &SpectrumFileDialog::recognise);
-    for (QAbstractItemView *view : findChildren<QAbstractItemView *>()) {
+    for (QAbstractItemView *view : findChildren<QAbstractItemView *>())
         view->installEventFilter(this);
+}
+
+void SpectrumFileDialog::showFormats()
+{
+    auto *delegate = new ozm::DataDelegate(m_seen, this);
+    setItemDelegate(delegate);
+    ozm::widenColumns(*this);
+    for (QAbstractItemView *view : findChildren<QAbstractItemView *>())
         connect(delegate, &ozm::DataDelegate::looked, view->viewport(), qOverload<>(&QWidget::update));
-    }
     connect(this, &QFileDialog::directoryEntered, delegate, &ozm::DataDelegate::clear);
 }
 
@@ -98,7 +141,7 @@ void SpectrumFileDialog::addRecognition()
     auto *row = new QWidget(this);
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_recognition = new ozm::PickRecognition(row);
+    m_recognition = new ozm::PickRecognition(m_seen, row);
     layout->addWidget(m_recognition, 1);
     // To open such a folder is to choose it, so that there has to be another way into one.
     auto *inside = new QPushButton(tr("Look &inside"), row);
@@ -218,8 +261,8 @@ void SpectrumFileDialog::openButton_clicked()
         qCDebug(lcOzmWidgets).noquote() << file;
     if (files.size() == 1)
         openOne(files.constFirst());
-    else if (std::ranges::any_of(files, isDataOnDisk))
-        finish();
+    else if (!files.isEmpty())
+        openSeveral(files);
 }
 
 void SpectrumFileDialog::openOne(const QString &path)
@@ -228,6 +271,23 @@ void SpectrumFileDialog::openOne(const QString &path)
         enter(path);
     else
         finish();
+}
+
+void SpectrumFileDialog::openSeveral(const QStringList &paths)
+{
+    const PickCheck check(paths, m_seen);
+    if (check.waitBriefly()) {
+        if (!check.data().isEmpty())
+            finish();
+        return;
+    }
+    // Not under the key press that led here; see tellMissing().
+    const auto wait = [this, check] {
+        const QPointer<SpectrumFileDialog> self(this);
+        if (check.waitWithMessage(this) && self && !check.data().isEmpty())
+            self->finish();
+    };
+    QMetaObject::invokeMethod(this, wait, Qt::QueuedConnection);
 }
 
 void SpectrumFileDialog::enter(const QString &folder)
@@ -279,12 +339,11 @@ void SpectrumFileDialog::recognise()
     m_recognition->recognise(selectedFiles());
 }
 
-QList<QString> SpectrumFileDialog::_internalGetOpenFunction(QWidget *parent, const QString &caption,
-                                                            const QString &dir, const QString &filter,
-                                                            QString *selectedFilter,
-                                                            QFileDialog::Options options)
+SpectrumFileDialog *SpectrumFileDialog::create(QWidget *parent, const QString &caption, const QString &dir,
+                                               const QString &filter, QString *selectedFilter,
+                                               QFileDialog::Options options)
 {
-    GuardedDialog dialog(new SpectrumFileDialog(parent));
+    auto *dialog = new SpectrumFileDialog(parent);
     QDir start(dir);
     // A raw folder is shown among its neighbours, not from inside; so is a file.
     if (isVendorRawFolder(dir, true) && start.cdUp())
@@ -298,6 +357,17 @@ QList<QString> SpectrumFileDialog::_internalGetOpenFunction(QWidget *parent, con
     dialog->setOptions(options);
     if (selectedFilter && !selectedFilter->isEmpty())
         dialog->selectNameFilter(*selectedFilter);
+    return dialog;
+}
+
+QList<QString> SpectrumFileDialog::_internalGetOpenFunction(QWidget *parent, const QString &caption,
+                                                            const QString &dir, const QString &filter,
+                                                            QString *selectedFilter,
+                                                            QFileDialog::Options options,
+                                                            std::shared_ptr<ozm::SeenEntries> *seen)
+{
+    GuardedDialog dialog(create(parent, caption, dir, filter, selectedFilter, options));
+    *seen = dialog->m_seen;
     return dialog.exec() ? dialog->selectedFiles() : QList<QString>();
 }
 
@@ -305,14 +375,40 @@ QList<QString> SpectrumFileDialog::getSpectrumFileList(QWidget *parent, const QS
                                                        const QString &dir, const QString &filter,
                                                        QString *selectedFilter, QFileDialog::Options options)
 {
-    QList<QString> data;
-    for (const QString &pick :
-         _internalGetOpenFunction(parent, caption, dir, filter, selectedFilter, options)) {
-        const QString path = withoutSlashAtEnd(pick);
-        if (isDataOnDisk(path))
-            data.append(path);
-        else
-            qCDebug(lcOzmWidgets).noquote() << "Dropped, as it holds no data:" << path;
-    }
-    return data;
+    const QPointer<QWidget> owner(parent);
+    std::shared_ptr<ozm::SeenEntries> seen;
+    const QStringList picks =
+        _internalGetOpenFunction(parent, caption, dir, filter, selectedFilter, options, &seen);
+    return dataAmong(picks, seen, owner);
+}
+
+QString SpectrumFileDialog::getSpectrumFile(QWidget *parent, const QString &caption, const QString &dir,
+                                            const QString &filter)
+{
+    const QPointer<QWidget> owner(parent);
+    GuardedDialog dialog(create(parent, caption, dir, filter, nullptr, {}));
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    const auto seen = dialog->m_seen;
+    const QStringList picks = dialog.exec() ? dialog->selectedFiles() : QStringList();
+    return dataAmong(picks, seen, owner).value(0);
+}
+
+void SpectrumFileDialog::openSpectrumFileList(QWidget *parent, const QString &caption, const QString &dir,
+                                              const QString &filter, QObject *context,
+                                              const Answered &answered)
+{
+    SpectrumFileDialog *dialog = create(parent, caption, dir, filter, nullptr, {});
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    const auto isTold = std::make_shared<bool>(false);
+    connect(dialog, &QDialog::finished, context, [dialog, context, answered, isTold](int result) {
+        *isTold = true;
+        const QStringList picks = result == Rejected ? QStringList() : dialog->selectedFiles();
+        whenDone(PickCheck(picks, dialog->m_seen), picks, context, answered);
+    });
+    // With its parent it goes without a word.
+    connect(dialog, &QObject::destroyed, context, [answered, isTold] {
+        if (!*isTold)
+            answered({});
+    });
+    static_cast<QDialog *>(dialog)->open();
 }

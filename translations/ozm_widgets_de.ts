@@ -153,10 +153,6 @@ und %1 weitere</translation>
 %1</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be written.</source>
-        <translation>„%1“ kann nicht geschrieben werden.</translation>
-    </message>
-    <message>
         <source>Data found: %1.</source>
         <translation>Gefundene Daten: %1.</translation>
     </message>
@@ -178,6 +174,14 @@ und %1 weitere</translation>
     <message>
         <source>&quot;%1&quot; exists and will be replaced.</source>
         <translation>„%1“ ist vorhanden und wird ersetzt.</translation>
+    </message>
+    <message>
+        <source>There is no folder &quot;%1&quot; here.</source>
+        <translation>Hier gibt es keinen Ordner „%1“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder. Double-click it to look inside.</source>
+        <translation>„%1“ ist ein Ordner. Ein Doppelklick zeigt, was darin ist.</translation>
     </message>
 </context>
 <context>
@@ -252,10 +256,28 @@ Der berichtigte Pfad ist:
     </message>
 </context>
 <context>
+    <name>PickCheck</name>
+    <message>
+        <source>Opening data</source>
+        <translation>Daten öffnen</translation>
+    </message>
+    <message>
+        <source>The disk takes long to answer. Looking for data …</source>
+        <translation>Der Datenträger antwortet langsam. Daten werden gesucht …</translation>
+    </message>
+</context>
+<context>
     <name>QMessageBox</name>
     <message>
         <source>Show Details...</source>
         <translation>Details anzeigen …</translation>
+    </message>
+</context>
+<context>
+    <name>SaveProbe</name>
+    <message>
+        <source>&quot;%1&quot; cannot be written.</source>
+        <translation>„%1“ kann nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>
@@ -359,6 +381,17 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::EntryFilter</name>
+    <message>
+        <source>Filter by name</source>
+        <translation>Nach Namen filtern</translation>
+    </message>
+    <message>
+        <source>Shows only entries whose names contain this text (%1)</source>
+        <translation>Zeigt nur Einträge, deren Namen diesen Text enthalten (%1)</translation>
+    </message>
+</context>
+<context>
     <name>ozm::OperationLogItemData</name>
     <message>
         <source>The record cannot be read from byte %1 on: %2.</source>
@@ -367,6 +400,17 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     <message>
         <source>The record has no known operation, subject, attributes or undo context.</source>
         <translation>Der Eintrag nennt keinen bekannten Vorgang, Gegenstand, keine Attribute oder keinen bekannten Zusammenhang.</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::PathBar</name>
+    <message>
+        <source>Folders above</source>
+        <translation>Übergeordnete Ordner</translation>
+    </message>
+    <message>
+        <source>Folders further above</source>
+        <translation>Weitere übergeordnete Ordner</translation>
     </message>
 </context>
 <context>

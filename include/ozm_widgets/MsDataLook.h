@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 namespace ozm::msreader {
@@ -29,6 +30,12 @@ public:
     /// Nothing more is told; what is being looked at is left to end by itself.
     ~MsDataLook() override;
 
+    using Recognition = std::function<MsSample(const QString &path)>;
+
+    /// Has @p recognition, called in another thread, answer in place of MsDataSearch::sampleAt(), from the next look() on:
+    /// one that remembers, for instance.
+    void setRecognition(const Recognition &recognition);
+
     /// Data folders are measured as well, from the next look() on; as in MsDataSearch::sizeOnDisk().
     void setMeasuresFolders(bool measures);
 
@@ -51,6 +58,7 @@ private:
 
     const std::shared_ptr<Desk> m_desk;
     qsizetype m_waiting = 0;
+    Recognition m_recognition;
     int m_round = 0;
     bool m_measuresFolders = false;
 };

@@ -1,6 +1,7 @@
 #include "dialogs/DataDelegate.h"
 
 #include "dialogs/DialogParts.h"
+#include "dialogs/SeenEntries.h"
 
 #include <ozm_widgets/OZMStyle.h>
 #include <ozm_widgets/SpectrumFileDialog.h>
@@ -21,9 +22,10 @@ bool mayBeData(const QString &path, bool isFolder)
 
 } // namespace
 
-DataDelegate::DataDelegate(QObject *parent)
+DataDelegate::DataDelegate(const std::shared_ptr<SeenEntries> &seen, QObject *parent)
     : QStyledItemDelegate(parent)
 {
+    m_look.setRecognition([seen](const QString &path) { return seen->sampleAt(path); });
     connect(&m_look, &msreader::MsDataLook::seen, this, [this](const msreader::MsSample &sample) {
         m_formats.insert(sample.path, sample.isData() ? sample.description : u""_s);
         Q_EMIT looked();

@@ -6,7 +6,11 @@
 #include <QSet>
 #include <QStyledItemDelegate>
 
+#include <memory>
+
 namespace ozm {
+
+class SeenEntries;
 
 /**
  * Shows in the list of a file dialog what each entry is: an icon for data, and in the column of types the
@@ -19,7 +23,7 @@ class DataDelegate : public QStyledItemDelegate
     Q_OBJECT
 
 public:
-    explicit DataDelegate(QObject *parent);
+    DataDelegate(const std::shared_ptr<SeenEntries> &seen, QObject *parent);
 
     /// Forgets what was seen, as the disk may have changed.
     void clear();

@@ -1,12 +1,14 @@
 #include "dialogs/DialogParts.h"
 
 #include <QDateTime>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
 #include <QLocale>
+#include <QPushButton>
 #include <QTreeView>
 
 using namespace Qt::StringLiterals;
@@ -24,6 +26,12 @@ constexpr int kCellMargin = 8;
 QLineEdit *nameBox(const QFileDialog &dialog)
 {
     return dialog.findChild<QLineEdit *>(u"fileNameEdit"_s);
+}
+
+QPushButton *openButton(const QFileDialog &dialog)
+{
+    const auto *buttons = dialog.findChild<QDialogButtonBox *>(u"buttonBox"_s);
+    return buttons ? buttons->button(QDialogButtonBox::Open) : nullptr;
 }
 
 QItemSelectionModel *selectionModel(const QFileDialog &dialog)
@@ -45,7 +53,8 @@ void widenColumns(const QFileDialog &dialog)
     view->header()->setStretchLastSection(false);
     view->header()->setSectionResizeMode(kNameColumn, QHeaderView::Stretch);
     view->header()->resizeSection(kTypeColumn, room(QString(kTypeCharacters, u'n')));
-    view->header()->resizeSection(kDateColumn, room(QLocale().toString(late, QLocale::ShortFormat)));
+    // As the toolkit's model writes it.
+    view->header()->resizeSection(kDateColumn, room(QLocale::system().toString(late, QLocale::ShortFormat)));
 }
 
 void addToFileDialog(QFileDialog &dialog, QWidget *widget)

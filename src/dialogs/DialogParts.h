@@ -3,6 +3,7 @@
 class QFileDialog;
 class QItemSelectionModel;
 class QLineEdit;
+class QPushButton;
 class QWidget;
 
 namespace ozm {
@@ -16,6 +17,8 @@ constexpr int kDateColumn = 3;
 // gives null, and the dialogs do without.
 
 [[nodiscard]] QLineEdit *nameBox(const QFileDialog &dialog);
+/// Null in a dialog that saves.
+[[nodiscard]] QPushButton *openButton(const QFileDialog &dialog);
 /// Of the list and of the table of details, which share it.
 [[nodiscard]] QItemSelectionModel *selectionModel(const QFileDialog &dialog);
 

@@ -1,5 +1,7 @@
 #include "dialogs/PickRecognition.h"
 
+#include "dialogs/SeenEntries.h"
+
 #include <ozm_widgets/SpectrumFileDialog.h>
 
 #include <QFileInfo>
@@ -35,7 +37,7 @@ QString lineFor(const MsSample &sample, bool isAlone)
 
 } // namespace
 
-PickRecognition::PickRecognition(QWidget *parent)
+PickRecognition::PickRecognition(const std::shared_ptr<SeenEntries> &seen, QWidget *parent)
     : QLabel(parent)
 {
     setObjectName(u"recognition"_s);
@@ -46,6 +48,7 @@ PickRecognition::PickRecognition(QWidget *parent)
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     showLines({});
     setFixedHeight(static_cast<int>(kMostLines + 1) * fontMetrics().lineSpacing() + 2 * margin());
+    m_look.setRecognition([seen](const QString &path) { return seen->sampleAt(path); });
     connect(&m_look, &msreader::MsDataLook::seen, this, &PickRecognition::take);
 }
 

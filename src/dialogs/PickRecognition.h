@@ -5,7 +5,11 @@
 #include <QLabel>
 #include <QStringList>
 
+#include <memory>
+
 namespace ozm {
+
+class SeenEntries;
 
 /**
  * Says in a few lines what the entries highlighted in a file dialog are, or why they hold no data.
@@ -17,7 +21,7 @@ class PickRecognition : public QLabel
     Q_OBJECT
 
 public:
-    explicit PickRecognition(QWidget *parent = nullptr);
+    PickRecognition(const std::shared_ptr<SeenEntries> &seen, QWidget *parent);
 
     void recognise(const QStringList &paths);
     /// The answer for a pick that is alone; of no path until it is there, and for none or many.

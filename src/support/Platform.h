@@ -41,6 +41,25 @@ template <typename AnyError>
         return AnyError(error.errorCode(), error.errorMessage() + QLatin1Char(' ') + warning);
 }
 
+/// @p error with a warning where there is a way to add one. Its message is promised, and stays as it is.
+template <typename AnyError>
+[[nodiscard]] AnyError withHint(AnyError error, const QString &hint)
+{
+    if constexpr (requires { error.addWarning(hint); })
+        error.addWarning(hint);
+    return error;
+}
+
+/// False where all purposes share one folder.
+template <typename Settings = FileSystemSettings>
+[[nodiscard]] constexpr bool hasOwnLocations()
+{
+    return requires
+    {
+        Settings::addLocation(QString());
+    };
+}
+
 /// A purpose whose last folder is remembered by itself; all purposes share one where there is no way to add.
 template <typename Settings = FileSystemSettings>
 [[nodiscard]] ExtendableEnumRef<FileSystemSettings::DirLocationData> dirLocation(const QString &name)

@@ -6,6 +6,8 @@
 
 #include <QLabel>
 #include <QLoggingCategory>
+#include <QMimeData>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 using namespace ozm::test;
@@ -24,6 +26,8 @@ public:
     }
 
     [[nodiscard]] QString path(const QString &name = {}) const { return m_tree.path(name); }
+
+    void add(const QString &entry) const { m_tree.makeOne(entry); }
 
     [[nodiscard]] QStringList ask(const DialogDriver::Work &work, const QString &start = {},
                                   QFileDialog::Options options = {}) const
@@ -53,7 +57,10 @@ struct Step
         EnterInList,
         Type,
         EnterInName,
-        Open
+        Open,
+        Filter,
+        SelectAll,
+        Drop
     };
     What what;
     QString entry = {};
@@ -87,6 +94,27 @@ void take(const Step &step, const FileDialogDriver &driver, const Picks &picks)
     case Step::Open:
         driver.clickAccept();
         break;
+    case Step::Filter:
+        QVERIFY(driver.rectOf(picks.path(u"one.mzml"_s)).isValid());
+        QTest::keyClicks(driver.dialog()->findChild<QLineEdit *>(u"entryFilter"_s), step.entry);
+        break;
+    case Step::SelectAll:
+        driver.list()->setFocus();
+        driver.list()->selectAll();
+        break;
+    case Step::Drop: {
+        QMimeData dropped;
+        QList<QUrl> urls;
+        for (const QString &entry : step.entry.split(u'|'))
+            urls.append(QUrl::fromLocalFile(picks.path(entry)));
+        dropped.setUrls(urls);
+        QDragEnterEvent enter({}, Qt::CopyAction, &dropped, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(driver.dialog(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop({}, Qt::CopyAction, &dropped, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(driver.dialog(), &drop);
+        break;
+    }
     }
 }
 
@@ -191,6 +219,17 @@ private Q_SLOTS:
             QTest::addRow("%s: file first, then entered", what)
                 << QList<Step>{{S::Click, u"one.mzml"_s}, {S::DoubleClick, folder}, openInner} << inner;
         }
+        QTest::newRow("filtered, all that is left")
+            << QList<Step>{{S::Filter, u"TWO"_s}, {S::SelectAll}, {S::Open}} << QStringList{u"two.mzml"_s};
+        QTest::newRow("dropped: a file and a raw folder")
+            << QList<Step>{{S::Drop, u"one.mzml|Run.d"_s}, {S::Open}}
+            << QStringList{u"one.mzml"_s, u"Run.d"_s};
+        QTest::newRow("dropped: an ordinary folder, then a file from another")
+            << QList<Step>{{S::Drop, u"plain"_s}, {S::Drop, u"two.mzml"_s}, {S::Open}}
+            << QStringList{u"two.mzml"_s};
+        QTest::newRow("dropped: files of two folders")
+            << QList<Step>{{S::Drop, u"one.mzml|plain/inner.mzml"_s}, {S::Open}}
+            << QStringList{u"one.mzml"_s, u"plain/inner.mzml"_s};
         QTest::newRow("up and in again") << QList<Step>{{S::DoubleClick, u"plain"_s},
                                                         {S::Type, u".."_s},
                                                         {S::EnterInName},
@@ -380,6 +419,92 @@ private Q_SLOTS:
             QCOMPARE(driver.name()->text(), u"link.d"_s);
             dialog->reject();
         });
+    }
+
+    void looksAgainOnlyAtWhatChanged()
+    {
+        // Each look is a line in the log of the recognition.
+        static std::atomic<int> looks;
+        looks = 0;
+        static QtMessageHandler before;
+        before = qInstallMessageHandler(
+            [](QtMsgType type, const QMessageLogContext &context, const QString &text) {
+                if (QLatin1StringView(context.category) != "ozm.generic"_L1)
+                    before(type, context, text);
+                else if (text.contains("Run.d"_L1) || text.contains("Empty.d"_L1))
+                    ++looks;
+            });
+        QLoggingCategory::setFilterRules(u"ozm.generic.debug=true"_s);
+        const Picks picks;
+        const QStringList picked = picks.ask([&](QDialog *dialog) {
+            const FileDialogDriver driver(dialog);
+            QVERIFY(driver.click(picks.path(u"Run.d"_s)));
+            QVERIFY(driver.click(picks.path(u"Empty.d"_s), Qt::ControlModifier));
+            const auto *label = dialog->findChild<QLabel *>(u"recognition"_s);
+            QTRY_VERIFY(label->toolTip().startsWith("1 of 2"_L1));
+            picks.add(u"Empty.d/AcqData/"_s);
+            looks = 0;
+            driver.clickAccept();
+        });
+        QLoggingCategory::setFilterRules({});
+        qInstallMessageHandler(before);
+        QCOMPARE(picked, (QStringList{u"Run.d"_s, u"Empty.d"_s}));
+        QCOMPARE(looks.load(), 1);
+    }
+
+    void leadsAbout()
+    {
+        const Picks picks;
+        (void)picks.ask([&](QDialog *dialog) {
+            auto *files = qobject_cast<QFileDialog *>(dialog);
+            files->setDirectory(picks.path(u"Run.d/AcqData"_s));
+            auto *bar = dialog->findChild<QWidget *>(u"pathBar"_s);
+            const QList<QToolButton *> folders = bar->findChildren<QToolButton *>();
+            QCOMPARE(folders.constLast()->text(), u"AcqData"_s);
+            folders.at(folders.size() - 3)->click();
+            QTRY_COMPARE(files->directory().absolutePath(), picks.path());
+            dialog->resize(777, 603);
+            dialog->reject();
+        });
+        const QStringList picked = picks.ask([&](QDialog *dialog) {
+            QCOMPARE(dialog->size(), QSize(777, 603));
+            QVERIFY(FileDialogDriver(dialog).doubleClick(picks.path(u"Run.d"_s)));
+        });
+        QCOMPARE(picked, QStringList{u"Run.d"_s});
+        const auto places = [](QDialog *dialog) {
+            return qobject_cast<QFileDialog *>(dialog)->sidebarUrls();
+        };
+        (void)picks.ask([&](QDialog *dialog) {
+            QTRY_VERIFY(places(dialog).contains(QUrl::fromLocalFile(picks.path())));
+            dialog->reject();
+        });
+        // The toolkit keeps its places for all programs.
+        QFileDialog plain;
+        plain.setOption(QFileDialog::DontUseNativeDialog);
+        QVERIFY(!places(&plain).contains(QUrl::fromLocalFile(picks.path())));
+    }
+
+    void asksForOneAndWithoutWaiting()
+    {
+        const Picks picks;
+        const auto pick = [&](QDialog *dialog) {
+            const FileDialogDriver driver(dialog);
+            QVERIFY(driver.click(picks.path(u"one.mzml"_s)));
+            QVERIFY(driver.click(picks.path(u"Run.d"_s), Qt::ControlModifier));
+            driver.clickAccept();
+        };
+        const DialogDriver driver({pick, pick, [](QDialog *dialog) { delete dialog->parent(); }});
+        QCOMPARE(SpectrumFileDialog::getSpectrumFile(nullptr, {}, picks.path()), picks.path(u"Run.d"_s));
+
+        QList<QStringList> answers;
+        const auto answered = [&](const QStringList &data) { answers.append(data); };
+        SpectrumFileDialog::openSpectrumFileList(nullptr, {}, picks.path(), {}, this, answered);
+        QVERIFY(answers.isEmpty());
+        QTRY_COMPARE(answers.size(), 1);
+        QCOMPARE(answers.at(0), (QStringList{picks.path(u"one.mzml"_s), picks.path(u"Run.d"_s)}));
+        SpectrumFileDialog::openSpectrumFileList(new QWidget, {}, picks.path(), {}, this, answered);
+        QTRY_COMPARE(answers.size(), 2);
+        QVERIFY(answers.at(1).isEmpty());
     }
 
     void endsWithItsParent()

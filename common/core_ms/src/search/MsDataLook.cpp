@@ -28,11 +28,11 @@ public:
         : m_owner(owner)
     {}
 
-    void add(const QStringList &paths, int round, bool measuresFolders)
+    void add(const QStringList &paths, int round, bool measuresFolders, const Recognition &recognition)
     {
         const QMutexLocker lock(&m_mutex);
         for (const QString &path : paths)
-            m_entries.enqueue({path, measuresFolders});
+            m_entries.enqueue({path, measuresFolders, recognition});
         if (m_isServed || m_threads == kMostThreads)
             return;
         m_isServed = true;
@@ -65,12 +65,13 @@ private:
     {
         QString path;
         bool measuresFolders;
+        Recognition recognition;
     };
 
     void serve(int round)
     {
         while (const auto entry = next(round)) {
-            MsSample sample = sampleAt(entry->path);
+            MsSample sample = entry->recognition(entry->path);
             if (entry->measuresFolders && sample.kind == EntryKind::Folder && sample.isData())
                 sample.size = sizeOnDisk(sample.path, [this, round] { return m_round != round; });
             tell(round, sample);
@@ -113,11 +114,17 @@ private:
 MsDataLook::MsDataLook(QObject *parent)
     : QObject(parent)
     , m_desk(std::make_shared<Desk>(this))
+    , m_recognition(&sampleAt)
 {}
 
 MsDataLook::~MsDataLook()
 {
     m_desk->end();
+}
+
+void MsDataLook::setRecognition(const Recognition &recognition)
+{
+    m_recognition = recognition;
 }
 
 void MsDataLook::setMeasuresFolders(bool measures)
@@ -130,7 +137,7 @@ void MsDataLook::look(const QStringList &paths)
     if (paths.isEmpty())
         return;
     m_waiting += paths.size();
-    m_desk->add(paths, m_round, m_measuresFolders);
+    m_desk->add(paths, m_round, m_measuresFolders, m_recognition);
 }
 
 void MsDataLook::cancel()
