@@ -115,7 +115,8 @@ Error IFileAccessor::saveFile(const DestinationFileLocation &location, const QBy
 {
     return saveFile(location, [data](const QString &path) {
         QFile file(path);
-        if (!mayBlock(path) && file.open(QIODevice::WriteOnly)) {
+        const bool blocks = mayBlock(path);
+        if (!blocks && file.open(QIODevice::WriteOnly)) {
             // A short write still counts as saved: callers rely on the error meaning that nothing was
             // touched.
             file.write(data);
@@ -123,6 +124,7 @@ Error IFileAccessor::saveFile(const DestinationFileLocation &location, const QBy
             return Error();
         }
         Error error(ozm::codes::FileAccess, u"Couldn't open save file."_s);
+        error = platform::withHint(error, notWrittenText(path, blocks ? QString() : file.errorString()));
         return error.ecatch(QString::fromUtf8(Q_FUNC_INFO), kSource, kBytesLine);
     });
 }
@@ -133,7 +135,8 @@ Error IFileAccessor::saveCsvFile(const DestinationFileLocation &location, const 
     return saveFile(location, [rows, text, separator](const QString &path) {
         if (CsvWriter::writeFile(path, rows, text, separator))
             return Error();
-        Error error(ozm::codes::Failed, u"Writing to csv file failed"_s);
+        Error error = platform::withHint(Error(ozm::codes::Failed, u"Writing to csv file failed"_s),
+                                         notWrittenText(path));
         return error.ecatch(QString::fromUtf8(Q_FUNC_INFO), kSource, kCsvLine);
     });
 }

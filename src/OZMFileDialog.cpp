@@ -112,7 +112,7 @@ void OZMFileDialog::_setDir(QString &dir, QString &remembered, const DirLocation
         return;
     }
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    dir = documents.isEmpty() ? QDir::currentPath() : documents;
+    dir = documents.isEmpty() ? QDir::currentPath() : nearestFolder(documents);
 }
 
 QString OZMFileDialog::getOpenFileName(QWidget *parent, const QString &caption, const QString &dir,

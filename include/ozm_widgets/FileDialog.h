@@ -9,7 +9,9 @@
  *
  * A bare name gets the extension of the chosen filter, and the file is opened for writing once, without a
  * trace; when that fails the user is told why and can choose another name. A notice beneath the name says
- * when a file would be replaced, as no question is asked about it.
+ * when a file would be replaced, as no question is asked about it, and why the button of a question that opens is
+ * off: a folder is highlighted where a file is asked for, or there is no folder of the name. The Enter key in the name
+ * box answers all the same.
  *
  *     const QString path = FileDialog::getSaveFileName(this, tr("Save table"), folder, tr("CSV (*.csv)"));
  *
@@ -52,6 +54,7 @@ private:
 
     void acceptSave();
     void enterFolder(const QString &folder);
+    [[nodiscard]] QString noticeText() const;
     [[nodiscard]] QString pathToSave() const;
     void updateNotice();
 };

@@ -138,10 +138,10 @@ public:
                                                           DirLocation dirLocation = {}) const;
 
     /// Replaces the file by @p data. Code 4, "Couldn't open save file.", when it cannot be opened for
-    /// writing, or is a device or a pipe. A disk that fills up meanwhile goes unnoticed, as callers rely on.
+    /// writing, or is a pipe; a warning names the path and the reason. A disk that fills up meanwhile goes unnoticed, as callers rely on.
     [[nodiscard]] Error saveFile(const DestinationFileLocation &location, const QByteArray &data) const;
     /// Writes @p rows as CsvWriter does, to which @p text, the text qualifier, and @p separator are passed.
-    /// Code 1, "Writing to csv file failed", leaves the file as it was.
+    /// Code 1, "Writing to csv file failed", leaves the file as it was; a warning names the path.
     [[nodiscard]] Error saveCsvFile(const DestinationFileLocation &location,
                                     const QList<QList<QString>> &rows, const QString &text = {},
                                     const QChar &separator = u',') const;

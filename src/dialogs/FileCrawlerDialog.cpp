@@ -2,6 +2,7 @@
 
 #include "dialogs/FileCrawlerForm.h"
 #include "dialogs/GuardedDialog.h"
+#include "dialogs/SaveProbe.h"
 
 #include "support/Platform.h"
 #include <ozm_common_core/CustomFieldsStringConstants.h>
@@ -74,9 +75,8 @@ Error writeCsv(const QString &path, const Rows &rows)
 {
     if (ozm::CsvWriter::writeFile(path, rows, {}, u','))
         return {};
-    const QString warning =
-        FileCrawlerDialog::tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(path));
-    return ozm::platform::withWarning(Error(ozm::codes::Failed, u"Writing to csv file failed"_s), warning)
+    return ozm::platform::withWarning(Error(ozm::codes::Failed, u"Writing to csv file failed"_s),
+                                      ozm::notWrittenText(path))
         .ecatch(OZM_PLACE);
 }
 
@@ -353,8 +353,11 @@ void FileCrawlerDialog::generateMSDataPathsCsv()
             ->saveFile(d->destination, [rows](const QString &path) { return writeCsv(path, rows); });
     QWidget *owner = parentWidget();
     if (error.hasError()) {
-        OZMStyle::information(owner, ozm::OzmMessageBoxSignal::FileNotWritable, tr("Error"),
-                              error.errorMessage(), QMessageBox::Ok);
+        (void)OZMStyle::ask(owner, {.icon = QMessageBox::Information,
+                                    .signal = ozm::OzmMessageBoxSignal::FileNotWritable,
+                                    .title = tr("Error"),
+                                    .text = error.errorMessage(),
+                                    .detailedText = error.warnings().join(u'\n')});
         return;
     }
     const bool isLocal = !d->destination.isNull() &&

@@ -1,15 +1,19 @@
 #include <ozm_widgets/FileDialog.h>
 
+#include "dialogs/DialogNavigation.h"
 #include "dialogs/DialogParts.h"
 #include "dialogs/GuardedDialog.h"
 #include "dialogs/SaveProbe.h"
 
 #include <QFileInfo>
+#include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
+using ozm::DialogNavigation;
 using ozm::GuardedDialog;
 using ozm::SaveProbe;
 
@@ -46,15 +50,34 @@ FileDialog::FileDialog(QWidget *parent, const QString &caption, const QString &d
     auto *notice = new QLabel(this);
     notice->setObjectName(u"replaceNotice"_s);
     notice->setTextFormat(Qt::PlainText);
+    notice->setFrameShape(QFrame::StyledPanel);
+    notice->setAutoFillBackground(true);
+    notice->setBackgroundRole(QPalette::ToolTipBase);
+    notice->setForegroundRole(QPalette::ToolTipText);
+    QFont bold = notice->font();
+    bold.setBold(true);
+    notice->setFont(bold);
+    // Keeps its room, so that the list does not move while a name is typed.
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    policy.setRetainSizeWhenHidden(true);
+    notice->setSizePolicy(policy);
     notice->hide();
     ozm::addToFileDialog(*this, notice);
     if (const QLineEdit *name = ozm::nameBox(*this))
         connect(name, &QLineEdit::textChanged, this, &FileDialog::updateNotice);
     connect(this, &QFileDialog::filterSelected, this, &FileDialog::updateNotice);
     connect(this, &QFileDialog::currentChanged, this, &FileDialog::updateNotice);
+    if (const QItemSelectionModel *selection = ozm::selectionModel(*this))
+        connect(selection, &QItemSelectionModel::selectionChanged, this, &FileDialog::updateNotice);
+    auto *navigation = new DialogNavigation(*this, DialogNavigation::RawFolders::Entered);
+    connect(navigation, &DialogNavigation::chosen, this,
+            [this](const QString &folder) { setDirectory(folder); });
 }
 
-FileDialog::~FileDialog() = default;
+FileDialog::~FileDialog()
+{
+    delete findChild<DialogNavigation *>();
+}
 
 QString FileDialog::getOpenFileName(QWidget *parent, const QString &caption, const QString &dir,
                                     const QString &filter, QString *selectedFilter,
@@ -66,6 +89,7 @@ QString FileDialog::getOpenFileName(QWidget *parent, const QString &caption, con
     dialog->setAcceptMode(QFileDialog::AcceptOpen);
     // Callers create what does not exist: any name will do.
     dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->updateNotice();
     return dialog.exec() ? dialog->selectedFiles().value(0) : QString();
 }
 
@@ -88,6 +112,7 @@ QString FileDialog::getExistingDirectory(QWidget *parent, const QString &caption
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOptions(options);
     dialog->setAcceptMode(QFileDialog::AcceptOpen);
+    dialog->updateNotice();
     return dialog.exec() ? dialog->selectedFiles().value(0) : QString();
 }
 
@@ -141,16 +166,31 @@ QString FileDialog::pathToSave() const
     return fileNameWithExtension(selectedFiles().value(0), selectedNameFilter());
 }
 
+QString FileDialog::noticeText() const
+{
+    const bool isSaving = acceptMode() == QFileDialog::AcceptSave;
+    const QFileInfo chosen(isSaving ? pathToSave() : selectedFiles().value(0));
+    const QString name = chosen.fileName();
+    if (isSaving)
+        return chosen.isFile() ? tr("\"%1\" exists and will be replaced.").arg(name) : QString();
+    if (fileMode() == QFileDialog::Directory)
+        return chosen.isDir() ? QString() : tr("There is no folder \"%1\" here.").arg(name);
+    // Without a name, it is the folder that is shown.
+    const bool isPick = chosen.isDir() && QDir(chosen.filePath()) != directory();
+    return isPick ? tr("\"%1\" is a folder. Double-click it to look inside.").arg(name) : QString();
+}
+
 void FileDialog::updateNotice()
 {
     auto *notice = findChild<QLabel *>(u"replaceNotice"_s);
-    const QFileInfo target(acceptMode() == QFileDialog::AcceptSave ? pathToSave() : QString());
-    notice->setText(tr("\"%1\" exists and will be replaced.").arg(target.fileName()));
-    // Keeps its room, so that the list does not move while a name is typed.
-    QSizePolicy policy = notice->sizePolicy();
-    policy.setRetainSizeWhenHidden(acceptMode() == QFileDialog::AcceptSave);
-    notice->setSizePolicy(policy);
-    notice->setVisible(target.isFile());
+    const QString text = noticeText();
+    notice->setText(text);
+    notice->setToolTip(text);
+    notice->setVisible(!text.isEmpty());
+    // After the toolkit, which turns it on for folders and for any name.
+    QPushButton *button = ozm::openButton(*this);
+    if (button && acceptMode() == QFileDialog::AcceptOpen && !text.isEmpty())
+        button->setEnabled(false);
 }
 
 bool FileDialog::checkIfFileCanBeOpenToWrite(QWidget *parent, const QString &path)

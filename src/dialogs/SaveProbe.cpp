@@ -1,5 +1,7 @@
 #include "dialogs/SaveProbe.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -88,6 +90,13 @@ bool mayBlock(const QString &path)
 #else
     return path.startsWith(R"(\\.\pipe\)"_L1, Qt::CaseInsensitive);
 #endif
+}
+
+QString notWrittenText(const QString &path, const QString &reason)
+{
+    const QString text = QCoreApplication::translate("SaveProbe", "\"%1\" cannot be written.")
+                             .arg(QDir::toNativeSeparators(path));
+    return reason.isEmpty() ? text : u"%1 (%2)"_s.arg(text, reason);
 }
 
 SaveProbe probeSave(const QString &path)

@@ -1,6 +1,6 @@
 #pragma once
 
-class QString;
+#include <QString>
 
 namespace ozm {
 
@@ -18,6 +18,9 @@ enum class SaveProbe
  * and never removes a file that somebody else made in the meantime.
  */
 [[nodiscard]] SaveProbe probeSave(const QString &path);
+
+/// The sentence for the user about a file that cannot be written; @p reason, the system's own, may be empty.
+[[nodiscard]] QString notWrittenText(const QString &path, const QString &reason = {});
 
 /// True for a pipe: to open it for writing is to wait for a reader, without end when none comes.
 [[nodiscard]] bool mayBlock(const QString &path);

@@ -218,7 +218,7 @@ private Q_SLOTS:
         QTest::newRow("several files, canceled") << Question::OpenSeveral << QString() << before;
         QTest::newRow("folder") << Question::Folder << u"below"_s << u"in"_s;
         QTest::newRow("folder, canceled") << Question::Folder << QString() << QString();
-        QTest::newRow("save") << Question::Save << u"new.csv"_s << u"in"_s;
+        QTest::newRow("save") << Question::Save << u"new"_s << u"in"_s;
         QTest::newRow("save, canceled") << Question::Save << QString() << QString();
     }
     void remembersFolders()
@@ -234,6 +234,8 @@ private Q_SLOTS:
             const DialogDriver driver({typed.isEmpty() ? canceling() : typing(typed)});
             const QString answer = ask(question, tree.path(u"in"_s));
             QCOMPARE(answer.isEmpty(), typed.isEmpty());
+            // Whoever draws the dialog, a bare name gets the extension of the filter.
+            QVERIFY(question != Question::Save || answer.isEmpty() || answer.endsWith("new.csv"_L1));
             QCOMPARE(remembered(), after.isEmpty() ? after : tree.path(after));
         }
     }
@@ -407,6 +409,7 @@ private Q_SLOTS:
             return;
         }
         QCOMPARE(error.errorMessage(), u"Couldn't open save file."_s);
+        QVERIFY(error.warnings().value(0).contains(tree.path(target)));
         QVERIFY(wasCaughtAt(error, u"ozm_widgets/src/IFileAccessor"_s, 97));
         QVERIFY(!QFileInfo::exists(tree.path(u"missing"_s)));
     }
@@ -424,6 +427,7 @@ private Q_SLOTS:
         const Error error = accessor.saveCsvFile(Location("file:"_L1 + tree.path(u"folder"_s)), rows);
         QCOMPARE(error.errorCode(), ErrorCode::Failed);
         QCOMPARE(error.errorMessage(), u"Writing to csv file failed"_s);
+        QVERIFY(error.warnings().value(0).contains(tree.path(u"folder"_s)));
         QVERIFY(wasCaughtAt(error, u"ozm_widgets/src/IFileAccessor"_s, 114));
     }
 

@@ -260,10 +260,34 @@ private Q_SLOTS:
             driver.type(u"there"_s);
             QVERIFY(notice->isVisible());
             QCOMPARE(notice->text(), u"\"there.csv\" exists and will be replaced."_s);
+            const int height = driver.list()->height();
             driver.type(u"folder"_s);
             QVERIFY(!notice->isVisible());
+            QCOMPARE(driver.list()->height(), height);
             dialog->reject();
         });
+    }
+
+    void turnsTheButtonOff()
+    {
+        const Saving saving;
+        const auto check = [](const QString &good, const QString &bad, const QString &text) {
+            return [=](QDialog *dialog) {
+                const FileDialogDriver driver(dialog);
+                const auto *notice = dialog->findChild<QLabel *>(u"replaceNotice"_s);
+                driver.type(bad);
+                QVERIFY(!driver.acceptButton()->isEnabled());
+                QCOMPARE(notice->text(), text);
+                driver.type(good);
+                QVERIFY(driver.acceptButton()->isEnabled() && !notice->isVisible());
+                dialog->reject();
+            };
+        };
+        const DialogDriver driver(
+            {check(u"new.csv"_s, u"folder"_s, u"\"folder\" is a folder. Double-click it to look inside."_s),
+             check(u"folder"_s, u"missing"_s, u"There is no folder \"missing\" here."_s)});
+        (void)FileDialog::getOpenFileName(nullptr, {}, saving.path());
+        (void)FileDialog::getExistingDirectory(nullptr, {}, saving.path());
     }
 
     void staysWhenItCannotSave()

@@ -1,6 +1,7 @@
 #include <ozm_common_widgets/RestrictedFileDialog.h>
 
 #include <QPointer>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -27,10 +28,23 @@ public:
 
     QFileDialog *operator->() const { return m_dialog.data(); }
 
+    /// Has a bare name get the extension of the filter, as a dialog that the system draws does by itself.
+    void addExtensions()
+    {
+        const auto follow = [dialog = m_dialog](const QString &filter) {
+            static const QRegularExpression extension(u"\\*\\.([a-zA-Z0-9]+)"_s);
+            dialog->setDefaultSuffix(extension.match(filter).captured(1));
+        };
+        QObject::connect(m_dialog, &QFileDialog::filterSelected, m_dialog, follow);
+        follow(m_dialog->selectedNameFilter());
+    }
+
     QStringList ask(QString *selectedFilter)
     {
         if (selectedFilter && !selectedFilter->isEmpty())
             m_dialog->selectNameFilter(*selectedFilter);
+        if (m_dialog->acceptMode() == QFileDialog::AcceptSave)
+            addExtensions();
         if (m_dialog->exec() != QDialog::Accepted || !m_dialog)
             return {};
         if (selectedFilter)
