@@ -51,7 +51,8 @@ private Q_SLOTS:
         QCOMPARE(filled.value().pages.size(), 2);
         QCOMPARE(filled.value().troubles, QStringList());
         const QString shown = text(filled.value());
-        for (const auto &expected : {u"T1 <b>"_s, u"QAPGK"_s, u"500.2827"_s, u"312.1792"_s, u"jdoe"_s})
+        for (const auto &expected :
+             {u"T1 <b>"_s, u"QAPGK"_s, u"500.2827"_s, u"250.6450"_s, u"312.1792"_s, u"jdoe"_s})
             QVERIFY2(shown.contains(expected), qPrintable(expected + u" in "_s + shown));
         QVERIFY(!reportHtml(filled.value()).contains(u"script>"_s, Qt::CaseInsensitive));
         static const QRegularExpression code(u"\\[[A-Z][A-Za-z]+\\]"_s);
