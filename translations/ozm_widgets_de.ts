@@ -884,6 +884,10 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
         <source>&amp;Format of a code…</source>
         <translation>&amp;Format eines Platzhalters…</translation>
     </message>
+    <message>
+        <source>Page set-up of the te&amp;mplate…</source>
+        <translation>Seiten der Vor&amp;lage…</translation>
+    </message>
 </context>
 <context>
     <name>ozm::editor::EditorFiles</name>
@@ -1333,6 +1337,69 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     </message>
 </context>
 <context>
+    <name>ozm::editor::PageDialog</name>
+    <message>
+        <source>Page set-up of the template</source>
+        <translation>Seiten der Vorlage</translation>
+    </message>
+    <message>
+        <source>As the printer has it</source>
+        <translation>Wie der Drucker sie hat</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>&amp;Größe:</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation:</source>
+        <translation>&amp;Ausrichtung:</translation>
+    </message>
+    <message>
+        <source>Margin at the &amp;top:</source>
+        <translation>Rand &amp;oben:</translation>
+    </message>
+    <message>
+        <source>Margin at the &amp;right:</source>
+        <translation>Rand &amp;rechts:</translation>
+    </message>
+    <message>
+        <source>Margin at the &amp;bottom:</source>
+        <translation>Rand &amp;unten:</translation>
+    </message>
+    <message>
+        <source>Margin at the &amp;left:</source>
+        <translation>Rand &amp;links:</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>&amp;Header:</source>
+        <translation>&amp;Kopfzeile:</translation>
+    </message>
+    <message>
+        <source>Text and codes</source>
+        <translation>Text und Platzhalter</translation>
+    </message>
+    <message>
+        <source>&amp;Footer:</source>
+        <translation>&amp;Fußzeile:</translation>
+    </message>
+    <message>
+        <source>Text and codes, beside the page number</source>
+        <translation>Text und Platzhalter, neben der Seitenzahl</translation>
+    </message>
+</context>
+<context>
     <name>ozm::editor::PreviewPane</name>
     <message>
         <source>Data of the preview</source>
@@ -1703,6 +1770,18 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     <message>
         <source>The part becomes too long.</source>
         <translation>Der Teil wird zu lang.</translation>
+    </message>
+    <message>
+        <source>Page set-up</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Page set-up, %1</source>
+        <translation>Seite, %1</translation>
+    </message>
+    <message>
+        <source>The pages are set up already.</source>
+        <translation>Die Seiten sind schon eingerichtet.</translation>
     </message>
 </context>
 <context>

@@ -13,11 +13,12 @@ class QPagedPaintDevice;
 
 namespace ozm {
 
-/// How a report is laid out on paper.
+/// How a report is laid out on paper, unless its template says otherwise.
 struct ReportPaperOptions
 {
-    QString title;  ///< Of the file; not printed.
-    QString footer; ///< At the left of each sheet's foot; the number of the page is at its right.
+    QString title;       ///< Of the file; not printed.
+    QString footer;      ///< At the left of each sheet's foot; the number of the page is at its right.
+    QString header = {}; ///< At the left of each sheet's top.
     QFont font = QFont(QStringLiteral("DejaVu Sans"), 9);
     /// The sheet and its margins for PDF; a printer has its own.
     QPageLayout layout = QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
@@ -28,7 +29,8 @@ struct ReportPaperOptions
  * Brings a filled template onto paper, by a printer or as PDF, always in the same way.
  *
  * Rows of tables are not cut by the end of a sheet, a table that goes on is closed at the foot, and each sheet
- * has its number. Only what the text carries itself is shown: nothing is loaded from disk or from a network.
+ * has its number. Size, orientation, margins, header and footer are those of the template where it has an instruction
+ * "page", see docs/report-templates.md; a printer is set to them. Only what the text carries itself is shown: nothing is loaded from disk or from a network.
  *
  *     const QString decoded = AbstractTemplateEditor::decodeTEC(content, &row, {});
  *     ozm::ReportPaper paper(decoded, {u"Certificate"_s, u"Laboratory 3"_s});

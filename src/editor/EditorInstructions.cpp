@@ -4,6 +4,8 @@
 #include "editor/EditorViews.h"
 #include "editor/FormatDialog.h"
 
+#include "templates/instructions/InstructionTree.h"
+
 #include "support/Platform.h"
 
 using namespace Qt::StringLiterals;
@@ -17,6 +19,7 @@ using instructions::Condition;
 using instructions::End;
 using instructions::Extent;
 using instructions::Instruction;
+using instructions::Page;
 using instructions::Repeat;
 
 QString withoutBrackets(const QString &code)
@@ -66,6 +69,23 @@ void EditorInstructions::askFormat()
         ask(CodeFormat{}, true);
 }
 
+void EditorInstructions::askPage()
+{
+    // A template has one, wherever that stands.
+    const QString source = m_data.source();
+    const auto page = instructions::pageOf(source);
+    if (!page) {
+        ask(Page{}, true);
+        return;
+    }
+    const QString written = sourceOf(*page);
+    const qsizetype place = source.indexOf(written);
+    if (place >= 0)
+        m_views.current().select(place, written.size());
+    const auto present = atCursor();
+    ask(*page, !present || !std::holds_alternative<Page>(*present));
+}
+
 bool EditorInstructions::editAtCursor()
 {
     const auto present = atCursor();
@@ -77,6 +97,8 @@ bool EditorInstructions::editAtCursor()
         ask(*condition, false);
     else if (const auto *format = std::get_if<CodeFormat>(&*present))
         ask(*format, false);
+    else if (const auto *page = std::get_if<Page>(&*present))
+        ask(*page, false);
     return true;
 }
 
@@ -127,6 +149,19 @@ void EditorInstructions::ask(const CodeFormat &format, bool isNew)
     FormatDialog dialog(format, choices(isNew), m_window);
     if (dialog.exec() == QDialog::Accepted)
         write(dialog.format(), Extent::Row, isNew);
+}
+
+void EditorInstructions::ask(const Page &page, bool isNew)
+{
+    PageDialog dialog(page, choices(isNew), m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    if (isNew) {
+        QTextCursor start = m_views.current().cursor();
+        start.movePosition(QTextCursor::Start);
+        m_views.current().setCursor(start);
+    }
+    write(dialog.page(), Extent::Row, isNew);
 }
 
 void EditorInstructions::write(const Instruction &instruction, Extent extent, bool isNew)

@@ -24,6 +24,7 @@ public:
     struct Data
     {
         std::function<TemplateReport(const QString &content)> filled;
+        std::function<QString()> source; ///< Of the view that is shown.
         std::function<QMap<QString, QList<RowNode *>>()> lists;
     };
 
@@ -32,6 +33,7 @@ public:
     void askRepeat();
     void askCondition();
     void askFormat();
+    void askPage();
     /// False when there is no instruction at the cursor.
     bool editAtCursor();
 
@@ -41,6 +43,7 @@ private:
     void ask(const instructions::Repeat &repeat, bool isNew);
     void ask(const instructions::Condition &condition, bool isNew);
     void ask(const instructions::CodeFormat &format, bool isNew);
+    void ask(const instructions::Page &page, bool isNew);
     void write(const instructions::Instruction &instruction, instructions::Extent extent, bool isNew);
 
     EditorViews &m_views;

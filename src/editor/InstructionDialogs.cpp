@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSpinBox>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -20,10 +21,13 @@ namespace {
 
 using instructions::Condition;
 using instructions::Extent;
+using instructions::Page;
 using instructions::Repeat;
 using instructions::Test;
 
 constexpr int kFieldWidth = 300;
+// In millimetres, as paper has them without a set-up.
+constexpr std::array kUsualMargins{16, 18, 14, 20};
 
 constexpr std::array kTests{Test::Present, Test::Absent, Test::Equals,
                             Test::Differs, Test::Above,  Test::Below};
@@ -187,6 +191,47 @@ void ConditionDialog::update()
     m_sample->setText(!filled            ? tr("No value in the preview")
                       : *filled == shown ? tr("Shown")
                                          : tr("Not shown"));
+}
+
+PageDialog::PageDialog(const Page &page, const InstructionChoices &choices, QWidget *parent)
+    : InstructionDialog("pageDialog", tr("Page set-up of the template"), choices, parent)
+{
+    m_size = named(new QComboBox(this), "pageSize");
+    m_size->addItem(tr("As the printer has it"), QString());
+    for (const QLatin1StringView size : instructions::kPageSizes)
+        m_size->addItem(size, QString(size));
+    m_size->setCurrentIndex(m_size->findData(page.size));
+    form()->addRow(tr("&Size:"), m_size);
+    m_orientation = named(new QComboBox(this), "pageOrientation");
+    m_orientation->addItem(tr("Portrait"), false);
+    m_orientation->addItem(tr("Landscape"), true);
+    m_orientation->setCurrentIndex(page.isLandscape ? 1 : 0);
+    form()->addRow(tr("&Orientation:"), m_orientation);
+    const std::array titles{tr("Margin at the &top:"), tr("Margin at the &right:"),
+                            tr("Margin at the &bottom:"), tr("Margin at the &left:")};
+    for (qsizetype index = 0; index < std::ssize(titles); ++index) {
+        auto *margin = new QSpinBox(this);
+        margin->setObjectName(u"pageMargin%1"_s.arg(index));
+        margin->setRange(0, instructions::kMostMargin);
+        margin->setSuffix(tr(" mm"));
+        margin->setValue(page.margins.value(index, kUsualMargins.at(size_t(index))));
+        form()->addRow(titles.at(size_t(index)), margin);
+        m_margins.append(margin);
+    }
+    m_header = addLine("pageHeader", tr("&Header:"), page.header, tr("Text and codes"));
+    m_footer =
+        addLine("pageFooter", tr("&Footer:"), page.footer, tr("Text and codes, beside the page number"));
+    m_header->setMinimumWidth(kFieldWidth);
+    addButtons();
+}
+
+Page PageDialog::page() const
+{
+    QList<int> margins;
+    for (const QSpinBox *margin : m_margins)
+        margins.append(margin->value());
+    return {m_size->currentData().toString(), m_orientation->currentData().toBool(), margins,
+            m_header->text(), m_footer->text()};
 }
 
 } // namespace ozm::editor

@@ -14,6 +14,7 @@ class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QRadioButton;
+class QSpinBox;
 
 namespace ozm::editor {
 
@@ -100,6 +101,24 @@ private:
     QComboBox *m_test;
     QLineEdit *m_value;
     QLabel *m_sample;
+};
+
+/// Asks how the pages of the report are set up.
+class PageDialog : public InstructionDialog
+{
+    Q_OBJECT
+
+public:
+    PageDialog(const instructions::Page &page, const InstructionChoices &choices, QWidget *parent);
+
+    [[nodiscard]] instructions::Page page() const;
+
+private:
+    QComboBox *m_size;
+    QComboBox *m_orientation;
+    QList<QSpinBox *> m_margins; ///< Top, right, bottom and left.
+    QLineEdit *m_header;
+    QLineEdit *m_footer;
 };
 
 } // namespace ozm::editor

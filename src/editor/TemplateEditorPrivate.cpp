@@ -76,6 +76,7 @@ AbstractTemplateEditor::Private::Private(AbstractTemplateEditor *editor)
     m_instructions = std::make_unique<EditorInstructions>(
         m_views, *m_codes,
         EditorInstructions::Data{[this](const QString &content) { return decode(content); },
+                                 [this] { return m_history->session().documentSource(); },
                                  [this] { return qptr->rowLists(previewRow()); }},
         qptr);
     m_actions = std::make_unique<EditorActions>(EditorParts{*qptr,

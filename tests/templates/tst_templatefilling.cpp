@@ -3,11 +3,14 @@
 #include <ozm_common_core_mini/ColumnNames.h>
 #include <ozm_common_core_mini/RowNode.h>
 #include <ozm_widgets/AbstractTemplateEditor.h>
+#include <ozm_widgets/ReportPaper.h>
 #include <ozm_widgets/TemplateEditorJSEngine.h>
 #include <ozm_widgets/TemplateFilling.h>
 
+#include <QBuffer>
 #include <QDateTime>
 #include <QImage>
+#include <QPdfWriter>
 
 #include <limits>
 
@@ -175,6 +178,9 @@ private Q_SLOTS:
         format("count of values", u"number\" data-total=\"count\" data-of=\"Ions\""_s, u"Mass"_s, u"2"_s);
         format("sum of nothing", u"number\" data-total=\"sum\" data-of=\"None\" data-empty=\"-\""_s,
                u"Mass"_s, u"-"_s);
+        add("page set-up",
+            u"<p><!--ozm:page size='A5' margins='10 20 30 40' header='No. [Charge] [User]'--></p><b>x</b>"_s,
+            u"<!--ozm:page size=\"A5\" margins=\"10 20 30 40\" header=\"No. 2 A &amp; &lt;b&gt;\"--><b>x</b>"_s);
         add("in plain text", u"<span data-format=\"text\">[User]</span> <"_s, u"A & <b> <"_s);
     }
     void fill()
@@ -212,6 +218,9 @@ private Q_SLOTS:
             u"<ul><li><!--ozm:repeat-row of=\"Ions\"--><!--ozm:repeat-row sort=\"a\"--></li></ul>"_s,
             u"<!--ozm:repeat-row sort=\"a\"-->"_s);
         add("in two elements", u"<p>a"_s + begin + u"b</p><p>c"_s + end + u"d</p>"_s, begin + u'|' + end);
+        for (const auto &page : {u"<!--ozm:page size=\"A9\"-->"_s, u"<!--ozm:page margins=\"1 2 3\"-->"_s,
+                                 u"<!--ozm:page margins=\"1 2 3 -4\"-->"_s})
+            add(qPrintable(page), page, page);
         add("unknown list", u"<!--ozm:repeat of=\"Nope\"-->b<!--ozm:end-->"_s,
             u"<!--ozm:repeat of=\"Nope\"-->"_s);
         add("a format of two codes", u"<span data-format=\"text\">b b</span>"_s,
@@ -281,6 +290,21 @@ private Q_SLOTS:
         TemplateEditorJSEngine::setDeadline(deadline);
         QTEST(!report.faulty.isEmpty(), "isRefused");
         QVERIFY(!report.isComplete());
+    }
+
+    void pagesAreSetUp()
+    {
+        QBuffer bytes;
+        QVERIFY(bytes.open(QIODevice::WriteOnly));
+        QPdfWriter writer(&bytes);
+        const QMarginsF usual = writer.pageLayout().margins(QPageLayout::Millimeter);
+        ozm::ReportPaper(u"<!--ozm:page size=\"A5\" orientation=\"landscape\" header=\"x\"-->text"_s)
+            .print(writer);
+        QCOMPARE(writer.pageLayout().pageSize().id(), QPageSize::A5);
+        QCOMPARE(writer.pageLayout().orientation(), QPageLayout::Landscape);
+        QCOMPARE(writer.pageLayout().margins(QPageLayout::Millimeter), usual);
+        ozm::ReportPaper(u"<!--ozm:page margins=\"30 20 10 40\"-->text"_s).print(writer);
+        QCOMPARE(writer.pageLayout().margins(QPageLayout::Millimeter), QMarginsF(40, 30, 20, 10));
     }
 
     void images()

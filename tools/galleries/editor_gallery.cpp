@@ -103,6 +103,7 @@ struct Gallery
                     {u"conditionTest"_s, u"is above"_s},
                     {u"conditionValue"_s, u"1000"_s}});
         take(editor, u"instructions"_s);
+        takeDialog(editor, "templatePageAction", {{u"pageHeader"_s, u"Certificate [SampleNumber]"_s}});
     }
 
     void takeAll() const

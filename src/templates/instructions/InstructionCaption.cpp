@@ -65,6 +65,10 @@ struct Captioner
         return condition.extent == Extent::Row ? text : text + u'…';
     }
     QString operator()(const End & /*end*/) const { return Texts::tr("End"); }
+    QString operator()(const Page &page) const
+    {
+        return page.size.isEmpty() ? Texts::tr("Page set-up") : Texts::tr("Page set-up, %1").arg(page.size);
+    }
     QString operator()(const CodeFormat &format) const
     {
         if (format.total != Total::None)

@@ -2,7 +2,6 @@
 
 #include "templates/syntax/Codes.h"
 
-#include <QList>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -23,6 +22,7 @@ constexpr auto kDataPrefix = "data-"_L1;
 constexpr auto kRepeat = "repeat"_L1;
 constexpr auto kCondition = "if"_L1;
 constexpr auto kEnd = "end"_L1;
+constexpr auto kPage = "page"_L1;
 constexpr auto kRowSuffix = "-row"_L1;
 
 template <typename Value>
@@ -43,6 +43,7 @@ constexpr std::array kTotals{Word{Total::None, "none"_L1},       Word{Total::Sum
                              Word{Total::Mean, "mean"_L1},       Word{Total::Smallest, "smallest"_L1},
                              Word{Total::Largest, "largest"_L1}, Word{Total::Count, "count"_L1}};
 constexpr std::array kOrders{Word{false, "ascending"_L1}, Word{true, "descending"_L1}};
+constexpr std::array kOrientations{Word{false, "portrait"_L1}, Word{true, "landscape"_L1}};
 constexpr std::array kMarkups{Word{false, "text"_L1}, Word{true, "html"_L1}};
 
 template <typename Value, std::size_t Count>
@@ -149,6 +150,31 @@ public:
         return ok && std::isfinite(number) && number != 0 ? number : refuse(name, value, 1.0);
     }
 
+    /// Four whole numbers with blanks between them.
+    QList<int> margins(QLatin1StringView name)
+    {
+        const QString value = text(name);
+        QList<int> margins;
+        if (value.isNull())
+            return margins;
+        for (const QString &part : value.simplified().split(u' ')) {
+            bool ok = false;
+            margins.append(part.toInt(&ok));
+            if (!ok || margins.constLast() < 0 || margins.constLast() > kMostMargin)
+                return refuse(name, value, QList<int>());
+        }
+        return margins.size() == 4 ? margins : refuse(name, value, QList<int>());
+    }
+
+    QString pageSize(QLatin1StringView name)
+    {
+        const QString value = text(name);
+        const bool isKnown =
+            value.isNull() ||
+            std::ranges::any_of(kPageSizes, [&value](QLatin1StringView size) { return value == size; });
+        return isKnown ? value : refuse(name, value, QString());
+    }
+
     /// Attributes that others may have set stay out of it.
     void ignoreOthersBut(QLatin1StringView prefix)
     {
@@ -212,6 +238,13 @@ Reading readCondition(Attributes &attributes, Extent extent)
     return reading(attributes, condition);
 }
 
+Reading readPage(Attributes &attributes)
+{
+    Page page{attributes.pageSize("size"_L1), attributes.word("orientation"_L1, kOrientations),
+              attributes.margins("margins"_L1), attributes.text("header"_L1), attributes.text("footer"_L1)};
+    return reading(attributes, page);
+}
+
 QString nameWith(QLatin1StringView name, Extent extent)
 {
     return extent == Extent::Row ? name + kRowSuffix : QString(name);
@@ -239,6 +272,18 @@ struct Writer
                            writtenUnless({}, "value"_L1, condition.value));
     }
     QString operator()(const End & /*end*/) const { return comment(kEnd, {}); }
+    QString operator()(const Page &page) const
+    {
+        QStringList margins;
+        for (const int margin : page.margins)
+            margins.append(QString::number(margin));
+        return comment(kPage, writtenUnless({}, "size"_L1, page.size) +
+                                  writtenUnless(kOrientations.front().text, "orientation"_L1,
+                                                textOf(kOrientations, page.isLandscape)) +
+                                  writtenUnless({}, "margins"_L1, margins.join(u' ')) +
+                                  writtenUnless({}, "header"_L1, page.header) +
+                                  writtenUnless({}, "footer"_L1, page.footer));
+    }
     QString operator()(const CodeFormat &format) const
     {
         const CodeFormat usual;
@@ -292,6 +337,8 @@ Reading readComment(const QString &comment)
         if (name == nameWith(kCondition, extent))
             return readCondition(attributes, extent);
     }
+    if (name == kPage)
+        return readPage(attributes);
     if (name == kEnd)
         return reading(attributes, End());
     return {std::nullopt, Texts::tr("There is no instruction \"%1\".").arg(name)};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QList>
 #include <QString>
 #include <QStringView>
 
@@ -10,6 +11,8 @@
 
 /// How instructions for filling a template are written in it.
 namespace ozm::instructions {
+
+using namespace Qt::StringLiterals;
 
 /// The context of all texts about instructions.
 struct Texts
@@ -110,7 +113,19 @@ struct CodeFormat
     bool operator==(const CodeFormat &) const = default;
 };
 
-using Instruction = std::variant<Repeat, Condition, End, CodeFormat>;
+/// Sets up the pages of the report.
+struct Page
+{
+    QString size = {}; ///< "A4" and the like; empty for that of the application or printer.
+    bool isLandscape = false;
+    QList<int> margins = {}; ///< Top, right, bottom and left, in millimetres; empty for the usual ones.
+    QString header = {};     ///< With codes; at the top of each page.
+    QString footer = {};     ///< With codes; at the foot, beside the number of the page.
+
+    bool operator==(const Page &) const = default;
+};
+
+using Instruction = std::variant<Repeat, Condition, End, CodeFormat, Page>;
 
 /// An instruction, or the reason why a text that looks like one is none.
 struct Reading
@@ -122,6 +137,8 @@ struct Reading
 // More digits than a number can have would only be zeros.
 inline constexpr int kMostDigits = 15;
 inline constexpr int kMostPixels = 10000;
+inline constexpr int kMostMargin = 100;
+inline constexpr std::array kPageSizes{"A3"_L1, "A4"_L1, "A5"_L1, "Letter"_L1, "Legal"_L1};
 
 /// True for a comment that begins as instructions do.
 [[nodiscard]] bool isInstructionComment(QStringView text);

@@ -98,6 +98,8 @@ private:
             fail(mark, reading.error);
         } else if (std::holds_alternative<End>(*reading.instruction)) {
             endSection(index, mark);
+        } else if (std::holds_alternative<Page>(*reading.instruction)) {
+            takePage(index, mark, *reading.instruction);
         } else if (extentOf(*reading.instruction) == Extent::Row) {
             takeRow(index, mark, *reading.instruction);
         } else {
@@ -129,6 +131,16 @@ private:
         }
         m_tree.parts.append({open.instruction, {open.line.start, line.range.end}, open.mark});
         m_lines.append({open.line, line.range});
+    }
+
+    void takePage(qsizetype index, const SourceRange &mark, const Instruction &page)
+    {
+        if (std::exchange(m_hasPage, true)) {
+            fail(mark, Texts::tr("The pages are set up already."));
+            return;
+        }
+        m_tree.parts.append({page, lineOf(index).range, mark});
+        m_lines.emplaceBack();
     }
 
     void takeRow(qsizetype index, const SourceRange &mark, const Instruction &instruction)
@@ -278,6 +290,7 @@ private:
     QList<OpenSection> m_open;
     QSet<int> m_repeatedRows;
     QSet<int> m_crossing;
+    bool m_hasPage = false;
     QList<std::pair<SourceRange, SourceRange>> m_lines; ///< Of the parts, in their order.
     InstructionTree m_tree;
 };
@@ -290,6 +303,21 @@ InstructionTree instructionsOf(const QString &content)
     if (!content.contains("<!--ozm:"_L1) && !content.contains("data-format"_L1, Qt::CaseInsensitive))
         return {};
     return TreeReader(content).run();
+}
+
+std::optional<Page> pageOf(const QString &content)
+{
+    if (!content.contains("<!--ozm:"_L1))
+        return std::nullopt;
+    for (const HtmlToken &token : editor::scanHtml(content)) {
+        const QStringView text = QStringView(content).sliced(token.start, token.end - token.start);
+        if (token.kind != HtmlTokenKind::Opaque || !isInstructionComment(text))
+            continue;
+        const auto instruction = readComment(text.toString()).instruction;
+        if (const auto *page = instruction ? std::get_if<Page>(&*instruction) : nullptr)
+            return *page;
+    }
+    return std::nullopt;
 }
 
 bool isHtml(const QString &source)

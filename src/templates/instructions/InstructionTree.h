@@ -7,6 +7,7 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
 #include <variant>
 
 namespace ozm::instructions {
@@ -47,6 +48,9 @@ struct InstructionTree
 };
 
 [[nodiscard]] InstructionTree instructionsOf(const QString &content);
+
+/// The set-up of the pages that @p content asks for.
+[[nodiscard]] std::optional<Page> pageOf(const QString &content);
 
 /// True for a text with tags, other than those of codes with a format.
 [[nodiscard]] bool isHtml(const QString &source);

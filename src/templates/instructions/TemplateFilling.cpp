@@ -5,6 +5,7 @@
 #include "templates/instructions/InstructionTree.h"
 #include "templates/instructions/RowOrder.h"
 #include "templates/instructions/TemplateScope.h"
+#include "templates/syntax/Codes.h"
 #include "templates/syntax/ScriptTags.h"
 
 #include <ozm_common_core_mini/RowNode.h>
@@ -224,6 +225,10 @@ private:
     {
         if (const auto *repeat = std::get_if<Repeat>(&part.instruction))
             return repeated(*repeat, part, scope);
+        if (const auto *page = std::get_if<Page>(&part.instruction))
+            return instructions::sourceOf(Page{page->size, page->isLandscape, page->margins,
+                                               lineText(page->header, part, scope),
+                                               lineText(page->footer, part, scope)});
         return formattedCode(std::get<CodeFormat>(part.instruction), part, scope);
     }
 
@@ -302,6 +307,23 @@ private:
         if (part.range.start < part.mark.start)
             return "<p>"_L1 + text + "</p>"_L1;
         return sourceOf(part.range).endsWith(u'\n') ? text + u'\n' : text;
+    }
+
+    /// The text of a header or footer, with values in the places of codes.
+    QString lineText(const QString &text, const InstructedPart &part, const TemplateScope &scope)
+    {
+        QString line;
+        qsizetype at = 0;
+        for (auto codes = syntax::codePattern().globalMatch(text); codes.hasNext();) {
+            const QRegularExpressionMatch code = codes.next();
+            const QString name = code.captured().sliced(1).chopped(1);
+            const auto field = scope.find(name);
+            if (!field)
+                missing(name, part.mark.start);
+            line += text.sliced(at, code.capturedStart() - at) + (field ? textOf(*field) : code.captured());
+            at = code.capturedEnd();
+        }
+        return line + text.sliced(at);
     }
 
     QString formattedCode(const CodeFormat &format, const InstructedPart &part, const TemplateScope &scope)

@@ -1,5 +1,6 @@
 #include <ozm_widgets/ReportPaper.h>
 
+#include "templates/instructions/InstructionTree.h"
 #include "templates/syntax/ScriptTags.h"
 
 #include <ozm_widgets/TemplateDocument.h>
@@ -15,8 +16,10 @@
 #include <QTextTable>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -26,11 +29,22 @@ namespace ozm {
 namespace {
 
 constexpr double kFooterMm = 9.0;
+constexpr double kHeaderMm = 9.0;
 constexpr double kMmPerInch = 25.4;
 constexpr int kPdfDotsPerInch = 300;
 // Lengths in a document are in this unit.
 constexpr double kScreenDotsPerInch = 96;
 constexpr int kFooterPoints = 7;
+
+struct PageSize
+{
+    QLatin1StringView name;
+    QPageSize::PageSizeId id;
+};
+
+constexpr std::array kPageSizes{PageSize{"A3"_L1, QPageSize::A3}, PageSize{"A4"_L1, QPageSize::A4},
+                                PageSize{"A5"_L1, QPageSize::A5}, PageSize{"Letter"_L1, QPageSize::Letter},
+                                PageSize{"Legal"_L1, QPageSize::Legal}};
 
 struct Extent
 {
@@ -113,6 +127,31 @@ void closeTables(QPainter &painter, const QTextFrame &frame, const QRectF &sheet
 class ReportPaper::Private
 {
 public:
+    Private(const QString &decoded, const ReportPaperOptions &given)
+        : text(syntax::withoutScriptTags(decoded))
+        , options(given)
+        , page(instructions::pageOf(text))
+    {
+        if (page && !page->header.isEmpty())
+            options.header = page->header;
+        if (page && !page->footer.isEmpty())
+            options.footer = page->footer;
+    }
+
+    /// @p layout with what the template says about it.
+    [[nodiscard]] QPageLayout laidOut(QPageLayout layout) const
+    {
+        for (const PageSize &size : kPageSizes)
+            if (page->size == size.name)
+                layout.setPageSize(QPageSize(size.id), layout.minimumMargins());
+        layout.setOrientation(page->isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+        layout.setUnits(QPageLayout::Millimeter);
+        const QList<int> &margins = page->margins;
+        if (margins.size() == 4)
+            layout.setMargins(QMarginsF(margins.at(3), margins.at(0), margins.at(1), margins.at(2)));
+        return layout;
+    }
+
     [[nodiscard]] std::unique_ptr<TemplateDocument> document() const
     {
         auto document = std::make_unique<TemplateDocument>();
@@ -125,7 +164,7 @@ public:
         return document;
     }
 
-    void drawFooter(QPainter &painter, const QRectF &area, int page, int pages) const
+    void drawEdges(QPainter &painter, const QRectF &area, int number, int pages) const
     {
         QFont font = options.font;
         font.setPointSize(kFooterPoints);
@@ -133,25 +172,31 @@ public:
         painter.setPen(QColor(0x51, 0x60, 0x6d));
         painter.drawText(
             area, Qt::AlignRight | Qt::AlignBottom,
-            QCoreApplication::translate("ozm::ReportPaper", "Page %1 of %2").arg(page).arg(pages));
+            QCoreApplication::translate("ozm::ReportPaper", "Page %1 of %2").arg(number).arg(pages));
         painter.drawText(area, Qt::AlignLeft | Qt::AlignBottom, options.footer);
+        painter.drawText(area, Qt::AlignLeft | Qt::AlignTop, options.header);
     }
 
     QString text;
     ReportPaperOptions options;
+    const std::optional<instructions::Page> page;
 };
 
 ReportPaper::ReportPaper(const QString &decoded, const ReportPaperOptions &options)
-    : d(std::make_unique<Private>(Private{syntax::withoutScriptTags(decoded), options}))
+    : d(std::make_unique<Private>(decoded, options))
 {}
 
 ReportPaper::~ReportPaper() = default;
 
 int ReportPaper::print(QPagedPaintDevice &device) const
 {
+    if (d->page)
+        device.setPageLayout(d->laidOut(device.pageLayout()));
     const double dotsPerInch = device.logicalDpiX();
     const QRectF sheet(0, 0, device.width(), device.height());
-    const QSizeF body(sheet.width(), sheet.height() - kFooterMm * dotsPerInch / kMmPerInch);
+    const double dotsPerMm = dotsPerInch / kMmPerInch;
+    const double top = d->options.header.isEmpty() ? 0 : kHeaderMm * dotsPerMm;
+    const QSizeF body(sheet.width(), sheet.height() - kFooterMm * dotsPerMm - top);
     const auto document = d->document();
     document->documentLayout()->setPaintDevice(&device);
     document->setPageSize(body);
@@ -170,12 +215,12 @@ int ReportPaper::print(QPagedPaintDevice &device) const
             device.newPage();
         const QRectF part(0, page * body.height(), body.width(), body.height());
         painter.save();
-        painter.translate(0, -part.top());
+        painter.translate(0, top - part.top());
         painter.setClipRect(part);
         document->drawContents(&painter, part);
         closeTables(painter, *document->rootFrame(), part, dotsPerInch / kScreenDotsPerInch);
         painter.restore();
-        d->drawFooter(painter, sheet, page + 1, pages);
+        d->drawEdges(painter, sheet, page + 1, pages);
     }
     return pages;
 }
