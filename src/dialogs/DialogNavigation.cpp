@@ -7,6 +7,7 @@
 
 #include <ozm_widgets/SpectrumFileDialog.h>
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QDropEvent>
 #include <QFileInfo>
@@ -80,6 +81,9 @@ DialogNavigation::DialogNavigation(QFileDialog &dialog, RawFolders rawFolders)
     dialog.resize(size.expandedTo(dialog.minimumSizeHint()).boundedTo(dialog.screen()->availableSize()));
     dialog.setAcceptDrops(true);
     dialog.installEventFilter(this);
+    // A filter for data names more extensions than there is room for.
+    if (auto *types = dialog.findChild<QComboBox *>(u"fileTypeCombo"_s))
+        connect(types, &QComboBox::currentTextChanged, types, &QWidget::setToolTip);
     // A field for text would write the address of what is dropped.
     if (QLineEdit *name = nameBox(dialog))
         name->installEventFilter(this);

@@ -17,7 +17,8 @@ namespace ozm {
 
 namespace {
 
-constexpr int kWidth = 560;
+// The longest status fits into it.
+constexpr int kWidthInCharacters = 80;
 constexpr int kPassedOverHeight = 90;
 
 template <typename Widget>
@@ -57,6 +58,7 @@ FileCrawlerForm::FileCrawlerForm(QDialog *dialog)
     // How much there is to search is known at its end only.
     m_progress->setRange(0, 0);
     m_progress->setTextVisible(false);
+    m_status->setWordWrap(true);
     m_passedOver->setReadOnly(true);
     m_passedOver->setMaximumHeight(kPassedOverHeight);
     m_passedOver->hide();
@@ -85,7 +87,8 @@ FileCrawlerForm::FileCrawlerForm(QDialog *dialog)
         widget->setSizePolicy(policy);
     }
     setSearching(false);
-    dialog->resize(kWidth, dialog->sizeHint().height());
+    dialog->resize(dialog->fontMetrics().averageCharWidth() * kWidthInCharacters,
+                   dialog->sizeHint().height());
     QMetaObject::connectSlotsByName(dialog);
 }
 

@@ -14,6 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr double kUsualFontHeight = 15;
+
 bool mayShow()
 {
     return as::value(kFileExplorerAllowed, true).toBool();
@@ -56,7 +58,9 @@ openfilefolderdialog::Form::Form(openfilefolderdialog *dialog)
     , closeButton(makeButton(u"closeButton"_s, tr("&Close"), dialog))
 {
     dialog->setObjectName(u"openfilefolderdialog"_s);
-    dialog->resize(400, 152);
+    // Twice the type needs twice the room.
+    const int scale = qMax(1, qRound(dialog->fontMetrics().height() / kUsualFontHeight));
+    dialog->resize(400 * scale, 152 * scale);
     dialog->setWindowTitle(tr("Open file or folder"));
 
     plainTextEdit_message->setObjectName(u"plainTextEdit_message"_s);

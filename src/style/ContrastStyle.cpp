@@ -13,6 +13,8 @@ namespace {
 
 // Of the text's colour; the rest is that of the window. More than 3 to 1 on any palette that can be read.
 constexpr float kOutline = 0.7F;
+// As Fusion leaves around a text.
+constexpr int kTextMargin = 4;
 // A round line lies between the pixels and needs more than one of them.
 constexpr qreal kRoundLine = 1.5;
 // A little more than Fusion has, for an icon that is sharp.
@@ -60,6 +62,22 @@ int ContrastStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, c
 {
     return metric == PM_ToolBarExtensionExtent ? kExtensionExtent
                                                : QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+void ContrastStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                                const QWidget *widget) const
+{
+    const auto *combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+    if (element != CE_ComboBoxLabel || !combo || combo->editable) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    QStyleOptionComboBox elided = *combo;
+    const int icon = combo->currentIcon.isNull() ? 0 : combo->iconSize.width() + kTextMargin;
+    const int room = subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget).width();
+    elided.currentText =
+        combo->fontMetrics.elidedText(combo->currentText, Qt::ElideRight, room - icon - kTextMargin);
+    QProxyStyle::drawControl(element, &elided, painter, widget);
 }
 
 void ContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,

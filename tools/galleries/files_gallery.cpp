@@ -63,8 +63,9 @@ QPixmap spectrumPicture(const SampleTree &tree, const QStringList &picks, QFileD
     SpectrumFileDialog dialog;
     dialog.setWindowTitle(u"Open MS data"_s);
     dialog.setDirectory(tree.path());
-    dialog.setNameFilters({u"MS data (*.mzml *.raw *.wiff *.d)"_s, u"All files (*)"_s});
-    dialog.selectNameFilter(u"All files (*)"_s);
+    dialog.setNameFilters({u"MS data (*.mzml *.raw *.wiff *.d)"_s, u"All files (*)"_s,
+                           u"MS data ("_s + QStringList(40, u"*.mzml"_s).join(u' ') + u')'});
+    dialog.selectNameFilter(dialog.nameFilters().at(picks.isEmpty() ? 2 : 1));
     dialog.show();
     const FileDialogDriver driver(&dialog);
     Qt::KeyboardModifiers keys;
