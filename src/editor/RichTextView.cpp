@@ -184,8 +184,8 @@ void RichTextView::enclose(const QString &begin, const QString &end)
     QTextCursor cursor = textCursor();
     int first = cursor.selectionStart();
     int last = cursor.selectionEnd();
-    bool isTableFirst = false;
-    bool isTableLast = false;
+    bool isBehindFirst = false;
+    bool isBeforeLast = false;
     for (;;) {
         QTextCursor at(document());
         at.setPosition(first);
@@ -196,17 +196,22 @@ void RichTextView::enclose(const QString &begin, const QString &end)
             break;
         if (firstTable && (firstTable == lastTable || last > firstTable->lastPosition())) {
             first = firstTable->firstPosition() - 1;
-            isTableFirst = true;
+            isBehindFirst = true;
         }
         if (lastTable && first < lastTable->firstPosition()) {
             last = lastTable->lastPosition() + 1;
-            isTableLast = true;
+            isBeforeLast = true;
         }
     }
+    // Of these lines, nothing is selected.
+    const QTextBlock firstLine = document()->findBlock(first);
+    const bool isAtEnd = cursor.hasSelection() && first == firstLine.position() + firstLine.length() - 1;
+    isBehindFirst = isBehindFirst || (isAtEnd && firstLine.length() > 1);
+    isBeforeLast = isBeforeLast || (cursor.hasSelection() && last == document()->findBlock(last).position());
     cursor.beginEditBlock();
     // From the end on, so that the place before stays true.
-    insertLine(document()->findBlock(last), !isTableLast, end);
-    insertLine(document()->findBlock(first), isTableFirst, begin);
+    insertLine(document()->findBlock(last), !isBeforeLast, end);
+    insertLine(document()->findBlock(first), isBehindFirst, begin);
     cursor.endEditBlock();
 }
 

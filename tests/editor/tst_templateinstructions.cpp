@@ -150,6 +150,30 @@ private Q_SLOTS:
         QVERIFY(fixture.child<QLabel>("previewCount")->text().contains(u"1 place"_s));
     }
 
+    // A selection that begins in a table is about the whole of it: half a table is no section.
+    void sectionsTakeWholeTables()
+    {
+        EditorFixture fixture;
+        fixture.setContent(kContent);
+        auto *view = fixture.child<QTextEdit>("richView");
+        QTextCursor selection = view->document()->find(u"Cell"_s);
+        selection.setPosition(view->document()->find(u"Lot"_s).position(), QTextCursor::KeepAnchor);
+        view->setTextCursor(selection);
+        DialogDriver driver({[](QDialog *dialog) {
+            field<QRadioButton>(dialog, "extentSection")->setChecked(true);
+            choose(dialog, "conditionCode", u"Sample"_s);
+            choose(dialog, "conditionTest", u"has no value"_s);
+            dialog->accept();
+        }});
+        fixture.trigger("conditionAction");
+        const QString written = fixture.content();
+        QVERIFY2(written.indexOf(u"<!--ozm:if"_s) < written.indexOf(u"<table"_s), qPrintable(written));
+        QVERIFY2(written.indexOf(u"<!--ozm:end"_s) > written.indexOf(u"Lot [Lot]</p>"_s),
+                 qPrintable(written));
+        auto *preview = fixture.child<QTextBrowser>("previewText");
+        QTRY_VERIFY2(preview->toPlainText().trimmed() == u"Sample T12 & co"_s, qPrintable(written));
+    }
+
 private:
     /// Sets the cursor @p by characters behind the beginning of @p text, which is looked for from the end.
     static void place(const EditorFixture &fixture, bool isRich, const QString &text, int by)

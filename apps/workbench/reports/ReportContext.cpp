@@ -1,6 +1,7 @@
 #include "reports/ReportContext.h"
 
 #include "data/DataColumns.h"
+#include "reports/StickPlot.h"
 #include "samples/SampleTable.h"
 
 #include <ozm_common_core_mini/ColumnNames.h>
@@ -40,12 +41,19 @@ ReportContext ReportContext::about(const RowNode &row) const
     context.kind = row.getDataAt(kKind).toString();
     context.size = row.getDataAt(kSize).toString();
     context.path = row.getDataAt(kPath).toString();
+    context.mass = row.getDataAt(kMass).toDouble();
+    context.charge = row.getDataAt(kCharge).toInt();
     if (trailOf) {
         const ReportTrail trail = trailOf(row);
         context.signatures = trail.signatures;
         context.changedSinceEntry = trail.changes;
     }
     return context;
+}
+
+QImage ReportContext::ionPlot() const
+{
+    return stickPlot(mass, charge);
 }
 
 } // namespace workbench

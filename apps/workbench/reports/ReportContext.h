@@ -3,6 +3,7 @@
 #include "reports/ReportTrail.h"
 
 #include <QDateTime>
+#include <QImage>
 #include <QObject>
 #include <QString>
 #include <QVariantList>
@@ -33,6 +34,7 @@ class ReportContext
     Q_PROPERTY(QString path MEMBER path)
     Q_PROPERTY(QString signatures MEMBER signatures)
     Q_PROPERTY(int changedSinceEntry MEMBER changedSinceEntry)
+    Q_PROPERTY(QImage ionPlot READ ionPlot)
 
 public:
     ReportContext() = default;
@@ -42,6 +44,8 @@ public:
     [[nodiscard]] ReportContext about(const RowNode &row) const;
 
     [[nodiscard]] QString time() const { return moment.toString(Qt::ISODate); }
+    /// The expected ions over m/z; null where the mass is not known.
+    [[nodiscard]] QImage ionPlot() const;
     [[nodiscard]] int sampleCount() const { return static_cast<int>(samples.size()); }
 
     QString user;
@@ -56,6 +60,8 @@ public:
     QString path;
     QString signatures;
     int changedSinceEntry = 0;
+    double mass = 0;
+    int charge = 0;
     /// Looks up what the audit trail says about a row; without it, nothing is said.
     std::function<ReportTrail(const RowNode &)> trailOf;
 };

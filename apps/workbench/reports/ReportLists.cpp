@@ -21,11 +21,21 @@ std::unique_ptr<RowNode> ionOf(double mass, int charge)
 {
     auto ion = std::make_unique<RowNode>(QStringList{kCharge, kPrecursorMz});
     ion->setDataAt(kCharge, charge);
-    ion->setDataAt(kPrecursorMz, mass / charge + kProtonMass);
+    ion->setDataAt(kPrecursorMz, mzOf(mass, charge));
     return ion;
 }
 
 } // namespace
+
+int highestCharge(int charge)
+{
+    return std::clamp(charge + 1, kFewestCharges, kMostCharges);
+}
+
+double mzOf(double mass, int charge)
+{
+    return mass / charge + kProtonMass;
+}
 
 ReportLists::ReportLists(const std::vector<RowNode> &samples)
 {
@@ -39,7 +49,7 @@ QMap<QString, QList<RowNode *>> ReportLists::about(const RowNode *sample)
     m_ions.clear();
     const double mass = sample ? sample->getDataAt(kMass).toDouble() : 0;
     const int charge = sample ? sample->getDataAt(kCharge).toInt() : 0;
-    for (int each = 1; mass > 0 && each <= std::clamp(charge + 1, kFewestCharges, kMostCharges); ++each)
+    for (int each = 1; mass > 0 && each <= highestCharge(charge); ++each)
         m_ions.push_back(ionOf(mass, each));
     QList<RowNode *> ions;
     for (const auto &ion : m_ions)

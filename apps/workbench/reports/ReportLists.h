@@ -11,6 +11,11 @@
 
 namespace workbench {
 
+/// The charges of a molecule that a report shows: those around @p charge.
+[[nodiscard]] int highestCharge(int charge);
+/// The m/z of a protonated molecule of @p mass, in dalton.
+[[nodiscard]] double mzOf(double mass, int charge);
+
 /**
  * Rows that a part of a report can repeat for: "Samples", all samples of the report, and "ChargeStates", the ions of
  * the one sample that a page is about, each with its charge and m/z.

@@ -176,7 +176,7 @@ private:
     /// The part of the template in @p range, decoded, with the results of @p children in their places.
     QString filled(const SourceRange &range, const QList<int> &children, const TemplateScope &scope)
     {
-        Composed composed(m_content);
+        Composed composed = m_blank;
         compose(range, children, scope, composed);
         for (;;) {
             const TemplateReport report = decode(composed.text, scope);
@@ -401,6 +401,7 @@ private:
     const QString &m_content;
     const ReportData &m_data;
     const InstructionTree m_tree;
+    const Composed m_blank{m_content}; ///< Looking for its markers takes a walk through the template.
     const bool m_isHtml;
     QList<RowNode *> m_rows;
     std::optional<SummaryRow> m_summary;
