@@ -269,7 +269,7 @@ private Q_SLOTS:
     {
         QFETCH(const QString, stored);
         QFETCH(const QString, answer);
-        const DialogDriver driver({});
+        const DialogDriver driver(QList<DialogDriver::Work>{});
         remember(u"/before"_s);
         as::setValue(AUTOMATION_OZMFILEDIALOG_OPEN_FILE_NAME_KEY, stored);
         as::setValue(AUTOMATION_OZMFILEDIALOG_SAVE_FILE_NAME_KEY, stored);
