@@ -36,15 +36,15 @@ constexpr int kPdfDotsPerInch = 300;
 constexpr double kScreenDotsPerInch = 96;
 constexpr int kFooterPoints = 7;
 
-struct PageSize
+struct PaperSize
 {
     QLatin1StringView name;
     QPageSize::PageSizeId id;
 };
 
-constexpr std::array kPageSizes{PageSize{"A3"_L1, QPageSize::A3}, PageSize{"A4"_L1, QPageSize::A4},
-                                PageSize{"A5"_L1, QPageSize::A5}, PageSize{"Letter"_L1, QPageSize::Letter},
-                                PageSize{"Legal"_L1, QPageSize::Legal}};
+constexpr std::array kPaperSizes{PaperSize{"A3"_L1, QPageSize::A3}, PaperSize{"A4"_L1, QPageSize::A4},
+                                 PaperSize{"A5"_L1, QPageSize::A5}, PaperSize{"Letter"_L1, QPageSize::Letter},
+                                 PaperSize{"Legal"_L1, QPageSize::Legal}};
 
 struct Extent
 {
@@ -141,7 +141,7 @@ public:
     /// @p layout with what the template says about it.
     [[nodiscard]] QPageLayout laidOut(QPageLayout layout) const
     {
-        for (const PageSize &size : kPageSizes)
+        for (const PaperSize &size : kPaperSizes)
             if (page->size == size.name)
                 layout.setPageSize(QPageSize(size.id), layout.minimumMargins());
         layout.setOrientation(page->isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait);
