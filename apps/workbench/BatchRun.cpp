@@ -29,6 +29,7 @@ namespace {
 
 // As many as the window shows at a glance.
 constexpr int kRenamed = 3;
+constexpr QSize kPicture(1200, 760);
 
 QString tr(const char *text)
 {
@@ -119,6 +120,8 @@ public:
         , m_window(editor, trail)
     {
         m_window.setMessagesShown(false);
+        // The window fits itself to a screen, of which a run without one has any size.
+        m_window.resize(kPicture);
         m_window.show();
     }
 
