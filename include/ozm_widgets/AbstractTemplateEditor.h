@@ -53,6 +53,7 @@ class OZM_WIDGETS_EXPORT AbstractTemplateEditor : public QMainWindow
 public:
     class Private;
 
+    /// How the window shows the template.
     enum class Mode
     {
         Rich, ///< Formatted text with chips.
@@ -81,8 +82,11 @@ public:
 
     /// The template in its envelope; the very content that setSourceText() was given while nobody edited it.
     [[nodiscard]] QString sourceText() const;
+    /// Rich for a new window.
     [[nodiscard]] Mode mode() const;
+    /// True when the template can be looked at only.
     [[nodiscard]] bool isReadOnly() const;
+    /// True when there are edits that were not saved.
     [[nodiscard]] bool isModified() const;
     /// Where the template was read from or saved to; empty for a new one.
     [[nodiscard]] QString filePath() const;
@@ -97,6 +101,7 @@ public:
     bool openFile(const QString &path);
     /// A template of more than eight million characters is shown as its source only.
     void setMode(Mode mode);
+    /// Lets nobody edit the template, or lets them again.
     void setReadOnly(bool readOnly);
     /// Asks again for codes, rows and extra data.
     void refresh();
@@ -123,6 +128,7 @@ public:
     [[nodiscard]] static QString decodeTEC(const QString &text, const QList<RowNode *> &rows,
                                            const QList<DecodeTecExtraData> &extraData);
 
+    /// The text of decodeTEC() for the same arguments, and what could not be filled in.
     [[nodiscard]] static ozm::TemplateReport decodeTECReport(const QString &text,
                                                              const QList<DecodeTecExtraData> &extraData);
     [[nodiscard]] static ozm::TemplateReport decodeTECReport(const QString &text, const RowNode *row,
@@ -141,10 +147,15 @@ public:
 Q_SIGNALS:
     /// After every edit, undo and redo, and when another template is shown.
     void sourceTextChanged();
+    /// The user or setMode() chose the other mode.
     void modeChanged(AbstractTemplateEditor::Mode mode);
+    /// After setReadOnly().
     void readOnlyChanged(bool readOnly);
+    /// The first edit after saving, or saving after an edit.
     void modifiedChanged(bool modified);
+    /// The template is another file now: it was opened, or saved as.
     void filePathChanged(const QString &path);
+    /// The template was written to @p path.
     void saved(const QString &path);
 
 protected:

@@ -53,6 +53,8 @@ class OZM_WIDGETS_EXPORT BlackSplitter : public QSplitter
     Q_OBJECT
 
 public:
+    /// A horizontal one, as forms of Qt Designer make it.
+    explicit BlackSplitter(QWidget *parent = nullptr);
     explicit BlackSplitter(Qt::Orientation orientation, QWidget *parent = nullptr);
 
 protected:

@@ -23,7 +23,7 @@ struct OZM_WIDGETS_EXPORT DecodeTecExtraData
     /// The value of the property number @p index of the meta-object.
     [[nodiscard]] QVariant read(int index) const;
 
-    QMetaObject metaObject;
-    const QObject *object = nullptr;
-    const void *gadget = nullptr;
+    QMetaObject metaObject;          ///< The type whose properties are read.
+    const QObject *object = nullptr; ///< The object; null when there is a gadget.
+    const void *gadget = nullptr;    ///< The gadget; null when there is an object.
 };

@@ -21,7 +21,7 @@ namespace ozm {
 class OZM_WIDGETS_EXPORT DefaultWidgetCreator : public WidgetCreatorBase
 {
 public:
-    using FileAccessorType = IFileAccessor::FileAccessorType;
+    using FileAccessorType = IFileAccessor::FileAccessorType; ///< The purpose of an accessor.
 
     /// Installs a DefaultWidgetCreator.
     static void initialize();
@@ -38,6 +38,7 @@ public:
     /// As made by the installed creator.
     [[nodiscard]] static std::unique_ptr<IFileAccessor>
     fileAccessor(FileAccessorType type = FileAccessorType::Default);
+    /// As made by the installed creator; belongs to @p parent.
     [[nodiscard]] static FileCrawlerDialog *fileCrawler(QWidget *parent);
 };
 

@@ -21,6 +21,7 @@
 class OZM_WIDGETS_EXPORT DisplayString
 {
 public:
+    /// How the text is meant to be shown.
     enum Flag : quint32
     {
         RichText = 0x1 ///< The text is HTML.

@@ -27,7 +27,7 @@ class OZM_WIDGETS_EXPORT FileCrawlerDialog : public QDialog
     Q_PROPERTY(bool recursiveSearch READ recursiveSearch NOTIFY recursiveSearchChanged)
 
 public:
-    using DestinationFileLocation = ozm::IFileAccessor::DestinationFileLocation;
+    using DestinationFileLocation = ozm::IFileAccessor::DestinationFileLocation; ///< Where a list is saved.
 
     explicit FileCrawlerDialog(QWidget *parent = nullptr);
     ~FileCrawlerDialog() override;
@@ -43,15 +43,19 @@ public:
     /// The folder to search, as it is written in the dialog. Blanks around it and "~" for the home folder are
     /// understood when it is searched.
     [[nodiscard]] QString crawlFolderReference() const;
+    /// Puts @p folder into the dialog.
     void setCrawlFolderReference(const QString &folder);
+    /// True when folders below the folder are searched as well.
     [[nodiscard]] bool recursiveSearch() const;
 
     /// The data that the last search found, and the folders that it could not read.
     [[nodiscard]] QList<QString> msFileReferences() const;
+    /// The folders that the last search could not read.
     [[nodiscard]] QStringList passedOverFolders() const;
 
     /// True when accepting asks where to save.
     void setAskForDestinationPath(bool ask);
+    /// The place that the user chose; null before.
     [[nodiscard]] DestinationFileLocation destinationFile() const;
 
     int exec() override;
@@ -63,7 +67,9 @@ public Q_SLOTS:
     void reject() override;
 
 Q_SIGNALS:
+    /// The folder in the dialog is another one.
     void crawlFolderReferenceChanged(const QString &folder);
+    /// The user chose whether folders below are searched.
     void recursiveSearchChanged(bool recursive);
 
 protected:

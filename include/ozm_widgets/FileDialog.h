@@ -36,6 +36,7 @@ public:
                                                  const QString &dir = {}, const QString &filter = {},
                                                  QString *selectedFilter = nullptr,
                                                  QFileDialog::Options options = {});
+    /// Asks for a folder that is there.
     [[nodiscard]] static QString
     getExistingDirectory(QWidget *parent = nullptr, const QString &caption = {}, const QString &dir = {},
                          QFileDialog::Options options = QFileDialog::ShowDirsOnly);

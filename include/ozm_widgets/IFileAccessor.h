@@ -34,6 +34,7 @@ namespace ozm {
 class OZM_WIDGETS_EXPORT IFileAccessor : public IFileAccessorBase
 {
 public:
+    /// A purpose for which a folder is remembered.
     using DirLocation = ExtendableEnumRef<FileSystemSettings::DirLocationData>;
     /// Writes what is saved to the local path it is given.
     using Writer = std::function<Error(const QString &path)>;
@@ -59,6 +60,7 @@ public:
         /// nothing when that cannot be read.
         explicit DestinationFileLocation(const QString &referenceText);
 
+        /// True when the location refers to nothing.
         [[nodiscard]] bool isNull() const { return reference.isNull(); }
         [[nodiscard]] bool isCanceled() const override { return isNull(); }
         /// Does nothing: whether a location is canceled follows from its reference alone.
@@ -72,8 +74,8 @@ public:
          */
         [[nodiscard]] QString toString() const;
 
-        QSharedPointer<ResourceReference> reference;
-        QString path;
+        QSharedPointer<ResourceReference> reference; ///< The resource; null when the user canceled.
+        QString path;                                ///< The name or relative path below the reference.
     };
 
     IFileAccessor() = default;
@@ -81,9 +83,11 @@ public:
     IFileAccessor &operator=(const IFileAccessor &) = default;
     ~IFileAccessor() override;
 
+    /// Asks for one file; empty when canceled. Null or empty arguments leave the usual.
     [[nodiscard]] virtual QString getOpenFileName(QWidget *parent, const QString &caption, const QString &dir,
                                                   const QString &filter, QString *selectedFilter,
                                                   QFileDialog::Options options) const;
+    /// Asks for one resource, wherever it is kept; null when canceled.
     [[nodiscard]] virtual QSharedPointer<ResourceReference>
     getOpenFileReference(QWidget *parent, const QString &caption, const QString &dir,
                          const FileExtensionsNameFilter &filter, QString *selectedFilter,
@@ -92,14 +96,17 @@ public:
                                                   const FileExtensionsNameFilter &filter,
                                                   QString *selectedFilter, QFileDialog::Options options,
                                                   DirLocation dirLocation) const = 0;
+    /// Asks for any number of files; empty when canceled.
     [[nodiscard]] virtual QList<QString>
     getOpenFileNames(QWidget *parent, const QString &caption, const QString &dir,
                      const FileExtensionsNameFilter &filter, QString *selectedFilter,
                      QFileDialog::Options options, DirLocation dirLocation) const = 0;
+    /// Asks for any number of resources; empty when canceled.
     [[nodiscard]] virtual QList<QSharedPointer<ResourceReference>>
     getOpenFileReferences(QWidget *parent, const QString &caption, const QString &dir,
                           const FileExtensionsNameFilter &filter, QString *selectedFilter,
                           QFileDialog::Options options, DirLocation dirLocation) const = 0;
+    /// Asks for a folder; empty when canceled.
     [[nodiscard]] virtual QString getExistingDirectory(QWidget *parent, const QString &caption,
                                                        const QString &dir, QFileDialog::Options options,
                                                        DirLocation dirLocation) const = 0;
@@ -112,6 +119,7 @@ public:
     /// Has @p writer write to @p location, and returns its error. An empty function throws, as any does.
     [[nodiscard]] virtual Error saveFile(const DestinationFileLocation &location,
                                          const Writer &writer) const = 0;
+    /// As saveFile(), for a writer that makes several files.
     [[nodiscard]] virtual Error saveFiles(const DestinationFileLocation &location,
                                           const Writer &writer) const = 0;
     /// A path under which what @p reference refers to can be read; code 2 when it is null.

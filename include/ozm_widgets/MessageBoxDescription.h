@@ -28,14 +28,17 @@ struct MessageBoxDescription
 {
     /// The kind of the box, too: what it answers when it cannot be shown depends on it; see OZMStyle.
     QMessageBox::Icon icon = QMessageBox::Information;
+    /// Tells the message to those who watch boxes.
     OzmMessageBoxSignal signal = OzmMessageBoxSignal::Unspecified;
     /// Empty stands for the kind's own, such as "Warning".
     QString title = {};
+    /// The message, plain or rich.
     DisplayString text = QString();
     /// None at all stands for Ok.
     QMessageBox::StandardButtons buttons = QMessageBox::Ok;
-    QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;
-    QString detailedText = {};
+    QMessageBox::StandardButton defaultButton = QMessageBox::NoButton; ///< The one that Enter presses.
+    QString detailedText = {}; ///< Shown on demand; no button for it when empty.
+
     /// An empty text leaves the button's usual one; buttons that the box does not have are passed over.
     QMap<QMessageBox::StandardButton, QString> buttonTexts = {};
     /// The button that Esc presses; NoButton leaves that to the toolkit.

@@ -47,6 +47,7 @@ public:
     [[nodiscard]] bool isRunning() const;
 
 Q_SIGNALS:
+    /// One path was looked at.
     void seen(const ozm::msreader::MsSample &sample);
     /// Everything that was asked for has been told.
     void finished();

@@ -76,8 +76,11 @@ public:
     void cancel();
 
 Q_SIGNALS:
+    /// Some more data, in the order in which it was come across.
     void found(const QList<ozm::msreader::MsSample> &samples);
+    /// Now and then, with the @p folder that is read now.
     void progressed(int foldersSearched, int samplesFound, const QString &folder);
+    /// @p path cannot be read, for @p reason.
     void passedOver(const QString &path, const QString &reason);
 
     /// The last signal of a search: @p error as in run().

@@ -6,9 +6,10 @@
 
 namespace ozm::msreader {
 
+/// How far a search goes.
 struct MsDataSearchOptions
 {
-    bool recursive = true;
+    bool recursive = true;       ///< False looks into the folder itself only.
     bool byNameOnly = false;     ///< Take the right name on a file or a folder for data, and look no further.
     bool measureFiles = true;    ///< Tell the size of files, which takes a question for each.
     bool measureFolders = false; ///< Add up the files of data folders, which takes a question for each.

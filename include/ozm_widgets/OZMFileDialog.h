@@ -29,8 +29,10 @@ namespace ozm {
 class OZM_WIDGETS_EXPORT OZMFileDialog
 {
 public:
+    /// A purpose for which a folder is remembered.
     using DirLocation = ExtendableEnumRef<FileSystemSettings::DirLocationData>;
 
+    /// Asks for one file.
     [[nodiscard]] static QString getOpenFileName(QWidget *parent, const QString &caption, const QString &dir,
                                                  const FileExtensionsNameFilter &filter,
                                                  QString *selectedFilter, QFileDialog::Options options,
@@ -45,6 +47,7 @@ public:
                      const FileExtensionsNameFilter &filter, QString *selectedFilter,
                      QFileDialog::Options options, DirLocation dirLocation);
 
+    /// Asks for a folder.
     [[nodiscard]] static QString getExistingDirectory(QWidget *parent, const QString &caption,
                                                       const QString &dir, QFileDialog::Options options,
                                                       DirLocation dirLocation);

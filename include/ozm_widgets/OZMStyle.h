@@ -65,11 +65,15 @@ class OZM_WIDGETS_EXPORT OZMStyle
     Q_DECLARE_TR_FUNCTIONS(OZMStyle)
 
 public:
+    /// Which message a box shows, for those who have to tell boxes apart.
     using Signal = ozm::OzmMessageBoxSignal;
-    using Button = QMessageBox::StandardButton;
-    using Buttons = QMessageBox::StandardButtons;
+    using Button = QMessageBox::StandardButton;   ///< A button of a box.
+    using Buttons = QMessageBox::StandardButtons; ///< The buttons that a box offers.
+
+    /// Called with the button that answered a box.
     using Answered = std::function<void(QMessageBox::StandardButton)>;
 
+    /// The two sets of colours.
     enum class Scheme
     {
         Light,
@@ -91,6 +95,7 @@ public:
     /// The icon of this name from the library's set (see iconNames()), sharp at every size; or else that of
     /// the system's theme; or else a null icon, and a line in the log.
     [[nodiscard]] static QIcon icon(const QString &name);
+    /// The names of the library's own set, in alphabetical order.
     [[nodiscard]] static QStringList iconNames();
 
     /// Shows the box and waits for its answer.
@@ -106,6 +111,7 @@ public:
     // by its code's text when it has none. No buttons at all means Ok. Texts of buttons that are empty leave
     // the usual ones.
 
+    /// Tells of an error, and waits for the answer.
     static Button critical(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
                            Buttons buttons = QMessageBox::Ok, Button defaultButton = QMessageBox::NoButton,
                            const QString &detailedText = {});
@@ -115,6 +121,7 @@ public:
                            const ozm::Error &error, Buttons buttons = QMessageBox::Ok,
                            Button defaultButton = QMessageBox::NoButton);
 
+    /// Tells of a danger, and waits for the answer.
     static Button warning(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
                           Buttons buttons = QMessageBox::Ok, Button defaultButton = QMessageBox::NoButton,
                           const QString &detailedText = {});
@@ -128,6 +135,7 @@ public:
                           const ozm::Error &error, Buttons buttons = QMessageBox::Ok,
                           Button defaultButton = QMessageBox::NoButton);
 
+    /// Tells of something that went well, and waits for the answer.
     static Button information(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
                               Buttons buttons = QMessageBox::Ok,
                               Button defaultButton = QMessageBox::NoButton);
@@ -171,16 +179,20 @@ public:
 
     // As open(), by position.
 
+    /// As critical(), without waiting.
     static void openCritical(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
                              QObject *context, const Answered &answered, Buttons buttons = QMessageBox::Ok,
                              Button defaultButton = QMessageBox::NoButton, const QString &detailedText = {});
+    /// As warning(), without waiting.
     static void openWarning(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
                             QObject *context, const Answered &answered, Buttons buttons = QMessageBox::Ok,
                             Button defaultButton = QMessageBox::NoButton, const QString &detailedText = {});
+    /// As information(), without waiting.
     static void openInformation(QWidget *parent, Signal signal, const QString &title,
                                 const DisplayString &text, QObject *context, const Answered &answered,
                                 Buttons buttons = QMessageBox::Ok,
                                 Button defaultButton = QMessageBox::NoButton);
+    /// As question(), without waiting.
     static void openQuestion(QWidget *parent, Signal signal, const QString &title, const DisplayString &text,
                              QObject *context, const Answered &answered,
                              Buttons buttons = QMessageBox::Yes | QMessageBox::No,

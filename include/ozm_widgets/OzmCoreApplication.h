@@ -25,6 +25,7 @@ class OZM_WIDGETS_EXPORT OzmCoreApplication : public QObject
     Q_OBJECT
 
 public:
+    /// Made with the first call; never null.
     [[nodiscard]] static OzmCoreApplication *instance();
 
     /// Applies the style, see OZMStyle::apply(), and loads the library's translation into the user's

@@ -22,6 +22,7 @@ public:
     explicit OzmMessageBox(QWidget *parent = nullptr);
     explicit OzmMessageBox(OzmMessageBoxSignal signal, QWidget *parent = nullptr);
 
+    /// Which message the box shows.
     [[nodiscard]] OzmMessageBoxSignal signal() const { return m_signal; }
 
     /// Opens the detailed text, if there is one; opened, it stays open.

@@ -19,6 +19,8 @@ struct ReportPaperOptions
     QString title;       ///< Of the file; not printed.
     QString footer;      ///< At the left of each sheet's foot; the number of the page is at its right.
     QString header = {}; ///< At the left of each sheet's top.
+
+    /// For text that names none itself.
     QFont font = QFont(QStringLiteral("DejaVu Sans"), 9);
     /// The sheet and its margins for PDF; a printer has its own.
     QPageLayout layout = QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,

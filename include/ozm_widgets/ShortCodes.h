@@ -33,6 +33,7 @@ public:
     virtual bool beforeRemove();
     /// Called once, right after this object has become the implementation of @p shortCode.
     virtual void init(ShortCode *shortCode);
+    /// The text that stands for the code called @p name on screen.
     virtual QString displayName(const QString &name);
 };
 
@@ -61,10 +62,14 @@ public:
 
     bool operator==(const ShortCode &other) const;
 
+    /// The name as the implementation shows it.
     [[nodiscard]] QString displayName();
+    /// Hands @p parameters to the implementation before the name is asked for; its answer.
     [[nodiscard]] bool beforeGetDisplayName(const QMap<QString, QVariant> &parameters);
+    /// True when the code may be taken out of a template; the implementation decides.
     [[nodiscard]] bool beforeRemove() const;
 
+    /// Never null: a code without one of its own has the plain one.
     [[nodiscard]] QSharedPointer<ShortCodeImplementation> implementation();
     /// Takes ownership of @p implementation, puts it in the place of the present one, and then has it
     /// initialise itself for this code. Null is refused with a warning: the present one stays.
@@ -84,6 +89,7 @@ private:
 /// Looks up codes by their text with brackets; letter case counts.
 namespace ShortCodeUtils {
 
+/// True when one of @p codes has the text @p key, brackets and all.
 [[nodiscard]] OZM_WIDGETS_EXPORT bool keyExist(const QString &key, const QList<ShortCode> &codes);
 
 /// The first code whose text is @p key; an empty one when there is none.

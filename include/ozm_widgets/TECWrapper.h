@@ -17,6 +17,7 @@
 class OZM_WIDGETS_EXPORT TECWrapper
 {
 public:
+    /// @p content in an envelope of the present version.
     [[nodiscard]] static QString wrapTEC(const QString &content);
 
     /// The content of the first envelope in @p text, up to the last closing tag; empty, with @p ok false,

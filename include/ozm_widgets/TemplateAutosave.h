@@ -29,11 +29,12 @@ namespace ozm {
 class OZM_WIDGETS_EXPORT TemplateAutosave
 {
 public:
+    /// A copy that a crash left behind.
     struct Rescued
     {
-        QString path; ///< Of the file that was edited; empty for a new template.
-        QString content;
-        QDateTime when;
+        QString path;                    ///< Of the file that was edited; empty for a new template.
+        QString content;                 ///< The template as it was edited.
+        QDateTime when;                  ///< The time of the last copy.
         QString file;                    ///< The copy itself.
         std::shared_ptr<QLockFile> hold; ///< Nobody else is offered the copy as long as this lives.
     };
@@ -50,6 +51,7 @@ public:
     /// "*.damaged". They stay on the disk until they are discarded, so that a program that ends over the
     /// question loses nothing.
     [[nodiscard]] static QList<Rescued> rescued(const QString &storageName, const QString &directory = {});
+    /// Removes the copy that @p rescued was read from.
     static void discard(const Rescued &rescued);
 
     /// The same, discarded at once.

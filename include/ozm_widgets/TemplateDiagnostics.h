@@ -19,8 +19,8 @@ struct FailedScript
 {
     qsizetype position = -1; ///< Of the piece, just after its tag, in the text handed in.
     int line = 0;            ///< Within the piece, counted from 1.
-    QString message;
-    QString code; ///< The whole piece.
+    QString message;         ///< The engine's own words.
+    QString code;            ///< The whole piece.
 };
 
 /// A code that stood in a value and was replaced like those of the template. Values that shall appear as they are
@@ -43,12 +43,13 @@ struct FaultyInstruction
 /// A decoded template together with what went wrong in it, for editors and batch runs.
 struct TemplateReport
 {
-    QString text;
+    QString text;                     ///< The text, filled as far as could be.
     QList<UnresolvedCode> unresolved; ///< In order of position; codes in scripts only where they are quoted.
     QList<FailedScript> failed;       ///< In order of position.
     QList<BroughtInCode> broughtIn;   ///< In order of position.
-    Error error =
-        {}; ///< Code 2 when nothing was decoded: the text has no envelope where it needs one, or no row.
+
+    /// Code 2 when nothing was decoded: the text has no envelope where it needs one, or no row.
+    Error error = {};
     QList<FaultyInstruction> faulty = {}; ///< In order of position.
 
     /// True when the template was decoded, and each code and script in it came out as its author meant.

@@ -37,6 +37,7 @@ class OZM_WIDGETS_EXPORT TemplateDocument : public QTextDocument
     Q_OBJECT
 
 public:
+    /// The objects that stand in formatted text.
     enum class ChipKind
     {
         None,
@@ -45,10 +46,11 @@ public:
         Markup
     };
 
+    /// What stands at a place of the document that is not text.
     struct Chip
     {
-        ChipKind kind = ChipKind::None;
-        QString source;
+        ChipKind kind = ChipKind::None; ///< ChipKind::None for text.
+        QString source;                 ///< The very source that the chip stands for.
     };
 
     explicit TemplateDocument(QObject *parent = nullptr);
@@ -76,6 +78,7 @@ public:
     /// Sets the names that chips show for codes, by code with brackets. Others are marked as unknown, unless the
     /// table is empty.
     void setDisplayNames(const QHash<QString, QString> &names);
+    /// True when @p code is one of those offered, or when none are.
     [[nodiscard]] bool isKnownCode(const QString &code) const;
 
     /// True for a text with tags; anything else is plain text, in which lines count.

@@ -56,8 +56,10 @@ public:
      * (filling an array of a hundred million elements) is not: it ends in its own time.
      */
     static void setDeadline(std::chrono::milliseconds deadline);
+    /// The time that the scripts of one decoding have in all.
     [[nodiscard]] static std::chrono::milliseconds deadline();
 
+    /// How far scripts reach into the objects that they are given.
     enum class ObjectAccess
     {
         Full,     ///< Scripts read and set properties, call slots and invokable methods, connect to signals.
@@ -70,6 +72,7 @@ public:
      * process, from the next decoding on; any thread.
      */
     static void setObjectAccess(ObjectAccess access);
+    /// The access that is in force for the process.
     [[nodiscard]] static ObjectAccess objectAccess();
 
 private:
@@ -99,6 +102,7 @@ public:
     explicit TemplateEditorJSCodeReader(QObject *parent = nullptr);
     ~TemplateEditorJSCodeReader() override;
 
+    /// False when the script engine, or the library of script helpers, is not there.
     [[nodiscard]] bool isValid() const;
 
     /// The code of all pieces of script in @p text, in order of position.

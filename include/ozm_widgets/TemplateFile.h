@@ -36,10 +36,11 @@ class OZM_WIDGETS_EXPORT TemplateFile
     Q_DECLARE_TR_FUNCTIONS(ozm::TemplateFile)
 
 public:
+    /// A file as it was read.
     struct Loaded
     {
-        QString content;
-        QByteArray charset;
+        QString content;        ///< The template, without envelope.
+        QByteArray charset;     ///< The character set in which the file is written, and stays.
         bool converted = false; ///< The body of a page from elsewhere.
         QByteArray digest;      ///< What opened() takes.
     };
@@ -71,6 +72,7 @@ public:
 
     /// True when the file is gone, or other than it was when it was opened. False before opened().
     [[nodiscard]] bool changedOnDisk() const;
+    /// The file that opened() was told of last.
     [[nodiscard]] QString path() const;
 
     /// Remembers the file as it is now; or, with the @p digest from reading, as it was then.

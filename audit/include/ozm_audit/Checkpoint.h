@@ -21,8 +21,8 @@ namespace ozm::audit {
  */
 struct OZM_AUDIT_EXPORT Checkpoint
 {
-    QString origin; ///< The trail.
-    qint64 size = 0;
+    QString origin;  ///< The trail.
+    qint64 size = 0; ///< How many entries the trail had.
     QByteArray root; ///< 32 bytes.
     QByteArray note; ///< The whole text, signatures and all.
 
@@ -44,7 +44,9 @@ public:
     /// BadParameter when @p text is not a key.
     [[nodiscard]] static Result<PublicKey> fromText(const QString &text);
 
+    /// As fromText() reads it.
     [[nodiscard]] QString toText() const;
+    /// The name that signatures by this key carry.
     [[nodiscard]] QString name() const { return m_name; }
     /// For `openssl pkeyutl`.
     [[nodiscard]] QByteArray toPem() const;
@@ -75,6 +77,7 @@ public:
     /// Writes a new file that only its owner may read; FileAccess when there is one already.
     Error save(const QString &path) const;
 
+    /// The half that checks signatures and may be given away.
     [[nodiscard]] PublicKey publicKey() const;
     /// Adds a signature to @p checkpoint.
     Error sign(Checkpoint &checkpoint) const;
@@ -91,6 +94,7 @@ class OZM_AUDIT_EXPORT CheckpointSink
 {
 public:
     virtual ~CheckpointSink();
+    /// Keeps @p checkpoint where the store's own damage cannot reach it. 
     virtual Error write(const Checkpoint &checkpoint) = 0;
 };
 

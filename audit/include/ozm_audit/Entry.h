@@ -39,9 +39,9 @@ enum class Kind
 /// A person with name and role as they are at the time. Ids are never given to somebody else.
 struct Person
 {
-    QString id = {};
-    QString name = {};
-    QString role = {};
+    QString id = {};   ///< The account; signatures and filters go by it.
+    QString name = {}; ///< The name to print.
+    QString role = {}; ///< The role in which the person acts, such as "analyst".
 };
 
 /**
@@ -57,7 +57,8 @@ struct Person
  */
 struct Draft
 {
-    Kind kind = Kind::Event;
+    Kind kind = Kind::Event; ///< What sort of act it was.
+
     /// Names the entry for ever; 32 hexadecimal digits. A store of several writers uses it to find out
     /// whether an append that broke off was stored.
     QByteArray id = {};
@@ -69,21 +70,21 @@ struct Draft
     QString zone = {};  ///< "Europe/Vienna".
     qint64 counter = 0; ///< Microseconds of a clock that never goes back, since the session began.
 
-    Person user = {};
-    QString session = {};
-    QString host = {};
-    QString program = {};
-    QString version = {};
+    Person user = {};     ///< Who did it.
+    QString session = {}; ///< Names the run of the program; its entries share it.
+    QString host = {};    ///< The machine's name.
+    QString program = {}; ///< The application that recorded it.
+    QString version = {}; ///< The application's version.
 
-    QString context = {}; ///< "New", "Undo", "Redo"; empty for what is not a step.
-    int outcomeCode = 0;
-    QString outcomeText = {};
-    QString reason = {};
-    QString authoriser = {};
+    QString context = {};     ///< "New", "Undo", "Redo"; empty for what is not a step.
+    int outcomeCode = 0;      ///< 0 when the step was made; otherwise the code of its error.
+    QString outcomeText = {}; ///< The error's message.
+    QString reason = {};      ///< The user's own words.
+    QString authoriser = {};  ///< Id of the second person whose word it took; empty when none was asked for.
 
-    QString subjectType = {};
-    QString subjectKey = {}; ///< The same text for the same subject; histories go by it.
-    QStringList attributes = {};
+    QString subjectType = {};    ///< The kind of object, such as "Label".
+    QString subjectKey = {};     ///< The same text for the same subject; histories go by it.
+    QStringList attributes = {}; ///< The attributes that the step changed.
 
     QByteArray record = {}; ///< Kept byte for byte, JSON or not.
 
@@ -99,14 +100,14 @@ struct Draft
  */
 struct OZM_AUDIT_EXPORT Entry : Draft
 {
-    QString trail = {};
-    qint64 number = 0; ///< Counts from 1 without gaps.
-    QByteArray bytes = {};
+    QString trail = {};    ///< The name of the trail that holds it.
+    qint64 number = 0;     ///< Counts from 1 without gaps.
+    QByteArray bytes = {}; ///< The entry itself; empty once it was disposed of.
 
     // Facts that a server added when it stored the entry; empty for a store without one.
-    QString serverTime = {};
-    QString serverUser = {};
-    QString serverClient = {};
+    QString serverTime = {};   ///< The server's own clock, ISO 8601.
+    QString serverUser = {};   ///< The account that the server knows the program by.
+    QString serverClient = {}; ///< The address from which the server was asked.
 
     /// BadParameter when @p bytes are not an entry of a form that this version knows.
     [[nodiscard]] static Result<Entry> fromBytes(const QByteArray &bytes);
@@ -115,6 +116,7 @@ struct OZM_AUDIT_EXPORT Entry : Draft
     [[nodiscard]] QDateTime dateTime() const;
     /// The record as one line for people, or its bytes when it is not a record that this version knows.
     [[nodiscard]] QString text() const;
+    /// True when only the entry's number and hash are left.
     [[nodiscard]] bool isDisposed() const { return bytes.isEmpty(); }
 };
 

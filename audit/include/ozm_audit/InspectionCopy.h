@@ -8,14 +8,16 @@
 
 namespace ozm::audit {
 
+/// What goes into an inspection copy, and who makes it.
 struct CopyOptions
 {
     Query query = {}; ///< Which entries; all of them when nothing narrows it.
+
     /// These entries, in ascending order, in place of those that the query finds: for a choice that is no query.
     std::optional<QList<Range>> ranges = {};
-    QString choice = {}; ///< In words, why these: the entry about the copy and README hold it.
-    Person user = {};    ///< Who makes the copy.
-    QString reason = {};
+    QString choice = {};             ///< In words, why these: the entry about the copy and README hold it.
+    Person user = {};                ///< Who makes the copy.
+    QString reason = {};             ///< Why the copy is made; recorded with it.
     const SigningKey *key = nullptr; ///< Signs the checkpoint of the copy.
     bool archived = false;           ///< Records the copy as an archive instead of an export.
     Progress progress = {};          ///< Told of entries read and written; false cancels.

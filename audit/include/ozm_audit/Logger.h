@@ -33,6 +33,7 @@ public:
 class OZM_AUDIT_EXPORT ReasonPolicy
 {
 public:
+    /// How urgently a step asks for a reason.
     enum class Demand
     {
         None,
@@ -53,13 +54,14 @@ public:
 /// One step that an undo stack is about to run.
 struct Step
 {
-    const UndoCommand *command;
-    OperationLogItemUndoContext context;
+    const UndoCommand *command;          ///< Not owned.
+    OperationLogItemUndoContext context; ///< Made anew, undone or redone.
 };
 
+/// How a logger records; the defaults suit one user at one machine.
 struct LoggerOptions
 {
-    Person user = {};
+    Person user = {};     ///< Who acts.
     QString program = {}; ///< The application's name when empty.
     QString version = {}; ///< The application's version when empty.
 
@@ -73,8 +75,9 @@ struct LoggerOptions
 
     /// Checkpoints go to these at the end of the session, and each time so many entries were added.
     std::vector<std::shared_ptr<CheckpointSink>> checkpointSinks = {};
+    /// Signs the checkpoints; they are unsigned when it is null.
     std::shared_ptr<const SigningKey> checkpointKey = {};
-    int checkpointEvery = 1000;
+    int checkpointEvery = 1000; ///< Entries from one checkpoint to the next.
 };
 
 /**
@@ -106,12 +109,16 @@ public:
 
     /// Why nothing can be recorded at present; no error when it can.
     [[nodiscard]] Error error() const;
+    /// Names this run in the trail; a new one for each logger.
     [[nodiscard]] QString session() const;
+    /// The store that it writes to.
     [[nodiscard]] Store &store() const;
 
     /// Records @p command, has @p stack run it and takes ownership, whatever the outcome.
     [[nodiscard]] Error push(UndoStack &stack, UndoCommand *command);
+    /// Records that the last step of @p stack is undone, and undoes it once the record is kept.
     [[nodiscard]] Error undo(UndoStack &stack);
+    /// Records the next step of @p stack, and redoes it once the record is kept.
     [[nodiscard]] Error redo(UndoStack &stack);
 
     // For an application that runs steps itself: prepare, run, settle.

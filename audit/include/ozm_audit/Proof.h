@@ -20,10 +20,11 @@ struct OZM_AUDIT_EXPORT Proof
 {
     qint64 number = 0;        ///< Of the entry; one more than the leaf's index.
     QList<QByteArray> hashes; ///< The inclusion proof of RFC 6962.
-    Checkpoint checkpoint;
+    Checkpoint checkpoint;    ///< The checkpoint against which the proof holds.
 
     /// BadParameter when @p text is not a proof.
     [[nodiscard]] static Result<Proof> fromText(const QByteArray &text);
+    /// As a file that other programs check (tlog-proof).
     [[nodiscard]] QByteArray toText() const;
     /// Tells whether the trail of the checkpoint holds @p bytes as the entry of this number.
     [[nodiscard]] bool proves(const QByteArray &bytes) const;

@@ -22,11 +22,13 @@ namespace ozm::audit {
  */
 struct Query
 {
+    /// In which order entries come, by number.
     enum class Order
     {
         OldestFirst,
         NewestFirst,
     };
+    /// Which entries are asked for by how their step ended.
     enum class Outcome
     {
         Any,
@@ -34,21 +36,21 @@ struct Query
         Failed,
     };
 
-    QString user = {}; ///< By id.
-    QList<Kind> kinds = {};
-    qint64 fromMs = 0;  ///< Milliseconds since 1970-01-01 UTC, inclusive.
-    qint64 untilMs = 0; ///< Exclusive; 0 for no end.
-    QString subjectType = {};
-    QString subjectKey = {};
-    QString attribute = {};
-    Outcome outcome = Outcome::Any;
-    QString text = {}; ///< Anywhere in the entry, upper and lower case alike.
-    qint64 firstNumber = 0;
-    qint64 lastNumber = 0; ///< Inclusive; 0 for no end.
+    QString user = {};              ///< By id.
+    QList<Kind> kinds = {};         ///< Any of these; all kinds when empty.
+    qint64 fromMs = 0;              ///< Milliseconds since 1970-01-01 UTC, inclusive.
+    qint64 untilMs = 0;             ///< Exclusive; 0 for no end.
+    QString subjectType = {};       ///< The kind of object.
+    QString subjectKey = {};        ///< The very text of Draft::subjectKey.
+    QString attribute = {};         ///< Entries that name this attribute, alone or among others.
+    Outcome outcome = Outcome::Any; ///< By how the step ended.
+    QString text = {};              ///< Anywhere in the entry, upper and lower case alike.
+    qint64 firstNumber = 0;         ///< Inclusive.
+    qint64 lastNumber = 0;          ///< Inclusive; 0 for no end.
 
-    Order order = Order::OldestFirst;
+    Order order = Order::OldestFirst; ///< The order of the pages, and within a page.
     qint64 after = 0; ///< The number at which the last page ended, in the given order; 0 for the first page.
-    int pageSize = 100;
+    int pageSize = 100; ///< The most entries that one answer holds.
 };
 
 } // namespace ozm::audit

@@ -44,6 +44,7 @@ class StoreBackend;
 class OZM_AUDIT_EXPORT Store
 {
 public:
+    /// How a trail is opened, and what becomes of one that is not there.
     enum class Mode
     {
         Use,      ///< Opens the trail, or makes a new one where there is none.
@@ -52,6 +53,8 @@ public:
         ReadOnly,
     };
 
+    /// Opens the trail at @p address. BadParameter for an address that cannot be read, FileAccess when the
+    /// trail cannot.
     [[nodiscard]] static Result<std::unique_ptr<Store>> open(const QString &address, Mode mode = Mode::Use);
     /// For back ends from elsewhere.
     explicit Store(std::unique_ptr<StoreBackend> backend);

@@ -21,26 +21,28 @@ enum class Damage
     NotTheTrail,  ///< A checkpoint that is another trail's, or whose signature is wrong.
 };
 
+/// The enumerator's name.
 [[nodiscard]] OZM_AUDIT_EXPORT QString damageToString(Damage damage);
 
 /// One damage, at the first and last number that it concerns.
 struct Finding
 {
-    Damage damage = Damage::Changed;
-    qint64 first = 0;
-    qint64 last = 0;
-    QString text;              ///< For people.
-    Checkpoint checkpoint;     ///< The one that shows it, if one does.
-    qint64 acknowledgedBy = 0; ///< Number of the re-anchor that records it, or 0.
+    Damage damage = Damage::Changed; ///< The sort of damage.
+    qint64 first = 0;                ///< The first entry that it concerns.
+    qint64 last = 0;                 ///< The last entry that it concerns.
+    QString text;                    ///< For people.
+    Checkpoint checkpoint;           ///< The one that shows it, if one does.
+    qint64 acknowledgedBy = 0;       ///< Number of the re-anchor that records it, or 0.
 };
 
 /// Told how far long work is, on the thread that does it; false ends the work with an error.
 using Progress = std::function<bool(qint64 done, qint64 total)>;
 
+/// Entries by number, both ends included.
 struct Range
 {
-    qint64 first = 0;
-    qint64 last = 0;
+    qint64 first = 0; ///< Counts from 1.
+    qint64 last = 0;  ///< Inclusive.
 };
 
 /**
@@ -51,12 +53,12 @@ struct Range
  */
 struct OZM_AUDIT_EXPORT Verification
 {
-    QString trail;
-    qint64 size = 0;
-    QByteArray root;
-    qint64 anchored = 0;
+    QString trail;           ///< The trail's name.
+    qint64 size = 0;         ///< How many entries were checked.
+    QByteArray root;         ///< The root of the trail's tree, 32 bytes.
+    qint64 anchored = 0;     ///< The last entry that a checkpoint from outside vouches for; 0 without one.
     QList<Finding> findings; ///< By number; no more than 1000.
-    QList<Range> disposed;
+    QList<Range> disposed;   ///< Entries whose bytes were disposed of by the rules.
 
     /// No damage, or none that a re-anchor does not record.
     [[nodiscard]] bool isWhole() const;

@@ -16,10 +16,11 @@ namespace ozm::audit {
 class OZM_AUDIT_WIDGETS_EXPORT NumberSet
 {
 public:
+    /// Numbers one after the other, both ends included.
     struct Run
     {
-        qint64 first = 0;
-        qint64 last = 0;
+        qint64 first = 0; ///< The smallest.
+        qint64 last = 0;  ///< The largest.
 
         bool operator==(const Run &) const = default;
     };
@@ -29,10 +30,15 @@ public:
     /// BadParameter when @p text is not a set.
     [[nodiscard]] static Result<NumberSet> fromText(const QString &text);
 
+    /// As "1-20,25".
     [[nodiscard]] QString toText() const;
+    /// In ascending order; no two touch.
     [[nodiscard]] const QList<Run> &runs() const { return m_runs; }
+    /// True when there is none.
     [[nodiscard]] bool isEmpty() const { return m_runs.isEmpty(); }
+    /// True when @p number is one of them.
     [[nodiscard]] bool contains(qint64 number) const;
+    /// How many numbers there are, not runs.
     [[nodiscard]] qint64 count() const;
     /// How many numbers from 1 to @p last are in the set.
     [[nodiscard]] qint64 countUpTo(qint64 last) const;

@@ -42,18 +42,20 @@ private:
 class OZM_AUDIT_WIDGETS_EXPORT AskedReasons : public ReasonPolicy
 {
 public:
+    /// Which steps ask for a reason, and how.
     struct Rule
     {
-        QString subjectType = {}; ///< Empty for any.
-        QString attribute = {};   ///< Empty for any.
-        bool onlyDeletions = false;
-        Demand demand = Demand::Optional;
-        QStringList choices = {};
+        QString subjectType = {};         ///< Empty for any.
+        QString attribute = {};           ///< Empty for any.
+        bool onlyDeletions = false;       ///< True for steps that delete only.
+        Demand demand = Demand::Optional; ///< How urgently.
+        QStringList choices = {};         ///< The reasons to choose from.
     };
 
     explicit AskedReasons(QWidget *parent = nullptr);
     ~AskedReasons() override;
 
+    /// The first rule that fits a step decides about it.
     void addRule(const Rule &rule);
 
     [[nodiscard]] Demand demand(const OperationLogItemData &data) const override;

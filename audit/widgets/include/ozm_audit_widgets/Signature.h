@@ -19,16 +19,17 @@ namespace ozm::audit {
  */
 struct OZM_AUDIT_WIDGETS_EXPORT SignedContent
 {
-    NumberSet entries;
-    QStringList subjects; ///< Type, line feed, key.
-    QList<QByteArray> leaves;
-    QByteArray digest;
+    NumberSet entries;        ///< The numbers of the entries that are signed.
+    QStringList subjects;     ///< Type, line feed, key.
+    QList<QByteArray> leaves; ///< The leaf hash of each entry, 32 bytes, in the order of the numbers.
+    QByteArray digest;        ///< The SHA-256 of the leaves, which stands in the signature.
 
     /// NotAllowed for more than 10,000 entries, or one whose content was disposed of.
     [[nodiscard]] static Result<SignedContent> of(const Store &store, const NumberSet &entries);
 
     /// How many entries, which, and about what.
     [[nodiscard]] QString inWords() const;
+    /// The entry that records the signature of @p signer, ready for Logger::record().
     [[nodiscard]] Draft signature(const Person &signer, const QString &meaning,
                                   const QStringList &components) const;
 };

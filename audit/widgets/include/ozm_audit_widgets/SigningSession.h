@@ -38,6 +38,7 @@ class OZM_AUDIT_WIDGETS_EXPORT SigningSession : public QObject
     Q_OBJECT
 
 public:
+    /// After so long without a signature, a session locks itself.
     [[nodiscard]] static constexpr std::chrono::milliseconds usualIdle() { return std::chrono::minutes(10); }
     SigningSession(Logger &logger, Authenticator &authenticator, std::chrono::milliseconds idle = usualIdle(),
                    QObject *parent = nullptr);
@@ -47,6 +48,7 @@ public:
     [[nodiscard]] bool needsBoth() const;
     /// The person of the session; empty when both are needed.
     [[nodiscard]] Person signer() const;
+    /// Records the signatures.
     [[nodiscard]] Logger &logger() const;
 
     /// Begins a session. NotAllowed when the person is not known by both.
@@ -57,6 +59,7 @@ public:
     void lock();
 
 Q_SIGNALS:
+    /// The session went idle or was locked: the next signature asks for all components again.
     void locked();
 
 protected:

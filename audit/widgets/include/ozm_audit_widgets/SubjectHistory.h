@@ -13,7 +13,7 @@ namespace ozm::audit {
 /// The values of a subject after one entry, as far as the trail says.
 struct SubjectState
 {
-    Entry entry;
+    Entry entry;         ///< The entry that led to this state.
     QVariantMap values;  ///< By attribute.
     QStringList changed; ///< Attributes that this entry changed.
 };

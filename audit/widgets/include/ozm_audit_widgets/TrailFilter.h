@@ -25,15 +25,19 @@ enum class ReviewPreset
     SettingsAndRights,
 };
 
+/// The enumerator's name, as it is stored.
 [[nodiscard]] OZM_AUDIT_WIDGETS_EXPORT QString presetToString(ReviewPreset preset);
 /// For people, as in "Changes after a signature".
 [[nodiscard]] OZM_AUDIT_WIDGETS_EXPORT QString presetTitle(ReviewPreset preset);
+/// All presets, in the order in which they are offered.
 [[nodiscard]] OZM_AUDIT_WIDGETS_EXPORT QList<ReviewPreset> reviewPresets();
 
 /// When people are expected to work, by the clock that the entry shows; Saturday and Sunday are out of hours.
 struct WorkingHours
 {
+    /// The first moment of the working day.
     QTime from = QTime(7, 0);
+    /// The first moment after it.
     QTime until = QTime(19, 0);
 
     bool operator==(const WorkingHours &) const = default;
@@ -53,11 +57,11 @@ struct WorkingHours
  */
 struct OZM_AUDIT_WIDGETS_EXPORT TrailFilter
 {
-    Query query = {};
-    QString session = {};
-    bool withoutReason = false; ///< Steps that say no reason.
-    ReviewPreset preset = ReviewPreset::None;
-    WorkingHours hours = {};
+    Query query = {};                         ///< The conditions that the store itself answers.
+    QString session = {};                     ///< One run of a program only; empty for all.
+    bool withoutReason = false;               ///< Steps that say no reason.
+    ReviewPreset preset = ReviewPreset::None; ///< A ready-made choice of what a review looks at.
+    WorkingHours hours = {};                  ///< The hours of ReviewPreset::OutOfHours.
 
     /// Shows everything.
     [[nodiscard]] bool isEmpty() const;
@@ -65,15 +69,18 @@ struct OZM_AUDIT_WIDGETS_EXPORT TrailFilter
     [[nodiscard]] bool needsEntries() const;
     /// The conditions, each as words: those of the chips above a view.
     [[nodiscard]] QStringList conditions() const;
+    /// All conditions in one line.
     [[nodiscard]] QString inWords() const;
     /// The same filter without the condition at @p index of conditions().
     [[nodiscard]] TrailFilter without(qsizetype index) const;
 
+    /// As fromJson() reads it.
     [[nodiscard]] QByteArray toJson() const;
     /// BadParameter when @p json is not a filter, or of a newer form.
     [[nodiscard]] static Result<TrailFilter> fromJson(const QByteArray &json);
     /// Replaces the file at @p path; FileAccess when it cannot be written.
     [[nodiscard]] Error save(const QString &path) const;
+    /// Reads what save() wrote; FileAccess when @p path cannot be read.
     [[nodiscard]] static Result<TrailFilter> load(const QString &path);
 };
 

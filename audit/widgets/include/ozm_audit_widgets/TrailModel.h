@@ -36,6 +36,7 @@ class OZM_AUDIT_WIDGETS_EXPORT TrailModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
+    /// The columns, from left to right.
     enum Column
     {
         Number,
@@ -50,12 +51,14 @@ public:
         Outcome,
         ColumnCount,
     };
+    /// Data beside that of Qt's own roles.
     enum Role
     {
         NumberRole = Qt::UserRole,
         GroupRole, ///< Number of the entry of the group; 0 for none.
         MarksRole, ///< As an integer of Marks.
     };
+    /// Facts about an entry that later entries tell.
     enum class Mark
     {
         Pending = 1, ///< Handed to a queued logger, not yet on disk.
@@ -75,6 +78,7 @@ public:
         Local,
         Recorded,
     };
+    /// Columns whose values a filter offers to choose from.
     enum class Choice
     {
         User,
@@ -86,24 +90,33 @@ public:
     explicit TrailModel(Store &store, QObject *parent = nullptr);
     ~TrailModel() override;
 
+    /// The store whose trail it shows.
     [[nodiscard]] Store &store() const;
     /// Rows that a queued @p logger has not written yet then stand at the newest end of an unfiltered trail.
     void setLogger(const Logger *logger);
 
+    /// The filter in force.
     [[nodiscard]] TrailFilter filter() const;
+    /// Shows what @p filter lets through. Rows come as the trail is read.
     void setFilter(const TrailFilter &filter);
+    /// The clock by which times are shown.
     [[nodiscard]] Zone zone() const;
+    /// Shows all times by @p zone.
     void setZone(Zone zone);
 
     /// True while the trail is searched for more rows.
     [[nodiscard]] bool isSearching() const;
+    /// Entries of the trail, shown or not.
     [[nodiscard]] qint64 total() const;
+    /// Entries that the filter shows.
     [[nodiscard]] qint64 shown() const;
     /// Entries read so far that the filter does not show.
     [[nodiscard]] qint64 hidden() const;
+    /// Records that a queued logger has not written yet.
     [[nodiscard]] qint64 pending() const;
     /// Entries that the filter shows and nobody has reviewed.
     [[nodiscard]] qint64 notReviewed() const;
+    /// Entries whose marks are known by now; total() once all are.
     [[nodiscard]] qint64 knownMarks() const;
 
     /// The entry at @p row; number 0 for one that is pending.
@@ -112,7 +125,9 @@ public:
     [[nodiscard]] int rowOf(qint64 number) const;
     /// All that the filter shows. NotAllowed while it is searched for, or when it is in too many pieces.
     [[nodiscard]] Result<NumberSet> shownNumbers() const;
+    /// The marks that are known by now.
     [[nodiscard]] Marks marks(const Entry &entry) const;
+    /// The marks in words, for the screen.
     [[nodiscard]] static QString marksText(Marks marks);
     /// Numbers of the signatures over the entry.
     [[nodiscard]] QList<qint64> signaturesOf(qint64 number) const;
@@ -127,8 +142,11 @@ public:
      * all. Emits sortRefused() beyond that.
      */
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+    /// The most rows that are sorted by a column without an index.
     [[nodiscard]] static int sortLimit();
+    /// The column in whose order the rows are.
     [[nodiscard]] int sortColumn() const;
+    /// The direction of that order.
     [[nodiscard]] Qt::SortOrder sortOrder() const;
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
@@ -141,6 +159,7 @@ public:
 Q_SIGNALS:
     /// Any of the counts, or isSearching(), may have changed.
     void countsChanged();
+    /// There are too many rows to sort; @p text says so for the screen.
     void sortRefused(const QString &text);
     /// The trail cannot be read.
     void failed(const ozm::Error &error);

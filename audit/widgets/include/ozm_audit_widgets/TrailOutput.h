@@ -23,13 +23,17 @@ class OZM_AUDIT_WIDGETS_EXPORT TrailOutput
 public:
     TrailOutput(const TrailModel &model, const Person &user);
 
+    /// More entries than these are not brought onto paper.
     [[nodiscard]] static qint64 mostEntries();
     /// Why this cannot be printed; no error when it can.
     [[nodiscard]] Error check() const;
+    /// The whole as one page of HTML.
     [[nodiscard]] QString toHtml() const;
     /// At the foot of each page.
     [[nodiscard]] QString footer() const;
+    /// Draws all sheets on @p device.
     void print(QPagedPaintDevice &device) const;
+    /// Replaces the file at @p path only when all of it is written; FileAccess otherwise.
     [[nodiscard]] Error writePdf(const QString &path) const;
     /// UTF-8 with a byte order mark; fields that a spreadsheet would take for a formula get an apostrophe.
     [[nodiscard]] Error writeCsv(const QString &path) const;

@@ -33,6 +33,7 @@ class OZM_AUDIT_WIDGETS_EXPORT TrailView : public QWidget
     Q_OBJECT
 
 public:
+    /// The acts of the view, for menus and tool bars of the application.
     enum class Action
     {
         Sign,
@@ -55,16 +56,21 @@ public:
     explicit TrailView(Store &store, QWidget *parent = nullptr);
     ~TrailView() override;
 
+    /// The rows that the view shows.
     [[nodiscard]] TrailModel &model() const;
+    /// Belongs to the view, and is enabled while the act is possible.
     [[nodiscard]] QAction *action(Action action) const;
 
     /// Signatures, reviews and other acts in this view are recorded by @p logger as done by @p user.
     void setLogger(Logger *logger, const Person &user);
+    /// Signatures are made in @p session; null takes the acts away.
     void setSigningSession(SigningSession *session);
+    /// Called when the user asks for the object of an entry.
     void setSubjectHook(const SubjectHook &hook);
     /// Copied along with inspection copies.
     void setVerifier(const QString &path);
 
+    /// Shows what @p filter lets through, with its conditions as chips above.
     void setFilter(const TrailFilter &filter);
     /// Shows the entries about one subject only.
     void showSubject(const QString &type, const QString &key);
@@ -72,7 +78,9 @@ public:
     void showEntry(qint64 number);
     /// The newest entries, and those that come.
     void showNewest();
+    /// The entries that are selected; empty when none is.
     [[nodiscard]] NumberSet selectedNumbers() const;
+    /// The entry under the cursor; number 0 when there is none.
     [[nodiscard]] Entry currentEntry() const;
 
 protected:

@@ -48,7 +48,9 @@ public:
     virtual ~OperationLogItem();
     Q_DISABLE_COPY_MOVE(OperationLogItem)
 
+    /// True when there is no record in it.
     [[nodiscard]] bool isNull() const;
+    /// The id that the logger gave it.
     [[nodiscard]] qint64 id() const;
     /// Serial number of the entry within this process; never stored.
     [[nodiscard]] qint64 internalId() const;
@@ -56,19 +58,25 @@ public:
     [[nodiscard]] qint64 timestamp() const;
     /// The time stamp in local time.
     [[nodiscard]] QDateTime dateTime() const;
+    /// Who did it.
     [[nodiscard]] QString userName() const;
     /// Never null; lives as long as the entry.
     [[nodiscard]] const OperationLogItemData *data() const;
+    /// The record as one line for people.
     [[nodiscard]] QString dataToString() const;
 
+    /// Null at the top, and once the parent is gone.
     [[nodiscard]] QSharedPointer<OperationLogItem> parent();
     [[nodiscard]] QSharedPointer<const OperationLogItem> parent() const;
+    /// The entries directly below this one, the oldest first.
     [[nodiscard]] QList<QSharedPointer<OperationLogItem>> children();
     [[nodiscard]] QList<QSharedPointer<const OperationLogItem>> children() const;
     /// Null when @p index is out of range.
     [[nodiscard]] QSharedPointer<OperationLogItem> child(int index);
     [[nodiscard]] QSharedPointer<const OperationLogItem> child(int index) const;
+    /// How many entries are directly below this one.
     [[nodiscard]] int childCount() const;
+    /// True for a macro in which something was done.
     [[nodiscard]] bool hasChildren() const;
     /// -1 when @p child is none of the children.
     [[nodiscard]] int indexOf(const QSharedPointer<OperationLogItem> &child) const;

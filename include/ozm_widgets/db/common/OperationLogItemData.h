@@ -16,6 +16,7 @@ class QDebug;
 
 namespace ozm {
 
+/// The sort of change that a record tells of.
 enum class OperationLogItemType : qint32
 {
     None,
@@ -94,13 +95,21 @@ public:
     OperationLogItemData &operator=(OperationLogItemData &&other) noexcept;
     ~OperationLogItemData();
 
+    /// False for a record without type that is no legacy description.
     [[nodiscard]] bool isValid() const;
+    /// The sort of change.
     [[nodiscard]] OperationLogItemType type() const;
+    /// The object that was changed.
     [[nodiscard]] OperationLogItemSubject subject() const;
+    /// The names of what was changed.
     [[nodiscard]] QList<QString> attributes() const;
+    /// The value after.
     [[nodiscard]] QVariant value() const;
+    /// The value before; invalid when it is not known.
     [[nodiscard]] QVariant oldValue() const;
+    /// Made anew, undone or redone.
     [[nodiscard]] OperationLogItemUndoContext undoContext() const;
+    /// The text of a record that older programs wrote.
     [[nodiscard]] QString legacyDescription() const;
 
     /// For a macro's data: a macro that ends empty is not committed, and one with a single child is
@@ -110,9 +119,13 @@ public:
     /// A mark for the application's own use, kept with the record and not looked at here.
     [[nodiscard]] bool applicationFlag() const;
 
+    /// Loggers set it for each run of a command.
     void setUndoContext(OperationLogItemUndoContext context);
+    /// Makes the record one that is told by @p description alone.
     void setLegacyDescription(const QString &description);
+    /// See collapseTrivialMacro().
     void setCollapseTrivialMacro(bool collapse);
+    /// See applicationFlag().
     void setApplicationFlag(bool flag);
 
     /// Empty for an invalid record; a legacy record gives its description alone, as "legacyDescription".
@@ -124,14 +137,19 @@ public:
     [[nodiscard]] QString toString() const;
     /// The values as they are, with their line breaks.
     [[nodiscard]] QString valueToString() const;
+    /// See valueToString().
     [[nodiscard]] QString oldValueToString() const;
     /// The attributes, joined with ", ".
     [[nodiscard]] QString attributeNamesString() const;
 
     // Texts are the enumerators' names. A value outside gives an empty text, an unknown text value 0.
+    /// The name of @p type.
     [[nodiscard]] static QString typeToString(OperationLogItemType type);
+    /// The type of this name.
     [[nodiscard]] static OperationLogItemType stringToType(const QString &text);
+    /// The name of @p context.
     [[nodiscard]] static QString undoContextToString(OperationLogItemUndoContext context);
+    /// The context of this name.
     [[nodiscard]] static OperationLogItemUndoContext stringToUndoContext(const QString &text);
 
     /// Equal in content, undo context and both flags.

@@ -24,6 +24,7 @@ namespace ozm {
 class OZM_WIDGETS_EXPORT OperationLogItemSubject
 {
 public:
+    /// The kind of object, by its stored number.
     enum class Type : qint32
     {
         None,
@@ -68,7 +69,9 @@ public:
 
     /// True when the kind is one other than None.
     [[nodiscard]] bool isValid() const;
+    /// Type::None for no subject.
     [[nodiscard]] Type type() const;
+    /// The columns that tell the object from others of its type.
     [[nodiscard]] QMap<QString, QVariant> key() const;
     /// Values that the caller gave beyond the key; never taken from a row.
     [[nodiscard]] QMap<QString, QVariant> explicitSecondaryKey() const;
@@ -81,9 +84,12 @@ public:
 
     /// "Charge: 2, Sequence: PEPTIDE": display names of the columns with their values, by column name.
     [[nodiscard]] QString keyToString() const;
+    /// The secondary key that was given, as toString() shows it.
     [[nodiscard]] QString explicitSecondaryKeyToString() const;
+    /// Type and keys in one line for people.
     [[nodiscard]] QString toString() const;
 
+    /// Type and keys, as a record stores them.
     [[nodiscard]] QJsonObject toJsonObject() const;
 
     OZM_WIDGETS_EXPORT friend bool operator==(const OperationLogItemSubject &a,

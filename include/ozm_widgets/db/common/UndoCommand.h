@@ -77,6 +77,7 @@ public:
     [[nodiscard]] Error lastError() const;
     /// The entry that the last step left in the trail; null when it left none.
     [[nodiscard]] QWeakPointer<OperationLogItem> recentLogItem() const;
+    /// False for a command that nobody records.
     [[nodiscard]] bool isAuditTrailEnabled() const;
     /// Never null.
     [[nodiscard]] const OperationLogItemData *logData() const;
@@ -84,7 +85,9 @@ public:
     [[nodiscard]] QList<OperationLogItemData> childLogData() const;
 
 protected:
+    /// Takes the change back, or changes nothing and says why.
     virtual Error doUndo() = 0;
+    /// Makes the change, or changes nothing and says why.
     virtual Error doRedo() = 0;
     /// Before the first step of a run of commands (a macro, or a parent's children). An error skips the
     /// step that was to come, and its record.
@@ -97,8 +100,11 @@ protected:
     [[nodiscard]] bool canMergeWith(const QUndoCommand *other) const;
 
     [[nodiscard]] OperationLogItemData *logData();
+    /// The record of this command, without context.
     void setLogData(const OperationLogItemData &data);
+    /// Further records that belong to this command's own.
     void setChildLogData(const QList<OperationLogItemData> &data);
+    /// To be said before the command is pushed.
     void setAuditTrailEnabled(bool enabled);
 
 private:

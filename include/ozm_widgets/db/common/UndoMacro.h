@@ -35,6 +35,7 @@ public:
     ~UndoMacro();
     Q_DISABLE_COPY_MOVE(UndoMacro)
 
+    /// False once it was ended, or could not begin.
     [[nodiscard]] bool isOpen() const;
     /// The macro's entry in the trail, null as that of UndoStack::beginMacro().
     [[nodiscard]] QSharedPointer<OperationLogItem> logItem() const;

@@ -27,6 +27,7 @@
 class OZM_WIDGETS_EXPORT UndoRedoHints
 {
 public:
+    /// The direction in which steps run.
     enum class Session : qint32
     {
         Undo = 0,
@@ -41,11 +42,16 @@ public:
     /// A redo at the place given by the current hint.
     UndoRedoHints();
 
+    /// True for the first step of a run, and for one alone.
     [[nodiscard]] bool isFirstInQueue() const;
+    /// True for the last step of a run, and for one alone.
     [[nodiscard]] bool isLastInQueue() const;
 
+    /// The direction of this hint alone.
     void setSession(Session session);
+    /// The same as setSession(Session::Undo).
     void setSessionUndo();
+    /// The same as setSession(Session::Redo).
     void setSessionRedo();
     /// Takes over the current hint once more.
     void setUndoRedoFlag();
@@ -55,8 +61,11 @@ public:
     /// Ends the session: calls the end-session function if a session was started, and forgets both.
     static void setHintNone();
 
+    /// True while steps run whose session somebody started.
     [[nodiscard]] static bool isSessionStarted();
+    /// Starts a session, or forgets that one was started.
     static void setSessionStarted(bool started);
+    /// Called once, when the session ends.
     static void setEndSessionFunction(const std::function<void()> &function);
 
 private:

@@ -83,6 +83,7 @@ public:
     /// Forgets all commands and open macros; the trail keeps what was recorded.
     void clear();
 
+    /// Hands records to @p logging from now on; null hands them to nobody. Not owned.
     void setLogging(AuditTrailLoggingInterface *logging);
 
     /// Tells when a record could not be stored. Never null; lives as long as the stack.

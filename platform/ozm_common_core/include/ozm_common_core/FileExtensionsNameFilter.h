@@ -24,6 +24,7 @@ public:
     FileExtensionsNameFilter &add(const QString &description, const FileTypes::Ref &type);
     FileExtensionsNameFilter &add(const FileExtensionsNameFilter &other);
 
+    /// As QFileDialog takes it: "Tables (*.csv);;All files (*)".
     [[nodiscard]] QString toFilterString() const;
 
     /// True when a filter was made of @p type, or takes every extension of it by a pattern of its own, so that

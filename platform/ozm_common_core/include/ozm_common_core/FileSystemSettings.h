@@ -25,7 +25,7 @@ public:
         /// The purpose of callers that name none.
         [[nodiscard]] static ExtendableEnumRef<DirLocationData> defaultValue();
     };
-    using DirLocation = ExtendableEnumRef<DirLocationData>;
+    using DirLocation = ExtendableEnumRef<DirLocationData>; ///< A purpose for which a folder is remembered.
 
     /// Where the folders are kept.
     class OZM_COMMON_CORE_EXPORT Store
@@ -35,6 +35,7 @@ public:
         virtual ~Store();
         Q_DISABLE_COPY_MOVE(Store)
 
+        /// The folder remembered for @p purpose; empty when there is none.
         [[nodiscard]] virtual QString folder(const QString &purpose) const = 0;
         /// An empty @p folder forgets.
         virtual void setFolder(const QString &purpose, const QString &folder) = 0;
@@ -43,11 +44,14 @@ public:
     /// A store that forgets everything with the process.
     [[nodiscard]] static std::unique_ptr<Store> memoryStore();
 
+    /// The one object of the process.
     [[nodiscard]] static FileSystemSettings &Instance();
+    /// A further purpose, called @p name; the same one each time it is asked for.
     static DirLocation addLocation(const QString &name);
 
     /// The folder remembered for @p location; empty when there is none.
     [[nodiscard]] QString fileLocation(const DirLocation &location) const;
+    /// Remembers @p folder for @p location.
     void setFileLocation(const DirLocation &location, const QString &folder);
 
     /// Replaces the store and returns the one before; null stands for the settings of the user.

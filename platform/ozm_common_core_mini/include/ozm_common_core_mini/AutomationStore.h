@@ -22,13 +22,17 @@ OZM_COMMON_CORE_MINI_EXPORT extern const QString kFileExplorerAllowed;
  */
 namespace as {
 
+/// True when there is an answer for @p key.
 [[nodiscard]] OZM_COMMON_CORE_MINI_EXPORT bool contains(const QString &key);
 
 /// The answer to @p key, or @p fallback when there is none.
 [[nodiscard]] OZM_COMMON_CORE_MINI_EXPORT QVariant value(const QString &key, const QVariant &fallback = {});
 
+/// Answers questions for @p key with @p value from now on.
 OZM_COMMON_CORE_MINI_EXPORT void setValue(const QString &key, const QVariant &value);
+/// Forgets the answer for @p key, if there is one.
 OZM_COMMON_CORE_MINI_EXPORT void remove(const QString &key);
+/// Forgets all answers.
 OZM_COMMON_CORE_MINI_EXPORT void clear();
 
 /// Adds the answers of the JSON object in the file at @p path to the store. Nothing is added when the file

@@ -26,17 +26,19 @@ public:
         Count   ///< How many different values there are.
     };
 
+    /// How a column is called and summed up on screen.
     struct OZM_COMMON_CORE_MINI_EXPORT FriendlyNameStruct
     {
-        QString friendlyName;
-        QString toolTip;
-        int decimals = -1; ///< Digits shown after the point; -1 shows a number as it is.
-        Summary summary = Summary::Values;
+        QString friendlyName;              ///< The header's text.
+        QString toolTip;                   ///< The header's explanation.
+        int decimals = -1;                 ///< Digits shown after the point; -1 shows a number as it is.
+        Summary summary = Summary::Values; ///< How several values become one.
 
         /// The value as a reader sees it: numbers with the column's digits, lists joined with "; ".
         [[nodiscard]] QString valueToString(const QVariant &value) const;
     };
 
+    /// All known columns, by their name in the data.
     [[nodiscard]] static const QMap<QString, FriendlyNameStruct> &getColumnFriendlyNames();
 
     /// The display name of @p column; the column's own name when the table does not know it.

@@ -22,6 +22,7 @@ namespace ozm {
 class OZM_COMMON_CORE_MINI_EXPORT PathUtils
 {
 public:
+    /// What is at a path.
     enum class Kind
     {
         Missing,
@@ -33,9 +34,13 @@ public:
     /// All that the predicates below know, for callers who need more than one of them.
     [[nodiscard]] static Kind kind(const QString &path);
 
+    /// True when a file or a folder is at @p path.
     [[nodiscard]] static bool exists(const QString &path);
+    /// True when a file is at @p path.
     [[nodiscard]] static bool isExistingFile(const QString &path);
+    /// True when a folder is at @p path.
     [[nodiscard]] static bool isExistingDir(const QString &path);
+    /// The same as isExistingDir().
     [[nodiscard]] static bool isDirectory(const QString &path);
 
     /// True when what follows the last dot of the path's last component is @p extension (given without a dot),

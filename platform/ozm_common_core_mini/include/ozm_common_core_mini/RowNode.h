@@ -40,7 +40,9 @@ public:
     /// A copy of the row with all that is below it; the copy has no parent.
     [[nodiscard]] std::unique_ptr<RowNode> copyTree() const;
 
+    /// In the order of the columns.
     [[nodiscard]] QStringList columnNames() const;
+    /// The same for all rows of a tree.
     [[nodiscard]] int columnCount() const;
     /// The column's index, or -1.
     [[nodiscard]] int columnIndex(const QString &name) const;
@@ -59,8 +61,11 @@ public:
     bool setDataAt(const QString &name, const QVariant &value);
     bool setDataAt(int column, const QVariant &value);
 
+    /// Null at the top.
     [[nodiscard]] RowNode *parent() const { return m_parent; }
+    /// The row at the top, which may be this one.
     [[nodiscard]] const RowNode *root() const;
+    /// How many rows are directly below this one.
     [[nodiscard]] int childCount() const { return static_cast<int>(m_children.size()); }
     /// Null when @p index is out of range.
     [[nodiscard]] RowNode *child(int index) const;

@@ -13,7 +13,9 @@ namespace ozm {
 class OZM_COMMON_CORE_MINI_EXPORT TextUtils
 {
 public:
+    /// @p text with a capital first letter; the rest stays.
     [[nodiscard]] static QString toUpperFirstChar(const QString &text);
+    /// @p text with a small first letter; the rest stays.
     [[nodiscard]] static QString toLowerFirstChar(const QString &text);
 };
 

@@ -19,10 +19,14 @@ public:
         : m_items(std::move(items))
     {}
 
+    /// The items in their order.
     [[nodiscard]] const QVariantList &toList() const { return m_items; }
+    /// True when there is no item.
     [[nodiscard]] bool isEmpty() const { return m_items.isEmpty(); }
+    /// How many items there are.
     [[nodiscard]] qsizetype size() const { return m_items.size(); }
 
+    /// Adds @p item at the end.
     void append(const QVariant &item) { m_items.append(item); }
 
     bool operator==(const VariantItems &) const = default;

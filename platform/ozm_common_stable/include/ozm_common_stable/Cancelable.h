@@ -15,7 +15,9 @@ public:
     Cancelable &operator=(Cancelable &&) = default;
     virtual ~Cancelable();
 
+    /// True once it was canceled.
     [[nodiscard]] virtual bool isCanceled() const = 0;
+    /// Cancels, or takes that back.
     virtual void setCanceled(bool canceled) = 0;
 };
 

@@ -14,7 +14,7 @@ class QDebug;
 
 namespace ozm {
 
-using Warnings = QStringList;
+using Warnings = QStringList; ///< Texts about what went on all the same.
 
 /**
  * The outcome of an operation that can fail: a code, a text for the user, warnings, and the places in the
@@ -40,7 +40,9 @@ public:
     Error &operator=(Error &&other) noexcept;
     ~Error();
 
+    /// False for the error of a call that went well.
     [[nodiscard]] bool hasError() const noexcept;
+    /// ErrorCode::NoError when there is none.
     [[nodiscard]] ErrorCode errorCode() const noexcept;
 
     /// The text for the user; may be empty.
@@ -49,7 +51,9 @@ public:
     /// The code as text, for errors that carry no message.
     [[nodiscard]] QString errorString() const;
 
+    /// What went on all the same; an error of code 0 may have them, too.
     [[nodiscard]] Warnings warnings() const;
+    /// Where it arose and was passed on, the first one first.
     [[nodiscard]] QList<ErrorPlace> places() const;
 
     /// Adds what the user should know although the operation went on; success may carry warnings, too.

@@ -16,8 +16,8 @@ namespace ozm {
 struct ErrorPlace
 {
     QString function; ///< The function's signature.
-    QString path;
-    int line = 0;
+    QString path;     ///< The source, relative to the top of its project.
+    int line = 0;     ///< Counts from 1.
 
     bool operator==(const ErrorPlace &) const = default;
 

@@ -34,9 +34,11 @@ public:
         Q_ASSERT_X(std::get<1>(m_side).hasError(), "ozm::Result", "made from an Error that holds no error");
     }
 
+    /// True when there is an error in the value's place.
     [[nodiscard]] bool hasError() const noexcept { return m_side.index() == 1; }
     explicit operator bool() const noexcept { return !hasError(); }
 
+    /// The value. To be asked for only when there is one.
     [[nodiscard]] const T &value() const &
     {
         assertValue();
@@ -52,12 +54,14 @@ public:
         assertValue();
         return std::get<0>(std::move(m_side));
     }
+    /// The value, or @p fallback when there is an error.
     [[nodiscard]] T valueOr(T fallback) const & { return hasError() ? std::move(fallback) : value(); }
     [[nodiscard]] T valueOr(T fallback) &&
     {
         return hasError() ? std::move(fallback) : std::move(*this).value();
     }
 
+    /// The error; one of code 0 when there is a value.
     [[nodiscard]] const Error &error() const &
     {
         assertError();
@@ -94,6 +98,7 @@ public:
         Q_ASSERT_X(hasError(), "ozm::Result", "made from an Error that holds no error");
     }
 
+    /// True when the call failed.
     [[nodiscard]] bool hasError() const noexcept { return m_error.hasError(); }
     explicit operator bool() const noexcept { return !hasError(); }
     /// As for the others, the error of a success must not be asked for.

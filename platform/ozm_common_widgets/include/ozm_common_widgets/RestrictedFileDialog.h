@@ -23,6 +23,7 @@ public:
                                   const QString &directory = {}, const QString &filter = {});
     ~RestrictedFileDialog() override;
 
+    /// Shows the folder @p directory.
     void setDirectory(const QString &directory) { QFileDialog::setDirectory(directory); }
     void setDirectory(const QDir &directory) { QFileDialog::setDirectory(directory); }
 
@@ -31,18 +32,22 @@ public:
 
     void setVisible(bool visible) override;
 
+    /// As QFileDialog's function of this name, on the disks of this computer.
     [[nodiscard]] static QString getOpenFileName(QWidget *parent = nullptr, const QString &caption = {},
                                                  const QString &dir = {}, const QString &filter = {},
                                                  QString *selectedFilter = nullptr,
                                                  QFileDialog::Options options = {});
+    /// As QFileDialog's function of this name, on the disks of this computer.
     [[nodiscard]] static QStringList getOpenFileNames(QWidget *parent = nullptr, const QString &caption = {},
                                                       const QString &dir = {}, const QString &filter = {},
                                                       QString *selectedFilter = nullptr,
                                                       QFileDialog::Options options = {});
+    /// As QFileDialog's function of this name, on the disks of this computer.
     [[nodiscard]] static QString getSaveFileName(QWidget *parent = nullptr, const QString &caption = {},
                                                  const QString &dir = {}, const QString &filter = {},
                                                  QString *selectedFilter = nullptr,
                                                  QFileDialog::Options options = {});
+    /// As QFileDialog's function of this name, on the disks of this computer.
     [[nodiscard]] static QString
     getExistingDirectory(QWidget *parent = nullptr, const QString &caption = {}, const QString &dir = {},
                          QFileDialog::Options options = QFileDialog::ShowDirsOnly);

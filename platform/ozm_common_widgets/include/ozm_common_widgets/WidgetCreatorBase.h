@@ -19,6 +19,7 @@ public:
     WidgetCreatorBase &operator=(const WidgetCreatorBase &) = default;
     virtual ~WidgetCreatorBase();
 
+    /// A new accessor, owned by the caller.
     [[nodiscard]] virtual std::unique_ptr<IFileAccessorBase> createFileAccessorBase() const = 0;
 
     /// Installs @p creator in place of the one before, which is destroyed; null leaves none.

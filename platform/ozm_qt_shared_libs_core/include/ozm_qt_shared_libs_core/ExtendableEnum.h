@@ -25,7 +25,9 @@ public:
         : ExtendableEnumRef(Data::defaultValue())
     {}
 
+    /// The entry's name, unique in its enumeration.
     [[nodiscard]] const QString &name() const { return m_entry->first; }
+    /// The data that the entry was added with.
     [[nodiscard]] const Data &data() const { return m_entry->second; }
 
     bool operator==(const ExtendableEnumRef &) const = default;
@@ -55,7 +57,7 @@ template <typename Data>
 class ExtendableEnum
 {
 public:
-    using Ref = ExtendableEnumRef<Data>;
+    using Ref = ExtendableEnumRef<Data>; ///< One entry of the enumeration.
 
     ExtendableEnum() = default;
     Q_DISABLE_COPY_MOVE(ExtendableEnum)
@@ -72,6 +74,7 @@ public:
         return Ref(&m_entries.back());
     }
 
+    /// The entry called @p name; none when there is no such entry.
     [[nodiscard]] std::optional<Ref> find(const QString &name) const
     {
         const QMutexLocker lock(&m_mutex);

@@ -17,6 +17,7 @@
 class OZM_QT_SHARED_LIBS_CORE_EXPORT FileTypes
 {
 public:
+    /// How a type of files is called, and which extensions it has.
     struct OZM_QT_SHARED_LIBS_CORE_EXPORT FileTypeData
     {
         QStringList extensions; ///< Without dots.
@@ -24,10 +25,11 @@ public:
         /// The type that has no extensions.
         [[nodiscard]] static ExtendableEnumRef<FileTypeData> defaultValue();
     };
-    using Ref = ExtendableEnumRef<FileTypeData>;
+    using Ref = ExtendableEnumRef<FileTypeData>; ///< One type of files.
 
     /// The type @p name; one that is known already keeps its extensions.
     static Ref add(const QString &name, const QStringList &extensions);
+    /// The type called @p name, such as "MS"; none when there is no such type.
     [[nodiscard]] static std::optional<Ref> find(const QString &name);
 
     /// True when the name at the end of @p path, which may have a slash after it, carries an extension of any

@@ -17,6 +17,7 @@ public:
     /// Refers to nothing yet.
     LocalResourceReference();
 
+    /// The path of the file or folder.
     [[nodiscard]] QString path() const { return location(); }
 
     /// Refers to @p path, made absolute against the current folder; a path with a drive letter is absolute on

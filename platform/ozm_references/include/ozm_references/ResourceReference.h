@@ -39,9 +39,12 @@ public:
     /// The reference that @p text stands for; code 2 when its scheme is unknown or its location empty, and
     /// for a local file whatever LocalResourceReference::setPath() refuses.
     [[nodiscard]] static Result<QSharedPointer<ResourceReference>> fromString(const QString &text);
+    /// The reference as text, which ResourceReferenceUtils reads back.
     [[nodiscard]] QString toString() const;
 
+    /// Where the resource is kept.
     [[nodiscard]] Scheme scheme() const { return m_scheme; }
+    /// True when the reference is of this scheme.
     [[nodiscard]] bool isScheme(Scheme scheme) const { return m_scheme == scheme; }
     /// The location in the terms of the scheme; of a local file its absolute path.
     [[nodiscard]] QString location() const { return m_location; }
@@ -50,6 +53,7 @@ protected:
     ResourceReference(const ResourceReference &) = default;
     ResourceReference &operator=(const ResourceReference &) = default;
 
+    /// Refers to another place within the same scheme.
     void setLocation(const QString &location) { m_location = location; }
 
 private:
