@@ -465,7 +465,7 @@
 <context>
     <name>ozm::audit::FilterBar</name>
     <message>
-        <source>&amp;Search:</source>
+        <source>Sear&amp;ch:</source>
         <translation>&amp;Suchen:</translation>
     </message>
     <message>
@@ -474,10 +474,10 @@
     </message>
     <message>
         <source>&amp;Look for:</source>
-        <translation>&amp;Prüfen auf:</translation>
+        <translation>P&amp;rüfen auf:</translation>
     </message>
     <message>
-        <source>&amp;Filter</source>
+        <source>Filte&amp;r</source>
         <translation>&amp;Filter</translation>
     </message>
     <message>
@@ -663,7 +663,7 @@
     </message>
     <message>
         <source>&amp;Password:</source>
-        <translation>Kenn&amp;wort:</translation>
+        <translation>Kennwor&amp;t:</translation>
     </message>
     <message>
         <source>A signature stands for your name, and cannot be taken back.</source>
@@ -835,7 +835,7 @@
     </message>
     <message>
         <source>&amp;Go to entry …</source>
-        <translation>Zum EintraZum &amp;Eintrag gehen …amp;g gehen …</translation>
+        <translation>Zum &amp;Eintrag gehen …</translation>
     </message>
     <message>
         <source>&amp;Print …</source>
@@ -878,7 +878,7 @@
         <translation>Spalten</translation>
     </message>
     <message>
-        <source>&amp;Time:</source>
+        <source>T&amp;ime:</source>
         <translation>&amp;Zeit:</translation>
     </message>
     <message>

@@ -57,6 +57,13 @@
     </message>
 </context>
 <context>
+    <name>BlackSplitterPlugin</name>
+    <message>
+        <source>A splitter whose dividers are thin lines and wide enough to grab.</source>
+        <translation>Ein Splitter, dessen Trenner schmale Linien und doch breit genug zum Greifen sind.</translation>
+    </message>
+</context>
+<context>
     <name>FileCrawlerDialog</name>
     <message>
         <source>These folders could not be searched:
@@ -318,7 +325,7 @@ Bitte prüfen Sie, ob der Dateiname stimmt.</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>&amp;Schließen</translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message>
         <source>Open file or folder</source>
@@ -341,6 +348,10 @@ You may still open the given folder.</source>
         <translation>Die Datei wurde nicht angelegt. Mit der angegebenen Datei scheint etwas nicht zu stimmen.
 %1
 Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
     </message>
 </context>
 <context>
@@ -654,7 +665,7 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>&amp;Schließen</translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -678,7 +689,7 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
     <message>
         <source>Paste as p&amp;lain text</source>
-        <translation>Als &amp;reinen Text einfügen</translation>
+        <translation>Als reinen &amp;Text einfügen</translation>
     </message>
     <message>
         <source>Select &amp;all</source>
@@ -690,15 +701,15 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
     <message>
         <source>R&amp;eplace…</source>
-        <translation>E&amp;rsetzen…</translation>
+        <translation>Erset&amp;zen…</translation>
     </message>
     <message>
         <source>Find &amp;next</source>
-        <translation>&amp;Weitersuchen</translation>
+        <translation>Weitersuc&amp;hen</translation>
     </message>
     <message>
         <source>Find pre&amp;vious</source>
-        <translation>Rück&amp;wärts suchen</translation>
+        <translation>Rü&amp;ckwärts suchen</translation>
     </message>
     <message>
         <source>&amp;Code from the list…</source>
@@ -741,7 +752,7 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
         <translation>&amp;Hochgestellt</translation>
     </message>
     <message>
-        <source>Subs&amp;cript</source>
+        <source>&amp;Subscript</source>
         <translation>&amp;Tiefgestellt</translation>
     </message>
     <message>
@@ -750,10 +761,10 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
     <message>
         <source>Colour be&amp;hind the text…</source>
-        <translation>Farbe &amp;hinter dem Text…</translation>
+        <translation>Farbe hinter de&amp;m Text…</translation>
     </message>
     <message>
-        <source>Cl&amp;ear formats</source>
+        <source>Cle&amp;ar formats</source>
         <translation>Formate &amp;entfernen</translation>
     </message>
     <message>
@@ -773,7 +784,7 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
         <translation>Überschrift &amp;3</translation>
     </message>
     <message>
-        <source>Align &amp;left</source>
+        <source>Align le&amp;ft</source>
         <translation>&amp;Linksbündig</translation>
     </message>
     <message>
@@ -790,14 +801,14 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
     <message>
         <source>&amp;List</source>
-        <translation>&amp;Liste</translation>
+        <translation>L&amp;iste</translation>
     </message>
     <message>
         <source>Nu&amp;mbered list</source>
         <translation>&amp;Nummerierte Liste</translation>
     </message>
     <message>
-        <source>Indent l&amp;ess</source>
+        <source>In&amp;dent less</source>
         <translation>Einzug &amp;verkleinern</translation>
     </message>
     <message>
@@ -830,7 +841,7 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
     <message>
         <source>&amp;Merge cells</source>
-        <translation>Zellen &amp;verbinden</translation>
+        <translation>Zellen ver&amp;binden</translation>
     </message>
     <message>
         <source>&amp;Split cell</source>
@@ -858,7 +869,7 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
     <message>
         <source>C&amp;ode</source>
-        <translation>&amp;Platzhalter</translation>
+        <translation>Platz&amp;halter</translation>
     </message>
     <message>
         <source>Template</source>
@@ -1415,7 +1426,7 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     </message>
     <message>
         <source>&amp;Data:</source>
-        <translation>&amp;Daten:</translation>
+        <translation>Date&amp;n:</translation>
     </message>
     <message>
         <source>All %1 as a group</source>

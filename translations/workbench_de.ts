@@ -600,12 +600,16 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
         <translation>&amp;Speichern …</translation>
     </message>
     <message>
-        <source>&amp;Other…</source>
+        <source>Ot&amp;her…</source>
         <translation>&amp;Andere …</translation>
     </message>
     <message>
         <source>Takes a template that was saved in the template editor</source>
         <translation>Nimmt eine Vorlage, die im Vorlageneditor gespeichert wurde</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
     </message>
 </context>
 <context>

@@ -64,6 +64,7 @@ openfilefolderdialog::Form::Form(openfilefolderdialog *dialog)
     dialog->setWindowTitle(tr("Open file or folder"));
 
     plainTextEdit_message->setObjectName(u"plainTextEdit_message"_s);
+    plainTextEdit_message->setAccessibleName(openfilefolderdialog::tr("Message"));
     plainTextEdit_message->setReadOnly(true);
     plainTextEdit_message->setStyleSheet(u"background-color: #EEEEEE"_s);
     // The text is to be read on that background under a dark style, too.

@@ -58,9 +58,11 @@ ReportDialog::ReportDialog(std::vector<RowNode> rows, const ReportContext &conte
     m_preview->setPalette(paper);
     m_preview->document()->setDocumentMargin(24);
 
+    m_preview->setAccessibleName(tr("Preview"));
+
     auto *label = new QLabel(tr("&Template:"), this);
     label->setBuddy(m_template);
-    auto *other = named(new QPushButton(tr("&Other…"), this), "otherTemplate");
+    auto *other = named(new QPushButton(tr("Ot&her…"), this), "otherTemplate");
     other->setToolTip(tr("Takes a template that was saved in the template editor"));
     auto *choices = new QHBoxLayout;
     choices->addWidget(label);

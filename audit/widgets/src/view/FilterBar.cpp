@@ -38,7 +38,7 @@ FilterBar::FilterBar(const TrailModel &model, QWidget *parent)
     , m_chips(new QWidget)
     , m_searchDelay(new QTimer(this))
 {
-    auto *searchLabel = new QLabel(tr("&Search:"));
+    auto *searchLabel = new QLabel(tr("Sear&ch:"));
     searchLabel->setBuddy(m_search);
     m_search->setObjectName(u"trailSearch"_s);
     m_search->setClearButtonEnabled(true);
@@ -50,7 +50,7 @@ FilterBar::FilterBar(const TrailModel &model, QWidget *parent)
     for (const ReviewPreset preset : reviewPresets())
         m_preset->addItem(presetTitle(preset), int(preset));
     m_add->setObjectName(u"trailFilter"_s);
-    m_add->setText(tr("&Filter"));
+    m_add->setText(tr("Filte&r"));
     m_add->setIcon(OZMStyle::icon(u"view-filter"_s));
     m_add->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_add->setPopupMode(QToolButton::InstantPopup);

@@ -125,7 +125,7 @@ void TrailView::Private::build()
 
 void TrailView::Private::addZones(QToolBar &tools)
 {
-    auto *label = new QLabel(tr("&Time:"));
+    auto *label = new QLabel(tr("T&ime:"));
     label->setBuddy(&zones);
     label->setContentsMargins(kRoom, 0, kRoom / 2, 0);
     zones.setObjectName(u"trailZone"_s);

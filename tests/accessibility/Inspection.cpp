@@ -1,0 +1,276 @@
+#include "Inspection.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QHash>
+#include <QHeaderView>
+#include <QKeySequence>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMetaEnum>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QShortcut>
+#include <QTableView>
+#include <QToolBar>
+#include <QToolButton>
+#include <QTreeView>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm::test {
+
+namespace {
+
+QString told(const QObject &object)
+{
+    QString path;
+    for (const QObject *part = &object; part; part = part->parent())
+        path = u'/' +
+               (part->objectName().isEmpty() ? QString::fromLatin1(part->metaObject()->className())
+                                             : part->objectName()) +
+               path;
+    return path;
+}
+
+/// Cells, items and scroll bars are told by the view that they belong to, and the buttons in a line by the line.
+bool isClosed(QAccessible::Role role)
+{
+    switch (role) {
+    case QAccessible::Table:
+    case QAccessible::Tree:
+    case QAccessible::List:
+    case QAccessible::ComboBox:
+    case QAccessible::SpinBox:
+    case QAccessible::ScrollBar:
+    case QAccessible::EditableText:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isAnotherWindow(QAccessibleInterface &place)
+{
+    const auto *widget = qobject_cast<QWidget *>(place.object());
+    return widget && widget->isWindow();
+}
+
+void inspectTree(QAccessibleInterface &place, Inspection &found)
+{
+    const QAccessible::State state = place.state();
+    if (state.invisible || !place.object())
+        return;
+    const auto *widget = qobject_cast<QWidget *>(place.object());
+    // Where there is no room for a tool bar, the toolkit adds a button of its own.
+    if (widget && widget->objectName() == "qt_toolbar_ext_button"_L1)
+        return;
+    const bool isButton = qobject_cast<const QAbstractButton *>(place.object());
+    if (widget && (widget->focusPolicy() != Qt::NoFocus || isButton) && (state.focusable || isButton)) {
+        ++found.controls;
+        if (place.text(QAccessible::Name).trimmed().isEmpty())
+            found.findings += told(*widget) + u" has no name"_s;
+        if (place.role() == QAccessible::NoRole)
+            found.findings += told(*widget) + u" has no role"_s;
+    }
+    for (int i = 0; !isClosed(place.role()) && i < place.childCount(); ++i) {
+        if (QAccessibleInterface *child = place.child(i); child && !isAnotherWindow(*child))
+            inspectTree(*child, found);
+    }
+}
+
+/// Keys that stand for something, and those that have more than one meaning at once.
+class Keys
+{
+public:
+    void add(const QKeySequence &key, const QObject &owner, const QString &what)
+    {
+        if (key.isEmpty())
+            return;
+        const auto known = m_owners.constFind(key.toString());
+        if (known != m_owners.cend() && *known != &owner)
+            found += u"%1 stands for %2 and for %3"_s.arg(key.toString(), m_told.value(key.toString()), what);
+        m_owners.insert(key.toString(), &owner);
+        m_told.insert(key.toString(), what);
+    }
+
+    QStringList found;
+
+private:
+    QHash<QString, const QObject *> m_owners;
+    QHash<QString, QString> m_told;
+};
+
+void inspectMenu(const QMenu &menu, QStringList &findings)
+{
+    Keys keys;
+    for (QAction *action : menu.actions()) {
+        if (!action->isSeparator())
+            keys.add(QKeySequence::mnemonic(action->text()), *action, u"the menu item "_s + action->text());
+        if (action->menu())
+            inspectMenu(*action->menu(), findings);
+    }
+    findings += keys.found;
+}
+
+void inspectKeys(QWidget &window, QStringList &findings)
+{
+    Keys keys;
+    const auto mnemonic = [&](QWidget &widget, const QString &text) {
+        if (widget.isVisibleTo(&window))
+            keys.add(QKeySequence::mnemonic(text), widget, told(widget));
+    };
+    for (auto *button : window.findChildren<QAbstractButton *>())
+        mnemonic(*button, button->text());
+    for (auto *label : window.findChildren<QLabel *>()) {
+        if (label->buddy())
+            mnemonic(*label, label->text());
+        else if (!QKeySequence::mnemonic(label->text()).isEmpty() && label->isVisibleTo(&window))
+            findings += told(*label) + u" has a key, and no field that it leads to"_s;
+    }
+    for (auto *bar : window.findChildren<QMenuBar *>()) {
+        for (QAction *action : bar->actions()) {
+            keys.add(QKeySequence::mnemonic(action->text()), *action, u"the menu "_s + action->text());
+            if (action->menu())
+                inspectMenu(*action->menu(), findings);
+        }
+    }
+    for (auto *action : window.findChildren<QAction *>()) {
+        if (action->shortcutContext() != Qt::WindowShortcut &&
+            action->shortcutContext() != Qt::ApplicationShortcut)
+            continue;
+        for (const QKeySequence &key : action->shortcuts())
+            keys.add(key, *action, u"the action "_s + action->text());
+    }
+    for (auto *shortcut : window.findChildren<QShortcut *>()) {
+        const auto *place = qobject_cast<QWidget *>(shortcut->parent());
+        if (shortcut->context() == Qt::WindowShortcut && (!place || place->isVisibleTo(&window)))
+            keys.add(shortcut->key(), *shortcut, told(*shortcut));
+    }
+    findings += keys.found;
+}
+
+void inspectToolBars(const QWidget &window, QStringList &findings)
+{
+    for (const auto *button : window.findChildren<QToolButton *>()) {
+        const QAction *action = button->defaultAction();
+        if (!button->isVisibleTo(&window) || !action || button->focusPolicy() != Qt::NoFocus)
+            continue;
+        // That which empties a line: the keys of the line do it as well.
+        if (qobject_cast<const QLineEdit *>(button->parent()))
+            continue;
+        bool inMenu = false;
+        for (const QObject *place : action->associatedObjects())
+            inMenu |= qobject_cast<const QMenu *>(place) != nullptr;
+        if (!inMenu && action->shortcuts().isEmpty())
+            findings += told(*button) + u" (%1) is for the mouse alone"_s.arg(action->text());
+    }
+}
+
+void inspectHeaders(const QWidget &window, QStringList &findings)
+{
+    for (const auto *header : window.findChildren<QHeaderView *>()) {
+        if (!header->isVisibleTo(&window) || !header->model() || header->orientation() != Qt::Horizontal)
+            continue;
+        for (int column = 0; column < header->count(); ++column)
+            if (!header->isSectionHidden(column) &&
+                header->model()->headerData(column, Qt::Horizontal).toString().isEmpty())
+                findings += u"%1: column %2 has no header"_s.arg(told(*header)).arg(column);
+    }
+}
+
+double luminance(QRgb color)
+{
+    const auto linear = [](int part) {
+        const double c = part / 255.0;
+        return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
+}
+
+/// The highest contrast of any pixel in @p area to the colour that fills most of it: the edges of letters are blended
+/// with the ground, their middle is not.
+double contrastIn(const QImage &image, const QRect &area)
+{
+    QHash<QRgb, int> counts;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            if (image.rect().contains(x, y))
+                ++counts[image.pixel(x, y)];
+    if (counts.size() < 2)
+        return 21;
+    QRgb ground = 0;
+    int most = 0;
+    for (auto each = counts.cbegin(); each != counts.cend(); ++each) {
+        if (each.value() > most) {
+            ground = each.key();
+            most = each.value();
+        }
+    }
+    double highest = 1;
+    const double behind = luminance(ground) + 0.05;
+    for (auto each = counts.cbegin(); each != counts.cend(); ++each) {
+        const double before = luminance(each.key()) + 0.05;
+        highest = qMax(highest, qMax(before, behind) / qMin(before, behind));
+    }
+    return highest;
+}
+
+bool isLetter(QChar character)
+{
+    return character.isLetter();
+}
+
+void inspectPixels(QWidget &window, Inspection &found)
+{
+    constexpr double kReadable = 4.5;
+    constexpr double kVisible = 3.0;
+    const QImage image = window.grab().toImage();
+    const auto look = [&](const QWidget &widget, bool isText) {
+        const QRect area(widget.mapTo(&window, QPoint()), widget.size());
+        // Without the frame, which may be the part that is seen best.
+        const double ratio = contrastIn(image, area.adjusted(4, 4, -4, -4) & window.rect());
+        double &lowest = isText ? found.textContrast : found.iconContrast;
+        lowest = qMin(lowest, ratio);
+        if (ratio < (isText ? kReadable : kVisible))
+            found.findings += u"%1 is drawn at %2 to 1"_s.arg(told(widget)).arg(ratio, 0, 'f', 1);
+    };
+    for (const auto *widget : window.findChildren<QWidget *>()) {
+        if (!widget->isVisible() || !widget->isEnabled() || widget->visibleRegion().isEmpty())
+            continue;
+        if (const auto *label = qobject_cast<const QLabel *>(widget); label && !label->text().isEmpty())
+            look(*widget, true);
+        else if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
+            // Dots are too small to be measured by their pixels.
+            if (std::ranges::any_of(button->text(), &isLetter) || !button->icon().isNull())
+                look(*widget, !qobject_cast<const QToolButton *>(widget));
+    }
+}
+
+} // namespace
+
+Inspection inspect(QWidget &window)
+{
+    Inspection found;
+    if (QAccessibleInterface *top = QAccessible::queryAccessibleInterface(&window))
+        inspectTree(*top, found);
+    else
+        found.findings += u"The window tells nothing."_s;
+    inspectKeys(window, found.findings);
+    inspectToolBars(window, found.findings);
+    inspectHeaders(window, found.findings);
+    inspectPixels(window, found);
+    found.findings.removeDuplicates();
+    return found;
+}
+
+} // namespace ozm::test
