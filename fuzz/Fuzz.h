@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+
+/// What the fuzzer gives in each run. Each main.cpp defines it.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
+
+namespace ozm::fuzz {
+
+inline QByteArray bytesOf(const std::uint8_t *data, std::size_t size)
+{
+    return QByteArray(reinterpret_cast<const char *>(data), qsizetype(size));
+}
+
+inline QString textOf(const std::uint8_t *data, std::size_t size)
+{
+    return QString::fromUtf8(bytesOf(data, size));
+}
+
+/// Ends the run as a finding: the fuzzer keeps the input.
+inline void require(bool holds, const char *what)
+{
+    if (holds)
+        return;
+    std::fprintf(stderr, "does not hold: %s\n", what);
+    std::abort();
+}
+
+} // namespace ozm::fuzz

@@ -1,0 +1,38 @@
+#include "Fuzz.h"
+
+#include <ozm_common_core_mini/RowNode.h>
+#include <ozm_widgets/AbstractTemplateEditor.h>
+
+#include <QCoreApplication>
+#include <QLoggingCategory>
+
+using namespace ozm;
+
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+{
+    static QCoreApplication application(*argc, *argv);
+    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
+    return 0;
+}
+
+// The first line is the value of a code, the rest is the template. There is no script engine: each piece of
+// script fails and stays.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QString input = fuzz::textOf(data, size);
+    const qsizetype end = input.indexOf(u'\n');
+    RowNode row({QStringLiteral("Name"), QStringLiteral("Charge")});
+    row.setDataAt(0, input.left(qMax<qsizetype>(0, end)));
+    row.setDataAt(1, 2);
+    const QString text = input.sliced(end + 1);
+
+    const TemplateReport report = AbstractTemplateEditor::decodeTECReport(text, &row, {});
+    fuzz::require(report.text == AbstractTemplateEditor::decodeTEC(text, &row, {}),
+                  "the report has the text");
+    for (const UnresolvedCode &code : report.unresolved)
+        fuzz::require(text.sliced(code.position).startsWith(code.code),
+                      "an unresolved code is where it is said");
+    (void)AbstractTemplateEditor::withoutScriptTags(report.text);
+    (void)AbstractTemplateEditor::decodeTEC(text, QList<DecodeTecExtraData>{});
+    return 0;
+}
