@@ -5,7 +5,7 @@ PRESET ?= dev
 QT_TOOLS ?= $(addsuffix /,$(wildcard /usr/lib/qt6/bin))
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: help run test check tidy bench install format translations clean
+.PHONY: help run test check tidy bench docs package fuzz install format translations clean
 
 help:
 	@echo "make run      the workbench, or its batch mode where there is no display"
@@ -13,6 +13,9 @@ help:
 	@echo "make check    format, clang-tidy, headers, consumer, sanitizers"
 	@echo "make tidy     clang-tidy on every source, however long it takes"
 	@echo "make bench    the benchmarks, as ratios"
+	@echo "make docs     the reference of every exported class, as web pages"
+	@echo "make package  Debian packages"
+	@echo "make fuzz     readers of foreign data against made-up data, FUZZ_SECONDS each"
 	@echo "make translations  brings the texts to translate up to date"
 	@echo "make install  into PREFIX (default /usr/local)"
 
@@ -44,6 +47,19 @@ bench:
 	@cmake --preset bench >/dev/null
 	cmake --build --preset bench -j $(JOBS)
 	@benchmarks/run build/bench
+
+docs:
+	@.ci/setup docs
+	@docs/reference/build build/reference
+	@echo "The reference is in build/reference/html/index.html."
+
+package:
+	@.ci/setup build web docs package
+	@JOBS=$(JOBS) .ci/package
+
+fuzz:
+	@.ci/setup build fuzz
+	@JOBS=$(JOBS) fuzz/run $(FUZZ_TARGETS)
 
 install:
 	@.ci/setup build

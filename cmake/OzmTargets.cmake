@@ -10,6 +10,7 @@ set(CMAKE_VERIFY_INTERFACE_HEADER_SETS ON)
 
 include(CMakePackageConfigHelpers)
 include(GenerateExportHeader)
+include(OzmPkgConfig)
 
 # ozm_precompile(<name> <header>...): headers that any number of targets then read compiled, by
 # ozm_use_precompiled(<target> <name>). Qt's take most of the time of a small source, and compiling them
@@ -98,6 +99,7 @@ function(ozm_add_library name)
         FILES ${arg_HEADERS} "${generated}/${name}/${name}_export.h")
 
     ozm_install_library(${name} "${arg_PACKAGES}")
+    ozm_install_pkg_config(${name} ${arg_PUBLIC})
 endfunction()
 
 function(ozm_install_library name packages)

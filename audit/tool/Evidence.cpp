@@ -29,16 +29,12 @@ Result<Verification> verified(const Store &store, const Options &options)
     return store.verify(outside, &key.value());
 }
 
-/// Beside the installed program, or in the tree.
+/// Beside the program, installed or not. Empty when it was left out.
 QString verifierFile()
 {
-    const QString installed = QDir(QCoreApplication::applicationDirPath())
-                                  .absoluteFilePath(u"../share/ozm_audit/ozm_audit_verify.py"_s);
-    for (const QString &file : {installed, QStringLiteral(OZM_AUDIT_VERIFIER)}) {
-        if (QFile::exists(file))
-            return file;
-    }
-    return {};
+    const QDir folder(QCoreApplication::applicationDirPath());
+    const QString file = folder.absoluteFilePath(u"../share/ozm_audit/ozm_audit_verify.py"_s);
+    return QFile::exists(file) ? file : QString();
 }
 
 int copy(const Options &options, bool archived)

@@ -30,6 +30,7 @@ public:
     /// Nothing more is told; what is being looked at is left to end by itself.
     ~MsDataLook() override;
 
+    /// Says what is at a path.
     using Recognition = std::function<MsSample(const QString &path)>;
 
     /// Has @p recognition, called in another thread, answer in place of MsDataSearch::sampleAt(), from the next look() on:

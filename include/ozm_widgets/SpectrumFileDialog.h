@@ -42,6 +42,7 @@ public:
                         const QString &filter = {}, QString *selectedFilter = nullptr,
                         QFileDialog::Options options = {});
 
+    /// Called with the data that the user picked; empty when canceled.
     using Answered = std::function<void(const QList<QString> &data)>;
 
     /// Asks for one acquisition, a file or a raw folder; empty when canceled.

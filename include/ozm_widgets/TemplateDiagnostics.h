@@ -37,7 +37,7 @@ struct FaultyInstruction
 {
     QString instruction;     ///< As it stands in the template.
     qsizetype position = -1; ///< In the text handed in.
-    QString message;
+    QString message;         ///< What is wrong with it, for the user.
 };
 
 /// A decoded template together with what went wrong in it, for editors and batch runs.

@@ -191,6 +191,10 @@ void BlackSplitterHandle::focusOutEvent(QFocusEvent *event)
     QSplitterHandle::focusOutEvent(event);
 }
 
+BlackSplitter::BlackSplitter(QWidget *parent)
+    : QSplitter(parent)
+{}
+
 BlackSplitter::BlackSplitter(Qt::Orientation orientation, QWidget *parent)
     : QSplitter(orientation, parent)
 {

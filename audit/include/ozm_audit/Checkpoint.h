@@ -94,7 +94,7 @@ class OZM_AUDIT_EXPORT CheckpointSink
 {
 public:
     virtual ~CheckpointSink();
-    /// Keeps @p checkpoint where the store's own damage cannot reach it. 
+    /// Keeps @p checkpoint where the store's own damage cannot reach it.
     virtual Error write(const Checkpoint &checkpoint) = 0;
 };
 
