@@ -129,7 +129,8 @@ endfunction()
 # objects beside it, which are installed with it.
 function(ozm_add_resources target name)
     qt_add_resources(${target} ${name} ${ARGN} OUTPUT_TARGETS objects)
-    if(objects)
+    # A program's own static library is installed with nothing.
+    if(objects AND NOT BUILD_SHARED_LIBS)
         install(TARGETS ${objects} EXPORT ${target}Targets
             OBJECTS DESTINATION ${CMAKE_INSTALL_LIBDIR}/objects)
     endif()
