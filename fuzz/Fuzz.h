@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// What the fuzzer gives in each run. Each main.cpp defines it.
+/// Takes the bytes of one run of the fuzzer. Each main.cpp defines it.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
 namespace ozm::fuzz {

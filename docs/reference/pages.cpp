@@ -1,4 +1,4 @@
-// What the pages of the reference show. It is compiled with the tests and never run.
+// The code that the pages of the reference show. It is compiled with the tests and never run.
 
 #include <ozm_audit/Logger.h>
 #include <ozm_audit/Store.h>

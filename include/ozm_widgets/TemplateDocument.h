@@ -46,7 +46,7 @@ public:
         Markup
     };
 
-    /// What stands at a place of the document that is not text.
+    /// A place of the document that is not text.
     struct Chip
     {
         ChipKind kind = ChipKind::None; ///< ChipKind::None for text.

@@ -25,7 +25,7 @@ MsSample SeenEntries::sampleAt(const QString &path)
             return known->sample;
     }
     const MsSample sample = msreader::MsDataSearch::sampleAt(path);
-    // What is not there has no times to tell it by.
+    // A missing entry has no times to tell it by.
     if (stamp.written.isValid()) {
         const QMutexLocker lock(&m_mutex);
         m_entries.insert(path, {stamp, sample});

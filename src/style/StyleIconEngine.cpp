@@ -16,8 +16,8 @@ namespace {
 
 // At this many pixels and fewer, the usual line is thinner than one of them and would be half as strong.
 constexpr int kSmall = 20;
-constexpr auto kLine = "stroke-width=\"1.75\"";
-constexpr auto kLineWhenSmall = "stroke-width=\"2.25\"";
+constexpr auto kStroke = "stroke-width=\"1.75\"";
+constexpr auto kStrokeWhenSmall = "stroke-width=\"2.25\"";
 
 QColor colorOf(QIcon::Mode mode)
 {
@@ -72,7 +72,7 @@ QPixmap StyleIconEngine::render(const QSize &pixels, const QColor &color) const
     QByteArray svg = m_svg;
     svg.replace("currentColor", color.name().toLatin1());
     if (qMin(pixels.width(), pixels.height()) <= kSmall)
-        svg.replace(kLine, kLineWhenSmall);
+        svg.replace(kStroke, kStrokeWhenSmall);
     QSvgRenderer renderer(svg);
     renderer.setAspectRatioMode(Qt::KeepAspectRatio);
     pixmap = QPixmap(pixels);

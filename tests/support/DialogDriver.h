@@ -67,7 +67,7 @@ private:
         QFAIL("a dialog was left open");
     }
 
-    const QList<Work> m_works;
+    const QList<Work> m_works = {};
     int m_opened = 0;
 };
 

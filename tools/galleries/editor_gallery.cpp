@@ -152,7 +152,7 @@ struct Gallery
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    const QString folder = application.arguments().value(1, u"."_s);
+    const QString folder = QApplication::arguments().value(1, u"."_s);
     QDir().mkpath(folder);
     QStandardPaths::setTestModeEnabled(true);
     ozm::OzmCoreApplication::start();

@@ -8,7 +8,7 @@
 
 namespace ozm::audit {
 
-/// What goes into an inspection copy, and who makes it.
+/// The content of an inspection copy, and who makes it.
 struct CopyOptions
 {
     Query query = {}; ///< Which entries; all of them when nothing narrows it.

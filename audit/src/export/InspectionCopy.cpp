@@ -162,7 +162,7 @@ Error writeProof(const QDir &folder, const Store &store, const Entry &entry, con
     return writeCopyFile(folder, name, proof.value().toText());
 }
 
-/// What has a line, or a proof, for each entry.
+/// The files that have a line for each entry, and the proofs.
 Error writeEntries(const QDir &folder, const Store &store, const CopyChoice &choice, qint64 count,
                    const Checkpoint &checkpoint, const CopyOptions &options)
 {

@@ -87,7 +87,7 @@ void BoxDesk::close()
         QCoreApplication::removePostedEvents(m_receiver.get());
         QThread::yieldCurrentThread();
     } while (m_waiting > 0);
-    // What else is called as the application ends may run loops of its own, which end without a word.
+    // Others that are called as the application ends may run loops of their own, which end without a word.
     if (!m_loopEnd)
         reopenWithTheLoop();
 }

@@ -16,6 +16,10 @@ struct NameRow
     const char *text;
 };
 
+// Clang finds it by itself from version 17 on.
+template <typename Value>
+NameRow(Value, const char *) -> NameRow<Value>;
+
 constexpr std::array kTestNames{
     NameRow{Test::Present, QT_TRANSLATE_NOOP("ozm::instructions", "has a value")},
     NameRow{Test::Absent, QT_TRANSLATE_NOOP("ozm::instructions", "has no value")},

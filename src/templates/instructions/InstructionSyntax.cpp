@@ -32,6 +32,10 @@ struct Word
     QLatin1StringView text;
 };
 
+// Clang finds it by itself from version 17 on.
+template <typename Value>
+Word(Value, QLatin1StringView) -> Word<Value>;
+
 constexpr std::array kTests{Word{Test::Present, "present"_L1}, Word{Test::Absent, "absent"_L1},
                             Word{Test::Equals, "equal"_L1},    Word{Test::Differs, "different"_L1},
                             Word{Test::Above, "above"_L1},     Word{Test::Below, "below"_L1}};
@@ -47,7 +51,7 @@ constexpr std::array kOrientations{Word{false, "portrait"_L1}, Word{true, "lands
 constexpr std::array kMarkups{Word{false, "text"_L1}, Word{true, "html"_L1}};
 
 template <typename Value, std::size_t Count>
-QLatin1StringView textOf(const std::array<Word<Value>, Count> &words, Value value)
+QLatin1StringView wordOf(const std::array<Word<Value>, Count> &words, Value value)
 {
     return std::ranges::find(words, value, &Word<Value>::value)->text;
 }
@@ -111,14 +115,14 @@ public:
         const auto found = std::ranges::find(m_attributes, name, &Attribute::name);
         if (found == m_attributes.end())
             return usual;
-        const QString value = found->value;
+        QString value = found->value;
         m_attributes.erase(found);
         return value;
     }
 
     QString needed(QLatin1StringView name)
     {
-        const QString value = text(name);
+        QString value = text(name);
         if (value.isEmpty())
             fail(Texts::tr("The attribute \"%1\" is missing.").arg(name));
         return value;
@@ -262,13 +266,13 @@ struct Writer
         return comment(
             nameWith(kRepeat, repeat.extent),
             writtenUnless({}, "of"_L1, repeat.of) + writtenUnless({}, "sort"_L1, repeat.sort) +
-                writtenUnless(kOrders.front().text, "order"_L1, textOf(kOrders, repeat.isDescending)) +
+                writtenUnless(kOrders.front().text, "order"_L1, wordOf(kOrders, repeat.isDescending)) +
                 writtenUnless({}, "empty"_L1, repeat.empty));
     }
     QString operator()(const Condition &condition) const
     {
         return comment(nameWith(kCondition, condition.extent),
-                       written("code"_L1, condition.code) + written("is"_L1, textOf(kTests, condition.test)) +
+                       written("code"_L1, condition.code) + written("is"_L1, wordOf(kTests, condition.test)) +
                            writtenUnless({}, "value"_L1, condition.value));
     }
     QString operator()(const End & /*end*/) const { return comment(kEnd, {}); }
@@ -279,7 +283,7 @@ struct Writer
             margins.append(QString::number(margin));
         return comment(kPage, writtenUnless({}, "size"_L1, page.size) +
                                   writtenUnless(kOrientations.front().text, "orientation"_L1,
-                                                textOf(kOrientations, page.isLandscape)) +
+                                                wordOf(kOrientations, page.isLandscape)) +
                                   writtenUnless({}, "margins"_L1, margins.join(u' ')) +
                                   writtenUnless({}, "header"_L1, page.header) +
                                   writtenUnless({}, "footer"_L1, page.footer));
@@ -287,10 +291,10 @@ struct Writer
     QString operator()(const CodeFormat &format) const
     {
         const CodeFormat usual;
-        QString tag = written(kFormatName, textOf(kKinds, format.kind));
+        QString tag = written(kFormatName, wordOf(kKinds, format.kind));
         tag += writtenUnless({}, "data-empty"_L1, format.empty);
-        tag += writtenUnless(kMarkups.front().text, "data-as"_L1, textOf(kMarkups, format.isHtml));
-        tag += writtenUnless(kCases.front().text, "data-case"_L1, textOf(kCases, format.letterCase));
+        tag += writtenUnless(kMarkups.front().text, "data-as"_L1, wordOf(kMarkups, format.isHtml));
+        tag += writtenUnless(kCases.front().text, "data-case"_L1, wordOf(kCases, format.letterCase));
         if (format.digits >= 0)
             tag += written("data-digits"_L1, QString::number(format.digits));
         tag += writtenUnless({}, "data-thousands"_L1, format.thousands);
@@ -302,7 +306,7 @@ struct Writer
         if (format.width > 0)
             tag += written("data-width"_L1, QString::number(format.width));
         tag += writtenUnless({}, "data-alternative"_L1, format.alternative);
-        tag += writtenUnless(kTotals.front().text, "data-total"_L1, textOf(kTotals, format.total));
+        tag += writtenUnless(kTotals.front().text, "data-total"_L1, wordOf(kTotals, format.total));
         tag += writtenUnless({}, "data-of"_L1, format.of);
         return "<span"_L1 + tag + ">["_L1 + format.code + "]</span>"_L1;
     }

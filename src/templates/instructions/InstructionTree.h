@@ -42,7 +42,7 @@ struct InstructionTree
 {
     QList<InstructedPart> parts;
     QList<int> roots;
-    /// What is left out of the filled text: the instructions, and the lines that hold nothing else.
+    /// The parts that the filled text leaves out: the instructions, and the lines that hold nothing else.
     QList<SourceRange> cuts;
     QList<FaultyInstruction> faulty; ///< In order of position.
 };

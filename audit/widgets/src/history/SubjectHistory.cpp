@@ -28,7 +28,7 @@ enum FixedColumn
     FixedCount,
 };
 
-constexpr int kWidth = 900;
+constexpr int kHistoryWidth = 900;
 constexpr int kHeight = 560;
 
 QTableWidgetItem *cell(const QString &text)
@@ -152,7 +152,7 @@ SubjectHistory::SubjectHistory(const Store &store, const QString &subjectType, c
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(splitter);
     layout->addWidget(buttons);
-    resize(kWidth, kHeight);
+    resize(kHistoryWidth, kHeight);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(d->table, &QTableWidget::itemSelectionChanged, this, [this] { d->compareSelected(); });
     connect(d->table, &QTableWidget::itemActivated, this, [this](const QTableWidgetItem *item) {

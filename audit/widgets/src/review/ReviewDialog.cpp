@@ -21,7 +21,7 @@ namespace ozm::audit {
 namespace {
 
 constexpr int kIconSize = 16;
-constexpr int kWidth = 480;
+constexpr int kReviewWidth = 480;
 
 QLabel *wrapped(const QString &text)
 {
@@ -85,7 +85,7 @@ ReviewDialog::ReviewDialog(const TrailModel &model, Logger &logger, const Person
 {
     setWindowTitle(tr("Record a review"));
     setObjectName(u"reviewDialog"_s);
-    setMinimumWidth(kWidth);
+    setMinimumWidth(kReviewWidth);
     d->review.filter = model.filter();
     d->review.upTo = model.total();
     const auto shown = model.shownNumbers();

@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kContentLines = 4;
 constexpr int kDigestBlock = 8;
-constexpr int kWidth = 560;
+constexpr int kSignWidth = 560;
 constexpr int kRoom = 6;
 
 /// Digits in blocks, so that two people can compare them.
@@ -67,7 +67,7 @@ SignDialog::SignDialog(SigningSession &session, const SignedContent &content, co
 {
     setWindowTitle(tr("Sign"));
     setObjectName(u"signDialog"_s);
-    setMinimumWidth(kWidth);
+    setMinimumWidth(kSignWidth);
     auto *words = new QPlainTextEdit(content.inWords());
     words->setObjectName(u"signedContent"_s);
     words->setReadOnly(true);

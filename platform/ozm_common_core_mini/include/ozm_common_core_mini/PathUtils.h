@@ -22,7 +22,7 @@ namespace ozm {
 class OZM_COMMON_CORE_MINI_EXPORT PathUtils
 {
 public:
-    /// What is at a path.
+    /// The kinds of entry that a path may lead to.
     enum class Kind
     {
         Missing,

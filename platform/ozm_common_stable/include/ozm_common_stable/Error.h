@@ -51,7 +51,7 @@ public:
     /// The code as text, for errors that carry no message.
     [[nodiscard]] QString errorString() const;
 
-    /// What went on all the same; an error of code 0 may have them, too.
+    /// Troubles that stopped nothing; an error of code 0 may have them, too.
     [[nodiscard]] Warnings warnings() const;
     /// Where it arose and was passed on, the first one first.
     [[nodiscard]] QList<ErrorPlace> places() const;
