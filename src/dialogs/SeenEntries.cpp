@@ -24,7 +24,7 @@ MsSample SeenEntries::sampleAt(const QString &path)
         if (known != m_entries.constEnd() && known->stamp == stamp)
             return known->sample;
     }
-    const MsSample sample = msreader::MsDataSearch::sampleAt(path);
+    MsSample sample = msreader::MsDataSearch::sampleAt(path);
     // A missing entry has no times to tell it by.
     if (stamp.written.isValid()) {
         const QMutexLocker lock(&m_mutex);
