@@ -71,15 +71,20 @@ format:
 	@.ci/setup check
 	git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format -i
 
-# Brings translations/*.ts up to date with the sources; what is new in them is then to be translated.
+# Brings translations/*.ts up to date with the sources; what is new in them is then to be translated. English needs
+# texts of its own only where a number decides on their form.
+# A further language: make translations LANGUAGES="de fr it"
+LANGUAGES ?= $(filter-out en,$(patsubst translations/workbench_%.ts,%,$(wildcard translations/workbench_*.ts)))
+define LUPDATE
+$(QT_TOOLS)lupdate -silent -locations none -no-obsolete $(2) -ts $(LANGUAGES:%=translations/$(1)_%.ts)
+$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -pluralonly $(2) -ts translations/$(1)_en.ts
+endef
+
 translations:
 	@.ci/setup build
-	$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -I include -I src src include platform common plugins \
-		-ts $(wildcard translations/ozm_widgets_*.ts)
-	$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -I include -I audit/include -I audit/widgets/include audit \
-		-ts $(wildcard translations/ozm_audit_*.ts)
-	$(QT_TOOLS)lupdate -silent -locations none -no-obsolete -I include -I apps/workbench apps/workbench \
-		-ts $(wildcard translations/workbench_*.ts)
+	$(call LUPDATE,ozm_widgets,-I include -I src src include platform common plugins)
+	$(call LUPDATE,ozm_audit,-I include -I audit/include -I audit/widgets/include audit)
+	$(call LUPDATE,workbench,-I include -I apps/workbench apps/workbench)
 
 clean:
 	rm -rf build

@@ -54,6 +54,7 @@ QString userOfSystem()
 
 const QString kTranslators = u"ozmTranslator/"_s;
 const QString kToolkit = u"qtbase"_s;
+const QString kTexts = u":/i18n"_s;
 
 void uninstall(const QString &file)
 {
@@ -71,12 +72,14 @@ bool install(const QString &file, const QLocale &locale, const QString &folder)
     return QCoreApplication::installTranslator(translator.release());
 }
 
-bool isAnyInstalled()
+/// True while a file of texts, other than the toolkit's, speaks a language of its own.
+bool isAnyForeign()
 {
     const auto all = qApp->findChildren<QTranslator *>(Qt::FindDirectChildrenOnly);
     return std::ranges::any_of(all, [](const QTranslator *translator) {
         return translator->objectName().startsWith(kTranslators) &&
-               translator->objectName() != kTranslators + kToolkit;
+               translator->objectName() != kTranslators + kToolkit &&
+               QLocale(translator->language()).language() != QLocale::English;
     });
 }
 
@@ -106,12 +109,14 @@ void OzmCoreApplication::start(const QString &style)
 bool OzmCoreApplication::loadTranslation(const QLocale &locale, const QString &name)
 {
     initTranslations();
-    if (install(name, locale, u":/i18n"_s)) {
+    if (install(name, locale, kTexts)) {
         install(kToolkit, locale, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
         return true;
     }
+    // The texts in the sources are English, but for the forms that a number decides on.
+    install(name, QLocale::English, kTexts);
     // The toolkit alone would put its words between English ones.
-    if (!isAnyInstalled())
+    if (!isAnyForeign())
         uninstall(kToolkit);
     return false;
 }

@@ -198,6 +198,8 @@ private Q_SLOTS:
                 << i << Scheme::Light << QLocale::English;
             QTest::addRow("%s, dark, German", windows()[std::size_t(i)].name)
                 << i << Scheme::Dark << QLocale::German;
+            QTest::addRow("%s, light, French", windows()[std::size_t(i)].name)
+                << i << Scheme::Light << QLocale::French;
         }
     }
 

@@ -5,6 +5,7 @@
 #include <ozm_widgets/OZMDockWidgetTitleBar.h>
 #include <ozm_widgets/OZMStyle.h>
 #include <ozm_widgets/OzmCoreApplication.h>
+#include <ozm_widgets/SpectrumFileDialog.h>
 
 #include <QApplication>
 #include <QCheckBox>
@@ -14,12 +15,14 @@
 #include <QMainWindow>
 #include <QPainter>
 #include <QRadioButton>
+#include <QRegularExpression>
+#include <QSet>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QToolBar>
 #include <QToolButton>
 #include <QToolTip>
-#include <QTranslator>
+#include <QXmlStreamReader>
 
 #include <cmath>
 #include <memory>
@@ -91,6 +94,37 @@ bool isStyle(const QString &name)
         if (QApplication::style()->pixelMetric(metric) != style->pixelMetric(metric))
             return false;
     return true;
+}
+
+/// Places for values and the key: each language must keep them.
+QSet<QString> marksOf(const QString &text)
+{
+    static const QRegularExpression kMark(u"%L?[0-9n]|\\[\\*\\]|&(?=\\S)|;;"_s);
+    QSet<QString> marks;
+    for (const QRegularExpressionMatch &match : kMark.globalMatch(text))
+        marks.insert(match.captured());
+    return marks;
+}
+
+/// Texts of a file that are not translated, or whose translation lost a mark.
+QStringList faultsOfTexts(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {path};
+    QStringList faults;
+    QString source;
+    for (QXmlStreamReader xml(&file); !xml.atEnd(); xml.readNext()) {
+        if (xml.isStartElement() && xml.name() == "source"_L1)
+            source = xml.readElementText();
+        if (!xml.isStartElement() || xml.name() != "translation"_L1)
+            continue;
+        const bool isUnfinished = xml.attributes().hasAttribute(u"type"_s);
+        const QString text = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+        if (isUnfinished || marksOf(text) != marksOf(source))
+            faults.append(source);
+    }
+    return faults;
 }
 
 struct Dock
@@ -422,21 +456,43 @@ private Q_SLOTS:
         QCOMPARE(panes.first(), before);
     }
 
-    void germanIsComplete()
+    void languagesAreComplete_data()
     {
-        for (const char *name : {"ozm_widgets_de.ts", "workbench_de.ts"}) {
-            QFile file(QStringLiteral(TRANSLATIONS "/") + QString::fromLatin1(name));
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            QVERIFY2(!file.readAll().contains("unfinished"), name);
+        QTest::addColumn<QLocale::Language>("language");
+        QTest::addColumn<QString>("warning");
+        QTest::addColumn<QString>("close");
+        QTest::addColumn<QString>("cancel");
+        QTest::addColumn<QStringList>("picks");
+        QTest::newRow("en") << QLocale::English << u"Warning"_s << u"Close"_s << u"Cancel"_s
+                            << QStringList{u"1 file or folder"_s, u"2 files and folders"_s};
+        QTest::newRow("de") << QLocale::German << u"Warnung"_s << u"Schließen"_s << u"Abbrechen"_s
+                            << QStringList{u"1 Datei oder Ordner"_s, u"2 Dateien und Ordner"_s};
+        QTest::newRow("fr") << QLocale::French << u"Avertissement"_s << u"Fermer"_s << u"Annuler"_s
+                            << QStringList{u"1\u00a0fichier ou dossier"_s, u"2\u00a0fichiers et dossiers"_s};
+    }
+
+    void languagesAreComplete()
+    {
+        for (const auto &name : {u"ozm_widgets"_s, u"ozm_audit"_s, u"workbench"_s}) {
+            const QString path =
+                QStringLiteral(TRANSLATIONS "/%1_%2.ts").arg(name, QLatin1String(QTest::currentDataTag()));
+            QCOMPARE(faultsOfTexts(path), QStringList());
         }
-        QVERIFY(ozm::OzmCoreApplication::loadTranslation(QLocale(QLocale::German)));
-        QCOMPARE(OZMStyle::tr("Warning"), u"Warnung"_s);
+        QFETCH(const QLocale::Language, language);
+        QFETCH(const QString, warning);
+        QFETCH(const QString, close);
+        QVERIFY(ozm::OzmCoreApplication::loadTranslation(language));
+        QCOMPARE(OZMStyle::tr("Warning"), warning);
+        QTEST(QStringList({SpectrumFileDialog::tr("%n file(s) and folder(s)", nullptr, 1),
+                           SpectrumFileDialog::tr("%n file(s) and folder(s)", nullptr, 2)}),
+              "picks");
+        QTEST(QCoreApplication::translate("QPlatformTheme", "Cancel"), "cancel");
         const Dock fixture;
-        QCOMPARE(fixture.button(u"closeButton"_s)->toolTip(), u"Schließen"_s);
-        // No translation into it: English again, not German left over, and not the toolkit alone in French.
-        QVERIFY(!ozm::OzmCoreApplication::loadTranslation(QLocale(QLocale::French)));
-        QVERIFY(qApp->findChildren<QTranslator *>().isEmpty());
+        QCOMPARE(fixture.button(u"closeButton"_s)->toolTip(), close);
+        // No translation into it: English again, not German left over, and not the toolkit alone in Italian.
+        QVERIFY(!ozm::OzmCoreApplication::loadTranslation(QLocale(QLocale::Italian)));
         QCOMPARE(OZMStyle::tr("Warning"), u"Warning"_s);
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), u"Cancel"_s);
         QTRY_COMPARE(fixture.button(u"closeButton"_s)->toolTip(), u"Close"_s);
     }
 };
