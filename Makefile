@@ -5,10 +5,11 @@ PRESET ?= dev
 QT_TOOLS ?= $(addsuffix /,$(wildcard /usr/lib/qt6/bin))
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: help run test check tidy bench docs package fuzz install format translations clean
+.PHONY: help run pictures test check tidy bench docs package fuzz install format translations clean
 
 help:
 	@echo "make run      the workbench, or its batch mode where there is no display"
+	@echo "make pictures the workbench's pictures in docs/, taken again"
 	@echo "make test     build everything and run the tests"
 	@echo "make check    format, clang-tidy, headers, consumer, sanitizers"
 	@echo "make tidy     clang-tidy on every source, however long it takes"
@@ -24,6 +25,12 @@ run:
 	@cmake --preset release >/dev/null
 	cmake --build --preset release -j $(JOBS)
 	@.ci/workbench build/release
+
+pictures:
+	@.ci/setup build
+	@cmake --preset release >/dev/null
+	cmake --build --preset release -j $(JOBS)
+	@.ci/pictures build/release
 
 test:
 	@.ci/setup build web

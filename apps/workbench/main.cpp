@@ -1,8 +1,7 @@
 #include "BatchRun.h"
-#include "audit/TrailStore.h"
-#include "samples/SampleEditor.h"
+#include "PictureRun.h"
 #include "window/FileQuestions.h"
-#include "window/MainWindow.h"
+#include "window/Sessions.h"
 
 #include <ozm_widgets/DefaultWidgetCreator.h>
 #include <ozm_widgets/OZMStyle.h>
@@ -10,8 +9,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDir>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <cstdio>
@@ -44,6 +41,13 @@ struct Options
     QCommandLineOption user{
         u"user"_s, QCoreApplication::translate("main", "Name to record; by default that of the login."),
         u"name"_s};
+    QCommandLineOption pictures{
+        u"pictures"_s,
+        QCoreApplication::translate("main",
+                                    "Leave pictures of the windows, on sample data, in <folder>, then end."),
+        u"folder"_s};
+    QCommandLineOption firstSteps{
+        u"first-steps"_s, QCoreApplication::translate("main", "Begin with the first steps, on sample data.")};
     QCommandLineOption steps{u"steps"_s, u"Further edits of a batch run."_s, u"number"_s, u"0"_s};
 };
 
@@ -54,8 +58,8 @@ void useNoScreenUnlessNeeded(int argc, char **argv)
     const std::span arguments(argv, static_cast<std::size_t>(argc));
     const bool needsNone = std::ranges::any_of(arguments, [](const char *argument) {
         const QByteArrayView text(argument);
-        return text.startsWith("--batch") || text == "--help" || text == "-h" || text == "--version" ||
-               text == "-v";
+        return text.startsWith("--batch") || text.startsWith("--pictures") || text == "--help" ||
+               text == "-h" || text == "--version" || text == "-v";
     });
     if (needsNone && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -88,38 +92,20 @@ int batch(const QCommandLineParser &parser, const Options &options, const QStrin
     return complain((QStringList{error.errorMessage()} + error.warnings()).join(u' '), Failed);
 }
 
-QString dataFolder()
-{
-    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
-    folder.mkpath(u"."_s);
-    return folder.path();
-}
-
-/// For a user who may have started the program without a terminal.
-int complainOnScreen(const Error &error)
-{
-    OZMStyle::critical(nullptr, ozm::OzmMessageBoxSignal::FileNotReadable,
-                       QApplication::applicationDisplayName(), error.errorMessage());
-    return complain(error.errorMessage(), Failed);
-}
-
-int interact(const QString &database, const QString &user, const QString &file)
+/// @p firstSteps: that the user asked for them. Who is new here gets them unasked, unless there is a @p file to open.
+int interact(const QString &database, const QString &user, const QString &file, bool firstSteps)
 {
     // Batch runs speak English, whatever the language: their output is for scripts.
     ozm::OzmCoreApplication::start();
     for (const QString &name : {u"ozm_audit"_s, u"workbench"_s})
         ozm::OzmCoreApplication::loadTranslation(QLocale(), name);
-    const auto store = workbench::openTrail(database, dataFolder(), user);
-    if (!store)
-        return complainOnScreen(store.error());
-    workbench::SampleEditor editor(*store.value(), user);
-    if (Error error = editor.start(); error.hasError())
-        return complainOnScreen(error);
-    workbench::MainWindow window(editor, store.value()->place());
-    window.show();
-    if (!file.isEmpty())
-        window.open(file);
-    return QApplication::exec();
+    workbench::Sessions sessions(database, user);
+    const bool begins = firstSteps || (file.isEmpty() && sessions.areNew());
+    const Error error = begins ? sessions.openFirstSteps() : sessions.openOwn(file);
+    if (!error.hasError())
+        return QApplication::exec();
+    workbench::complainOnScreen(error);
+    return complain(error.errorMessage(), Failed);
 }
 
 } // namespace
@@ -143,7 +129,8 @@ int main(int argc, char **argv)
         QApplication::translate("main", "Edits samples and their annotations, every step recorded."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({options.batch, options.out, options.database, options.user, options.steps});
+    parser.addOptions({options.batch, options.out, options.pictures, options.database, options.user,
+                       options.firstSteps, options.steps});
     parser.addPositionalArgument(u"file"_s, QApplication::translate("main", "CSV file of samples to open."),
                                  u"[file]"_s);
     parser.process(application);
@@ -152,5 +139,10 @@ int main(int argc, char **argv)
                                                               : parser.value(options.user);
     if (parser.isSet(options.batch))
         return batch(parser, options, user);
-    return interact(parser.value(options.database), user, parser.positionalArguments().value(0));
+    if (parser.isSet(options.pictures)) {
+        const Error error = workbench::takePictures(parser.value(options.pictures));
+        return error.hasError() ? complain(error.errorMessage(), Failed) : Done;
+    }
+    return interact(parser.value(options.database), user, parser.positionalArguments().value(0),
+                    parser.isSet(options.firstSteps));
 }

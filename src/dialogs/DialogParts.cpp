@@ -19,6 +19,8 @@ namespace {
 
 // "Open data format mzML" has room.
 constexpr int kTypeCharacters = 20;
+// As wide as a size is written.
+constexpr qint64 kWideSize = 1023LL * 1024 * 1024;
 constexpr int kCellMargin = 8;
 
 } // namespace
@@ -52,6 +54,7 @@ void widenColumns(const QFileDialog &dialog)
     const QDateTime late(QDate(2028, 9, 27), QTime(22, 58, 58));
     view->header()->setStretchLastSection(false);
     view->header()->setSectionResizeMode(kNameColumn, QHeaderView::Stretch);
+    view->header()->resizeSection(kSizeColumn, room(QLocale::system().formattedDataSize(kWideSize)));
     view->header()->resizeSection(kTypeColumn, room(QString(kTypeCharacters, u'n')));
     // As the toolkit's model writes it.
     view->header()->resizeSection(kDateColumn, room(QLocale::system().toString(late, QLocale::ShortFormat)));

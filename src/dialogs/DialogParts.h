@@ -10,6 +10,7 @@ namespace ozm {
 
 // As QFileSystemModel orders its columns.
 constexpr int kNameColumn = 0;
+constexpr int kSizeColumn = 1;
 constexpr int kTypeColumn = 2;
 constexpr int kDateColumn = 3;
 

@@ -43,7 +43,12 @@ void DataImport::ask()
 {
     const QString folder = m_question();
     if (!folder.isEmpty())
-        start(m_finder.search(folder));
+        search(folder);
+}
+
+void DataImport::search(const QString &folder)
+{
+    start(m_finder.search(folder));
 }
 
 void DataImport::inspect(const QStringList &paths)

@@ -40,6 +40,8 @@ public:
     /// Takes what is dropped on @p widget.
     void acceptDropsOn(QWidget *widget);
     void ask();
+    /// Takes the data in @p folder and all below it.
+    void search(const QString &folder);
     /// Takes the data at @p paths.
     void inspect(const QStringList &paths);
 

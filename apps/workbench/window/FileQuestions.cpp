@@ -83,9 +83,9 @@ QString askSamples(QWidget *parent, const QString &current)
                                                                  samplesFilter(), samplesLocation());
 }
 
-QStringList askData(QWidget *parent)
+QStringList askData(QWidget *parent, const QString &folder)
 {
-    return DefaultWidgetCreator::fileAccessor()->getOpenFileNames(parent, tr("Open MS data"), {},
+    return DefaultWidgetCreator::fileAccessor()->getOpenFileNames(parent, tr("Open MS data"), folder,
                                                                   dataFilter(), nullptr, {}, dataLocation());
 }
 

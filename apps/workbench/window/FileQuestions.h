@@ -15,8 +15,8 @@ namespace workbench::files {
 using Location = ozm::IFileAccessor::DestinationFileLocation;
 
 [[nodiscard]] QString askSamples(QWidget *parent, const QString &current);
-/// Mass-spectrometry data, files and folders together.
-[[nodiscard]] QStringList askData(QWidget *parent);
+/// Mass-spectrometry data, files and folders together, beginning in @p folder or else in the one remembered.
+[[nodiscard]] QStringList askData(QWidget *parent, const QString &folder = {});
 [[nodiscard]] QString askDataFolder(QWidget *parent);
 [[nodiscard]] Location askSaveSamples(QWidget *parent, const QString &current);
 /// JSON or CSV, by the extension.

@@ -12,6 +12,7 @@ namespace workbench {
 HistoryModel::HistoryModel(const QUndoStack &history, QObject *parent)
     : QAbstractListModel(parent)
     , m_history(history)
+    , m_rows(history.count() + 1)
 {
     connect(&history, &QUndoStack::indexChanged, this, &HistoryModel::follow);
 }

@@ -25,7 +25,7 @@ private:
     void resize(int rows);
 
     const QUndoStack &m_history;
-    int m_rows = 1;
+    int m_rows;
 };
 
 /**

@@ -23,7 +23,8 @@ enum class Group
     File,
     Samples,
     History,
-    Tools
+    Tools,
+    Help
 };
 
 struct ActionRow
@@ -94,6 +95,11 @@ constexpr std::array kActions{
               QT_TRANSLATE_NOOP("workbench::MainActions", "Style"),
               QT_TRANSLATE_NOOP("workbench::MainActions", "Look at icons and messages, in light and dark"),
               QKeySequence::UnknownKey, "Ctrl+Shift+L"},
+    ActionRow{&MainActions::firstSteps, Group::Help, "firstStepsAction", "dialog-information",
+              QT_TRANSLATE_NOOP("workbench::MainActions", "First steps"),
+              QT_TRANSLATE_NOOP("workbench::MainActions",
+                                "Open a window on made-up samples that leads through what can be done"),
+              QKeySequence::HelpContents},
 };
 
 struct MenuRow
@@ -108,6 +114,7 @@ constexpr std::array kMenus{
     MenuRow{Group::History, "editMenu", QT_TRANSLATE_NOOP("workbench::MainActions", "&Edit")},
     MenuRow{Group::Samples, "samplesMenu", QT_TRANSLATE_NOOP("workbench::MainActions", "&Samples")},
     MenuRow{Group::Tools, "toolsMenu", QT_TRANSLATE_NOOP("workbench::MainActions", "&Tools")},
+    MenuRow{Group::Help, "helpMenu", QT_TRANSLATE_NOOP("workbench::MainActions", "&Help")},
 };
 
 QAction *makeAction(const ActionRow &row, QObject *parent)
@@ -150,6 +157,9 @@ void MainActions::fill(QToolBar *bar)
 {
     Group group = kActions.front().group;
     for (const ActionRow &row : kActions) {
+        // Help is not for every day.
+        if (row.group == Group::Help)
+            continue;
         if (row.group != group)
             bar->addSeparator();
         group = row.group;

@@ -37,6 +37,7 @@ public:
     QAction *report = nullptr;
     QAction *editTemplate = nullptr;
     QAction *style = nullptr;
+    QAction *firstSteps = nullptr;
 
 private:
     void fill(QToolBar *bar);

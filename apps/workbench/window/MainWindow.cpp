@@ -108,6 +108,7 @@ void MainWindow::connectActions()
     connect(m_actions->report, &QAction::triggered, this, &MainWindow::showReport);
     connect(m_actions->editTemplate, &QAction::triggered, this, &MainWindow::editTemplate);
     connect(m_actions->style, &QAction::triggered, this, [this] { StyleDialog(this).exec(); });
+    connect(m_actions->firstSteps, &QAction::triggered, this, &MainWindow::firstStepsAsked);
 }
 
 void MainWindow::createTable()
@@ -211,10 +212,15 @@ void MainWindow::open(const QString &path)
 
 void MainWindow::askOpen()
 {
-    if (!mayDiscard())
+    // Nothing here is given up for samples that open elsewhere.
+    if (!m_opener && !mayDiscard())
         return;
     const QString path = files::askSamples(this, m_file);
-    if (!path.isEmpty())
+    if (path.isEmpty())
+        return;
+    if (m_opener)
+        m_opener(path);
+    else
         open(path);
 }
 

@@ -4,7 +4,9 @@
 
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class QDockWidget;
@@ -43,10 +45,17 @@ public:
     ~MainWindow() override;
 
     void open(const QString &path);
+    /// Gives the files that the user opens to @p opener, in place of this window.
+    void setOpener(std::function<void(const QString &path)> opener) { m_opener = std::move(opener); }
+    /// Asks what shall become of samples that are not saved; false when they are to stay.
+    [[nodiscard]] bool mayDiscard();
     /// Finds mass-spectrometry data for the table.
     [[nodiscard]] DataImport &dataImport() const { return *m_import; }
     /// True when troubles come up as messages; without, they are in the status bar only.
     void setMessagesShown(bool shown) { m_showMessages = shown; }
+
+Q_SIGNALS:
+    void firstStepsAsked();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -75,7 +84,6 @@ private:
     void showMessage(const QString &title, const QString &text);
     void refresh();
     void setFile(const QString &path);
-    [[nodiscard]] bool mayDiscard();
     void selectSample(const QString &subjectKey);
     [[nodiscard]] QList<qint64> selectedIds() const;
 
@@ -88,6 +96,7 @@ private:
     std::unique_ptr<DemonstrationAuthenticator> m_signers;
     ozm::audit::TrailView *m_trail = nullptr;
     QLabel *m_count = nullptr;
+    std::function<void(const QString &path)> m_opener;
     QString m_file;
     bool m_showMessages = true;
 };
