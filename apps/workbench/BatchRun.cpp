@@ -2,7 +2,7 @@
 
 #include "audit/TrailStore.h"
 #include "data/DataSamples.h"
-#include "reports/Report.h"
+#include "reports/ReportSeries.h"
 #include "samples/SampleEditor.h"
 #include "window/MainWindow.h"
 
@@ -16,7 +16,9 @@
 #include <QPixmap>
 #include <QTemporaryFile>
 
+#include <csignal>
 #include <cstdio>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using ozm::Error;
@@ -30,6 +32,34 @@ namespace {
 // As many as the window shows at a glance.
 constexpr int kRenamed = 3;
 constexpr QSize kPicture(1200, 760);
+constexpr auto kCertificatesFile = "certificates.pdf"_L1;
+constexpr auto kCertificatesFolder = "certificates"_L1;
+
+volatile std::sig_atomic_t interruptCount = 0;
+
+extern "C" void countInterrupt(int signal)
+{
+    interruptCount = 1;
+    // A second one ends the program.
+    std::signal(signal, SIG_DFL);
+}
+
+/// While there is one, an interrupt is noted and does not end the program.
+class InterruptWatch
+{
+public:
+    InterruptWatch()
+        : m_former(std::signal(SIGINT, &countInterrupt))
+    {}
+    ~InterruptWatch() { std::signal(SIGINT, m_former); }
+    InterruptWatch(const InterruptWatch &) = delete;
+    InterruptWatch &operator=(const InterruptWatch &) = delete;
+
+    [[nodiscard]] static bool wasInterrupted() { return interruptCount != 0; }
+
+private:
+    void (*m_former)(int);
+};
 
 QString tr(const char *text)
 {
@@ -127,8 +157,9 @@ public:
 
     Error all()
     {
-        for (const auto step : {&Run::load, &Run::edit, &Run::add, &Run::rename, &Run::tryInvalid,
-                                &Run::undoAndRedo, &Run::repeat, &Run::save, &Run::report, &Run::grab})
+        for (const auto step :
+             {&Run::load, &Run::edit, &Run::add, &Run::rename, &Run::tryInvalid, &Run::undoAndRedo,
+              &Run::repeat, &Run::save, &Run::report, &Run::reportOnEach, &Run::grab})
             if (Error error = (this->*step)(); error.hasError())
                 return error;
         return {};
@@ -240,13 +271,10 @@ private:
     /// A certificate for each of the renamed samples, and a list of all.
     Error report()
     {
-        std::vector<RowNode> all;
-        all.reserve(size_t(m_editor.table().rowCount()));
-        for (int index = 0; index < m_editor.table().rowCount(); ++index)
-            all.push_back(*m_editor.table().row(index));
+        const std::vector<RowNode> all = allRows();
         const std::vector<RowNode> first(all.begin(),
                                          all.begin() + qMin<qsizetype>(kRenamed, std::ssize(all)));
-        const ReportContext context(m_options.user, QFileInfo(m_options.input).fileName(), all);
+        const ReportContext context = reportContext(all);
         ReportPages pages;
         for (const ReportTemplate &each : reportTemplates()) {
             const auto filled = fillReport(each.path, each.forGroup, each.forGroup ? all : first, context);
@@ -257,7 +285,51 @@ private:
         for (const QString &trouble : std::as_const(pages.troubles))
             tell(tr("report: ") + trouble);
         Error error = saveReportHtml(pages, m_out.filePath(u"report.html"_s));
-        return error.hasError() ? error : saveReportPdf(pages, m_out.filePath(u"report.pdf"_s));
+        return error.hasError() ? error : saveReportPdf(pages, m_out.filePath(u"report.pdf"_s), context);
+    }
+
+    [[nodiscard]] std::vector<RowNode> allRows() const
+    {
+        std::vector<RowNode> all;
+        all.reserve(size_t(m_editor.table().rowCount()));
+        for (int index = 0; index < m_editor.table().rowCount(); ++index)
+            all.push_back(*m_editor.table().row(index));
+        return all;
+    }
+
+    [[nodiscard]] ReportContext reportContext(const std::vector<RowNode> &rows) const
+    {
+        return {m_options.user, QFileInfo(m_options.input).fileName(), rows};
+    }
+
+    /// A report on each sample, when they were asked for.
+    Error reportOnEach()
+    {
+        if (m_options.reports == BatchReports::None)
+            return {};
+        const std::vector<RowNode> all = allRows();
+        const QString path = m_options.reportTemplate.isEmpty() ? reportTemplates().constFirst().path
+                                                                : m_options.reportTemplate;
+        auto filler = ReportFiller::of(path, false, all, reportContext(all));
+        if (!filler)
+            return filler.error();
+        const InterruptWatch watch;
+        const auto progress = [](int done, int count, const QString &name) {
+            if (!name.isEmpty())
+                tell(tr("report %1 of %2: %3").arg(done + 1).arg(count).arg(name));
+            return !InterruptWatch::wasInterrupted();
+        };
+        const bool isOneFile = m_options.reports == BatchReports::InOneFile;
+        const auto series =
+            isOneFile ? writeReportsToFile(filler.value(), m_out.filePath(kCertificatesFile), progress)
+                      : writeReportsToFolder(filler.value(), m_out.filePath(kCertificatesFolder), progress);
+        if (!series)
+            return series.error();
+        for (const QString &trouble : series.value().troubles)
+            tell(tr("report: ") + trouble);
+        tell(tr("reports: %1 file(s) written").arg(series.value().files));
+        return series.value().isCanceled ? Error(ErrorCode::Failed, tr("The reports were interrupted."))
+                                         : Error();
     }
 
     Error grab()
@@ -282,8 +354,12 @@ void tellResults(const BatchOptions &options, const QString &trail)
 {
     const QDir out(options.outDirectory);
     tell(trail);
-    for (const auto &name :
-         {u"audit.json"_s, u"samples.csv"_s, u"report.html"_s, u"report.pdf"_s, u"window.png"_s})
+    QStringList names{u"audit.json"_s, u"samples.csv"_s, u"report.html"_s, u"report.pdf"_s, u"window.png"_s};
+    if (options.reports == BatchReports::InOneFile)
+        names.prepend(kCertificatesFile);
+    else if (options.reports == BatchReports::InOneEach)
+        names.prepend(kCertificatesFolder);
+    for (const QString &name : std::as_const(names))
         tell(QFileInfo(out.filePath(name)).absoluteFilePath());
     if (inputAt(options.input).isOfData())
         tell(QFileInfo(out.filePath(u"formats.csv"_s)).absoluteFilePath());

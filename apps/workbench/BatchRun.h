@@ -6,6 +6,14 @@
 
 namespace workbench {
 
+/// Reports on all samples, beside those that each run makes.
+enum class BatchReports
+{
+    None,
+    InOneFile, ///< "certificates.pdf"
+    InOneEach, ///< A file for each sample in the folder "certificates".
+};
+
 struct BatchOptions
 {
     QString input;        ///< The CSV file to work on, or a folder to search for data.
@@ -13,6 +21,8 @@ struct BatchOptions
     QString database;     ///< The audit trail, see openTrail(); by default in the directory.
     QString user;
     int steps = 0; ///< Further edits, so that a run lasts long enough to be interrupted.
+    BatchReports reports = BatchReports::None;
+    QString reportTemplate; ///< A template file; by default, the workbench's certificate.
 };
 
 /**
@@ -21,7 +31,8 @@ struct BatchOptions
  * mass-spectrometry data in it; "formats.csv" then lists them with their formats.
  *
  * Each step that is on the disk is told on standard output, a line a record with its number. An earlier
- * audit trail is continued; the other files are replaced. Needs a QApplication.
+ * audit trail is continued; the other files are replaced. An interrupt (Ctrl+C) while reports are made ends the run with
+ * an error; the reports that were written before, and an earlier "certificates.pdf", stay. Needs a QApplication.
  */
 [[nodiscard]] ozm::Error runBatch(const BatchOptions &options);
 

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <optional>
 #include <span>
 
 using namespace Qt::StringLiterals;
@@ -48,6 +49,16 @@ struct Options
         u"folder"_s};
     QCommandLineOption firstSteps{
         u"first-steps"_s, QCoreApplication::translate("main", "Begin with the first steps, on sample data.")};
+    QCommandLineOption reports{
+        u"reports"_s,
+        QCoreApplication::translate("main",
+                                    "A batch run's report on each sample: all in \"one\" file "
+                                    "certificates.pdf, or a file for \"each\" in a folder certificates."),
+        u"one|each"_s};
+    QCommandLineOption reportTemplate{
+        u"template"_s,
+        QCoreApplication::translate("main", "Template for --reports; by default the sample certificate."),
+        u"file"_s};
     QCommandLineOption steps{u"steps"_s, u"Further edits of a batch run."_s, u"number"_s, u"0"_s};
 };
 
@@ -75,6 +86,17 @@ int complain(const QString &text, ExitCode code)
     return code;
 }
 
+std::optional<workbench::BatchReports> reportsAsked(const QCommandLineParser &parser, const Options &options)
+{
+    if (!parser.isSet(options.reports))
+        return workbench::BatchReports::None;
+    if (parser.value(options.reports) == "one"_L1)
+        return workbench::BatchReports::InOneFile;
+    if (parser.value(options.reports) == "each"_L1)
+        return workbench::BatchReports::InOneEach;
+    return std::nullopt;
+}
+
 int batch(const QCommandLineParser &parser, const Options &options, const QString &user)
 {
     bool ok = false;
@@ -85,8 +107,12 @@ int batch(const QCommandLineParser &parser, const Options &options, const QStrin
         return complain(QApplication::translate("main", "--batch needs --out, the folder for its results."),
                         WrongUsage);
     }
+    const auto reports = reportsAsked(parser, options);
+    if (!reports)
+        return complain(QApplication::translate("main", "--reports needs \"one\" or \"each\"."), WrongUsage);
     Error error = workbench::runBatch({parser.value(options.batch), parser.value(options.out),
-                                       parser.value(options.database), user, steps});
+                                       parser.value(options.database), user, steps, *reports,
+                                       parser.value(options.reportTemplate)});
     if (!error.hasError())
         return Done;
     return complain((QStringList{error.errorMessage()} + error.warnings()).join(u' '), Failed);
@@ -129,8 +155,8 @@ int main(int argc, char **argv)
         QApplication::translate("main", "Edits samples and their annotations, every step recorded."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({options.batch, options.out, options.pictures, options.database, options.user,
-                       options.firstSteps, options.steps});
+    parser.addOptions({options.batch, options.out, options.reports, options.reportTemplate, options.pictures,
+                       options.database, options.user, options.firstSteps, options.steps});
     parser.addPositionalArgument(u"file"_s, QApplication::translate("main", "CSV file of samples to open."),
                                  u"[file]"_s);
     parser.process(application);

@@ -16,9 +16,11 @@ namespace ozm {
 /// How a report is laid out on paper, unless its template says otherwise.
 struct ReportPaperOptions
 {
-    QString title;       ///< Of the file; not printed.
-    QString footer;      ///< At the left of each sheet's foot; the number of the page is at its right.
-    QString header = {}; ///< At the left of each sheet's top.
+    QString title;         ///< Of the file; not printed.
+    QString footer;        ///< At the left of each sheet's foot; the number of the page is at its right.
+    QString header = {};   ///< At the left of each sheet's top.
+    QString document = {}; ///< Name of the document, at the left of each sheet's foot, before the footer.
+    QString version = {};  ///< Of the document, behind its name.
 
     /// For text that names none itself.
     QFont font = QFont(QStringLiteral("DejaVu Sans"), 9);
@@ -31,8 +33,9 @@ struct ReportPaperOptions
  * Brings a filled template onto paper, by a printer or as PDF, always in the same way.
  *
  * Rows of tables are not cut by the end of a sheet, a table that goes on is closed at the foot, and each sheet
- * has its number. Size, orientation, margins, header and footer are those of the template where it has an instruction
- * "page", see docs/report-templates.md; a printer is set to them. Only what the text carries itself is shown: nothing is loaded from disk or from a network.
+ * has its number. Size, orientation, margins, header, footer, name and version are those of the template where it has an
+ * instruction "page", see docs/report-templates.md; a printer is set to them. ReportBook puts several reports into one
+ * PDF. Only what the text carries itself is shown: nothing is loaded from disk or from a network.
  *
  *     const QString decoded = AbstractTemplateEditor::decodeTEC(content, &row, {});
  *     ozm::ReportPaper paper(decoded, {u"Certificate"_s, u"Laboratory 3"_s});
@@ -54,10 +57,11 @@ public:
     /// report has.
     int print(QPagedPaintDevice &device) const;
 
-    /// Replaces the file at @p path only when all of it is written; code 4 otherwise.
+    /// With the headings as bookmarks. Replaces the file at @p path only when all of it is written; code 4 otherwise.
     [[nodiscard]] Error writePdf(const QString &path) const;
 
 private:
+    friend class ReportBook;
     class Private;
     const std::unique_ptr<Private> d;
 };

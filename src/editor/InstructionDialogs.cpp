@@ -222,6 +222,9 @@ PageDialog::PageDialog(const Page &page, const InstructionChoices &choices, QWid
     m_footer =
         addLine("pageFooter", tr("&Footer:"), page.footer, tr("Text and codes, beside the page number"));
     m_header->setMinimumWidth(kFieldWidth);
+    m_name = addLine("pageName", tr("Name of the &document:"), page.name,
+                     tr("Text and codes, at the foot and in the file"));
+    m_version = addLine("pageVersion", tr("&Version:"), page.version, tr("Beside the name of the document"));
     addButtons();
 }
 
@@ -230,8 +233,13 @@ Page PageDialog::page() const
     QList<int> margins;
     for (const QSpinBox *margin : m_margins)
         margins.append(margin->value());
-    return {m_size->currentData().toString(), m_orientation->currentData().toBool(), margins,
-            m_header->text(), m_footer->text()};
+    return {m_size->currentData().toString(),
+            m_orientation->currentData().toBool(),
+            margins,
+            m_header->text(),
+            m_footer->text(),
+            m_name->text(),
+            m_version->text()};
 }
 
 } // namespace ozm::editor

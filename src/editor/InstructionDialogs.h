@@ -119,6 +119,8 @@ private:
     QList<QSpinBox *> m_margins; ///< Top, right, bottom and left.
     QLineEdit *m_header;
     QLineEdit *m_footer;
+    QLineEdit *m_name;
+    QLineEdit *m_version;
 };
 
 } // namespace ozm::editor

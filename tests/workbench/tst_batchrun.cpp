@@ -76,11 +76,13 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QDir out(folder.filePath(u"out µ"_s));
         const Outcome outcome = run({u"--batch"_s, QStringLiteral(WORKBENCH_SAMPLES), u"--out"_s, out.path(),
-                                     u"--user"_s, u"jdoe"_s});
+                                     u"--user"_s, u"jdoe"_s, u"--reports"_s, u"each"_s});
         QVERIFY2(outcome.exitCode == 0, qUtf8Printable(outcome.complaint));
-        const QStringList results{out.filePath(u"trail.sqlite"_s), out.filePath(u"audit.json"_s),
-                                  out.filePath(u"samples.csv"_s),  out.filePath(u"report.html"_s),
-                                  out.filePath(u"report.pdf"_s),   out.filePath(u"window.png"_s)};
+        QVERIFY(QFile::exists(out.filePath(u"certificates/0001 HC-T01 (checked).pdf"_s)));
+        const QStringList results{out.filePath(u"trail.sqlite"_s), out.filePath(u"certificates"_s),
+                                  out.filePath(u"audit.json"_s),   out.filePath(u"samples.csv"_s),
+                                  out.filePath(u"report.html"_s),  out.filePath(u"report.pdf"_s),
+                                  out.filePath(u"window.png"_s)};
         QCOMPARE(outcome.lines.mid(outcome.lines.size() - results.size()), results);
 
         const QString told = outcome.lines.join(u'\n');
@@ -89,7 +91,7 @@ private Q_SLOTS:
               u"refused: The charge must be"_s, u"UNDO Set"_s, u"REDO Set"_s})
             QVERIFY2(told.contains(part), qUtf8Printable(part));
 
-        const QJsonArray trail = QJsonDocument::fromJson(readFile(results.at(1))).array();
+        const QJsonArray trail = QJsonDocument::fromJson(readFile(results.at(2))).array();
         int refused = 0;
         int withChildren = 0;
         for (const QJsonValue entry : trail) {
@@ -101,12 +103,12 @@ private Q_SLOTS:
         QCOMPARE(refused, 1);
         QCOMPARE(withChildren, 1);
 
-        const auto samples = samplefile::read(results.at(2));
+        const auto samples = samplefile::read(results.at(3));
         QVERIFY(samples);
         QCOMPARE(samples.value().at(0).getDataAt(kName).toString(), u"HC-T01 (checked)"_s);
         QCOMPARE(samples.value().at(0).getDataAt(kCharge).toInt(), 4);
-        QVERIFY(readFile(results.at(4)).startsWith("%PDF"));
-        QVERIFY(!readFile(results.at(3)).contains("script>"));
+        QVERIFY(readFile(results.at(5)).startsWith("%PDF"));
+        QVERIFY(!readFile(results.at(4)).contains("script>"));
         QCOMPARE(QImage(results.constLast()).size(), QSize(1200, 760));
     }
 
@@ -181,6 +183,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("message");
         const QString samples = QStringLiteral(WORKBENCH_SAMPLES);
         QTest::newRow("no folder") << QStringList{u"--batch"_s, samples} << 2 << u"--batch needs --out"_s;
+        QTest::newRow("reports") << QStringList{u"--batch"_s, samples,        u"--out"_s,
+                                                u"DIR"_s,     u"--reports"_s, u"x"_s}
+                                 << 2 << u"--reports needs"_s;
         QTest::newRow("steps") << QStringList{u"--batch"_s, samples,      u"--out"_s,
                                               u"DIR"_s,     u"--steps"_s, u"x"_s}
                                << 2 << u"--steps needs a number"_s;

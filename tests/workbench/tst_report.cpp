@@ -1,5 +1,5 @@
-#include "reports/Report.h"
 #include "reports/ReportDialog.h"
+#include "reports/ReportSeries.h"
 #include "samples/SampleTable.h"
 #include "support/StrictTest.h"
 
@@ -94,12 +94,46 @@ private Q_SLOTS:
         const auto filled = fillReport(reportTemplates().at(1).path, true, rows, context);
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"report.pdf"_s);
-        QVERIFY(filled && !saveReportPdf(filled.value(), path).hasError());
+        QVERIFY(filled && !saveReportPdf(filled.value(), path, context).hasError());
         QFile pdf(path);
         QVERIFY(pdf.open(QIODevice::ReadOnly));
         QVERIFY(pdf.read(4) == "%PDF" && pdf.size() > 20000);
-        QVERIFY(saveReportPdf(filled.value(), folder.filePath(u"missing/report.pdf"_s)).hasError());
+        QVERIFY(pdf.seek(0) && pdf.readAll().contains("/Author <FEFF"));
+        QVERIFY(saveReportPdf(filled.value(), folder.filePath(u"missing/report.pdf"_s), context).hasError());
         QVERIFY(saveReportHtml(filled.value(), folder.filePath(u"missing/report.html"_s)).hasError());
+    }
+
+    // One file, a file for each, canceled, and where nothing can be written.
+    void series()
+    {
+        const std::vector<RowNode> rows = samples();
+        auto filler = ReportFiller::of(reportTemplates().at(0).path, false, rows, {});
+        QVERIFY(filler);
+        ReportFiller &reports = filler.value();
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"all.pdf"_s);
+        const auto goOn = [](int, int, const QString &) { return true; };
+        const auto bytes = [&path] {
+            QFile file(path);
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        };
+        QVERIFY(writeReportsToFile(reports, path, goOn));
+        const QByteArray written = bytes();
+        QCOMPARE(written.count("/Type /Page\n"), 2);
+        const QByteArray name = "<FEFF" + u"T2"_s.toUtf8().toHex().insert(2, "00").prepend("00") + ">";
+        QVERIFY(written.contains("/Title " + name) && written.contains("/PageMode /UseOutlines"));
+        // Neither a canceled series nor one that cannot be written touches what was there.
+        for (const int last : {0, 1, 2}) {
+            const auto stop = [last](int done, int, const QString &) { return done < last; };
+            const auto canceled = writeReportsToFile(reports, path, stop);
+            QVERIFY(canceled && canceled.value().isCanceled && canceled.value().files == 0);
+            QCOMPARE(bytes(), written);
+        }
+        QVERIFY(!writeReportsToFile(reports, folder.filePath(u"no/all.pdf"_s), goOn));
+        const QDir each(folder.filePath(u"each"_s));
+        QCOMPARE(writeReportsToFolder(reports, each.path(), goOn).value().files, 2);
+        QCOMPARE(each.entryList(QDir::Files), (QStringList{u"0000 T1 _b_.pdf"_s, u"0000 T2.pdf"_s}));
+        QVERIFY(!writeReportsToFolder(reports, path, goOn));
     }
 
     void dialog()

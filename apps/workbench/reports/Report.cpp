@@ -1,7 +1,9 @@
 #include "reports/Report.h"
 
-#include "reports/ReportLists.h"
+#include "reports/ReportSheets.h"
+#include "samples/SampleTable.h"
 
+#include <ozm_common_core_mini/ColumnNames.h>
 #include <ozm_widgets/AbstractTemplateEditor.h>
 #include <ozm_widgets/ReportPaper.h>
 #include <ozm_widgets/TemplateFile.h>
@@ -38,6 +40,9 @@ const QString kStyle =
     "table.facts, table.list { border-color: #b8c4ce; border-style: solid; border-collapse: collapse; }"
     "table.list { font-size: 8pt; }"_s;
 
+// Beside a folder, this is short enough for any system.
+constexpr qsizetype kLongestFileName = 80;
+
 QString tr(const char *text)
 {
     return QCoreApplication::translate("workbench", text);
@@ -57,9 +62,9 @@ ozm::Result<QString> loadTemplate(const QString &path)
     return loaded.value().content;
 }
 
-ReportPages pageOf(const ozm::TemplateReport &decoded)
+ReportPages pageOf(const QString &name, const ozm::TemplateReport &decoded)
 {
-    ReportPages page{{AbstractTemplateEditor::withoutScriptTags(decoded.text)}, {}};
+    ReportPages page{{{name, AbstractTemplateEditor::withoutScriptTags(decoded.text)}}, {}};
     for (const ozm::UnresolvedCode &code : decoded.unresolved)
         page.troubles.append(tr("%1 has no value.").arg(code.code));
     for (const ozm::FailedScript &script : decoded.failed)
@@ -77,10 +82,15 @@ QList<DecodeTecExtraData> extraData(const ReportContext &context)
     return {{ReportContext::staticMetaObject, &context}};
 }
 
-ReportPages fillGroup(const QString &content, const ReportContext &context, ReportLists &lists)
+/// @p name as all systems take it in the name of a file.
+QString asFileName(const QString &name)
 {
-    const auto all = lists.about(nullptr);
-    return pageOf(ozm::fillTemplate(content, {all.value(u"Samples"_s), extraData(context), all}));
+    static const QRegularExpression forbidden(u"[<>:\"/\\\\|?*\\x{0}-\\x{1f}\\x{7f}]"_s);
+    QString result = name.simplified().left(kLongestFileName);
+    result.replace(forbidden, u"_"_s);
+    while (result.endsWith(u'.') || result.endsWith(u' '))
+        result.chop(1);
+    return result;
 }
 
 } // namespace
@@ -104,21 +114,64 @@ const QList<ReportTemplate> &reportTemplates()
     return templates;
 }
 
-ozm::Result<ReportPages> fillReport(const QString &path, bool asGroup, const std::vector<RowNode> &rows,
-                                    const ReportContext &context)
+ReportFiller::ReportFiller(QString content, bool asGroup, const std::vector<RowNode> &rows,
+                           ReportContext context)
+    : m_content(std::move(content))
+    , m_asGroup(asGroup)
+    , m_rows(&rows)
+    , m_context(std::move(context))
+    , m_lists(rows)
+{}
+
+ozm::Result<ReportFiller> ReportFiller::of(const QString &path, bool asGroup,
+                                           const std::vector<RowNode> &rows, const ReportContext &context)
 {
     const auto content = loadTemplate(path);
     if (!content)
         return content.error();
-    ReportLists lists(rows);
-    if (asGroup)
-        return fillGroup(content.value(), context, lists);
-    ReportPages report;
-    for (const RowNode &row : rows) {
-        const ReportContext own = context.about(row);
-        const ozm::ReportData data{{const_cast<RowNode *>(&row)}, extraData(own), lists.about(&row)};
-        report.append(pageOf(ozm::fillTemplate(content.value(), data)));
+    return ReportFiller(content.value(), asGroup, rows, context);
+}
+
+int ReportFiller::count() const
+{
+    return m_asGroup ? 1 : static_cast<int>(m_rows->size());
+}
+
+QString ReportFiller::name(int index) const
+{
+    return m_asGroup ? tr("All samples") : m_rows->at(size_t(index)).getDataAt(kName).toString();
+}
+
+QString ReportFiller::fileName(int index) const
+{
+    const QString number =
+        m_asGroup ? QString()
+                  : u"%1 "_s.arg(SampleTable::idOf(m_rows->at(size_t(index))), 4, 10, QChar(u'0'));
+    return asFileName(number + name(index)) + ".pdf"_L1;
+}
+
+ReportPages ReportFiller::filled(int index)
+{
+    if (m_asGroup) {
+        const auto all = m_lists.about(nullptr);
+        return pageOf(name(index),
+                      ozm::fillTemplate(m_content, {all.value(u"Samples"_s), extraData(m_context), all}));
     }
+    const RowNode &row = m_rows->at(size_t(index));
+    const ReportContext own = m_context.about(row);
+    const ozm::ReportData data{{const_cast<RowNode *>(&row)}, extraData(own), m_lists.about(&row)};
+    return pageOf(name(index), ozm::fillTemplate(m_content, data));
+}
+
+ozm::Result<ReportPages> fillReport(const QString &path, bool asGroup, const std::vector<RowNode> &rows,
+                                    const ReportContext &context)
+{
+    auto filler = ReportFiller::of(path, asGroup, rows, context);
+    if (!filler)
+        return filler.error();
+    ReportPages report;
+    for (int index = 0; index < filler.value().count(); ++index)
+        report.append(filler.value().filled(index));
     return report;
 }
 
@@ -130,14 +183,32 @@ QString reportHtml(const ReportPages &report, PageEnd end)
         if (index > 0)
             html += end == PageEnd::Line ? u"<p></p><hr/><p></p>"_s
                                          : u"<p style=\"page-break-before: always; margin: 0px;\"></p>"_s;
-        html += report.pages.at(index);
+        html += report.pages.at(index).html;
     }
     return html + u"</body></html>"_s;
 }
 
-Error saveReportPdf(const ReportPages &report, const QString &path)
+ozm::ReportBookOptions bookOptions(const ReportContext &context)
 {
-    return ozm::ReportPaper(reportHtml(report), {tr("Report"), tr("Made by the workbench")}).writePdf(path);
+    return {tr("Report"), context.user, context.source};
+}
+
+Error addSheets(const ReportPages &report, ozm::ReportBook &book)
+{
+    for (const ReportPage &page : report.pages) {
+        const ozm::ReportPaper paper(reportHtml({{page}, {}}), {tr("Report"), tr("Made by the workbench")});
+        if (Error error = book.add(paper, page.name.isEmpty() ? tr("Without a name") : page.name);
+            error.hasError())
+            return error;
+    }
+    return {};
+}
+
+Error saveReportPdf(const ReportPages &report, const QString &path, const ReportContext &context)
+{
+    ozm::ReportBook book(path, bookOptions(context));
+    Error error = addSheets(report, book);
+    return error.hasError() ? error : book.finish();
 }
 
 Error saveReportHtml(const ReportPages &report, const QString &path)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reports/ReportContext.h"
+#include "reports/ReportLists.h"
 
 #include <ozm_common_core_mini/RowNode.h>
 #include <ozm_common_stable/Error.h>
@@ -22,10 +23,17 @@ struct ReportTemplate
     bool forGroup; ///< Made for all samples together, rather than for each.
 };
 
+/// A filled template.
+struct ReportPage
+{
+    QString name; ///< Of the sample that it is about.
+    QString html;
+};
+
 /// The content of a report: pages that stand by themselves, and what could not be filled in.
 struct ReportPages
 {
-    QStringList pages;
+    QList<ReportPage> pages;
     QStringList troubles;
 
     void append(const ReportPages &other);
@@ -33,7 +41,35 @@ struct ReportPages
 
 [[nodiscard]] const QList<ReportTemplate> &reportTemplates();
 
-/// Fills the template in the file @p path with each of @p rows, or, as a group, with all of them.
+/// Fills one template with samples, a report at a time. The rows must outlive it.
+class ReportFiller
+{
+public:
+    /// Reads the template in the file @p path, to be filled with each of @p rows or, as a group, with all of them.
+    [[nodiscard]] static ozm::Result<ReportFiller>
+    of(const QString &path, bool asGroup, const std::vector<RowNode> &rows, const ReportContext &context);
+
+    /// How many reports there are.
+    [[nodiscard]] int count() const;
+    /// The name of the sample that the report at @p index is about, and of its file: with its number in front.
+    [[nodiscard]] QString name(int index) const;
+    [[nodiscard]] QString fileName(int index) const;
+    [[nodiscard]] const ReportContext &context() const { return m_context; }
+
+    /// Fills the report at @p index.
+    [[nodiscard]] ReportPages filled(int index);
+
+private:
+    ReportFiller(QString content, bool asGroup, const std::vector<RowNode> &rows, ReportContext context);
+
+    QString m_content;
+    bool m_asGroup;
+    const std::vector<RowNode> *m_rows;
+    ReportContext m_context;
+    ReportLists m_lists;
+};
+
+/// All reports of a template at once; for few rows.
 [[nodiscard]] ozm::Result<ReportPages>
 fillReport(const QString &path, bool asGroup, const std::vector<RowNode> &rows, const ReportContext &context);
 
@@ -46,7 +82,8 @@ enum class PageEnd
 [[nodiscard]] QString reportHtml(const ReportPages &report, PageEnd end = PageEnd::Sheet);
 
 [[nodiscard]] ozm::Error saveReportHtml(const ReportPages &report, const QString &path);
-/// On A4, with the number of each sheet at its foot.
-[[nodiscard]] ozm::Error saveReportPdf(const ReportPages &report, const QString &path);
+/// On A4 unless the template says otherwise, each page with its own numbers of sheets and its bookmark.
+[[nodiscard]] ozm::Error saveReportPdf(const ReportPages &report, const QString &path,
+                                       const ReportContext &context);
 
 } // namespace workbench

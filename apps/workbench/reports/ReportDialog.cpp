@@ -2,12 +2,16 @@
 
 #include "window/FileQuestions.h"
 
+#include <ozm_widgets/OZMStyle.h>
+
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTextBrowser>
@@ -22,6 +26,11 @@ using ozm::Error;
 namespace workbench {
 
 namespace {
+
+// Further ones are only made when they are saved: a thousand would keep the user waiting at each choice.
+constexpr int kPreviewed = 20;
+// In milliseconds.
+constexpr int kProgressAfter = 400;
 
 template <typename Widget>
 Widget *named(Widget *widget, const char *name)
@@ -40,6 +49,7 @@ ReportDialog::ReportDialog(std::vector<RowNode> rows, const ReportContext &conte
     , m_template(named(new QComboBox(this), "template"))
     , m_each(named(new QRadioButton(tr("&One by one"), this), "each"))
     , m_group(named(new QRadioButton(tr("As a &group"), this), "group"))
+    , m_files(named(new QCheckBox(tr("A &file for each"), this), "files"))
     , m_preview(named(new QTextBrowser(this), "preview"))
     , m_note(named(new QLabel(this), "note"))
     , m_save(named(new QPushButton(tr("&Save…"), this), "save"))
@@ -71,6 +81,8 @@ ReportDialog::ReportDialog(std::vector<RowNode> rows, const ReportContext &conte
     choices->addSpacing(16);
     choices->addWidget(m_each);
     choices->addWidget(m_group);
+    choices->addSpacing(16);
+    choices->addWidget(m_files);
     choices->addStretch();
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     buttons->addButton(m_save, QDialogButtonBox::ActionRole);
@@ -82,7 +94,7 @@ ReportDialog::ReportDialog(std::vector<RowNode> rows, const ReportContext &conte
 
     connect(m_template, &QComboBox::currentIndexChanged, this, &ReportDialog::chooseTemplate);
     connect(other, &QPushButton::clicked, this, &ReportDialog::askTemplate);
-    connect(m_group, &QRadioButton::toggled, this, &ReportDialog::fill);
+    connect(m_group, &QRadioButton::toggled, this, &ReportDialog::showChoice);
     connect(buttons, &QDialogButtonBox::rejected, this, &ReportDialog::reject);
     connect(m_save, &QPushButton::clicked, this, &ReportDialog::save);
     chooseTemplate();
@@ -96,6 +108,12 @@ void ReportDialog::chooseTemplate()
     const QSignalBlocker quiet(m_group);
     m_each->setChecked(!group);
     m_group->setChecked(group);
+    showChoice();
+}
+
+void ReportDialog::showChoice()
+{
+    m_files->setEnabled(m_each->isChecked() && m_rows.size() > 1);
     fill();
 }
 
@@ -113,27 +131,107 @@ void ReportDialog::askTemplate()
     m_template->setCurrentIndex(static_cast<int>(index));
 }
 
+ozm::Result<ReportFiller> ReportDialog::reports() const
+{
+    return ReportFiller::of(m_templates.at(m_template->currentIndex()).path, m_group->isChecked(), m_rows,
+                            m_context);
+}
+
 void ReportDialog::fill()
 {
-    const auto filled =
-        fillReport(m_templates.at(m_template->currentIndex()).path, m_group->isChecked(), m_rows, m_context);
-    m_report = filled ? filled.value() : ReportPages();
-    m_preview->setHtml(reportHtml(m_report, PageEnd::Line));
-    showNote(filled ? m_report.troubles.join(u'\n') : filled.error().errorMessage());
-    m_save->setEnabled(!m_report.pages.isEmpty());
+    auto filler = reports();
+    ReportPages shown;
+    QStringList note;
+    const int count = filler ? filler.value().count() : 0;
+    for (int index = 0; index < std::min(count, kPreviewed); ++index)
+        shown.append(filler.value().filled(index));
+    if (count > kPreviewed)
+        note.append(tr("These are the first %1 of %2 reports; all are saved.").arg(kPreviewed).arg(count));
+    m_preview->setHtml(reportHtml(shown, PageEnd::Line));
+    showNote(filler ? (note + shown.troubles).join(u'\n') : filler.error().errorMessage());
+    m_save->setEnabled(count > 0);
 }
 
 void ReportDialog::save()
 {
+    if (m_files->isEnabled() && m_files->isChecked())
+        saveFolder();
+    else
+        saveFile();
+}
+
+ReportProgress ReportDialog::progress(QProgressDialog &shown) const
+{
+    shown.setObjectName(u"reportProgress"_s);
+    shown.setWindowModality(Qt::WindowModal);
+    shown.setWindowTitle(windowTitle());
+    shown.setMinimumDuration(kProgressAfter);
+    return [&shown](int done, int count, const QString &name) {
+        shown.setMaximum(count);
+        if (!name.isEmpty())
+            shown.setLabelText(tr("Report %1 of %2: %3").arg(done + 1).arg(count).arg(name));
+        // Shows the dialog, and takes the click on its button.
+        shown.setValue(done);
+        return !shown.wasCanceled();
+    };
+}
+
+void ReportDialog::saveFile()
+{
     const auto location = files::askSaveReport(this, u"report.pdf"_s);
     if (location.isCanceled())
         return;
-    const Error error = files::save(this, location, [this](const QString &path) {
-        const bool asHtml = QFileInfo(path).suffix().compare("html"_L1, Qt::CaseInsensitive) == 0;
-        return asHtml ? saveReportHtml(m_report, path) : saveReportPdf(m_report, path);
+    ReportSeries series;
+    const Error error = files::save(this, location, [&](const QString &path) {
+        auto filler = reports();
+        if (!filler)
+            return filler.error();
+        QProgressDialog shown(this);
+        const auto written = writeReportsToFile(filler.value(), path, progress(shown));
+        if (!written)
+            return written.error();
+        series = written.value();
+        return series.isCanceled ? Error(ozm::ErrorCode::Failed, tr("Canceled. Nothing was saved."))
+                                 : Error();
     });
-    showNote(error.hasError() ? error.errorMessage()
-                              : tr("Saved to %1").arg(QDir::toNativeSeparators(location.toString())));
+    if (error.hasError())
+        showNote(error.errorMessage());
+    else
+        showOutcome(series, tr("Saved to %1").arg(QDir::toNativeSeparators(location.toString())));
+}
+
+bool ReportDialog::mayReplace(const ReportFiller &reports, const QString &folder)
+{
+    int present = 0;
+    for (int index = 0; index < reports.count(); ++index)
+        present += QFileInfo::exists(QDir(folder).filePath(reports.fileName(index))) ? 1 : 0;
+    if (present == 0)
+        return true;
+    const QString text = tr("%n of the files are in this folder already. Replace them?", nullptr, present);
+    return OZMStyle::question(this, ozm::OzmMessageBoxSignal::FileExists, windowTitle(), text,
+                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+void ReportDialog::saveFolder()
+{
+    const QString folder = files::askReportFolder(this);
+    auto filler = reports();
+    if (folder.isEmpty() || !filler || !mayReplace(filler.value(), folder))
+        return;
+    QProgressDialog shown(this);
+    const auto written = writeReportsToFolder(filler.value(), folder, progress(shown));
+    if (!written) {
+        showNote(written.error().errorMessage());
+        return;
+    }
+    const QString saved =
+        tr("%n file(s) saved to %1", nullptr, written.value().files).arg(QDir::toNativeSeparators(folder));
+    showOutcome(written.value(), written.value().isCanceled ? tr("Canceled.") + u' ' + saved : saved);
+}
+
+void ReportDialog::showOutcome(const ReportSeries &series, const QString &saved)
+{
+    showNote((QStringList{saved} + series.troubles).join(u'\n'));
 }
 
 void ReportDialog::showNote(const QString &text)

@@ -1,13 +1,15 @@
 #pragma once
 
-#include "reports/Report.h"
+#include "reports/ReportSeries.h"
 
 #include <QDialog>
 
 #include <vector>
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
+class QProgressDialog;
 class QPushButton;
 class QRadioButton;
 class QTextBrowser;
@@ -15,8 +17,9 @@ class QTextBrowser;
 namespace workbench {
 
 /**
- * Fills a template with samples, shows the outcome, and saves it as HTML or PDF: one of the workbench's own, or one
- * that the editor saved.
+ * Fills a template with samples, shows the outcome, and saves it as HTML or PDF, in one file or a file for each sample:
+ * a template of the workbench's own, or one that the editor saved. Of many samples, the first are shown; saving has
+ * progress, and can be canceled.
  *
  * The samples are copies: what is edited while the dialog is open does not get into the report.
  */
@@ -32,16 +35,23 @@ private:
     void chooseTemplate();
     void askTemplate();
     void fill();
+    void showChoice();
     void save();
+    void saveFile();
+    void saveFolder();
+    [[nodiscard]] ozm::Result<ReportFiller> reports() const;
+    [[nodiscard]] bool mayReplace(const ReportFiller &reports, const QString &folder);
+    [[nodiscard]] ReportProgress progress(QProgressDialog &shown) const;
+    void showOutcome(const ReportSeries &series, const QString &saved);
     void showNote(const QString &text);
 
     const std::vector<RowNode> m_rows;
     const ReportContext m_context;
     QList<ReportTemplate> m_templates;
-    ReportPages m_report;
     QComboBox *m_template;
     QRadioButton *m_each;
     QRadioButton *m_group;
+    QCheckBox *m_files;
     QTextBrowser *m_preview;
     QLabel *m_note;
     QPushButton *m_save;

@@ -122,6 +122,12 @@ Location askSaveReport(QWidget *parent, const QString &name)
         nullptr, {}, reportLocation());
 }
 
+QString askReportFolder(QWidget *parent)
+{
+    return DefaultWidgetCreator::fileAccessor()->getExistingDirectory(
+        parent, tr("Save reports in folder"), {}, QFileDialog::ShowDirsOnly, reportLocation());
+}
+
 Error save(QWidget *parent, const Location &location, const ozm::IFileAccessor::Writer &writer)
 {
     const QPointer<QWidget> owner(parent);

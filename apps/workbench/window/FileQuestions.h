@@ -22,10 +22,12 @@ using Location = ozm::IFileAccessor::DestinationFileLocation;
 /// JSON or CSV, by the extension.
 [[nodiscard]] Location askExportTrail(QWidget *parent);
 
-/// HTML or PDF, by the extension.
 /// A template in the folder that the editor saves to; empty when canceled.
 [[nodiscard]] QString askOpenTemplate(QWidget *parent);
+/// HTML or PDF, by the extension.
 [[nodiscard]] Location askSaveReport(QWidget *parent, const QString &name);
+/// For a file for each report.
+[[nodiscard]] QString askReportFolder(QWidget *parent);
 
 /// Saves through the accessor, as @p writer does, and offers to open what was written.
 ozm::Error save(QWidget *parent, const Location &location, const ozm::IFileAccessor::Writer &writer);

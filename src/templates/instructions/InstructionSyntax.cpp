@@ -244,8 +244,10 @@ Reading readCondition(Attributes &attributes, Extent extent)
 
 Reading readPage(Attributes &attributes)
 {
-    Page page{attributes.pageSize("size"_L1), attributes.word("orientation"_L1, kOrientations),
-              attributes.margins("margins"_L1), attributes.text("header"_L1), attributes.text("footer"_L1)};
+    Page page{attributes.pageSize("size"_L1),   attributes.word("orientation"_L1, kOrientations),
+              attributes.margins("margins"_L1), attributes.text("header"_L1),
+              attributes.text("footer"_L1),     attributes.text("name"_L1),
+              attributes.text("version"_L1)};
     return reading(attributes, page);
 }
 
@@ -286,7 +288,9 @@ struct Writer
                                                 wordOf(kOrientations, page.isLandscape)) +
                                   writtenUnless({}, "margins"_L1, margins.join(u' ')) +
                                   writtenUnless({}, "header"_L1, page.header) +
-                                  writtenUnless({}, "footer"_L1, page.footer));
+                                  writtenUnless({}, "footer"_L1, page.footer) +
+                                  writtenUnless({}, "name"_L1, page.name) +
+                                  writtenUnless({}, "version"_L1, page.version));
     }
     QString operator()(const CodeFormat &format) const
     {

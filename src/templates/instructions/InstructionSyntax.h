@@ -121,6 +121,8 @@ struct Page
     QList<int> margins = {}; ///< Top, right, bottom and left, in millimetres; empty for the usual ones.
     QString header = {};     ///< With codes; at the top of each page.
     QString footer = {};     ///< With codes; at the foot, beside the number of the page.
+    QString name = {};       ///< Of the document, with codes; at the foot, and in the file.
+    QString version = {};    ///< Of the document, with codes; beside its name.
 
     bool operator==(const Page &) const = default;
 };

@@ -226,10 +226,15 @@ private:
         if (const auto *repeat = std::get_if<Repeat>(&part.instruction))
             return repeated(*repeat, part, scope);
         if (const auto *page = std::get_if<Page>(&part.instruction))
-            return instructions::sourceOf(Page{page->size, page->isLandscape, page->margins,
-                                               lineText(page->header, part, scope),
-                                               lineText(page->footer, part, scope)});
+            return pageText(*page, part, scope);
         return formattedCode(std::get<CodeFormat>(part.instruction), part, scope);
+    }
+
+    QString pageText(Page page, const InstructedPart &part, const TemplateScope &scope)
+    {
+        for (QString *line : {&page.header, &page.footer, &page.name, &page.version})
+            *line = lineText(*line, part, scope);
+        return instructions::sourceOf(page);
     }
 
     QString sourceOf(const SourceRange &range) const

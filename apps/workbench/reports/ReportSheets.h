@@ -1,0 +1,16 @@
+#pragma once
+
+#include "reports/Report.h"
+
+#include <ozm_common_stable/Error.h>
+#include <ozm_widgets/ReportBook.h>
+
+namespace workbench {
+
+/// What the PDF of a report says about itself.
+[[nodiscard]] ozm::ReportBookOptions bookOptions(const ReportContext &context);
+
+/// Adds each page of @p report to @p book, with a bookmark.
+ozm::Error addSheets(const ReportPages &report, ozm::ReportBook &book);
+
+} // namespace workbench
