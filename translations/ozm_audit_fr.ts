@@ -729,7 +729,7 @@
     </message>
     <message>
         <source>The states after entries %1 and %2 differ in %3 of %4 attributes.</source>
-        <translation>Les états après les entrées %1 et %2 diffèrent par %3 attributs sur %4.</translation>
+        <translation>Attributs qui diffèrent entre les états après les entrées %1 et %2&#x202f;: %3 sur %4.</translation>
     </message>
 </context>
 <context>

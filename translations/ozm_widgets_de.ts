@@ -274,10 +274,79 @@ Der berichtigte Pfad ist:
     </message>
 </context>
 <context>
+    <name>QAbstractFileIconProvider</name>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Laufwerk</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>File Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Verknüpfung</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+</context>
+<context>
     <name>QMessageBox</name>
     <message>
         <source>Show Details...</source>
         <translation>Details anzeigen …</translation>
+    </message>
+</context>
+<context>
+    <name>QPrintDialog</name>
+    <message>
+        <source>Duplex Settings Conflicts</source>
+        <translation>Widersprüchliche Duplex-Einstellungen</translation>
+    </message>
+    <message>
+        <source>Invalid Pages Definition</source>
+        <translation>Ungültige Seitenangabe</translation>
+    </message>
+    <message>
+        <source>There are conflicts in duplex settings. Do you want to fix them?</source>
+        <translation>Die Duplex-Einstellungen widersprechen sich. Sollen sie berichtigt werden?</translation>
+    </message>
+</context>
+<context>
+    <name>QPrintSettingsOutput</name>
+    <message>
+        <source>Double Sided Printing</source>
+        <translation>Doppelseitiger Druck</translation>
+    </message>
+    <message>
+        <source>Long side binding</source>
+        <translation>Bindung an der langen Seite</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Short side binding</source>
+        <translation>Bindung an der kurzen Seite</translation>
     </message>
 </context>
 <context>

@@ -43,6 +43,8 @@ CodeEdit::CodeEdit(QWidget *parent)
     , m_margin(new Margin(this))
 {
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    // Code begins at the left in every language.
+    setLayoutDirection(Qt::LeftToRight);
     setTabStopDistance(kTabCharacters * fontMetrics().horizontalAdvance(u' '));
     connect(this, &QPlainTextEdit::blockCountChanged, this, &CodeEdit::placeMargin);
     connect(this, &QPlainTextEdit::updateRequest, this, [this](const QRect &rect, int dy) {
@@ -162,7 +164,8 @@ void CodeEdit::paintMargin(QPaintEvent *event)
             const bool marked = block.blockNumber() + 1 == m_markedLine;
             painter.setPen(marked ? palette().color(QPalette::WindowText) : quiet);
             const QRectF place(0, top, m_margin->width() - kMarginPadding, fontMetrics().height());
-            painter.drawText(place, Qt::AlignRight, QString::number(block.blockNumber() + 1));
+            painter.drawText(place, Qt::AlignRight | Qt::AlignAbsolute,
+                             QString::number(block.blockNumber() + 1));
         }
         top += blockBoundingRect(block).height();
         block = block.next();

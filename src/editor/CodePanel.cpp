@@ -31,7 +31,8 @@ public:
         QStyledItemDelegate::paint(painter, option, index);
         const QString code = index.data(CodeModel::CodeRole).toString();
         const int taken = option.fontMetrics.horizontalAdvance(index.data().toString()) + kGap;
-        const QRect rest = option.rect.adjusted(taken, 0, -kGap / 2, 0);
+        const QRect rest =
+            QStyle::visualRect(option.direction, option.rect, option.rect.adjusted(taken, 0, -kGap / 2, 0));
         if (option.fontMetrics.horizontalAdvance(code) > rest.width())
             return;
         const bool selected = option.state.testFlag(QStyle::State_Selected);

@@ -152,6 +152,10 @@ QDockWidget *AbstractTemplateEditor::Private::addDock(const char *name, const QS
     dock->setObjectName(QString::fromLatin1(name));
     dock->setTitleBarWidget(new OZMDockWidgetTitleBar(dock));
     dock->setWidget(content);
+    // The toolkit mirrors what is in the window, but not its sides.
+    const bool isSide = area == Qt::LeftDockWidgetArea || area == Qt::RightDockWidgetArea;
+    if (isSide && qptr->isRightToLeft())
+        area = area == Qt::LeftDockWidgetArea ? Qt::RightDockWidgetArea : Qt::LeftDockWidgetArea;
     qptr->addDockWidget(area, dock);
     return dock;
 }

@@ -41,6 +41,15 @@ QColor outlineColor(const QStyleOption &option)
                   mixed(text.blue(), ground.blue()));
 }
 
+/// Between marks that let its first letter decide on its direction, where that is not the direction of the window.
+QString isolated(const QString &text, Qt::LayoutDirection direction)
+{
+    constexpr QChar kIsolate(0x2068);
+    constexpr QChar kEnd(0x2069);
+    const bool isSame = text.isRightToLeft() == (direction == Qt::RightToLeft);
+    return isSame || text.isEmpty() ? text : kIsolate + text + kEnd;
+}
+
 } // namespace
 
 ContrastStyle::ContrastStyle()
@@ -67,17 +76,43 @@ int ContrastStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, c
 void ContrastStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                                 const QWidget *widget) const
 {
-    const auto *combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
-    if (element != CE_ComboBoxLabel || !combo || combo->editable) {
+    if (const auto *item = qstyleoption_cast<const QStyleOptionViewItem *>(option)) {
+        QStyleOptionViewItem ordered = *item;
+        ordered.text = isolated(item->text, item->direction);
+        QProxyStyle::drawControl(element, &ordered, painter, widget);
+    } else if (const auto *combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+               combo && element == CE_ComboBoxLabel && !combo->editable) {
+        drawComboText(*combo, painter, widget);
+    } else if (const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+               button && element == CE_PushButtonLabel && !button->icon.isNull()) {
+        drawButtonText(*button, painter, widget);
+    } else {
         QProxyStyle::drawControl(element, option, painter, widget);
-        return;
     }
-    QStyleOptionComboBox elided = *combo;
-    const int icon = combo->currentIcon.isNull() ? 0 : combo->iconSize.width() + kTextMargin;
-    const int room = subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget).width();
+}
+
+void ContrastStyle::drawComboText(const QStyleOptionComboBox &combo, QPainter *painter,
+                                  const QWidget *widget) const
+{
+    QStyleOptionComboBox elided = combo;
+    const int icon = combo.currentIcon.isNull() ? 0 : combo.iconSize.width() + kTextMargin;
+    const int room = subControlRect(CC_ComboBox, &combo, SC_ComboBoxEditField, widget).width();
     elided.currentText =
-        combo->fontMetrics.elidedText(combo->currentText, Qt::ElideRight, room - icon - kTextMargin);
-    QProxyStyle::drawControl(element, &elided, painter, widget);
+        isolated(combo.fontMetrics.elidedText(combo.currentText, Qt::ElideRight, room - icon - kTextMargin),
+                 combo.direction);
+    QProxyStyle::drawControl(CE_ComboBoxLabel, &elided, painter, widget);
+}
+
+void ContrastStyle::drawButtonText(const QStyleOptionButton &button, QPainter *painter,
+                                   const QWidget *widget) const
+{
+    // Fusion asks for the right side, where the icon is, and a painter that mirrors takes that for the left.
+    QStyleOptionButton ordered = button;
+    ordered.text = isolated(button.text, Qt::LeftToRight);
+    painter->save();
+    painter->setLayoutDirection(Qt::LeftToRight);
+    QProxyStyle::drawControl(CE_PushButtonLabel, &ordered, painter, widget);
+    painter->restore();
 }
 
 void ContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,

@@ -2,13 +2,17 @@
 
 #include <QProxyStyle>
 
+class QStyleOptionButton;
+class QStyleOptionComboBox;
+
 namespace ozm {
 
 /**
  * Fusion, with the outlines of check boxes and radio buttons, on black those of buttons and fields as well, and the
- * arrow of a tool bar without room, drawn to be seen on every palette.
+ * arrow of a tool bar without room, drawn to be seen on every palette; and with data that reads as it was written,
+ * whatever the direction of the language around it.
  *
- * Fusion derives them from the colour of the window by a fixed step, which is next to nothing on dark.
+ * Fusion derives the outlines from the colour of the window by a fixed step, which is next to nothing on dark.
  */
 class ContrastStyle : public QProxyStyle
 {
@@ -19,11 +23,16 @@ public:
                                      const QWidget *widget) const override;
     [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption *option,
                                   const QWidget *widget) const override;
-    /// Ends the text of a combo box that has no room for it with an ellipsis.
+    /// Ends the text of a combo box that has no room for it with an ellipsis. Keeps the order of what a cell or a combo box
+    /// shows: in a window written from right to left, "-1" would otherwise read "1-".
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override;
+
+private:
+    void drawComboText(const QStyleOptionComboBox &combo, QPainter *painter, const QWidget *widget) const;
+    void drawButtonText(const QStyleOptionButton &button, QPainter *painter, const QWidget *widget) const;
 };
 
 } // namespace ozm

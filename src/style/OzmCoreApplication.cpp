@@ -11,6 +11,7 @@
 #include <QTranslator>
 
 #include <algorithm>
+#include <array>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -55,6 +56,25 @@ QString userOfSystem()
 const QString kTranslators = u"ozmTranslator/"_s;
 const QString kToolkit = u"qtbase"_s;
 const QString kTexts = u":/i18n"_s;
+
+// What not all of the toolkit's own translations have, though its dialogs show it; lupdate finds it here.
+[[maybe_unused]] constexpr std::array kTextsOfToolkit{
+    QT_TRANSLATE_NOOP("QAbstractFileIconProvider", "Alias"),
+    QT_TRANSLATE_NOOP("QAbstractFileIconProvider", "Drive"),
+    QT_TRANSLATE_NOOP("QAbstractFileIconProvider", "File"),
+    QT_TRANSLATE_NOOP("QAbstractFileIconProvider", "File Folder"),
+    QT_TRANSLATE_NOOP("QAbstractFileIconProvider", "Folder"),
+    QT_TRANSLATE_NOOP("QAbstractFileIconProvider", "Shortcut"),
+    QT_TRANSLATE_NOOP("QAbstractFileIconProvider", "Unknown"),
+    QT_TRANSLATE_NOOP("QPrintDialog", "Duplex Settings Conflicts"),
+    QT_TRANSLATE_NOOP("QPrintDialog", "Invalid Pages Definition"),
+    QT_TRANSLATE_NOOP("QPrintDialog", "There are conflicts in duplex settings. Do you want to fix them?"),
+    QT_TRANSLATE_NOOP("QPrintSettingsOutput", "Double Sided Printing"),
+    QT_TRANSLATE_NOOP("QPrintSettingsOutput", "Long side binding"),
+    QT_TRANSLATE_NOOP("QPrintSettingsOutput", "Off"),
+    QT_TRANSLATE_NOOP("QPrintSettingsOutput", "Pages"),
+    QT_TRANSLATE_NOOP("QPrintSettingsOutput", "Short side binding"),
+};
 
 void uninstall(const QString &file)
 {

@@ -6,6 +6,8 @@
 #include <QPixmapCache>
 #include <QSvgRenderer>
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -18,6 +20,14 @@ namespace {
 constexpr int kSmall = 20;
 constexpr auto kStroke = "stroke-width=\"1.75\"";
 constexpr auto kStrokeWhenSmall = "stroke-width=\"2.25\"";
+
+// They point along a line of text, or show where one begins.
+constexpr std::array kMirrored{
+    "document-export"_L1, "document-import"_L1,    "edit-clear"_L1,          "edit-redo"_L1,
+    "edit-undo"_L1,       "format-indent-less"_L1, "format-indent-more"_L1,  "format-list-unordered"_L1,
+    "go-next"_L1,         "go-previous"_L1,        "table-column-delete"_L1, "table-column-insert"_L1,
+    "toolbar-more"_L1,    "view-list"_L1,          "window-dock"_L1,
+};
 
 QColor colorOf(QIcon::Mode mode)
 {
@@ -62,7 +72,9 @@ QPixmap StyleIconEngine::render(const QSize &pixels, const QColor &color) const
 {
     if (pixels.isEmpty())
         return {};
-    const QString id = u"ozm-icon/%1/%2x%3/%4"_s.arg(m_name)
+    const bool isMirrored =
+        QGuiApplication::isRightToLeft() && std::ranges::find(kMirrored, m_name) != kMirrored.end();
+    const QString id = u"ozm-icon/%1%2/%3x%4/%5"_s.arg(m_name, isMirrored ? u"/mirrored"_s : QString())
                            .arg(pixels.width())
                            .arg(pixels.height())
                            .arg(color.rgba(), 0, 16);
@@ -79,6 +91,10 @@ QPixmap StyleIconEngine::render(const QSize &pixels, const QColor &color) const
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setOpacity(color.alphaF());
+    if (isMirrored) {
+        painter.translate(pixels.width(), 0);
+        painter.scale(-1, 1);
+    }
     renderer.render(&painter);
     painter.end();
     QPixmapCache::insert(id, pixmap);

@@ -16,9 +16,11 @@
 #include <QPainter>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QSet>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QTableWidget>
 #include <QToolBar>
 #include <QToolButton>
 #include <QToolTip>
@@ -454,6 +456,25 @@ private Q_SLOTS:
         QCOMPARE(splitter.sizes().constLast(), 0);
         QTest::mouseDClick(handle, Qt::LeftButton);
         QCOMPARE(panes.first(), before);
+    }
+
+    void rightToLeft()
+    {
+        const auto icon = [](const QString &name) { return OZMStyle::icon(name).pixmap(32).toImage(); };
+        const auto cell = [](const QString &text) {
+            QTableWidget table(1, 1);
+            table.setItem(0, 0, new QTableWidgetItem(text));
+            return table.grab().toImage();
+        };
+        const QImage undo = icon(u"edit-undo"_s);
+        const QImage find = icon(u"edit-find"_s);
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+        const auto back = qScopeGuard([] { QApplication::setLayoutDirection(Qt::LeftToRight); });
+        QVERIFY(icon(u"edit-undo"_s) != undo);
+        QCOMPARE(icon(u"edit-find"_s), find);
+        // Not "1-", nor the time before its date.
+        for (const auto &text : {u"-1"_s, u"2026-11-22 08:47 +00:00"_s, u"/data/run.d"_s})
+            QCOMPARE(cell(text), cell(u'\u2066' + text + u'\u2069'));
     }
 
     void languagesAreComplete_data()

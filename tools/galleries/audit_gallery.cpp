@@ -161,7 +161,7 @@ void takePictures(const QDir &out, const QString &suffix)
     filter.preset = ReviewPreset::ChangedAfterSignature;
     view.setFilter(filter);
     settle(view.model());
-    view.findChild<QTableView *>()->selectRow(0);
+    view.findChild<QTableView *>()->setCurrentIndex(view.model().index(0, 0));
     save(view, out, u"filtered-%1.png"_s.arg(suffix));
 
     SubjectHistory history(*store.value(), u"Label"_s, u"{\"Name\":\"T12\"}"_s);

@@ -1,5 +1,5 @@
-// Pictures of the template editor for people to look at: editor_gallery <folder>. Twice the size with
-// QT_SCALE_FACTOR=2. Not a test: what looks wrong is for eyes to say.
+// Pictures of the template editor for people to look at: editor_gallery <folder> [<language>]. Twice the
+// size with QT_SCALE_FACTOR=2. Not a test: what looks wrong is for eyes to say.
 
 #include "reports/WorkbenchTemplateEditor.h"
 #include "samples/SampleTable.h"
@@ -155,7 +155,9 @@ int main(int argc, char **argv)
     const QString folder = QApplication::arguments().value(1, u"."_s);
     QDir().mkpath(folder);
     QStandardPaths::setTestModeEnabled(true);
+    QLocale::setDefault(QLocale(QApplication::arguments().value(2, u"en"_s)));
     ozm::OzmCoreApplication::start();
+    ozm::OzmCoreApplication::loadTranslation(QLocale(), u"workbench"_s);
     const QString size = application.devicePixelRatio() > 1 ? u"-2x"_s : QString();
     for (const auto scheme : {OZMStyle::Scheme::Light, OZMStyle::Scheme::Dark}) {
         QApplication::setPalette(OZMStyle::palette(scheme));

@@ -138,7 +138,9 @@ QDockWidget *MainWindow::addDock(const QString &name, const QString &title, QWid
     dock->setObjectName(name);
     dock->setTitleBarWidget(new OZMDockWidgetTitleBar(dock));
     dock->setWidget(content);
-    addDockWidget(area, dock);
+    // The toolkit mirrors what is in the window, but not its sides.
+    const bool atLeft = area == Qt::RightDockWidgetArea && isRightToLeft();
+    addDockWidget(atLeft ? Qt::LeftDockWidgetArea : area, dock);
     return dock;
 }
 
@@ -171,7 +173,8 @@ void MainWindow::selectSample(const QString &subjectKey)
     const QString name = QJsonDocument::fromJson(subjectKey.toUtf8()).object().value(kName).toString();
     for (int row = 0; row < m_editor.table().rowCount(); ++row) {
         if (m_editor.table().row(row)->getDataAt(kName).toString() == name) {
-            m_table->selectRow(row);
+            // By an index: selectRow() finds no column in a table that is written from right to left.
+            m_table->setCurrentIndex(m_table->model()->index(row, 0));
             m_table->setFocus();
             return;
         }

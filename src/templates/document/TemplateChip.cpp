@@ -171,7 +171,7 @@ void ChipPainter::drawObject(QPainter *painter, const QRectF &rect, QTextDocumen
     painter->drawRoundedRect(outline, kCornerRadius, kCornerRadius);
     painter->setPen(mixed(text, tint, 0.3));
     painter->setFont(chipFont(document, format));
-    painter->drawText(outline, Qt::AlignCenter | Qt::TextSingleLine, label(part));
+    painter->drawText(outline, Qt::AlignCenter | Qt::TextSingleLine | Qt::TextForceLeftToRight, label(part));
     painter->restore();
 }
 

@@ -4,6 +4,7 @@
 #include <ozm_audit_widgets/SubjectHistory.h>
 
 #include <QDialogButtonBox>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QSplitter>
@@ -54,6 +55,14 @@ QTableWidgetItem *valueCell(const QString &text, bool changed)
 QString textOf(const QVariant &value)
 {
     return value.typeId() == QMetaType::QVariantList ? value.toStringList().join(u", "_s) : value.toString();
+}
+
+/// The columns of a table in a document stay where they are, whatever the direction of the language.
+QString comparedRow(QStringList cells)
+{
+    if (QGuiApplication::isRightToLeft())
+        std::ranges::reverse(cells);
+    return u"<tr><td>%1</td></tr>"_s.arg(cells.join(u"</td><td>"_s));
 }
 
 } // namespace
@@ -168,9 +177,10 @@ void SubjectHistory::compare(int firstRow, int secondRow)
         return;
     const SubjectState &before = d->states.at(firstRow);
     const SubjectState &after = d->states.at(secondRow);
-    QString html =
-        u"<table cellpadding=\"4\"><tr><th></th><th align=\"left\">%1</th><th align=\"left\">%2</th></tr>"_s
-            .arg(tr("After entry %1").arg(before.entry.number), tr("After entry %1").arg(after.entry.number));
+    QString html = u"<table cellpadding=\"4\" align=\"%1\">"_s.arg(isRightToLeft() ? u"right"_s : u"left"_s) +
+                   comparedRow({{},
+                                u"<b>%1</b>"_s.arg(tr("After entry %1").arg(before.entry.number)),
+                                u"<b>%1</b>"_s.arg(tr("After entry %1").arg(after.entry.number))});
     int differing = 0;
     for (const QString &attribute : std::as_const(d->attributes)) {
         const QVariant oldValue = before.values.value(attribute);
@@ -179,8 +189,8 @@ void SubjectHistory::compare(int firstRow, int secondRow)
             continue;
         ++differing;
         const Difference difference = Difference::between(oldValue, newValue);
-        html += u"<tr><td><b>%1</b></td><td>%2</td><td>%3</td></tr>"_s.arg(
-            attribute.toHtmlEscaped(), difference.oldHtml, difference.newHtml);
+        html += comparedRow(
+            {u"<b>%1</b>"_s.arg(attribute.toHtmlEscaped()), difference.oldHtml, difference.newHtml});
     }
     d->compared->setText(differing == 0
                              ? tr("The states after entries %1 and %2 are the same.")

@@ -6,6 +6,7 @@
 #include <ozm_audit_widgets/Signature.h>
 #include <ozm_widgets/db/common/OperationLogItemData.h>
 
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSplitter>
@@ -44,10 +45,14 @@ QWidget *labelled(const QString &label, QTextBrowser *text)
 
 void addFact(QString &html, const QString &name, const QString &value)
 {
-    if (!value.isEmpty()) {
-        html += u"<tr><td style=\"padding-right:12px;\"><b>%1</b></td><td>%2</td></tr>"_s.arg(
-            name.toHtmlEscaped(), value.toHtmlEscaped().replace(u'\n', u"<br/>"_s));
-    }
+    if (value.isEmpty())
+        return;
+    // The columns of a table in a document stay where they are, whatever the direction of the language.
+    const QString row = QGuiApplication::isRightToLeft()
+                            ? u"<tr><td align=\"right\" style=\"padding-right:12px;\">%2</td>"
+                              "<td align=\"right\" style=\"white-space:nowrap;\"><b>%1</b></td></tr>"_s
+                            : u"<tr><td style=\"padding-right:12px;\"><b>%1</b></td><td>%2</td></tr>"_s;
+    html += row.arg(name.toHtmlEscaped(), value.toHtmlEscaped().replace(u'\n', u"<br/>"_s));
 }
 
 } // namespace
@@ -99,7 +104,8 @@ void EntryDetails::clear()
 QString EntryDetails::factsOf(const Entry &entry) const
 {
     const EntryTexts texts = EntryTexts::of(entry);
-    QString html = u"<p><b>%1</b></p><table>"_s.arg(texts.what.toHtmlEscaped());
+    QString html = u"<p><b>%1</b></p><table align=\"%2\">"_s.arg(texts.what.toHtmlEscaped(),
+                                                                 isRightToLeft() ? u"right"_s : u"left"_s);
     addFact(html, tr("Number"), QString::number(entry.number));
     addFact(html, tr("Kind"), kindTitle(entry.kind));
     addFact(html, tr("State"), TrailModel::marksText(m_model.marks(entry)));

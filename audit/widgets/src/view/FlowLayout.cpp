@@ -1,5 +1,9 @@
 #include "FlowLayout.h"
 
+#include <QGuiApplication>
+#include <QStyle>
+#include <QWidget>
+
 #include <utility>
 
 namespace ozm::audit {
@@ -37,6 +41,8 @@ void FlowLayout::setGeometry(const QRect &rect)
 int FlowLayout::place(const QRect &rect, bool move) const
 {
     constexpr int kGap = 6;
+    const Qt::LayoutDirection direction =
+        parentWidget() ? parentWidget()->layoutDirection() : QGuiApplication::layoutDirection();
     int x = rect.x();
     int y = rect.y();
     int height = 0;
@@ -48,7 +54,7 @@ int FlowLayout::place(const QRect &rect, bool move) const
             height = 0;
         }
         if (move)
-            item->setGeometry({{x, y}, size});
+            item->setGeometry(QStyle::visualRect(direction, rect, {{x, y}, size}));
         x += size.width() + kGap;
         height = qMax(height, size.height());
     }
