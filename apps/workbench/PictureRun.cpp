@@ -51,14 +51,9 @@ constexpr int kLookMs = 20;
 constexpr QSize kWorkbench(1280, 760);
 constexpr QSize kFirstSteps(1440, 860);
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("PictureRun", source);
-}
-
 Error notWritten(const QString &path)
 {
-    return Error(ErrorCode::FileAccess, text("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(path)))
+    return Error(ErrorCode::FileAccess, u"\"%1\" cannot be written."_s.arg(QDir::toNativeSeparators(path)))
         .ecatch(OZM_HERE);
 }
 
@@ -95,51 +90,42 @@ struct PictureRow
     const char *words;
 };
 
+// In English whatever the language, as all that batch runs leave.
 enum Picture
 {
-    FirstSteps,
-    Workbench,
-    NewSample,
-    FindData,
-    OpenData,
-    Message,
-    Report,
-    TemplateEditor,
-    SampleHistory,
-    Style,
+    FirstStepsPicture,
+    WorkbenchPicture,
+    NewSamplePicture,
+    FindDataPicture,
+    OpenDataPicture,
+    MessagePicture,
+    ReportPicture,
+    TemplateEditorPicture,
+    SampleHistoryPicture,
+    StylePicture,
     PictureCount,
 };
 
 constexpr std::array<PictureRow, PictureCount> kPictures{{
-    {"first-steps", QT_TRANSLATE_NOOP("PictureRun", "First steps"),
-     QT_TRANSLATE_NOOP("PictureRun",
-                       "The window of somebody new: samples, data and a trail that are made up, and "
-                       "a page with five things to try. Two of them were tried: a step was undone, "
-                       "and the data in a folder of several vendors was found and added.")},
-    {"workbench", QT_TRANSLATE_NOOP("PictureRun", "The workbench"),
-     QT_TRANSLATE_NOOP("PictureRun",
-                       "Samples, the details of one, the history of steps, and the audit trail: an "
-                       "edit, a macro with its steps, a step that was undone, and one that was "
-                       "refused.")},
-    {"new-sample", QT_TRANSLATE_NOOP("PictureRun", "A new sample"),
-     QT_TRANSLATE_NOOP("PictureRun", "It is checked, recorded, and then made.")},
-    {"find-data", QT_TRANSLATE_NOOP("PictureRun", "Finding data"),
-     QT_TRANSLATE_NOOP("PictureRun", "The dialog that lists the data in a folder and all below it.")},
-    {"open-data", QT_TRANSLATE_NOOP("PictureRun", "Opening data"),
-     QT_TRANSLATE_NOOP("PictureRun", "Files and raw folders in one dialog, which says what each holds.")},
-    {"message", QT_TRANSLATE_NOOP("PictureRun", "A message from another thread"),
-     QT_TRANSLATE_NOOP("PictureRun", "The thread asked in one line, and waits for the answer.")},
-    {"report", QT_TRANSLATE_NOOP("PictureRun", "A report"),
-     QT_TRANSLATE_NOOP("PictureRun", "A template with codes and scripts, filled with a sample.")},
-    {"template-editor", QT_TRANSLATE_NOOP("PictureRun", "The template editor"),
-     QT_TRANSLATE_NOOP("PictureRun",
-                       "Codes, the formatted template, and the preview with two faults listed: a code "
-                       "that nothing fills, and a script that fails.")},
-    {"sample-history", QT_TRANSLATE_NOOP("PictureRun", "The history of a sample"),
-     QT_TRANSLATE_NOOP("PictureRun",
-                       "All that the trail says about one sample, and two states side by side.")},
-    {"style", QT_TRANSLATE_NOOP("PictureRun", "Style"),
-     QT_TRANSLATE_NOOP("PictureRun", "Every icon and every kind of message, in light and in dark.")},
+    {"first-steps", "First steps",
+     "The window of somebody new: samples, data and a trail that are made up, and "
+     "a page with five things to try. Two of them were tried: a step was undone, "
+     "and the data in a folder of several vendors was found and added."},
+    {"workbench", "The workbench",
+     "Samples, the details of one, the history of steps, and the audit trail: an "
+     "edit, a macro with its steps, a step that was undone, and one that was "
+     "refused."},
+    {"new-sample", "A new sample", "It is checked, recorded, and then made."},
+    {"find-data", "Finding data", "The dialog that lists the data in a folder and all below it."},
+    {"open-data", "Opening data", "Files and raw folders in one dialog, which says what each holds."},
+    {"message", "A message from another thread", "The thread asked in one line, and waits for the answer."},
+    {"report", "A report", "A template with codes and scripts, filled with a sample."},
+    {"template-editor", "The template editor",
+     "Codes, the formatted template, and the preview with two faults listed: a code "
+     "that nothing fills, and a script that fails."},
+    {"sample-history", "The history of a sample",
+     "All that the trail says about one sample, and two states side by side."},
+    {"style", "Style", "Every icon and every kind of message, in light and in dark."},
 }};
 
 /// All pictures of one scheme: a function for each window.
@@ -202,7 +188,7 @@ private:
         for (int waited = 0; !isSo() && waited < kLongestWaitMs; waited += kLookMs)
             waitFor(kLookMs);
         if (!isSo() && !m_error.hasError())
-            m_error = Error(ErrorCode::Failed, text("A window did not come up.")).ecatch(OZM_HERE);
+            m_error = Error(ErrorCode::Failed, u"A window did not come up."_s).ecatch(OZM_HERE);
     }
 
     [[nodiscard]] std::vector<RowNode> rows() const
@@ -221,7 +207,7 @@ private:
         auto *table = window.findChild<QTableView *>(u"sampleTable"_s);
         table->selectRow(0);
         table->setFocus();
-        take(window, Workbench);
+        take(window, WorkbenchPicture);
     }
 
     void takeFirstSteps()
@@ -233,35 +219,34 @@ private:
         click(u"undoButton"_s);
         click(u"findButton"_s);
         waitUntil([&window] { return !window.dataImport().isRunning(); });
-        take(window, FirstSteps);
+        take(window, FirstStepsPicture);
     }
 
     void takeDialogs()
     {
         AddSampleDialog sample(m_session.editor());
-        take(sample, NewSample);
+        take(sample, NewSamplePicture);
         FileCrawlerDialog finder;
         finder.setCrawlFolderReference(m_session.dataFolder());
-        take(finder, FindData);
+        take(finder, FindDataPicture);
         StyleDialog style;
-        take(style, Style);
-        takeModal(OpenData, u"chooseButton"_s);
+        take(style, StylePicture);
+        takeModal(OpenDataPicture, u"chooseButton"_s);
     }
 
-    void takeMessage() { takeModal(Message, u"askButton"_s); }
+    void takeMessage() { takeModal(MessagePicture, u"askButton"_s); }
 
     void takeReport()
     {
         const std::vector<RowNode> all = rows();
         const ReportContext context(m_session.editor().user(), u"samples.csv"_s, all);
         ReportDialog report({all.front()}, context);
-        take(report, Report);
+        take(report, ReportPicture);
         WorkbenchTemplateEditor editor(all, context);
         editor.setAttribute(Qt::WA_DeleteOnClose, false);
         QFile letter(u":/pictures/pictures-letter.html"_s);
         if (!letter.open(QIODevice::ReadOnly) || !editor.setSourceText(QString::fromUtf8(letter.readAll())))
-            m_error =
-                Error(ErrorCode::Failed, text("The template editor takes no template.")).ecatch(OZM_HERE);
+            m_error = Error(ErrorCode::Failed, u"The template editor takes no template."_s).ecatch(OZM_HERE);
         editor.show();
         waitFor(kSettleMs);
         auto *rich = editor.findChild<QTextEdit *>(u"richView"_s);
@@ -269,7 +254,7 @@ private:
         rich->moveCursor(QTextCursor::EndOfBlock);
         editor.findChild<QAction *>(u"editScriptAction"_s)->trigger();
         editor.findChild<QPushButton *>(u"scriptRun"_s)->click();
-        take(editor, TemplateEditor);
+        take(editor, TemplateEditorPicture);
     }
 
     void takeHistory()
@@ -279,7 +264,7 @@ private:
         ozm::audit::SubjectHistory history(m_session.editor().logger().store(), u"Label"_s,
                                            u"{\"Name\":\"%1\"}"_s.arg(name));
         history.compare(0, 1);
-        take(history, SampleHistory);
+        take(history, SampleHistoryPicture);
     }
 
     FirstStepsSession &m_session;
@@ -288,7 +273,7 @@ private:
     Error m_error;
 };
 
-constexpr auto kPage = R"(<!DOCTYPE html>
+constexpr auto kPicturesPage = R"(<!DOCTYPE html>
 <html lang="en"><head><meta charset="utf-8"><title>%1</title>
 <meta name="viewport" content="width=device-width">
 <style>
@@ -307,13 +292,13 @@ img { max-width: 100%; height: auto; border: 1px solid #8888; }
 
 QString figureOf(const PictureRow &row)
 {
-    const QString title = text(row.title).toHtmlEscaped();
+    const QString title = QString::fromLatin1(row.title).toHtmlEscaped();
     QString images;
     for (const auto &scheme : {u"light"_s, u"dark"_s})
         images += u"<img loading=\"lazy\" src=\"pictures/%1-%2.png\" alt=\"%3, %2\">\n"_s.arg(
             QString::fromLatin1(row.name), scheme, title);
     return u"<figure><h2>%1</h2><figcaption>%2</figcaption>\n<div>\n%3</div></figure>\n"_s.arg(
-        title, text(row.words).toHtmlEscaped(), images);
+        title, QString::fromLatin1(row.words).toHtmlEscaped(), images);
 }
 
 /// Links to what batch runs left in the folder.
@@ -327,7 +312,7 @@ QString resultsIn(const QDir &folder)
                 links += u"<li><a href=\"%1\">%1</a></li>\n"_s.arg(path);
     if (links.isEmpty())
         return {};
-    return u"<h2>%1</h2>\n<ul>\n%2</ul>"_s.arg(text("The results of the batch runs").toHtmlEscaped(), links);
+    return u"<h2>%1</h2>\n<ul>\n%2</ul>"_s.arg(u"The results of the batch runs"_s.toHtmlEscaped(), links);
 }
 
 Error writePage(const QDir &folder)
@@ -335,12 +320,12 @@ Error writePage(const QDir &folder)
     QString figures;
     for (const PictureRow &row : kPictures)
         figures += figureOf(row);
-    const QString page = QString::fromLatin1(kPage).arg(
-        text("The workbench in pictures"),
-        text("Each window on the sample data of the first steps. With a display, \"workbench --first-steps\" "
-             "opens the first of them.")
-            .toHtmlEscaped(),
-        figures, resultsIn(folder));
+    const QString page =
+        QString::fromLatin1(kPicturesPage)
+            .arg(u"The workbench in pictures"_s,
+                 u"Each window on the sample data of the first steps. With a display, <code>workbench "
+                 "--first-steps</code> opens the first of them."_s,
+                 figures, resultsIn(folder));
     QSaveFile file(folder.filePath(u"index.html"_s));
     const QByteArray bytes = page.toUtf8();
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())

@@ -35,7 +35,7 @@ QLabel *titled(const QString &text, QWidget *parent)
     return label;
 }
 
-QFrame *line(QWidget *parent)
+QFrame *stepLine(QWidget *parent)
 {
     auto *frame = new QFrame(parent);
     frame->setFrameShape(QFrame::HLine);
@@ -65,7 +65,7 @@ FirstStepsPage::FirstStepsPage(const std::vector<FirstStep> &steps, QWidget *par
     for (const FirstStep &step : steps)
         addStep(step, column);
     column->addStretch();
-    column->addWidget(line(content));
+    column->addWidget(stepLine(content));
     auto *own = new QPushButton(tr("Begin with own samples"), content);
     own->setObjectName(u"ownSamples"_s);
     connect(own, &QPushButton::clicked, this, &FirstStepsPage::ownSamplesAsked);
@@ -87,7 +87,7 @@ void FirstStepsPage::addStep(const FirstStep &step, QVBoxLayout *column)
     row.button->setAccessibleDescription(step.text);
     row.button->setToolTip(tr("In code: %1").arg(step.code));
     connect(row.button, &QPushButton::clicked, this, [this, index] { Q_EMIT asked(index); });
-    column->addWidget(line(content));
+    column->addWidget(stepLine(content));
     for (QWidget *part : std::initializer_list<QWidget *>{row.title, text, row.button, row.outcome})
         column->addWidget(part);
     m_rows.push_back(row);
