@@ -19,6 +19,7 @@ namespace {
 
 // "Open data format mzML" has room.
 constexpr int kTypeCharacters = 20;
+constexpr int kNameCharacters = 10;
 // As wide as a size is written.
 constexpr qint64 kWideSize = 1023LL * 1024 * 1024;
 constexpr int kCellMargin = 8;
@@ -50,14 +51,21 @@ void widenColumns(const QFileDialog &dialog)
     const auto room = [view](const QString &text) {
         return view->fontMetrics().horizontalAdvance(text) + 2 * kCellMargin;
     };
+    QHeaderView *header = view->header();
+    header->ensurePolished();
+    const auto widen = [header, &room](int column, const QString &text) {
+        header->resizeSection(column, qMax(room(text), header->sectionSizeHint(column)));
+    };
     // A day and a month whose names are among the long ones.
     const QDateTime late(QDate(2028, 9, 27), QTime(22, 58, 58));
-    view->header()->setStretchLastSection(false);
-    view->header()->setSectionResizeMode(kNameColumn, QHeaderView::Stretch);
-    view->header()->resizeSection(kSizeColumn, room(QLocale::system().formattedDataSize(kWideSize)));
-    view->header()->resizeSection(kTypeColumn, room(QString(kTypeCharacters, u'n')));
+    // Where there is no room for all of them, the columns are scrolled.
+    header->setMinimumSectionSize(room(QString(kNameCharacters, u'n')));
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(kNameColumn, QHeaderView::Stretch);
+    widen(kSizeColumn, QLocale::system().formattedDataSize(kWideSize));
+    widen(kTypeColumn, QString(kTypeCharacters, u'n'));
     // As the toolkit's model writes it.
-    view->header()->resizeSection(kDateColumn, room(QLocale::system().toString(late, QLocale::ShortFormat)));
+    widen(kDateColumn, QLocale::system().toString(late, QLocale::ShortFormat));
 }
 
 void addToFileDialog(QFileDialog &dialog, QWidget *widget)

@@ -6,6 +6,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
 #include <QHash>
 #include <QHeaderView>
 #include <QKeySequence>
@@ -17,6 +19,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QShortcut>
+#include <QTabBar>
 #include <QTableView>
 #include <QToolBar>
 #include <QToolButton>
@@ -225,6 +228,9 @@ double contrastIn(const QImage &image, const QRect &area)
     return highest;
 }
 
+// Of a box to choose from, with the margins of its text.
+constexpr int kArrow = 24;
+
 bool isLetter(QChar character)
 {
     return character.isLetter();
@@ -256,6 +262,78 @@ void inspectPixels(QWidget &window, Inspection &found)
     }
 }
 
+/// The room that @p widget gives its text, less than nothing where some of it is cut off.
+int spareRoom(const QWidget &widget)
+{
+    const QFontMetrics metrics = widget.fontMetrics();
+    const auto textWidth = [&metrics](const QString &text) {
+        return metrics.size(Qt::TextShowMnemonic, text).width();
+    };
+    if (const auto *label = qobject_cast<const QLabel *>(&widget)) {
+        if (label->text().isEmpty())
+            return 0;
+        // A label that may be narrower leaves out what it has no room for by itself.
+        if (label->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored)
+            return label->height() - metrics.height();
+        const int height =
+            label->hasHeightForWidth() ? label->heightForWidth(label->width()) : label->sizeHint().height();
+        return qMin(label->height() - height,
+                    label->wordWrap() ? 0 : label->width() - label->sizeHint().width());
+    }
+    if (const auto *button = qobject_cast<const QAbstractButton *>(&widget)) {
+        if (button->text().isEmpty())
+            return 0;
+        const auto *tool = qobject_cast<const QToolButton *>(button);
+        if (tool && tool->toolButtonStyle() == Qt::ToolButtonIconOnly)
+            return 0;
+        const int icon =
+            button->icon().isNull() || (tool && tool->toolButtonStyle() == Qt::ToolButtonTextUnderIcon)
+                ? 0
+                : button->iconSize().width();
+        return qMin(button->width() - textWidth(button->text()) - icon, button->height() - metrics.height());
+    }
+    if (const auto *box = qobject_cast<const QComboBox *>(&widget))
+        return qMin(box->isEditable() ? 0 : box->width() - textWidth(box->currentText()) - kArrow,
+                    box->height() - metrics.height());
+    if (const auto *line = qobject_cast<const QLineEdit *>(&widget))
+        return qMin(line->height() - metrics.height(),
+                    line->text().isEmpty() ? line->width() - textWidth(line->placeholderText()) : 0);
+    if (const auto *group = qobject_cast<const QGroupBox *>(&widget))
+        return group->width() - textWidth(group->title());
+    if (const auto *bar = qobject_cast<const QMenuBar *>(&widget)) {
+        int spare = 0;
+        for (QAction *action : bar->actions())
+            if (action->isVisible())
+                spare = qMin(spare, bar->width() - bar->actionGeometry(action).right());
+        return spare;
+    }
+    if (const auto *tabs = qobject_cast<const QTabBar *>(&widget)) {
+        int spare = 0;
+        for (int tab = 0; tab < tabs->count(); ++tab)
+            spare = qMin(spare, tabs->tabRect(tab).width() - textWidth(tabs->tabText(tab)));
+        return spare;
+    }
+    return 0;
+}
+
+void inspectRoom(const QWidget &window, QStringList &findings)
+{
+    for (const auto *widget : window.findChildren<QWidget *>()) {
+        if (!widget->isVisible())
+            continue;
+        if (const int spare = spareRoom(*widget); spare < 0 && !widget->visibleRegion().isEmpty())
+            findings += u"%1 lacks %2 pixels for its text"_s.arg(told(*widget)).arg(-spare);
+        const auto *header = qobject_cast<const QHeaderView *>(widget);
+        if (!header || header->orientation() != Qt::Horizontal)
+            continue;
+        for (int column = 0; column < header->count(); ++column) {
+            const int lacking = header->sectionSizeHint(column) - header->sectionSize(column);
+            if (!header->isSectionHidden(column) && lacking > 0)
+                findings += u"%1: column %2 lacks %3 pixels"_s.arg(told(*header)).arg(column).arg(lacking);
+        }
+    }
+}
+
 } // namespace
 
 Inspection inspect(QWidget &window)
@@ -269,6 +347,7 @@ Inspection inspect(QWidget &window)
     inspectToolBars(window, found.findings);
     inspectHeaders(window, found.findings);
     inspectPixels(window, found);
+    inspectRoom(window, found.findings);
     found.findings.removeDuplicates();
     return found;
 }

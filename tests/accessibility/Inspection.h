@@ -21,7 +21,8 @@ struct Inspection
  *
  * Each control that takes the focus has a name and a role; so has each button that shows an icon alone. No key stands
  * for two things. Each button of a tool bar can be reached without a mouse. Tables have headers. Text is drawn at
- * 4.5 to 1 against what is behind it, icons at 3 to 1; what is disabled is left out.
+ * 4.5 to 1 against what is behind it, icons at 3 to 1; what is disabled is left out. Labels, buttons, boxes to choose
+ * from, fields, tabs and headers have the room that their texts take in their font.
  */
 [[nodiscard]] Inspection inspect(QWidget &window);
 

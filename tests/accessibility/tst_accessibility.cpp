@@ -5,7 +5,9 @@
 #include "reports/ReportDialog.h"
 #include "reports/WorkbenchTemplateEditor.h"
 #include "samples/AddSampleDialog.h"
+#include "style/Palettes.h"
 #include "support/StrictTest.h"
+#include "window/FirstStepsSession.h"
 #include "window/MainWindow.h"
 #include "window/StyleDialog.h"
 #include "workbench/SampleFixture.h"
@@ -25,6 +27,8 @@
 #include <ozm_widgets/openfilefolderdialog.h>
 
 #include <QAccessible>
+#include <QMainWindow>
+#include <QTranslator>
 
 using namespace Qt::StringLiterals;
 using namespace ozm::test;
@@ -68,7 +72,7 @@ struct Laboratory
     ozm::audit::TrailModel model;
 };
 
-using Made = std::unique_ptr<QWidget>;
+using Made = std::shared_ptr<QWidget>;
 using Maker = std::function<Made(Laboratory &)>;
 
 struct WindowRow
@@ -127,6 +131,12 @@ const std::vector<WindowRow> &windows()
          [](Laboratory &l) {
              return std::make_unique<workbench::MainWindow>(*l.samples.editor, l.samples.trailPath());
          }},
+        {"workbench, first steps",
+         [](Laboratory &) {
+             const std::shared_ptr<workbench::FirstStepsSession> session =
+                 std::move(workbench::FirstStepsSession::make(u"jdoe"_s)).value();
+             return Made(session, &session->window());
+         }},
         {"workbench, new sample",
          [](Laboratory &l) { return std::make_unique<workbench::AddSampleDialog>(*l.samples.editor); }},
         {"workbench, report",
@@ -175,6 +185,73 @@ const std::vector<WindowRow> &windows()
     return rows;
 }
 
+/// How a window comes up.
+struct Look
+{
+    const char *name;
+    QPalette palette;
+    int points = 0; ///< Of the font; 0 is the usual one.
+    QLocale::Language language = QLocale::English;
+    bool isLong = false; ///< Texts are half again as long.
+};
+
+const std::vector<Look> &looks()
+{
+    static const std::vector<Look> rows{
+        {"light, English", OZMStyle::palette(Scheme::Light)},
+        {"dark, German", OZMStyle::palette(Scheme::Dark), 0, QLocale::German},
+        {"high contrast, 8 points, French", palettes().constLast().second, 8, QLocale::French},
+        {"light, 20 points", OZMStyle::palette(Scheme::Light), 20},
+        {"dark, long texts", OZMStyle::palette(Scheme::Dark), 0, QLocale::English, true},
+    };
+    return rows;
+}
+
+/// Texts that are half again as long, as those of another language may be.
+class LongTexts : public QTranslator
+{
+public:
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char *context, const char *text, const char *, int) const override
+    {
+        // The names of keys are read back.
+        const QString source = QString::fromUtf8(text);
+        if (qstrcmp(context, "QShortcut") == 0 || source.size() < 2)
+            return {};
+        // In front, where neither a key, nor an ending of files, nor a placeholder is in the way.
+        return QString((source.size() + 1) / 2, u'o') + source;
+    }
+};
+
+/// Sets up a look, and the usual one at the end.
+class LookGuard
+{
+public:
+    explicit LookGuard(const Look &look)
+        : m_font(QApplication::font())
+    {
+        for (const QString &name : {u"ozm_widgets"_s, u"ozm_audit"_s, u"workbench"_s})
+            (void)ozm::OzmCoreApplication::loadTranslation(look.language, name);
+        if (look.isLong)
+            QCoreApplication::installTranslator(&m_long);
+        QFont font = m_font;
+        if (look.points > 0)
+            font.setPointSize(look.points);
+        QApplication::setFont(font);
+        QApplication::setPalette(look.palette);
+    }
+    ~LookGuard()
+    {
+        QCoreApplication::removeTranslator(&m_long);
+        QApplication::setFont(m_font);
+    }
+    Q_DISABLE_COPY_MOVE(LookGuard)
+
+private:
+    const QFont m_font;
+    LongTexts m_long;
+};
+
 } // namespace
 
 class TestAccessibility : public ozm::test::StrictTest
@@ -191,28 +268,22 @@ private Q_SLOTS:
     void windowsAreForAll_data()
     {
         QTest::addColumn<int>("index");
-        QTest::addColumn<OZMStyle::Scheme>("scheme");
-        QTest::addColumn<QLocale::Language>("language");
-        for (int i = 0; i < int(windows().size()); ++i) {
-            QTest::addRow("%s, light, English", windows()[std::size_t(i)].name)
-                << i << Scheme::Light << QLocale::English;
-            QTest::addRow("%s, dark, German", windows()[std::size_t(i)].name)
-                << i << Scheme::Dark << QLocale::German;
-            QTest::addRow("%s, light, French", windows()[std::size_t(i)].name)
-                << i << Scheme::Light << QLocale::French;
-        }
+        QTest::addColumn<Look>("look");
+        for (int i = 0; i < int(windows().size()); ++i)
+            for (const Look &look : looks())
+                QTest::addRow("%s, %s", windows()[std::size_t(i)].name, look.name) << i << look;
     }
 
     void windowsAreForAll()
     {
         QFETCH(const int, index);
-        QFETCH(const OZMStyle::Scheme, scheme);
-        QFETCH(const QLocale::Language, language);
-        for (const QString &name : {u"ozm_widgets"_s, u"ozm_audit"_s, u"workbench"_s})
-            (void)ozm::OzmCoreApplication::loadTranslation(language, name);
-        QApplication::setPalette(OZMStyle::palette(scheme));
+        QFETCH(const Look, look);
+        const LookGuard guard(look);
         Laboratory laboratory;
         const Made window = windows()[std::size_t(index)].make(laboratory);
+        // Who needs large letters has a large screen; the one of the tests is small.
+        if (qobject_cast<QMainWindow *>(window.get()))
+            window->resize(window->size().expandedTo({1720, 1000}));
         window->show();
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
         QApplication::processEvents();
@@ -220,6 +291,8 @@ private Q_SLOTS:
         const Inspection found = inspect(*window);
         qInfo("%3d controls, text %4.1f, icons %4.1f", found.controls, found.textContrast,
               found.iconContrast);
+        if (const QString folder = qEnvironmentVariable("OZM_PICTURES"); !folder.isEmpty())
+            window->grab().save(folder + u'/' + QString::fromLatin1(QTest::currentDataTag()) + u".png"_s);
         QVERIFY2(found.findings.isEmpty(), qPrintable(u'\n' + found.findings.join(u'\n')));
     }
 };

@@ -10,7 +10,6 @@
 #include "window/MainWindow.h"
 
 #include <ozm_common_core_mini/ColumnNames.h>
-#include <ozm_widgets/OZMDockWidgetTitleBar.h>
 #include <ozm_widgets/OZMStyle.h>
 
 #include <QAction>
@@ -149,13 +148,12 @@ void FirstStepsSession::createWindow()
         steps.push_back({QString::fromLatin1(act.name), tr(act.title), tr(act.text), tr(act.button),
                          QString::fromLatin1(act.code)});
     m_page = new FirstStepsPage(steps, m_window.get());
-    auto *dock = new QDockWidget(tr("First steps"), m_window.get());
-    dock->setObjectName(u"firstStepsDock"_s);
-    dock->setTitleBarWidget(new OZMDockWidgetTitleBar(dock));
-    dock->setWidget(m_page);
     // Beside table and trail, so that all steps are seen at once.
-    m_window->setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
-    m_window->addDockWidget(Qt::LeftDockWidgetArea, dock);
+    if (m_window->isRightToLeft())
+        m_window->setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    else
+        m_window->setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    m_window->addDock(u"firstStepsDock"_s, tr("First steps"), m_page, Qt::LeftDockWidgetArea);
     const QSize size(forFontOf(*m_window, kFirstStepsWindow.width()),
                      forFontOf(*m_window, kFirstStepsWindow.height()));
     m_window->resize(size.boundedTo(m_window->screen()->availableSize()));

@@ -23,6 +23,7 @@ enum class Group
     File,
     Samples,
     History,
+    View,
     Tools,
     Help
 };
@@ -113,6 +114,7 @@ constexpr std::array kMenus{
     MenuRow{Group::File, "fileMenu", QT_TRANSLATE_NOOP("workbench::MainActions", "&File")},
     MenuRow{Group::History, "editMenu", QT_TRANSLATE_NOOP("workbench::MainActions", "&Edit")},
     MenuRow{Group::Samples, "samplesMenu", QT_TRANSLATE_NOOP("workbench::MainActions", "&Samples")},
+    MenuRow{Group::View, "viewMenu", QT_TRANSLATE_NOOP("workbench::MainActions", "&View")},
     MenuRow{Group::Tools, "toolsMenu", QT_TRANSLATE_NOOP("workbench::MainActions", "&Tools")},
     MenuRow{Group::Help, "helpMenu", QT_TRANSLATE_NOOP("workbench::MainActions", "&Help")},
 };
@@ -150,6 +152,10 @@ MainActions::MainActions(QMainWindow *window)
         for (const ActionRow &action : kActions)
             if (action.group == row.group)
                 menu->addAction(this->*action.action);
+        if (row.group == Group::View) {
+            view = menu;
+            menu->addAction(bar->toggleViewAction());
+        }
     }
 }
 

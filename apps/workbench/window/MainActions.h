@@ -4,6 +4,7 @@
 
 class QAction;
 class QMainWindow;
+class QMenu;
 class QToolBar;
 class QUndoStack;
 
@@ -38,6 +39,9 @@ public:
     QAction *editTemplate = nullptr;
     QAction *style = nullptr;
     QAction *firstSteps = nullptr;
+
+    /// For the parts of the window that can be closed, so that keys bring them back.
+    QMenu *view = nullptr;
 
 private:
     void fill(QToolBar *bar);

@@ -33,6 +33,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
+#include <QMenu>
 #include <QScreen>
 #include <QStackedWidget>
 #include <QStandardPaths>
@@ -51,6 +52,7 @@ namespace {
 constexpr int kHistoryWidth = 230;
 constexpr int kTrailHeight = 340;
 constexpr int kDetailsWidth = 240;
+constexpr int kLeastTableWidth = 240;
 constexpr int kStatusMs = 15000;
 
 QLabel *emptyPage(QWidget *parent)
@@ -118,6 +120,7 @@ void MainWindow::createTable()
     m_pages->setObjectName(u"pages"_s);
     m_pages->addWidget(emptyPage(m_pages));
     m_pages->addWidget(m_table);
+    m_pages->setMinimumWidth(forFontOf(*this, kLeastTableWidth));
 
     auto *splitter = new ozm::BlackSplitter(Qt::Horizontal, this);
     splitter->setObjectName(u"splitter"_s);
@@ -139,8 +142,10 @@ QDockWidget *MainWindow::addDock(const QString &name, const QString &title, QWid
     dock->setTitleBarWidget(new OZMDockWidgetTitleBar(dock));
     dock->setWidget(content);
     // The toolkit mirrors what is in the window, but not its sides.
-    const bool atLeft = area == Qt::RightDockWidgetArea && isRightToLeft();
-    addDockWidget(atLeft ? Qt::LeftDockWidgetArea : area, dock);
+    if (isRightToLeft() && (area & (Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea)))
+        area = area == Qt::RightDockWidgetArea ? Qt::LeftDockWidgetArea : Qt::RightDockWidgetArea;
+    addDockWidget(area, dock);
+    m_actions->view->addAction(dock->toggleViewAction());
     return dock;
 }
 

@@ -47,6 +47,9 @@ public:
     void open(const QString &path);
     /// Gives the files that the user opens to @p opener, in place of this window.
     void setOpener(std::function<void(const QString &path)> opener) { m_opener = std::move(opener); }
+    /// Adds a part that can be closed, and that the menu brings back.
+    QDockWidget *addDock(const QString &name, const QString &title, QWidget *content,
+                         Qt::DockWidgetArea area);
     /// Asks what shall become of samples that are not saved; false when they are to stay.
     [[nodiscard]] bool mayDiscard();
     /// Finds mass-spectrometry data for the table.
@@ -63,8 +66,6 @@ protected:
 private:
     void connectActions();
     void createTable();
-    QDockWidget *addDock(const QString &name, const QString &title, QWidget *content,
-                         Qt::DockWidgetArea area);
     void createDocks();
     [[nodiscard]] ozm::audit::TrailView *createTrail();
     void createStatusBar(const QString &trailPath);

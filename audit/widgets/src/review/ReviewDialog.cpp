@@ -21,7 +21,9 @@ namespace ozm::audit {
 namespace {
 
 constexpr int kIconSize = 16;
-constexpr int kReviewWidth = 480;
+// In characters of average width.
+constexpr int kReviewWidth = 70;
+constexpr int kFieldMargins = 3;
 
 QLabel *wrapped(const QString &text)
 {
@@ -85,7 +87,7 @@ ReviewDialog::ReviewDialog(const TrailModel &model, Logger &logger, const Person
 {
     setWindowTitle(tr("Record a review"));
     setObjectName(u"reviewDialog"_s);
-    setMinimumWidth(kReviewWidth);
+    setMinimumWidth(fontMetrics().averageCharWidth() * kReviewWidth);
     d->review.filter = model.filter();
     d->review.upTo = model.total();
     const auto shown = model.shownNumbers();
@@ -108,6 +110,9 @@ ReviewDialog::ReviewDialog(const TrailModel &model, Logger &logger, const Person
     d->discrepancies = new QLineEdit(discrepancies.toText());
     d->discrepancies->setObjectName(u"reviewDiscrepancies"_s);
     d->discrepancies->setPlaceholderText(tr("Numbers of entries, such as 3, 7-9"));
+    const QFontMetrics metrics = d->discrepancies->fontMetrics();
+    d->discrepancies->setMinimumWidth(metrics.horizontalAdvance(d->discrepancies->placeholderText()) +
+                                      kFieldMargins * metrics.averageCharWidth());
     d->problem = wrapped(d->unfit.errorMessage());
     d->problem->setObjectName(u"reviewProblem"_s);
     d->problem->setVisible(d->unfit.hasError());

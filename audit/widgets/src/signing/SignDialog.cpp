@@ -19,17 +19,21 @@ namespace ozm::audit {
 namespace {
 
 constexpr int kContentLines = 4;
-constexpr int kDigestBlock = 8;
-constexpr int kSignWidth = 560;
-constexpr int kRoom = 6;
+constexpr qsizetype kDigestBlock = 8;
+constexpr qsizetype kBlocksInLine = 4;
+// In characters of average width.
+constexpr int kSignWidth = 80;
 
 /// Digits in blocks, so that two people can compare them.
 QString blocks(const QByteArray &hex)
 {
-    QStringList parts;
-    for (qsizetype i = 0; i < hex.size(); i += kDigestBlock)
-        parts.append(QString::fromLatin1(hex.mid(i, kDigestBlock)));
-    return parts.join(u' ');
+    QString lines;
+    for (qsizetype i = 0; i < hex.size(); i += kDigestBlock) {
+        if (i > 0)
+            lines += i % (kBlocksInLine * kDigestBlock) == 0 ? u'\n' : u' ';
+        lines += QString::fromLatin1(hex.mid(i, kDigestBlock));
+    }
+    return lines;
 }
 
 } // namespace
@@ -67,7 +71,7 @@ SignDialog::SignDialog(SigningSession &session, const SignedContent &content, co
 {
     setWindowTitle(tr("Sign"));
     setObjectName(u"signDialog"_s);
-    setMinimumWidth(kSignWidth);
+    setMinimumWidth(fontMetrics().averageCharWidth() * kSignWidth);
     auto *words = new QPlainTextEdit(content.inWords());
     words->setObjectName(u"signedContent"_s);
     words->setReadOnly(true);
@@ -76,8 +80,6 @@ SignDialog::SignDialog(SigningSession &session, const SignedContent &content, co
     auto *digest = new QLabel(blocks(content.digest.toHex()));
     digest->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     digest->setAccessibleName(tr("Digest of what is signed"));
-    digest->setWordWrap(true);
-    digest->setMinimumHeight(digest->fontMetrics().lineSpacing() * 2 + kRoom);
     d->meaning = new QComboBox;
     d->meaning->setObjectName(u"signatureMeaning"_s);
     d->meaning->addItems(meanings.isEmpty()
@@ -108,7 +110,9 @@ SignDialog::SignDialog(SigningSession &session, const SignedContent &content, co
     d->idLabel = qobject_cast<QLabel *>(form->labelForField(d->id));
     form->addRow(tr("&Password:"), d->secret);
     form->addRow(d->problem);
-    form->addRow(new QLabel(tr("A signature stands for your name, and cannot be taken back.")));
+    auto *warning = new QLabel(tr("A signature stands for your name, and cannot be taken back."));
+    warning->setWordWrap(true);
+    form->addRow(warning);
     form->addRow(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &SignDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &SignDialog::reject);

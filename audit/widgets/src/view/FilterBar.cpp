@@ -6,6 +6,7 @@
 
 #include <ozm_widgets/OZMStyle.h>
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -25,6 +26,9 @@ namespace {
 // People stop typing for longer than this before they look at the result.
 constexpr int kTypingMs = 300;
 constexpr int kShownOfSession = 8;
+constexpr int kPresetCharacters = 14;
+// Of the frame, and of the button that empties the line, in characters.
+constexpr int kSearchMargins = 5;
 constexpr auto kKindCount = int(Kind::ReAnchor) + 1;
 
 } // namespace
@@ -43,12 +47,18 @@ FilterBar::FilterBar(const TrailModel &model, QWidget *parent)
     m_search->setObjectName(u"trailSearch"_s);
     m_search->setClearButtonEnabled(true);
     m_search->setPlaceholderText(tr("Text in any part of an entry"));
+    m_search->setMinimumWidth(m_search->fontMetrics().horizontalAdvance(m_search->placeholderText()) +
+                              kSearchMargins * m_search->fontMetrics().averageCharWidth());
     auto *presetLabel = new QLabel(tr("&Look for:"));
     presetLabel->setBuddy(m_preset);
     m_preset->setObjectName(u"trailPreset"_s);
     m_preset->addItem(presetTitle(ReviewPreset::None), int(ReviewPreset::None));
     for (const ReviewPreset preset : reviewPresets())
         m_preset->addItem(presetTitle(preset), int(preset));
+    // The longest of them is not to take the room of the search.
+    m_preset->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_preset->setMinimumContentsLength(kPresetCharacters);
+    m_preset->view()->setAccessibleName(presetLabel->text().remove(u'&'));
     m_add->setObjectName(u"trailFilter"_s);
     m_add->setText(tr("Filte&r"));
     m_add->setIcon(OZMStyle::icon(u"view-filter"_s));
@@ -62,9 +72,9 @@ FilterBar::FilterBar(const TrailModel &model, QWidget *parent)
 
     auto *row = new QHBoxLayout;
     row->addWidget(searchLabel);
-    row->addWidget(m_search, 1);
+    row->addWidget(m_search, 2);
     row->addWidget(presetLabel);
-    row->addWidget(m_preset);
+    row->addWidget(m_preset, 1);
     row->addWidget(m_add);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -94,14 +94,16 @@ void TrailView::Private::build()
     table.setTabKeyNavigation(false);
     table.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    table.horizontalHeader()->setSortIndicator(TrailModel::Number, Qt::AscendingOrder);
+    table.horizontalHeader()->setSortIndicatorShown(true);
+    table.horizontalHeader()->setSectionsClickable(true);
+    // With the style's margins, which a header else gets when it is shown.
+    table.horizontalHeader()->ensurePolished();
     for (int column = 0; column < TrailModel::ColumnCount; ++column) {
         const int width = kWidths.at(std::size_t(column)) *
                           qMax(kUsualFontHeight, table.fontMetrics().height()) / kUsualFontHeight;
         table.setColumnWidth(column, qMax(width, table.horizontalHeader()->sectionSizeHint(column)));
     }
-    table.horizontalHeader()->setSortIndicator(TrailModel::Number, Qt::AscendingOrder);
-    table.horizontalHeader()->setSortIndicatorShown(true);
-    table.horizontalHeader()->setSectionsClickable(true);
     table.horizontalHeader()->setAccessibleName(tr("Columns"));
     table.setContextMenuPolicy(Qt::CustomContextMenu);
     table.installEventFilter(&q);
