@@ -13,6 +13,9 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace ozm::editor {
@@ -23,6 +26,7 @@ using instructions::Condition;
 using instructions::Extent;
 using instructions::Page;
 using instructions::Repeat;
+using instructions::SortKey;
 using instructions::Test;
 
 constexpr int kFieldWidth = 300;
@@ -132,23 +136,41 @@ void InstructionDialog::setAcceptable(bool isAcceptable)
 
 RepeatDialog::RepeatDialog(const Repeat &repeat, const InstructionChoices &choices, QWidget *parent)
     : InstructionDialog("repeatDialog", tr("Repeat for each row"), choices, parent)
+    , m_former(repeat.sort)
 {
     addExtent(tr("Repeat:"), repeat.extent);
     m_of = addList("repeatOf", tr("&For each of:"), repeat.of);
-    m_sort = addCode("repeatSort", tr("&Sorted by:"), repeat.sort);
-    m_sort->lineEdit()->setPlaceholderText(tr("As they come"));
-    m_descending = named(new QCheckBox(tr("The &highest first"), this), "repeatDescending");
-    m_descending->setChecked(repeat.isDescending);
-    form()->addRow(QString(), m_descending);
+    struct Texts
+    {
+        const char *name;
+        QString label;
+        const char *checkName;
+        QString check;
+    };
+    const std::array texts{
+        Texts{"repeatSort", tr("&Sorted by:"), "repeatDescending", tr("The &highest first")},
+        Texts{"repeatThen", tr("&Then by:"), "repeatThenDescending", tr("The h&ighest first")}};
+    for (const Texts &each : texts) {
+        const SortKey key = repeat.sort.value(m_sort.size());
+        m_sort.append(addCode(each.name, each.label, key.code));
+        m_sort.constLast()->lineEdit()->setPlaceholderText(tr("As they come"));
+        m_descending.append(named(new QCheckBox(each.check, this), each.checkName));
+        m_descending.constLast()->setChecked(key.isDescending);
+        form()->addRow(QString(), m_descending.constLast());
+    }
     m_empty = addLine("repeatEmpty", tr("&Without any:"), repeat.empty, tr("Nothing is shown"));
     addButtons();
 }
 
 Repeat RepeatDialog::repeat() const
 {
-    const QString sort = m_sort->currentText().trimmed();
-    return {extent(), m_of->currentData().toString(), sort, !sort.isEmpty() && m_descending->isChecked(),
-            m_empty->text()};
+    QList<SortKey> sort;
+    for (qsizetype index = 0; index < m_sort.size(); ++index)
+        sort.append({m_sort.at(index)->currentText().trimmed(), m_descending.at(index)->isChecked()});
+    // Those that the template says beyond the fields stay.
+    sort += m_former.sliced(std::min(m_former.size(), sort.size()));
+    sort.removeIf([](const SortKey &key) { return key.code.isEmpty(); });
+    return {extent(), m_of->currentData().toString(), sort, m_empty->text()};
 }
 
 ConditionDialog::ConditionDialog(const Condition &condition, const InstructionChoices &choices,

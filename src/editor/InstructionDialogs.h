@@ -78,8 +78,9 @@ public:
 
 private:
     QComboBox *m_of;
-    QComboBox *m_sort;
-    QCheckBox *m_descending;
+    const QList<instructions::SortKey> m_former;
+    QList<QComboBox *> m_sort;
+    QList<QCheckBox *> m_descending;
     QLineEdit *m_empty;
 };
 

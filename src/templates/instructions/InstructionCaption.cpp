@@ -58,8 +58,11 @@ struct Captioner
     {
         QString text =
             repeat.of.isEmpty() ? Texts::tr("For each row") : Texts::tr("For each of %1").arg(repeat.of);
-        if (!repeat.sort.isEmpty())
-            text += Texts::tr(", by %1").arg(repeat.sort);
+        QStringList codes;
+        for (const SortKey &key : repeat.sort)
+            codes.append(key.code);
+        if (!codes.isEmpty())
+            text += Texts::tr(", by %1").arg(codes.join(", "_L1));
         return repeat.extent == Extent::Row ? text : text + u'…';
     }
     QString operator()(const Condition &condition) const
@@ -68,6 +71,7 @@ struct Captioner
             Texts::tr("If %1 %2 %3").arg(condition.code, testName(condition.test), condition.value).trimmed();
         return condition.extent == Extent::Row ? text : text + u'…';
     }
+    QString operator()(const Else & /*other*/) const { return Texts::tr("Else") + u'…'; }
     QString operator()(const End & /*end*/) const { return Texts::tr("End"); }
     QString operator()(const Page &page) const
     {

@@ -21,6 +21,7 @@ constexpr auto kDataPrefix = "data-"_L1;
 
 constexpr auto kRepeat = "repeat"_L1;
 constexpr auto kCondition = "if"_L1;
+constexpr auto kElse = "else"_L1;
 constexpr auto kEnd = "end"_L1;
 constexpr auto kPage = "page"_L1;
 constexpr auto kRowSuffix = "-row"_L1;
@@ -79,12 +80,12 @@ QString withoutEntities(const QString &text)
     return result.append(QStringView(text).sliced(at));
 }
 
-QString written(QLatin1StringView name, const QString &value)
+QString written(QAnyStringView name, const QString &value)
 {
-    return u' ' + name + "=\""_L1 + value.toHtmlEscaped() + u'"';
+    return u' ' + name.toString() + "=\""_L1 + value.toHtmlEscaped() + u'"';
 }
 
-QString writtenUnless(const QString &usual, QLatin1StringView name, const QString &value)
+QString writtenUnless(const QString &usual, QAnyStringView name, const QString &value)
 {
     return value == usual ? QString() : written(name, value);
 }
@@ -110,7 +111,12 @@ public:
             fail(Texts::tr("\"%1\" is not an attribute.").arg(rest));
     }
 
-    QString text(QLatin1StringView name, const QString &usual = {})
+    [[nodiscard]] bool has(const QString &name) const
+    {
+        return std::ranges::find(m_attributes, name, &Attribute::name) != m_attributes.end();
+    }
+
+    QString text(QAnyStringView name, const QString &usual = {})
     {
         const auto found = std::ranges::find(m_attributes, name, &Attribute::name);
         if (found == m_attributes.end())
@@ -129,7 +135,7 @@ public:
     }
 
     template <typename Value, std::size_t Count>
-    Value word(QLatin1StringView name, const std::array<Word<Value>, Count> &words)
+    Value word(QAnyStringView name, const std::array<Word<Value>, Count> &words)
     {
         const QString value = text(name, words.front().text);
         const auto found = std::ranges::find(words, value, &Word<Value>::text);
@@ -207,9 +213,9 @@ private:
     }
 
     template <typename Value>
-    Value refuse(QLatin1StringView name, const QString &value, Value usual)
+    Value refuse(QAnyStringView name, const QString &value, Value usual)
     {
-        fail(Texts::tr("The attribute \"%1\" cannot be \"%2\".").arg(name, value));
+        fail(Texts::tr("The attribute \"%1\" cannot be \"%2\".").arg(name.toString(), value));
         return usual;
     }
 
@@ -225,10 +231,25 @@ Reading reading(Attributes &attributes, const Instruction &instruction)
     return {instruction, {}};
 }
 
+// "sort", "sort-2" and so on: a name may have any sign in it that could stand between names.
+QString sortName(int index)
+{
+    return index == 0 ? u"sort"_s : u"sort-%1"_s.arg(index + 1);
+}
+
+QString orderName(int index)
+{
+    return index == 0 ? u"order"_s : u"order-%1"_s.arg(index + 1);
+}
+
 Reading readRepeat(Attributes &attributes, Extent extent)
 {
-    Repeat repeat{extent, attributes.text("of"_L1), attributes.text("sort"_L1)};
-    repeat.isDescending = attributes.word("order"_L1, kOrders);
+    Repeat repeat{extent, attributes.text("of"_L1)};
+    const SortKey first{attributes.text(sortName(0)), attributes.word(orderName(0), kOrders)};
+    if (!first.code.isEmpty())
+        repeat.sort.append(first);
+    for (int index = 1; index < kMostSortKeys && attributes.has(sortName(index)); ++index)
+        repeat.sort.append({attributes.text(sortName(index)), attributes.word(orderName(index), kOrders)});
     repeat.empty = attributes.text("empty"_L1);
     return reading(attributes, repeat);
 }
@@ -265,11 +286,14 @@ struct Writer
 {
     QString operator()(const Repeat &repeat) const
     {
-        return comment(
-            nameWith(kRepeat, repeat.extent),
-            writtenUnless({}, "of"_L1, repeat.of) + writtenUnless({}, "sort"_L1, repeat.sort) +
-                writtenUnless(kOrders.front().text, "order"_L1, wordOf(kOrders, repeat.isDescending)) +
-                writtenUnless({}, "empty"_L1, repeat.empty));
+        QString sort;
+        for (int index = 0; index < repeat.sort.size(); ++index) {
+            const SortKey &key = repeat.sort.at(index);
+            sort += written(sortName(index), key.code) +
+                    writtenUnless(kOrders.front().text, orderName(index), wordOf(kOrders, key.isDescending));
+        }
+        return comment(nameWith(kRepeat, repeat.extent), writtenUnless({}, "of"_L1, repeat.of) + sort +
+                                                             writtenUnless({}, "empty"_L1, repeat.empty));
     }
     QString operator()(const Condition &condition) const
     {
@@ -277,6 +301,7 @@ struct Writer
                        written("code"_L1, condition.code) + written("is"_L1, wordOf(kTests, condition.test)) +
                            writtenUnless({}, "value"_L1, condition.value));
     }
+    QString operator()(const Else & /*other*/) const { return comment(kElse, {}); }
     QString operator()(const End & /*end*/) const { return comment(kEnd, {}); }
     QString operator()(const Page &page) const
     {
@@ -347,6 +372,8 @@ Reading readComment(const QString &comment)
     }
     if (name == kPage)
         return readPage(attributes);
+    if (name == kElse)
+        return reading(attributes, Else());
     if (name == kEnd)
         return reading(attributes, End());
     return {std::nullopt, Texts::tr("There is no instruction \"%1\".").arg(name)};

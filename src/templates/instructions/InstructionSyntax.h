@@ -27,13 +27,21 @@ enum class Extent
     Row      ///< The table row or list item around it.
 };
 
+struct SortKey
+{
+    QString code = {}; ///< Without brackets.
+    bool isDescending = false;
+
+    bool operator==(const SortKey &) const = default;
+};
+
 /// Has a part repeat for each row of data.
 struct Repeat
 {
     Extent extent = Extent::Section;
-    QString of = {};   ///< The name of a list of rows; empty for the rows of the report.
-    QString sort = {}; ///< The name of a code; empty for the order of the rows.
-    bool isDescending = false;
+    QString of = {}; ///< The name of a list of rows; empty for the rows of the report.
+    QList<SortKey> sort =
+        {}; ///< Each is for rows that are alike in those before; without, the rows keep their order.
     QString empty = {}; ///< Shown where there is no row.
 
     bool operator==(const Repeat &) const = default;
@@ -58,6 +66,12 @@ struct Condition
     QString value = {};
 
     bool operator==(const Condition &) const = default;
+};
+
+/// Begins the other part of the section that was begun last: for a condition that does not hold, and for no row.
+struct Else
+{
+    bool operator==(const Else &) const = default;
 };
 
 /// Ends the section that was begun last.
@@ -127,7 +141,7 @@ struct Page
     bool operator==(const Page &) const = default;
 };
 
-using Instruction = std::variant<Repeat, Condition, End, CodeFormat, Page>;
+using Instruction = std::variant<Repeat, Condition, End, CodeFormat, Page, Else>;
 
 /// An instruction, or the reason why a text that looks like one is none.
 struct Reading
@@ -140,6 +154,7 @@ struct Reading
 inline constexpr int kMostDigits = 15;
 inline constexpr int kMostPixels = 10000;
 inline constexpr int kMostMargin = 100;
+inline constexpr int kMostSortKeys = 3;
 inline constexpr std::array kPageSizes{"A3"_L1, "A4"_L1, "A5"_L1, "Letter"_L1, "Legal"_L1};
 
 /// True for a comment that begins as instructions do.

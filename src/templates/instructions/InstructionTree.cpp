@@ -57,8 +57,11 @@ public:
         for (const OpenSection &open : std::as_const(m_open))
             fail(open.mark, Texts::tr("The section has no end."));
         nest();
-        for (const InstructedPart &part : std::as_const(m_tree.parts))
+        for (InstructedPart &part : m_tree.parts) {
+            if (part.held.isEmpty() && part.otherwise.isEmpty())
+                part.held = part.range;
             addCuts(part);
+        }
         std::ranges::sort(m_tree.cuts, {}, &SourceRange::start);
         std::ranges::sort(m_tree.faulty, {}, &FaultyInstruction::position);
         return std::move(m_tree);
@@ -71,6 +74,9 @@ private:
         SourceRange mark;
         SourceRange line;
         int parent;
+        SourceRange otherMark = {};
+        SourceRange otherLine = {};
+        bool isFaulty = false; ///< Its other part is.
     };
 
     /// An instruction with the line that it stands in alone, or by itself.
@@ -98,6 +104,8 @@ private:
             fail(mark, reading.error);
         } else if (std::holds_alternative<End>(*reading.instruction)) {
             endSection(index, mark);
+        } else if (std::holds_alternative<Else>(*reading.instruction)) {
+            takeElse(index, mark);
         } else if (std::holds_alternative<Page>(*reading.instruction)) {
             takePage(index, mark, *reading.instruction);
         } else if (extentOf(*reading.instruction) == Extent::Row) {
@@ -116,6 +124,31 @@ private:
         return condition ? condition->extent : Extent::Section;
     }
 
+    /// Where it cannot be followed, its section cannot, either: both parts would be shown.
+    void takeElse(qsizetype index, const SourceRange &mark)
+    {
+        if (m_open.isEmpty()) {
+            fail(mark, Texts::tr("There is no section that has another part here."));
+            return;
+        }
+        OpenSection &open = m_open.last();
+        const Line line = lineOf(index);
+        const auto *repeat = std::get_if<Repeat>(&open.instruction);
+        QString error;
+        if (!open.otherMark.isEmpty())
+            error = Texts::tr("The section has another part already.");
+        else if (open.parent != line.parent)
+            error = Texts::tr("The other part begins in another element than the section.");
+        else if (repeat && !repeat->empty.isEmpty())
+            error = Texts::tr("The section has a text for no rows already.");
+        open.otherMark = mark;
+        open.otherLine = line.range;
+        if (error.isNull())
+            return;
+        open.isFaulty = true;
+        fail(mark, error);
+    }
+
     void endSection(qsizetype index, const SourceRange &mark)
     {
         if (m_open.isEmpty()) {
@@ -129,7 +162,17 @@ private:
             fail(mark, Texts::tr("The section ends in another element than it begins in."));
             return;
         }
-        m_tree.parts.append({open.instruction, {open.line.start, line.range.end}, open.mark});
+        if (open.isFaulty) {
+            fail(open.mark, Texts::tr("The section cannot be followed for its other part."));
+            fail(mark, Texts::tr("The section cannot be followed for its other part."));
+            return;
+        }
+        InstructedPart part{open.instruction, {open.line.start, line.range.end}, open.mark};
+        if (!open.otherLine.isEmpty()) {
+            part.held = {part.range.start, open.otherLine.start};
+            part.otherwise = {open.otherLine.end, part.range.end};
+        }
+        m_tree.parts.append(part);
         m_lines.append({open.line, line.range});
     }
 

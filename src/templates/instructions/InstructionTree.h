@@ -28,10 +28,13 @@ struct SourceRange
 /// A part of a template with an instruction about it.
 struct InstructedPart
 {
-    Instruction instruction; ///< Never an End.
+    Instruction instruction; ///< Never an End or Else.
     SourceRange range;
     SourceRange mark;         ///< The instruction itself.
     QList<int> children = {}; ///< Indexes of the parts in this one, in their order.
+    SourceRange otherwise =
+        {}; ///< The end of the range where it has another part; the instruction Else before it.
+    SourceRange held = {}; ///< The range up to that instruction; all of it where there is none.
 };
 
 /**

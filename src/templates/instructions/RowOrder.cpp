@@ -22,7 +22,12 @@ struct Key
     Kind kind = Nothing;
     double number = 0;
     QString text = {};
-    RowNode *row = nullptr;
+};
+
+struct KeyedRow
+{
+    RowNode *row;
+    std::vector<Key> keys;
 };
 
 /// The end of the digits that begin at @p from.
@@ -62,11 +67,10 @@ int compareTexts(QStringView a, QStringView b)
     return int(a.size() - i > 0) - int(b.size() - j > 0);
 }
 
-Key keyOf(RowNode *row, const QString &name)
+Key keyOf(const RowNode &row, const QString &name)
 {
-    const auto field = fieldOf(name, *row);
+    const auto field = fieldOf(name, row);
     Key key;
-    key.row = row;
     if (!field || isEmpty(*field))
         return key;
     const auto number = numberOf(*field);
@@ -76,28 +80,41 @@ Key keyOf(RowNode *row, const QString &name)
     return key;
 }
 
+/// Less than zero, zero or more, as @p a stands before @p b.
+int compareKeys(const Key &a, const Key &b, bool isDescending)
+{
+    // Rows without a value stand last in either order.
+    if (a.kind != b.kind && (a.kind == Key::Nothing || b.kind == Key::Nothing))
+        return a.kind == Key::Nothing ? 1 : -1;
+    const Key &first = isDescending ? b : a;
+    const Key &second = isDescending ? a : b;
+    if (first.kind != second.kind)
+        return first.kind < second.kind ? -1 : 1;
+    if (first.kind == Key::Number)
+        return int(first.number > second.number) - int(first.number < second.number);
+    return compareTexts(first.text, second.text);
+}
+
 } // namespace
 
-QList<RowNode *> sorted(const QList<RowNode *> &rows, const QString &name, bool isDescending)
+QList<RowNode *> sorted(const QList<RowNode *> &rows, const QList<SortKey> &by)
 {
-    std::vector<Key> keys;
-    keys.reserve(size_t(rows.size()));
-    for (RowNode *row : rows)
-        keys.push_back(keyOf(row, name));
-    std::ranges::stable_sort(keys, [&](const Key &a, const Key &b) {
-        // Rows without a value stand last in either order.
-        if (a.kind != b.kind && (a.kind == Key::Nothing || b.kind == Key::Nothing))
-            return b.kind == Key::Nothing;
-        const Key &first = isDescending ? b : a;
-        const Key &second = isDescending ? a : b;
-        if (first.kind != second.kind)
-            return first.kind < second.kind;
-        return first.kind == Key::Number ? first.number < second.number
-                                         : compareTexts(first.text, second.text) < 0;
+    std::vector<KeyedRow> keyed;
+    keyed.reserve(size_t(rows.size()));
+    for (RowNode *row : rows) {
+        keyed.push_back({row, {}});
+        for (const SortKey &key : by)
+            keyed.back().keys.push_back(keyOf(*row, key.code));
+    }
+    std::ranges::stable_sort(keyed, [&by](const KeyedRow &a, const KeyedRow &b) {
+        int order = 0;
+        for (size_t index = 0; order == 0 && index < a.keys.size(); ++index)
+            order = compareKeys(a.keys[index], b.keys[index], by.at(qsizetype(index)).isDescending);
+        return order < 0;
     });
     QList<RowNode *> result;
-    for (const Key &key : keys)
-        result.append(key.row);
+    for (const KeyedRow &each : keyed)
+        result.append(each.row);
     return result;
 }
 

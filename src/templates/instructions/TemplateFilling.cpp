@@ -198,13 +198,23 @@ private:
             addSource({at, part.range.start}, composed);
             at = part.range.end;
             if (const auto *condition = std::get_if<Condition>(&part.instruction)) {
-                if (holds(*condition, conditionField(*condition, part, scope)))
-                    compose(part.range, part.children, scope, composed);
+                const bool isHeld = holds(*condition, conditionField(*condition, part, scope));
+                const SourceRange &shown = isHeld ? part.held : part.otherwise;
+                compose(shown, childrenIn(shown, part), scope, composed);
                 continue;
             }
             composed.addResult(resultOf(part, scope));
         }
         addSource({at, range.end}, composed);
+    }
+
+    [[nodiscard]] QList<int> childrenIn(const SourceRange &range, const InstructedPart &part) const
+    {
+        QList<int> children;
+        for (const int index : part.children)
+            if (range.holds(m_tree.parts.at(index).range))
+                children.append(index);
+        return children;
     }
 
     void addSource(SourceRange range, Composed &composed)
@@ -285,16 +295,18 @@ private:
         if (!rows)
             return refuse(part, Texts::tr("There is no list of rows \"%1\".").arg(repeat.of));
         if (rows->isEmpty())
-            return withoutRows(repeat, part);
+            return part.otherwise.isEmpty() ? withoutRows(repeat, part)
+                                            : filled(part.otherwise, childrenIn(part.otherwise, part), scope);
         if (!repeat.sort.isEmpty())
-            rows = sorted(*rows, repeat.sort, repeat.isDescending);
+            rows = sorted(*rows, repeat.sort);
+        const QList<int> children = childrenIn(part.held, part);
         QString text;
         qsizetype number = 0;
         for (const RowNode *row : std::as_const(*rows)) {
             if (++m_copies > kMostCopies || m_characters > kMostCharacters)
                 return refuse(part, Texts::tr("The part becomes too long."));
             const TemplateScope own{row, nullptr, &scope, ++number, rows->size()};
-            const QString copy = filled(part.range, part.children, own);
+            const QString copy = filled(part.held, children, own);
             m_characters += copy.size();
             text += copy;
         }
