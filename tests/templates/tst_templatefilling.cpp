@@ -4,6 +4,7 @@
 #include <ozm_common_core_mini/RowNode.h>
 #include <ozm_widgets/AbstractTemplateEditor.h>
 #include <ozm_widgets/ReportPaper.h>
+#include <ozm_widgets/TemplateDocument.h>
 #include <ozm_widgets/TemplateEditorJSEngine.h>
 #include <ozm_widgets/TemplateFilling.h>
 
@@ -24,11 +25,13 @@ class Context
     Q_PROPERTY(QString user MEMBER user)
     Q_PROPERTY(QDateTime moment MEMBER moment)
     Q_PROPERTY(QImage plot MEMBER plot)
+    Q_PROPERTY(QByteArray drawing MEMBER drawing)
 
 public:
     QString user = u"A & <b>"_s;
     QDateTime moment = QDateTime(QDate(2026, 2, 3), QTime(4, 5));
     QImage plot = QImage(2, 1, QImage::Format_RGB32);
+    QByteArray drawing = "<svg width='900' height='900'><text x='9' y='90'>Ion</text></svg>";
 };
 
 std::unique_ptr<RowNode> ion(const QString &name, const QVariant &charge, const QVariant &mass)
@@ -153,6 +156,18 @@ private Q_SLOTS:
               {"with entities", u"code=\"User\" is=\"equal\" value=\"A &amp; &lt;b&#62;\""_s, true}})
             add(name, u"<p><!--ozm:if %1--></p><i>x</i><p><!--ozm:end--></p>."_s.arg(test),
                 result ? u"<i>x</i>."_s : u"."_s);
+        const QString wild =
+            u"<!--ozm:if code=\"Charge\" is=\"%1\" value=\"2\"-->\n<!--ozm:repeat of=\"Ions\"-->"
+            "[Name]<!--ozm:else-->x<!--ozm:end-->\n<p><!--ozm:else--></p>\n"
+            "<!--ozm:if code=\"Nope\" is=\"present\"-->y<!--ozm:else-->[Name]<!--ozm:end-->\n<!--ozm:end-->."_s;
+        add("the one part", wild.arg(u"equal"_s), u"y10y9b2\n."_s);
+        add("the other part", wild.arg(u"above"_s), u"T12\n."_s);
+        add("other part for no rows",
+            u"<!--ozm:repeat of=\"None\"-->[Name]<!--ozm:else--><b>[Charge]</b><!--ozm:end-->"_s,
+            u"<b>2</b>"_s);
+        add("sorted by several codes",
+            u"<!--ozm:repeat of=\"Ions\" sort=\"Nope\" sort-2=\"Charge\" order-2=\"descending\"-->[Name] <!--ozm:end-->"_s,
+            u"y9 b2 y10 "_s);
         add("rows under a condition",
             u"<ul><li><!--ozm:if-row code=\"Charge\" is=\"above\" value=\"1\"--><!--ozm:repeat-row of=\"Ions\"-->[Name]</li></ul>"_s,
             u"<ul><li>y9</li><li>b2</li></ul>"_s);
@@ -221,6 +236,15 @@ private Q_SLOTS:
         for (const auto &page : {u"<!--ozm:page size=\"A9\"-->"_s, u"<!--ozm:page margins=\"1 2 3\"-->"_s,
                                  u"<!--ozm:page margins=\"1 2 3 -4\"-->"_s})
             add(qPrintable(page), page, page);
+        add("no section to have another part", u"a<!--ozm:else-->"_s, u"<!--ozm:else-->"_s);
+        add("three parts", begin + u"a<!--ozm:else-->b<!--ozm:else-->c"_s + end,
+            begin + u"|<!--ozm:else-->|"_s + end);
+        add("another part in another element", begin + u"a<b><!--ozm:else-->b</b>"_s + end,
+            begin + u"|<!--ozm:else-->|"_s + end);
+        add("two ways for no rows", u"<!--ozm:repeat empty=\"-\"-->a<!--ozm:else-->b<!--ozm:end-->"_s,
+            u"<!--ozm:repeat empty=\"-\"-->|<!--ozm:else-->|<!--ozm:end-->"_s);
+        add("a second order without a first", u"<!--ozm:repeat sort=\"a\" order-2=\"descending\"-->b"_s,
+            u"<!--ozm:repeat sort=\"a\" order-2=\"descending\"-->"_s);
         add("unknown list", u"<!--ozm:repeat of=\"Nope\"-->b<!--ozm:end-->"_s,
             u"<!--ozm:repeat of=\"Nope\"-->"_s);
         add("a format of two codes", u"<span data-format=\"text\">b b</span>"_s,
@@ -320,6 +344,23 @@ private Q_SLOTS:
         QVERIFY(filled(u"[Plot]"_s).startsWith(u"<p><img src=\"data:image/png;base64,iVBOR"_s));
         QVERIFY(filled(u"[Plot]"_s).endsWith(u"\" width=\"40\" alt=\"A &quot;plot&quot;\"/></p>"_s));
         QCOMPARE(filled(u"[Name]"_s), u"<p>A &quot;plot&quot;</p>"_s);
+        // A drawing stays one on paper: its letters are letters. One that would read a file is not shown.
+        QVERIFY(filled(u"[Drawing]"_s).contains(u"src=\"data:image/svg+xml;base64,"_s));
+        const QTemporaryDir folder;
+        const auto sizeOf = [&folder](const QString &html) {
+            const QString path = folder.filePath(u"a.pdf"_s);
+            return ozm::ReportPaper(html).writePdf(path).hasError() ? 0 : QFileInfo(path).size();
+        };
+        const qint64 size = sizeOf(filled(u"[Drawing]"_s));
+        QVERIFY(size > 0 && size < 20'000);
+        ozm::TemplateDocument document;
+        const auto isShown = [&document](const QString &href) {
+            const QString svg =
+                u"data:image/svg+xml,<svg width='9' height='9'><a xlink:href='%1'/></svg>"_s;
+            return document.resource(QTextDocument::ImageResource, QUrl(svg.arg(href))).typeId() !=
+                   document.resource(QTextDocument::ImageResource, QUrl(u"x.png"_s)).typeId();
+        };
+        QVERIFY(!isShown(u"/x.png"_s) && isShown(u"#a"_s));
     }
 };
 

@@ -51,7 +51,7 @@ ReportContext ReportContext::about(const RowNode &row) const
     return context;
 }
 
-QImage ReportContext::ionPlot() const
+QByteArray ReportContext::ionPlot() const
 {
     return stickPlot(mass, charge);
 }

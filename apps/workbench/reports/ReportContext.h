@@ -2,8 +2,8 @@
 
 #include "reports/ReportTrail.h"
 
+#include <QByteArray>
 #include <QDateTime>
-#include <QImage>
 #include <QObject>
 #include <QString>
 #include <QVariantList>
@@ -34,7 +34,7 @@ class ReportContext
     Q_PROPERTY(QString path MEMBER path)
     Q_PROPERTY(QString signatures MEMBER signatures)
     Q_PROPERTY(int changedSinceEntry MEMBER changedSinceEntry)
-    Q_PROPERTY(QImage ionPlot READ ionPlot)
+    Q_PROPERTY(QByteArray ionPlot READ ionPlot)
 
 public:
     ReportContext() = default;
@@ -44,8 +44,8 @@ public:
     [[nodiscard]] ReportContext about(const RowNode &row) const;
 
     [[nodiscard]] QString time() const { return moment.toString(Qt::ISODate); }
-    /// The expected ions over m/z; null where the mass is not known.
-    [[nodiscard]] QImage ionPlot() const;
+    /// The expected ions over m/z, as SVG; empty where the mass is not known.
+    [[nodiscard]] QByteArray ionPlot() const;
     [[nodiscard]] int sampleCount() const { return static_cast<int>(samples.size()); }
 
     QString user;

@@ -3,6 +3,7 @@
 #include "window/FileQuestions.h"
 
 #include <ozm_widgets/OZMStyle.h>
+#include <ozm_widgets/TemplateDocument.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -66,6 +67,8 @@ ReportDialog::ReportDialog(std::vector<RowNode> rows, const ReportContext &conte
     paper.setColor(QPalette::Base, Qt::white);
     paper.setColor(QPalette::Text, Qt::black);
     m_preview->setPalette(paper);
+    // It draws plots as paper does.
+    m_preview->setDocument(new ozm::TemplateDocument(m_preview));
     m_preview->document()->setDocumentMargin(24);
 
     m_preview->setAccessibleName(tr("Preview"));

@@ -2,7 +2,7 @@
 
 #include "reports/ReportLists.h"
 
-#include <QPainter>
+#include <QString>
 
 using namespace Qt::StringLiterals;
 
@@ -10,46 +10,54 @@ namespace workbench {
 
 namespace {
 
-// In units of the page; each has as many dots as a good printer shows of it.
+// In units of the page.
 constexpr int kWidth = 560;
 constexpr int kHeight = 130;
-constexpr int kScale = 4;
 constexpr int kEdge = 24;
-constexpr int kFontSize = 9;
-const QColor kAxis(0x51, 0x60, 0x6d);
-const QColor kChosen(0x24, 0x50, 0x6f);
-const QColor kOther(0xa0, 0xb0, 0xbc);
+constexpr int kGap = 5;
+constexpr auto kAxis = "#51606d"_L1;
+constexpr auto kChosen = "#24506f"_L1;
+constexpr auto kOther = "#a0b0bc"_L1;
+
+QString svgNumber(double value)
+{
+    return QString::number(value, 'f', 2);
+}
+
+QString svgLine(double x1, double y1, double x2, double y2, int width, QLatin1StringView color)
+{
+    return u"<line x1=\"%1\" y1=\"%2\" x2=\"%3\" y2=\"%4\" stroke=\"%5\" stroke-width=\"%6\"/>"_s.arg(
+        svgNumber(x1), svgNumber(y1), svgNumber(x2), svgNumber(y2), color, QString::number(width));
+}
+
+QString svgLabel(double x, double y, QLatin1StringView anchor, QLatin1StringView color, const QString &text)
+{
+    return u"<text x=\"%1\" y=\"%2\" text-anchor=\"%3\" fill=\"%4\">%5</text>"_s.arg(
+        svgNumber(x), svgNumber(y), anchor, color, text);
+}
 
 } // namespace
 
-QImage stickPlot(double mass, int charge)
+QByteArray stickPlot(double mass, int charge)
 {
     if (!(mass > 0))
         return {};
-    QImage image(kWidth * kScale, kHeight * kScale, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(kScale, kScale);
-    QFont font(u"DejaVu Sans"_s);
-    font.setPixelSize(kFontSize);
-    painter.setFont(font);
     const double highest = mzOf(mass, 1) * 1.05;
     const int floor = kHeight - kEdge;
-    painter.setPen(QPen(kAxis, 1));
-    painter.drawLine(kEdge, floor, kWidth - kEdge, floor);
-    painter.drawText(QRect(0, floor, kWidth - 2, kEdge), Qt::AlignRight | Qt::AlignBottom, u"m/z"_s);
+    QString svg =
+        u"<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%1\" height=\"%2\" viewBox=\"0 0 %1 %2\" "
+        "font-family=\"DejaVu Sans\" font-size=\"9\">"_s.arg(kWidth)
+            .arg(kHeight);
+    svg += svgLine(kEdge, floor, kWidth - kEdge, floor, 1, kAxis);
+    svg += svgLabel(kWidth - 2, kHeight - kGap, "end"_L1, kAxis, u"m/z"_s);
     for (int each = 1; each <= highestCharge(charge); ++each) {
         const double x = kEdge + mzOf(mass, each) / highest * (kWidth - 2 * kEdge);
         const bool isChosen = each == charge;
         const int top = isChosen ? kEdge : (kEdge + floor) / 2;
-        painter.setPen(QPen(isChosen ? kChosen : kOther, 2));
-        painter.drawLine(QPointF(x, floor), QPointF(x, top));
-        painter.setPen(isChosen ? kChosen : kAxis);
-        painter.drawText(QRectF(x - kEdge, top - kEdge, 2 * kEdge, kEdge - 2),
-                         Qt::AlignHCenter | Qt::AlignBottom, u"%1+"_s.arg(each));
+        svg += svgLine(x, floor, x, top, 2, isChosen ? kChosen : kOther);
+        svg += svgLabel(x, top - kGap, "middle"_L1, isChosen ? kChosen : kAxis, u"%1+"_s.arg(each));
     }
-    return image;
+    return (svg + "</svg>"_L1).toUtf8();
 }
 
 } // namespace workbench

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QImage>
+#include <QByteArray>
 
 namespace workbench {
 
-/// The ions of a molecule as sticks over m/z, the one of @p charge in a colour of its own; sharp in print. Null where
-/// @p mass is not positive.
-[[nodiscard]] QImage stickPlot(double mass, int charge);
+/// The ions of a molecule as sticks over m/z, the one of @p charge in a colour of its own: an SVG, so that its lines and
+/// letters are as sharp as those of the report. Empty where @p mass is not positive.
+[[nodiscard]] QByteArray stickPlot(double mass, int charge);
 
 } // namespace workbench

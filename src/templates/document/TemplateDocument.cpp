@@ -4,6 +4,7 @@
 #include "templates/document/TemplateChip.h"
 #include "templates/document/TemplateParts.h"
 #include "templates/document/TemplateSourceWriter.h"
+#include "templates/document/VectorImages.h"
 #include "templates/instructions/InstructionTree.h"
 #include "templates/syntax/HtmlScanner.h"
 
@@ -218,6 +219,7 @@ TemplateDocument::TemplateDocument(QObject *parent)
     , d(std::make_unique<Private>())
 {
     documentLayout()->registerHandler(editor::kChipObject, &d->painter);
+    new editor::VectorImages(*this);
 }
 
 TemplateDocument::~TemplateDocument() = default;
@@ -342,7 +344,9 @@ QVariant TemplateDocument::loadResource(int type, const QUrl &name)
 {
     // A template may come from anywhere: only the data that it carries itself is shown.
     QVariant data;
-    if (name.scheme() == "data"_L1)
+    const QString text = name.toString(QUrl::FullyEncoded);
+    const bool isRefused = editor::isSvgName(text) && editor::svgIn(text).isEmpty();
+    if (name.scheme() == "data"_L1 && !isRefused)
         data = QTextDocument::loadResource(type, name);
     // Without an image, the toolkit would look for a file of that name.
     return data.isNull() && type == ImageResource ? QVariant(missingImage()) : data;

@@ -73,7 +73,7 @@ QByteArray imageBytes(const QVariant &value, QByteArray *type)
         return {};
     QBuffer buffer(&bytes);
     *type = QImageReader(&buffer).format();
-    if (*type == "svg")
+    if (*type == "svg" || bytes.startsWith("<svg"))
         *type = "svg+xml";
     return type->isEmpty() ? QByteArray() : bytes;
 }
