@@ -819,7 +819,7 @@
     </message>
     <message>
         <source>S&amp;ign …</source>
-        <translation>&amp;Signer…</translation>
+        <translation>Si&amp;gner…</translation>
     </message>
     <message>
         <source>&amp;Review …</source>

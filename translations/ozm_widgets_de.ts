@@ -525,14 +525,29 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
 </context>
 <context>
-    <name>ozm::ReportPaper</name>
+    <name>ozm::ReportBook</name>
     <message>
-        <source>&quot;%1&quot; cannot be written.</source>
-        <translation>„%1“ kann nicht geschrieben werden.</translation>
+        <source>&quot;%1&quot; cannot be written. %2</source>
+        <translation>„%1“ kann nicht geschrieben werden. %2</translation>
     </message>
+    <message>
+        <source>Bookmarks cannot be added to it.</source>
+        <translation>Lesezeichen können ihm nicht hinzugefügt werden.</translation>
+    </message>
+    <message>
+        <source>There is no report to be written.</source>
+        <translation>Es gibt keinen Bericht zu schreiben.</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::ReportPaper</name>
     <message>
         <source>Page %1 of %2</source>
         <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
     </message>
 </context>
 <context>
@@ -1477,6 +1492,22 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     <message>
         <source>Text and codes, beside the page number</source>
         <translation>Text und Platzhalter, neben der Seitenzahl</translation>
+    </message>
+    <message>
+        <source>Name of the &amp;document:</source>
+        <translation>Name des &amp;Dokuments:</translation>
+    </message>
+    <message>
+        <source>Text and codes, at the foot and in the file</source>
+        <translation>Text und Platzhalter, unten und in der Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Version:</source>
+        <translation>&amp;Version:</translation>
+    </message>
+    <message>
+        <source>Beside the name of the document</source>
+        <translation>Neben dem Namen des Dokuments</translation>
     </message>
 </context>
 <context>

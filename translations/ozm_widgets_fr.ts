@@ -323,7 +323,7 @@ Le chemin corrigé est&#x202f;:
     </message>
     <message>
         <source>There are conflicts in duplex settings. Do you want to fix them?</source>
-        <translation>Les réglages recto verso se contredisent. Voulez-vous les corriger ?</translation>
+        <translation>Les réglages recto verso se contredisent. Voulez-vous les corriger&#x202f;?</translation>
     </message>
 </context>
 <context>
@@ -525,14 +525,29 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::ReportBook</name>
+    <message>
+        <source>&quot;%1&quot; cannot be written. %2</source>
+        <translation>Impossible d’écrire «&#x202f;%1&#x202f;». %2</translation>
+    </message>
+    <message>
+        <source>Bookmarks cannot be added to it.</source>
+        <translation>Des signets ne peuvent pas y être ajoutés.</translation>
+    </message>
+    <message>
+        <source>There is no report to be written.</source>
+        <translation>Il n’y a pas de rapport à écrire.</translation>
+    </message>
+</context>
+<context>
     <name>ozm::ReportPaper</name>
     <message>
         <source>Page %1 of %2</source>
         <translation>Page %1 sur %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be written.</source>
-        <translation>Impossible d’écrire «&#x202f;%1&#x202f;».</translation>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
     </message>
 </context>
 <context>
@@ -1477,6 +1492,22 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
     <message>
         <source>Text and codes, beside the page number</source>
         <translation>Texte et champs, à côté du numéro de page</translation>
+    </message>
+    <message>
+        <source>Name of the &amp;document:</source>
+        <translation>&amp;Nom du document&#x202f;:</translation>
+    </message>
+    <message>
+        <source>Text and codes, at the foot and in the file</source>
+        <translation>Texte et champs, en pied de page et dans le fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Version:</source>
+        <translation>&amp;Version&#x202f;:</translation>
+    </message>
+    <message>
+        <source>Beside the name of the document</source>
+        <translation>À côté du nom du document</translation>
     </message>
 </context>
 <context>

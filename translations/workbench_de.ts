@@ -56,6 +56,96 @@
     </message>
 </context>
 <context>
+    <name>FirstStepsData</name>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>PictureRun</name>
+    <message>
+        <source>First steps</source>
+        <translation>Erste Schritte</translation>
+    </message>
+    <message>
+        <source>The window of somebody new: samples, data and a trail that are made up, and a page with five things to try. Two of them were tried: a step was undone, and the data in a folder of several vendors was found and added.</source>
+        <translation>Das Fenster für Neue: erfundene Proben, Daten und ein erfundener Audit-Trail, dazu eine Seite mit fünf Dingen zum Ausprobieren. Zwei davon sind ausprobiert: Ein Schritt wurde rückgängig gemacht, und die Daten in einem Ordner mehrerer Hersteller wurden gefunden und hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>The workbench</source>
+        <translation>Die Werkbank</translation>
+    </message>
+    <message>
+        <source>Samples, the details of one, the history of steps, and the audit trail: an edit, a macro with its steps, a step that was undone, and one that was refused.</source>
+        <translation>Proben, die Einzelheiten einer Probe, der Verlauf der Schritte und der Audit-Trail: eine Änderung, ein Makro mit seinen Schritten, ein rückgängig gemachter Schritt und ein abgelehnter.</translation>
+    </message>
+    <message>
+        <source>A new sample</source>
+        <translation>Eine neue Probe</translation>
+    </message>
+    <message>
+        <source>It is checked, recorded, and then made.</source>
+        <translation>Sie wird geprüft, aufgezeichnet und dann angelegt.</translation>
+    </message>
+    <message>
+        <source>Finding data</source>
+        <translation>Daten suchen</translation>
+    </message>
+    <message>
+        <source>The dialog that lists the data in a folder and all below it.</source>
+        <translation>Der Dialog, der die Daten eines Ordners und aller darunter auflistet.</translation>
+    </message>
+    <message>
+        <source>Opening data</source>
+        <translation>Daten öffnen</translation>
+    </message>
+    <message>
+        <source>Files and raw folders in one dialog, which says what each holds.</source>
+        <translation>Dateien und Rohdatenordner in einem Dialog, der sagt, was sie enthalten.</translation>
+    </message>
+    <message>
+        <source>A message from another thread</source>
+        <translation>Eine Meldung aus einem anderen Thread</translation>
+    </message>
+    <message>
+        <source>The thread asked in one line, and waits for the answer.</source>
+        <translation>Der Thread fragt in einer Zeile und wartet auf die Antwort.</translation>
+    </message>
+    <message>
+        <source>A report</source>
+        <translation>Ein Bericht</translation>
+    </message>
+    <message>
+        <source>A template with codes and scripts, filled with a sample.</source>
+        <translation>Eine Vorlage mit Platzhaltern und Skripten, mit einer Probe gefüllt.</translation>
+    </message>
+    <message>
+        <source>The template editor</source>
+        <translation>Der Vorlageneditor</translation>
+    </message>
+    <message>
+        <source>Codes, the formatted template, and the preview with two faults listed: a code that nothing fills, and a script that fails.</source>
+        <translation>Platzhalter, die formatierte Vorlage und die Vorschau, in der zwei Fehler aufgeführt sind: ein Platzhalter, den nichts füllt, und ein Skript, das scheitert.</translation>
+    </message>
+    <message>
+        <source>The history of a sample</source>
+        <translation>Die Geschichte einer Probe</translation>
+    </message>
+    <message>
+        <source>All that the trail says about one sample, and two states side by side.</source>
+        <translation>Alles, was der Audit-Trail über eine Probe sagt, und zwei Zustände nebeneinander.</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
+        <source>Every icon and every kind of message, in light and in dark.</source>
+        <translation>Jedes Symbol und jede Art von Meldung, hell und dunkel.</translation>
+    </message>
+</context>
+<context>
     <name>SampleCommand</name>
     <message>
         <source>The sample is no longer in the table.</source>
@@ -157,6 +247,33 @@
         <source>File that holds the audit trail, or its address.</source>
         <translation>Datei mit dem Audit-Trail, oder seine Adresse.</translation>
     </message>
+    <message>
+        <source>Leave pictures of the windows, on sample data, in &lt;folder&gt;, then end.</source>
+        <translation>Bilder der Fenster mit Beispieldaten in &lt;folder&gt; ablegen, dann enden.</translation>
+    </message>
+    <message>
+        <source>Begin with the first steps, on sample data.</source>
+        <translation>Mit den ersten Schritten beginnen, mit Beispieldaten.</translation>
+    </message>
+    <message>
+        <source>A batch run&apos;s report on each sample: all in &quot;one&quot; file certificates.pdf, or a file for &quot;each&quot; in a folder certificates.</source>
+        <translation>Berichte eines Stapellaufs über jede Probe: alle in einer Datei certificates.pdf („one“) oder je eine Datei im Ordner certificates („each“).</translation>
+    </message>
+    <message>
+        <source>Template for --reports; by default the sample certificate.</source>
+        <translation>Vorlage für --reports; sonst das Probenzertifikat.</translation>
+    </message>
+    <message>
+        <source>--reports needs &quot;one&quot; or &quot;each&quot;.</source>
+        <translation>--reports braucht „one“ oder „each“.</translation>
+    </message>
+</context>
+<context>
+    <name>ozm</name>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
 </context>
 <context>
     <name>workbench</name>
@@ -223,6 +340,10 @@
     <message>
         <source>%1 cannot be followed. %2</source>
         <translation>%1 kann nicht befolgt werden. %2</translation>
+    </message>
+    <message>
+        <source>Without a name</source>
+        <translation>Ohne Namen</translation>
     </message>
 </context>
 <context>
@@ -321,6 +442,152 @@
     <message>
         <source>The demonstration&apos;s signers cannot be read from &quot;%1&quot;: %2</source>
         <translation>Die Unterzeichner der Vorführung können nicht aus „%1“ gelesen werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::FirstStepsPage</name>
+    <message>
+        <source>First steps</source>
+        <translation>Erste Schritte</translation>
+    </message>
+    <message>
+        <source>The samples, the data and the audit trail of this window are made up, and go when the program ends. Nothing of yours is touched.</source>
+        <translation>Die Proben, die Daten und der Audit-Trail dieses Fensters sind erfunden und verschwinden mit dem Ende des Programms. Von Ihren eigenen wird nichts angetastet.</translation>
+    </message>
+    <message>
+        <source>Begin with own samples</source>
+        <translation>Mit eigenen Proben beginnen</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>In code: %1</source>
+        <translation>Im Code: %1</translation>
+    </message>
+    <message>
+        <source>%1 - tried</source>
+        <translation>%1 - ausprobiert</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::FirstStepsSession</name>
+    <message>
+        <source>Undo, and a trail of it</source>
+        <translation>Rückgängig machen, mit Audit-Trail</translation>
+    </message>
+    <message>
+        <source>Each step is in the audit trail before it is made: edits, several in one, undo, and what was refused.</source>
+        <translation>Jeder Schritt steht im Audit-Trail, bevor er ausgeführt wird: Änderungen, mehrere in einer, das Rückgängigmachen und was abgelehnt wurde.</translation>
+    </message>
+    <message>
+        <source>Undo a step</source>
+        <translation>Einen Schritt rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Data of instruments</source>
+        <translation>Daten von Geräten</translation>
+    </message>
+    <message>
+        <source>Files and folders of many vendors are told apart in a handful of system calls, on a thread of their own.</source>
+        <translation>Dateien und Ordner vieler Hersteller werden mit wenigen Systemaufrufen unterschieden, in einem eigenen Thread.</translation>
+    </message>
+    <message>
+        <source>Find the data in a folder</source>
+        <translation>Die Daten eines Ordners suchen</translation>
+    </message>
+    <message>
+        <source>Files and dialogs</source>
+        <translation>Dateien und Dialoge</translation>
+    </message>
+    <message>
+        <source>One dialog picks data files and raw folders together, and says beforehand what each holds.</source>
+        <translation>Ein Dialog wählt Datendateien und Rohdatenordner zusammen und sagt vorher, was sie enthalten.</translation>
+    </message>
+    <message>
+        <source>Choose data…</source>
+        <translation>Daten wählen …</translation>
+    </message>
+    <message>
+        <source>Messages from any thread</source>
+        <translation>Meldungen aus jedem Thread</translation>
+    </message>
+    <message>
+        <source>A thread that has a question asks it in one line, and waits for the answer.</source>
+        <translation>Ein Thread, der eine Frage hat, stellt sie in einer Zeile und wartet auf die Antwort.</translation>
+    </message>
+    <message>
+        <source>Ask from another thread</source>
+        <translation>Aus einem anderen Thread fragen</translation>
+    </message>
+    <message>
+        <source>Reports from templates</source>
+        <translation>Berichte aus Vorlagen</translation>
+    </message>
+    <message>
+        <source>Texts with codes such as [Name] and pieces of JavaScript, filled with the chosen samples. &quot;Edit report template…&quot; opens the editor for them.</source>
+        <translation>Texte mit Platzhaltern wie [Name] und Stücken von JavaScript, gefüllt mit den gewählten Proben. „Berichtsvorlage bearbeiten…“ öffnet den Editor dafür.</translation>
+    </message>
+    <message>
+        <source>Preview a report</source>
+        <translation>Einen Bericht ansehen</translation>
+    </message>
+    <message>
+        <source>There is no room for sample data: %1</source>
+        <translation>Für Beispieldaten ist kein Platz: %1</translation>
+    </message>
+    <message>
+        <source>CDR-H2, isomers of Asp seen</source>
+        <translation>CDR-H2, Asp-Isomere gesehen</translation>
+    </message>
+    <message>
+        <source>* (week 0)</source>
+        <translation>* (Woche 0)</translation>
+    </message>
+    <message>
+        <source>Co-elutes with HC-T23</source>
+        <translation>Koeluiert mit HC-T23</translation>
+    </message>
+    <message>
+        <source>First steps[*] - Workbench</source>
+        <translation>Erste Schritte[*] - Werkbank</translation>
+    </message>
+    <message>
+        <source>First steps</source>
+        <translation>Erste Schritte</translation>
+    </message>
+    <message>
+        <source>Redone: %1. The last entry of the trail says so.</source>
+        <translation>Wiederholt: %1. Der letzte Eintrag des Audit-Trails sagt es.</translation>
+    </message>
+    <message>
+        <source>Undone: %1. The last entry of the trail says so.</source>
+        <translation>Rückgängig gemacht: %1. Der letzte Eintrag des Audit-Trails sagt es.</translation>
+    </message>
+    <message>
+        <source>Nothing was chosen.</source>
+        <translation>Nichts wurde gewählt.</translation>
+    </message>
+    <message>
+        <source>Another thread asks</source>
+        <translation>Ein anderer Thread fragt</translation>
+    </message>
+    <message>
+        <source>Shall the measurement go on?</source>
+        <translation>Soll die Messung weitergehen?</translation>
+    </message>
+    <message>
+        <source>The thread was told to go on.</source>
+        <translation>Der Thread soll weitermachen.</translation>
+    </message>
+    <message>
+        <source>The thread was told to stop.</source>
+        <translation>Der Thread soll anhalten.</translation>
+    </message>
+    <message>
+        <source>It can be saved as PDF and as HTML.</source>
+        <translation>Er kann als PDF und als HTML gespeichert werden.</translation>
     </message>
 </context>
 <context>
@@ -487,6 +754,18 @@
         <source>Make a report on the chosen samples, or on all when none is chosen</source>
         <translation>Einen Bericht über die gewählten Proben erstellen, oder über alle, wenn keine gewählt ist</translation>
     </message>
+    <message>
+        <source>First steps</source>
+        <translation>Erste Schritte</translation>
+    </message>
+    <message>
+        <source>Open a window on made-up samples that leads through what can be done</source>
+        <translation>Ein Fenster mit erfundenen Proben öffnen, das durch die Möglichkeiten führt</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
 </context>
 <context>
     <name>workbench::MainWindow</name>
@@ -611,6 +890,54 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
         <source>Preview</source>
         <translation>Vorschau</translation>
     </message>
+    <message>
+        <source>A &amp;file for each</source>
+        <translation>Je eine &amp;Datei</translation>
+    </message>
+    <message>
+        <source>These are the first %1 of %2 reports; all are saved.</source>
+        <translation>Dies sind die ersten %1 von %2 Berichten; alle werden gespeichert.</translation>
+    </message>
+    <message>
+        <source>Report %1 of %2: %3</source>
+        <translation>Bericht %1 von %2: %3</translation>
+    </message>
+    <message>
+        <source>Canceled. Nothing was saved.</source>
+        <translation>Abgebrochen. Nichts wurde gespeichert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the files are in this folder already. Replace them?</source>
+        <translation>
+            <numerusform>%n der Dateien ist schon in diesem Ordner. Ersetzen?</numerusform>
+            <numerusform>%n der Dateien sind schon in diesem Ordner. Ersetzen?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) saved to %1</source>
+        <translation>
+            <numerusform>%n Datei in %1 gespeichert</numerusform>
+            <numerusform>%n Dateien in %1 gespeichert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Canceled.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ReportFiller</name>
+    <message>
+        <source>All samples</source>
+        <translation>Alle Proben</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ReportSeries</name>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be written to.</source>
+        <translation>In den Ordner „%1“ kann nicht geschrieben werden.</translation>
+    </message>
 </context>
 <context>
     <name>workbench::Run</name>
@@ -661,6 +988,18 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
     <message>
         <source>&quot;%1&quot; cannot be used as data. %2</source>
         <translation>„%1“ kann nicht als Messdaten verwendet werden. %2</translation>
+    </message>
+    <message>
+        <source>report %1 of %2: %3</source>
+        <translation>Bericht %1 von %2: %3</translation>
+    </message>
+    <message>
+        <source>reports: %1 file(s) written</source>
+        <translation>Berichte: %1 Datei(en) geschrieben</translation>
+    </message>
+    <message>
+        <source>The reports were interrupted.</source>
+        <translation>Die Berichte wurden unterbrochen.</translation>
     </message>
 </context>
 <context>
@@ -966,6 +1305,10 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
     <message>
         <source>Templates (*.ozt *.html *.txt)</source>
         <translation>Vorlagen (*.ozt *.html *.txt)</translation>
+    </message>
+    <message>
+        <source>Save reports in folder</source>
+        <translation>Berichte im Ordner speichern</translation>
     </message>
 </context>
 <context>

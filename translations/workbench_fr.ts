@@ -56,6 +56,96 @@
     </message>
 </context>
 <context>
+    <name>FirstStepsData</name>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>Impossible d’écrire «&#x202f;%1&#x202f;»&#x202f;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>PictureRun</name>
+    <message>
+        <source>First steps</source>
+        <translation>Premiers pas</translation>
+    </message>
+    <message>
+        <source>The window of somebody new: samples, data and a trail that are made up, and a page with five things to try. Two of them were tried: a step was undone, and the data in a folder of several vendors was found and added.</source>
+        <translation>La fenêtre d’un débutant&#x202f;: des échantillons, des données et une piste d’audit inventés, et une page avec cinq choses à essayer. Deux l’ont été&#x202f;: une opération a été annulée, et les données d’un dossier de plusieurs fabricants ont été trouvées et ajoutées.</translation>
+    </message>
+    <message>
+        <source>The workbench</source>
+        <translation>L’atelier</translation>
+    </message>
+    <message>
+        <source>Samples, the details of one, the history of steps, and the audit trail: an edit, a macro with its steps, a step that was undone, and one that was refused.</source>
+        <translation>Des échantillons, les détails de l’un d’eux, l’historique des opérations et la piste d’audit&#x202f;: une modification, une macro avec ses opérations, une opération annulée et une opération refusée.</translation>
+    </message>
+    <message>
+        <source>A new sample</source>
+        <translation>Un nouvel échantillon</translation>
+    </message>
+    <message>
+        <source>It is checked, recorded, and then made.</source>
+        <translation>Il est vérifié, consigné, puis créé.</translation>
+    </message>
+    <message>
+        <source>Finding data</source>
+        <translation>Recherche de données</translation>
+    </message>
+    <message>
+        <source>The dialog that lists the data in a folder and all below it.</source>
+        <translation>La boîte de dialogue qui énumère les données d’un dossier et de tous ses sous-dossiers.</translation>
+    </message>
+    <message>
+        <source>Opening data</source>
+        <translation>Ouverture de données</translation>
+    </message>
+    <message>
+        <source>Files and raw folders in one dialog, which says what each holds.</source>
+        <translation>Fichiers et dossiers de données brutes dans une seule boîte de dialogue, qui dit ce que chacun contient.</translation>
+    </message>
+    <message>
+        <source>A message from another thread</source>
+        <translation>Un message d’un autre fil d’exécution</translation>
+    </message>
+    <message>
+        <source>The thread asked in one line, and waits for the answer.</source>
+        <translation>Le fil d’exécution pose sa question en une ligne et attend la réponse.</translation>
+    </message>
+    <message>
+        <source>A report</source>
+        <translation>Un rapport</translation>
+    </message>
+    <message>
+        <source>A template with codes and scripts, filled with a sample.</source>
+        <translation>Un modèle avec des champs et des scripts, rempli avec un échantillon.</translation>
+    </message>
+    <message>
+        <source>The template editor</source>
+        <translation>L’éditeur de modèles</translation>
+    </message>
+    <message>
+        <source>Codes, the formatted template, and the preview with two faults listed: a code that nothing fills, and a script that fails.</source>
+        <translation>Les champs, le modèle mis en forme et l’aperçu, où deux erreurs sont signalées&#x202f;: un champ que rien ne remplit et un script qui échoue.</translation>
+    </message>
+    <message>
+        <source>The history of a sample</source>
+        <translation>L’historique d’un échantillon</translation>
+    </message>
+    <message>
+        <source>All that the trail says about one sample, and two states side by side.</source>
+        <translation>Tout ce que la piste d’audit dit d’un échantillon, et deux états côte à côte.</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>Style</translation>
+    </message>
+    <message>
+        <source>Every icon and every kind of message, in light and in dark.</source>
+        <translation>Toutes les icônes et tous les types de messages, en clair et en sombre.</translation>
+    </message>
+</context>
+<context>
     <name>SampleCommand</name>
     <message>
         <source>The sample is no longer in the table.</source>
@@ -157,6 +247,33 @@
         <source>CSV file of samples to open.</source>
         <translation>Fichier CSV d’échantillons à ouvrir.</translation>
     </message>
+    <message>
+        <source>Leave pictures of the windows, on sample data, in &lt;folder&gt;, then end.</source>
+        <translation>Laisser des images des fenêtres, avec des données d’exemple, dans &lt;folder&gt;, puis quitter.</translation>
+    </message>
+    <message>
+        <source>Begin with the first steps, on sample data.</source>
+        <translation>Commencer par les premiers pas, avec des données d’exemple.</translation>
+    </message>
+    <message>
+        <source>A batch run&apos;s report on each sample: all in &quot;one&quot; file certificates.pdf, or a file for &quot;each&quot; in a folder certificates.</source>
+        <translation>Rapports d’un traitement par lots sur chaque échantillon&#x202f;: tous dans un seul fichier certificates.pdf («&#x202f;one&#x202f;»), ou un fichier pour chacun dans un dossier certificates («&#x202f;each&#x202f;»).</translation>
+    </message>
+    <message>
+        <source>Template for --reports; by default the sample certificate.</source>
+        <translation>Modèle pour --reports&#x202f;; par défaut, le certificat d’échantillon.</translation>
+    </message>
+    <message>
+        <source>--reports needs &quot;one&quot; or &quot;each&quot;.</source>
+        <translation>--reports demande «&#x202f;one&#x202f;» ou «&#x202f;each&#x202f;».</translation>
+    </message>
+</context>
+<context>
+    <name>ozm</name>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
 </context>
 <context>
     <name>workbench</name>
@@ -223,6 +340,10 @@
     <message>
         <source>&quot;%1&quot; cannot be written.</source>
         <translation>Impossible d’écrire «&#x202f;%1&#x202f;».</translation>
+    </message>
+    <message>
+        <source>Without a name</source>
+        <translation>Sans nom</translation>
     </message>
 </context>
 <context>
@@ -321,6 +442,152 @@
     <message>
         <source>The demonstration&apos;s signers cannot be read from &quot;%1&quot;: %2</source>
         <translation>Impossible de lire les signataires de la démonstration dans «&#x202f;%1&#x202f;»&#x202f;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::FirstStepsPage</name>
+    <message>
+        <source>First steps</source>
+        <translation>Premiers pas</translation>
+    </message>
+    <message>
+        <source>The samples, the data and the audit trail of this window are made up, and go when the program ends. Nothing of yours is touched.</source>
+        <translation>Les échantillons, les données et la piste d’audit de cette fenêtre sont inventés et disparaissent à la fin du programme. Rien de ce qui est à vous n’est touché.</translation>
+    </message>
+    <message>
+        <source>Begin with own samples</source>
+        <translation>Commencer avec vos échantillons</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>In code: %1</source>
+        <translation>Dans le code&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>%1 - tried</source>
+        <translation>%1 - essayé</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::FirstStepsSession</name>
+    <message>
+        <source>Undo, and a trail of it</source>
+        <translation>Annuler, avec une piste d’audit</translation>
+    </message>
+    <message>
+        <source>Each step is in the audit trail before it is made: edits, several in one, undo, and what was refused.</source>
+        <translation>Chaque opération figure dans la piste d’audit avant d’être exécutée&#x202f;: modifications, groupées ou non, annulations et refus.</translation>
+    </message>
+    <message>
+        <source>Undo a step</source>
+        <translation>Annuler une opération</translation>
+    </message>
+    <message>
+        <source>Data of instruments</source>
+        <translation>Données d’instruments</translation>
+    </message>
+    <message>
+        <source>Files and folders of many vendors are told apart in a handful of system calls, on a thread of their own.</source>
+        <translation>Les fichiers et dossiers de nombreux fabricants sont reconnus en quelques appels système, dans un fil d’exécution à part.</translation>
+    </message>
+    <message>
+        <source>Find the data in a folder</source>
+        <translation>Rechercher les données d’un dossier</translation>
+    </message>
+    <message>
+        <source>Files and dialogs</source>
+        <translation>Fichiers et boîtes de dialogue</translation>
+    </message>
+    <message>
+        <source>One dialog picks data files and raw folders together, and says beforehand what each holds.</source>
+        <translation>Une seule boîte de dialogue choisit ensemble fichiers de données et dossiers de données brutes, et dit d’avance ce que chacun contient.</translation>
+    </message>
+    <message>
+        <source>Choose data…</source>
+        <translation>Choisir des données…</translation>
+    </message>
+    <message>
+        <source>Messages from any thread</source>
+        <translation>Messages de n’importe quel fil d’exécution</translation>
+    </message>
+    <message>
+        <source>A thread that has a question asks it in one line, and waits for the answer.</source>
+        <translation>Un fil d’exécution qui a une question la pose en une ligne et attend la réponse.</translation>
+    </message>
+    <message>
+        <source>Ask from another thread</source>
+        <translation>Demander depuis un autre fil d’exécution</translation>
+    </message>
+    <message>
+        <source>Reports from templates</source>
+        <translation>Rapports à partir de modèles</translation>
+    </message>
+    <message>
+        <source>Texts with codes such as [Name] and pieces of JavaScript, filled with the chosen samples. &quot;Edit report template…&quot; opens the editor for them.</source>
+        <translation>Des textes avec des champs tels que [Name] et des fragments de JavaScript, remplis avec les échantillons choisis. «&#x202f;Modifier le modèle de rapport…&#x202f;» ouvre leur éditeur.</translation>
+    </message>
+    <message>
+        <source>Preview a report</source>
+        <translation>Voir un rapport</translation>
+    </message>
+    <message>
+        <source>There is no room for sample data: %1</source>
+        <translation>Il n’y a pas de place pour des données d’exemple&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>CDR-H2, isomers of Asp seen</source>
+        <translation>CDR-H2, isomères d’Asp observés</translation>
+    </message>
+    <message>
+        <source>* (week 0)</source>
+        <translation>* (semaine 0)</translation>
+    </message>
+    <message>
+        <source>Co-elutes with HC-T23</source>
+        <translation>Coélue avec HC-T23</translation>
+    </message>
+    <message>
+        <source>First steps[*] - Workbench</source>
+        <translation>Premiers pas[*] - Atelier</translation>
+    </message>
+    <message>
+        <source>First steps</source>
+        <translation>Premiers pas</translation>
+    </message>
+    <message>
+        <source>Redone: %1. The last entry of the trail says so.</source>
+        <translation>Rétabli&#x202f;: %1. La dernière entrée de la piste d’audit le dit.</translation>
+    </message>
+    <message>
+        <source>Undone: %1. The last entry of the trail says so.</source>
+        <translation>Annulé&#x202f;: %1. La dernière entrée de la piste d’audit le dit.</translation>
+    </message>
+    <message>
+        <source>Nothing was chosen.</source>
+        <translation>Rien n’a été choisi.</translation>
+    </message>
+    <message>
+        <source>Another thread asks</source>
+        <translation>Un autre fil d’exécution demande</translation>
+    </message>
+    <message>
+        <source>Shall the measurement go on?</source>
+        <translation>Faut-il poursuivre la mesure&#x202f;?</translation>
+    </message>
+    <message>
+        <source>The thread was told to go on.</source>
+        <translation>Le fil d’exécution a reçu l’ordre de continuer.</translation>
+    </message>
+    <message>
+        <source>The thread was told to stop.</source>
+        <translation>Le fil d’exécution a reçu l’ordre de s’arrêter.</translation>
+    </message>
+    <message>
+        <source>It can be saved as PDF and as HTML.</source>
+        <translation>Il peut être enregistré en PDF et en HTML.</translation>
     </message>
 </context>
 <context>
@@ -461,7 +728,7 @@
     </message>
     <message>
         <source>&amp;Samples</source>
-        <translation>Éch&amp;antillons</translation>
+        <translation>Échantillon&amp;s</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
@@ -486,6 +753,18 @@
     <message>
         <source>Nothing to redo</source>
         <translation>Rien à rétablir</translation>
+    </message>
+    <message>
+        <source>First steps</source>
+        <translation>Premiers pas</translation>
+    </message>
+    <message>
+        <source>Open a window on made-up samples that leads through what can be done</source>
+        <translation>Ouvrir une fenêtre sur des échantillons inventés, qui guide à travers ce qu’il est possible de faire</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
     </message>
 </context>
 <context>
@@ -611,6 +890,54 @@ Ouvrez un fichier CSV, recherchez des données MS, déposez des données ici ou 
         <source>Saved to %1</source>
         <translation>Enregistré dans %1</translation>
     </message>
+    <message>
+        <source>A &amp;file for each</source>
+        <translation>Un &amp;fichier pour chacun</translation>
+    </message>
+    <message>
+        <source>These are the first %1 of %2 reports; all are saved.</source>
+        <translation>Voici les %1 premiers rapports sur %2&#x202f;; tous seront enregistrés.</translation>
+    </message>
+    <message>
+        <source>Report %1 of %2: %3</source>
+        <translation>Rapport %1 sur %2&#x202f;: %3</translation>
+    </message>
+    <message>
+        <source>Canceled. Nothing was saved.</source>
+        <translation>Annulé. Rien n’a été enregistré.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the files are in this folder already. Replace them?</source>
+        <translation>
+            <numerusform>%n&#xa0;des fichiers existe déjà dans ce dossier. Le remplacer&#x202f;?</numerusform>
+            <numerusform>%n&#xa0;des fichiers existent déjà dans ce dossier. Les remplacer&#x202f;?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) saved to %1</source>
+        <translation>
+            <numerusform>%n&#xa0;fichier enregistré dans %1</numerusform>
+            <numerusform>%n&#xa0;fichiers enregistrés dans %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Canceled.</source>
+        <translation>Annulé.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ReportFiller</name>
+    <message>
+        <source>All samples</source>
+        <translation>Tous les échantillons</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ReportSeries</name>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be written to.</source>
+        <translation>Impossible d’écrire dans le dossier «&#x202f;%1&#x202f;».</translation>
+    </message>
 </context>
 <context>
     <name>workbench::Run</name>
@@ -661,6 +988,18 @@ Ouvrez un fichier CSV, recherchez des données MS, déposez des données ici ou 
     <message>
         <source>&quot;%1&quot; cannot be written.</source>
         <translation>Impossible d’écrire «&#x202f;%1&#x202f;».</translation>
+    </message>
+    <message>
+        <source>report %1 of %2: %3</source>
+        <translation>rapport %1 sur %2&#x202f;: %3</translation>
+    </message>
+    <message>
+        <source>reports: %1 file(s) written</source>
+        <translation>rapports&#x202f;: %1&#xa0;fichier(s) écrit(s)</translation>
+    </message>
+    <message>
+        <source>The reports were interrupted.</source>
+        <translation>Les rapports ont été interrompus.</translation>
     </message>
 </context>
 <context>
@@ -966,6 +1305,10 @@ Ouvrez un fichier CSV, recherchez des données MS, déposez des données ici ou 
     <message>
         <source>PDF (*.pdf);;HTML (*.html)</source>
         <translation>PDF (*.pdf);;HTML (*.html)</translation>
+    </message>
+    <message>
+        <source>Save reports in folder</source>
+        <translation>Enregistrer les rapports dans un dossier</translation>
     </message>
 </context>
 <context>

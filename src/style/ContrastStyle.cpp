@@ -45,9 +45,9 @@ QColor outlineColor(const QStyleOption &option)
 QString isolated(const QString &text, Qt::LayoutDirection direction)
 {
     constexpr QChar kIsolate(0x2068);
-    constexpr QChar kEnd(0x2069);
+    constexpr QChar kIsolateEnd(0x2069);
     const bool isSame = text.isRightToLeft() == (direction == Qt::RightToLeft);
-    return isSame || text.isEmpty() ? text : kIsolate + text + kEnd;
+    return isSame || text.isEmpty() ? text : kIsolate + text + kIsolateEnd;
 }
 
 } // namespace
