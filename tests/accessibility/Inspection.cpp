@@ -179,6 +179,26 @@ void inspectToolBars(const QWidget &window, QStringList &findings)
     }
 }
 
+/// Each action has keys of its own, is in a menu, or is a button that takes the focus.
+void inspectActions(const QWidget &window, QStringList &findings)
+{
+    const auto reaches = [](const QObject *place) {
+        const auto *button = qobject_cast<const QToolButton *>(place);
+        // The toolkit's own dialogs choose their columns by the header, and show all of them without.
+        return qobject_cast<const QMenu *>(place) || qobject_cast<const QMenuBar *>(place) ||
+               qobject_cast<const QHeaderView *>(place) || (button && button->focusPolicy() & Qt::TabFocus);
+    };
+    for (const auto *action : window.findChildren<QAction *>()) {
+        // Those without a place are switched by other ways, and those in a line empty it.
+        const QObjectList places = action->associatedObjects();
+        if (action->isSeparator() || action->text().isEmpty() || places.isEmpty() ||
+            qobject_cast<const QLineEdit *>(action->parent()) || !action->shortcuts().isEmpty())
+            continue;
+        if (std::ranges::none_of(places, reaches))
+            findings += u"the action %1 (%2) has no keys"_s.arg(action->text(), told(*action));
+    }
+}
+
 void inspectHeaders(const QWidget &window, QStringList &findings)
 {
     for (const auto *header : window.findChildren<QHeaderView *>()) {
@@ -345,6 +365,7 @@ Inspection inspect(QWidget &window)
         found.findings += u"The window tells nothing."_s;
     inspectKeys(window, found.findings);
     inspectToolBars(window, found.findings);
+    inspectActions(window, found.findings);
     inspectHeaders(window, found.findings);
     inspectPixels(window, found);
     inspectRoom(window, found.findings);
