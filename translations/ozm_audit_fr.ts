@@ -819,7 +819,7 @@
     </message>
     <message>
         <source>S&amp;ign …</source>
-        <translation>Si&amp;gner…</translation>
+        <translation>&amp;Signer…</translation>
     </message>
     <message>
         <source>&amp;Review …</source>
@@ -827,7 +827,7 @@
     </message>
     <message>
         <source>&amp;History of the subject …</source>
-        <translation>&amp;Historique de l’objet…</translation>
+        <translation>Histori&amp;que de l’objet…</translation>
     </message>
     <message>
         <source>Show the &amp;object</source>

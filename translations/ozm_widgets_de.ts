@@ -1607,6 +1607,14 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
         <source>Nothing is shown</source>
         <translation>Nichts wird gezeigt</translation>
     </message>
+    <message>
+        <source>&amp;Then by:</source>
+        <translation>&amp;Dann nach:</translation>
+    </message>
+    <message>
+        <source>The h&amp;ighest first</source>
+        <translation>Die hö&amp;chsten zuerst</translation>
+    </message>
 </context>
 <context>
     <name>ozm::editor::RichTextView</name>
@@ -1893,6 +1901,30 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     <message>
         <source>The pages are set up already.</source>
         <translation>Die Seiten sind schon eingerichtet.</translation>
+    </message>
+    <message>
+        <source>Else</source>
+        <translation>Sonst</translation>
+    </message>
+    <message>
+        <source>There is no section that has another part here.</source>
+        <translation>Es gibt hier keinen Abschnitt, der einen anderen Teil hat.</translation>
+    </message>
+    <message>
+        <source>The section has another part already.</source>
+        <translation>Der Abschnitt hat schon einen anderen Teil.</translation>
+    </message>
+    <message>
+        <source>The other part begins in another element than the section.</source>
+        <translation>Der andere Teil beginnt in einem anderen Element als der Abschnitt.</translation>
+    </message>
+    <message>
+        <source>The section has a text for no rows already.</source>
+        <translation>Der Abschnitt hat schon einen Text für den Fall ohne Zeilen.</translation>
+    </message>
+    <message>
+        <source>The section cannot be followed for its other part.</source>
+        <translation>Der Abschnitt kann wegen seines anderen Teils nicht befolgt werden.</translation>
     </message>
 </context>
 <context>

@@ -1607,6 +1607,14 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
         <source>Nothing is shown</source>
         <translation>Rien n’est affiché</translation>
     </message>
+    <message>
+        <source>&amp;Then by:</source>
+        <translation>Pu&amp;is par&#x202f;:</translation>
+    </message>
+    <message>
+        <source>The h&amp;ighest first</source>
+        <translation>Ordre déc&amp;roissant</translation>
+    </message>
 </context>
 <context>
     <name>ozm::editor::RichTextView</name>
@@ -1893,6 +1901,30 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
     <message>
         <source>The part becomes too long.</source>
         <translation>La partie devient trop longue.</translation>
+    </message>
+    <message>
+        <source>Else</source>
+        <translation>Sinon</translation>
+    </message>
+    <message>
+        <source>There is no section that has another part here.</source>
+        <translation>Il n’y a pas ici de section qui ait une autre partie.</translation>
+    </message>
+    <message>
+        <source>The section has another part already.</source>
+        <translation>La section a déjà une autre partie.</translation>
+    </message>
+    <message>
+        <source>The other part begins in another element than the section.</source>
+        <translation>L’autre partie commence dans un autre élément que la section.</translation>
+    </message>
+    <message>
+        <source>The section has a text for no rows already.</source>
+        <translation>La section a déjà un texte pour l’absence de lignes.</translation>
+    </message>
+    <message>
+        <source>The section cannot be followed for its other part.</source>
+        <translation>La section ne peut pas être appliquée à cause de son autre partie.</translation>
     </message>
 </context>
 <context>

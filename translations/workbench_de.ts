@@ -63,89 +63,6 @@
     </message>
 </context>
 <context>
-    <name>PictureRun</name>
-    <message>
-        <source>First steps</source>
-        <translation>Erste Schritte</translation>
-    </message>
-    <message>
-        <source>The window of somebody new: samples, data and a trail that are made up, and a page with five things to try. Two of them were tried: a step was undone, and the data in a folder of several vendors was found and added.</source>
-        <translation>Das Fenster für Neue: erfundene Proben, Daten und ein erfundener Audit-Trail, dazu eine Seite mit fünf Dingen zum Ausprobieren. Zwei davon sind ausprobiert: Ein Schritt wurde rückgängig gemacht, und die Daten in einem Ordner mehrerer Hersteller wurden gefunden und hinzugefügt.</translation>
-    </message>
-    <message>
-        <source>The workbench</source>
-        <translation>Die Werkbank</translation>
-    </message>
-    <message>
-        <source>Samples, the details of one, the history of steps, and the audit trail: an edit, a macro with its steps, a step that was undone, and one that was refused.</source>
-        <translation>Proben, die Einzelheiten einer Probe, der Verlauf der Schritte und der Audit-Trail: eine Änderung, ein Makro mit seinen Schritten, ein rückgängig gemachter Schritt und ein abgelehnter.</translation>
-    </message>
-    <message>
-        <source>A new sample</source>
-        <translation>Eine neue Probe</translation>
-    </message>
-    <message>
-        <source>It is checked, recorded, and then made.</source>
-        <translation>Sie wird geprüft, aufgezeichnet und dann angelegt.</translation>
-    </message>
-    <message>
-        <source>Finding data</source>
-        <translation>Daten suchen</translation>
-    </message>
-    <message>
-        <source>The dialog that lists the data in a folder and all below it.</source>
-        <translation>Der Dialog, der die Daten eines Ordners und aller darunter auflistet.</translation>
-    </message>
-    <message>
-        <source>Opening data</source>
-        <translation>Daten öffnen</translation>
-    </message>
-    <message>
-        <source>Files and raw folders in one dialog, which says what each holds.</source>
-        <translation>Dateien und Rohdatenordner in einem Dialog, der sagt, was sie enthalten.</translation>
-    </message>
-    <message>
-        <source>A message from another thread</source>
-        <translation>Eine Meldung aus einem anderen Thread</translation>
-    </message>
-    <message>
-        <source>The thread asked in one line, and waits for the answer.</source>
-        <translation>Der Thread fragt in einer Zeile und wartet auf die Antwort.</translation>
-    </message>
-    <message>
-        <source>A report</source>
-        <translation>Ein Bericht</translation>
-    </message>
-    <message>
-        <source>A template with codes and scripts, filled with a sample.</source>
-        <translation>Eine Vorlage mit Platzhaltern und Skripten, mit einer Probe gefüllt.</translation>
-    </message>
-    <message>
-        <source>The template editor</source>
-        <translation>Der Vorlageneditor</translation>
-    </message>
-    <message>
-        <source>Codes, the formatted template, and the preview with two faults listed: a code that nothing fills, and a script that fails.</source>
-        <translation>Platzhalter, die formatierte Vorlage und die Vorschau, in der zwei Fehler aufgeführt sind: ein Platzhalter, den nichts füllt, und ein Skript, das scheitert.</translation>
-    </message>
-    <message>
-        <source>The history of a sample</source>
-        <translation>Die Geschichte einer Probe</translation>
-    </message>
-    <message>
-        <source>All that the trail says about one sample, and two states side by side.</source>
-        <translation>Alles, was der Audit-Trail über eine Probe sagt, und zwei Zustände nebeneinander.</translation>
-    </message>
-    <message>
-        <source>Style</source>
-        <translation>Stil</translation>
-    </message>
-    <message>
-        <source>Every icon and every kind of message, in light and in dark.</source>
-        <translation>Jedes Symbol und jede Art von Meldung, hell und dunkel.</translation>
-    </message>
-</context>
-<context>
     <name>SampleCommand</name>
     <message>
         <source>The sample is no longer in the table.</source>
@@ -765,6 +682,10 @@
     <message>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
     </message>
 </context>
 <context>

@@ -63,89 +63,6 @@
     </message>
 </context>
 <context>
-    <name>PictureRun</name>
-    <message>
-        <source>First steps</source>
-        <translation>Premiers pas</translation>
-    </message>
-    <message>
-        <source>The window of somebody new: samples, data and a trail that are made up, and a page with five things to try. Two of them were tried: a step was undone, and the data in a folder of several vendors was found and added.</source>
-        <translation>La fenêtre d’un débutant&#x202f;: des échantillons, des données et une piste d’audit inventés, et une page avec cinq choses à essayer. Deux l’ont été&#x202f;: une opération a été annulée, et les données d’un dossier de plusieurs fabricants ont été trouvées et ajoutées.</translation>
-    </message>
-    <message>
-        <source>The workbench</source>
-        <translation>L’atelier</translation>
-    </message>
-    <message>
-        <source>Samples, the details of one, the history of steps, and the audit trail: an edit, a macro with its steps, a step that was undone, and one that was refused.</source>
-        <translation>Des échantillons, les détails de l’un d’eux, l’historique des opérations et la piste d’audit&#x202f;: une modification, une macro avec ses opérations, une opération annulée et une opération refusée.</translation>
-    </message>
-    <message>
-        <source>A new sample</source>
-        <translation>Un nouvel échantillon</translation>
-    </message>
-    <message>
-        <source>It is checked, recorded, and then made.</source>
-        <translation>Il est vérifié, consigné, puis créé.</translation>
-    </message>
-    <message>
-        <source>Finding data</source>
-        <translation>Recherche de données</translation>
-    </message>
-    <message>
-        <source>The dialog that lists the data in a folder and all below it.</source>
-        <translation>La boîte de dialogue qui énumère les données d’un dossier et de tous ses sous-dossiers.</translation>
-    </message>
-    <message>
-        <source>Opening data</source>
-        <translation>Ouverture de données</translation>
-    </message>
-    <message>
-        <source>Files and raw folders in one dialog, which says what each holds.</source>
-        <translation>Fichiers et dossiers de données brutes dans une seule boîte de dialogue, qui dit ce que chacun contient.</translation>
-    </message>
-    <message>
-        <source>A message from another thread</source>
-        <translation>Un message d’un autre fil d’exécution</translation>
-    </message>
-    <message>
-        <source>The thread asked in one line, and waits for the answer.</source>
-        <translation>Le fil d’exécution pose sa question en une ligne et attend la réponse.</translation>
-    </message>
-    <message>
-        <source>A report</source>
-        <translation>Un rapport</translation>
-    </message>
-    <message>
-        <source>A template with codes and scripts, filled with a sample.</source>
-        <translation>Un modèle avec des champs et des scripts, rempli avec un échantillon.</translation>
-    </message>
-    <message>
-        <source>The template editor</source>
-        <translation>L’éditeur de modèles</translation>
-    </message>
-    <message>
-        <source>Codes, the formatted template, and the preview with two faults listed: a code that nothing fills, and a script that fails.</source>
-        <translation>Les champs, le modèle mis en forme et l’aperçu, où deux erreurs sont signalées&#x202f;: un champ que rien ne remplit et un script qui échoue.</translation>
-    </message>
-    <message>
-        <source>The history of a sample</source>
-        <translation>L’historique d’un échantillon</translation>
-    </message>
-    <message>
-        <source>All that the trail says about one sample, and two states side by side.</source>
-        <translation>Tout ce que la piste d’audit dit d’un échantillon, et deux états côte à côte.</translation>
-    </message>
-    <message>
-        <source>Style</source>
-        <translation>Style</translation>
-    </message>
-    <message>
-        <source>Every icon and every kind of message, in light and in dark.</source>
-        <translation>Toutes les icônes et tous les types de messages, en clair et en sombre.</translation>
-    </message>
-</context>
-<context>
     <name>SampleCommand</name>
     <message>
         <source>The sample is no longer in the table.</source>
@@ -728,7 +645,7 @@
     </message>
     <message>
         <source>&amp;Samples</source>
-        <translation>Échantillon&amp;s</translation>
+        <translation>Éc&amp;hantillons</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
@@ -765,6 +682,10 @@
     <message>
         <source>&amp;Help</source>
         <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>Afficha&amp;ge</translation>
     </message>
 </context>
 <context>
