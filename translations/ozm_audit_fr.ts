@@ -667,7 +667,7 @@
     </message>
     <message>
         <source>A signature stands for your name, and cannot be taken back.</source>
-        <translation>Une signature vaut votre nom et ne peut pas être retirée.</translation>
+        <translation>Une signature engage votre nom et ne peut pas être retirée.</translation>
     </message>
 </context>
 <context>
@@ -950,7 +950,7 @@
     </message>
     <message>
         <source>Changed again and again, or back</source>
-        <translation>Modifications répétées ou défaites</translation>
+        <translation>Valeurs modifiées à répétition ou rétablies</translation>
     </message>
     <message>
         <source>Refused or failed steps</source>

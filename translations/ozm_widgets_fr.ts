@@ -777,7 +777,7 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
     </message>
     <message>
         <source>Paste as p&amp;lain text</source>
-        <translation>Coller comme te&amp;xte brut</translation>
+        <translation>Coller en te&amp;xte brut</translation>
     </message>
     <message>
         <source>Select &amp;all</source>
@@ -1550,11 +1550,11 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
     </message>
     <message>
         <source>%1 came in with the result of a script.</source>
-        <translation>%1 a été apporté par le résultat d’un script.</translation>
+        <translation>%1 vient du résultat d’un script.</translation>
     </message>
     <message>
         <source>%1 came in with the value of %2.</source>
-        <translation>%1 a été apporté par la valeur de %2.</translation>
+        <translation>%1 vient de la valeur de %2.</translation>
     </message>
     <message>
         <source>Everything was filled.</source>
@@ -1876,7 +1876,7 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
     </message>
     <message>
         <source>The pages are set up already.</source>
-        <translation>Les pages sont déjà mises en page.</translation>
+        <translation>La mise en page est déjà définie.</translation>
     </message>
     <message>
         <source>There is no table row and no list item around this.</source>

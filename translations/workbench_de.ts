@@ -1062,6 +1062,10 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
         <source>%1 bytes</source>
         <translation>%1 Byte</translation>
     </message>
+    <message>
+        <source>Mass</source>
+        <translation>Masse</translation>
+    </message>
 </context>
 <context>
     <name>workbench::SampleTableView</name>

@@ -232,7 +232,7 @@
     </message>
     <message>
         <source>%1 came in with a value.</source>
-        <translation>%1 a été apporté par une valeur.</translation>
+        <translation>%1 vient d’une valeur.</translation>
     </message>
     <message>
         <source>%1 cannot be followed. %2</source>
@@ -515,7 +515,7 @@
     </message>
     <message>
         <source>As opened</source>
-        <translation>À l’ouverture</translation>
+        <translation>État à l’ouverture</translation>
     </message>
 </context>
 <context>
@@ -880,11 +880,11 @@ Ouvrez un fichier CSV, recherchez des données MS, déposez des données ici ou 
     </message>
     <message>
         <source>Batch control</source>
-        <translation>Contrôle du lot</translation>
+        <translation>Contrôle de lot</translation>
     </message>
     <message>
         <source>Batch control %1</source>
-        <translation>Contrôle du lot %1</translation>
+        <translation>Contrôle de lot %1</translation>
     </message>
     <message>
         <source>Added by the batch run</source>
@@ -1061,6 +1061,10 @@ Ouvrez un fichier CSV, recherchez des données MS, déposez des données ici ou 
     <message>
         <source>%1 bytes</source>
         <translation>%1&#xa0;octets</translation>
+    </message>
+    <message>
+        <source>Mass</source>
+        <translation>Masse</translation>
     </message>
 </context>
 <context>

@@ -125,6 +125,8 @@ int interact(const QString &database, const QString &user, const QString &file, 
     ozm::OzmCoreApplication::start();
     for (const QString &name : {u"ozm_audit"_s, u"workbench"_s})
         ozm::OzmCoreApplication::loadTranslation(QLocale(), name);
+    // The toolkit adds it to every title that does not end in it.
+    QApplication::setApplicationDisplayName(QApplication::translate("main", "Workbench"));
     workbench::Sessions sessions(database, user);
     const bool begins = firstSteps || (file.isEmpty() && sessions.areNew());
     const Error error = begins ? sessions.openFirstSteps() : sessions.openOwn(file);

@@ -5,6 +5,8 @@
 #include <ozm_common_core_mini/ColumnFriendlyName.h>
 #include <ozm_common_core_mini/ColumnNames.h>
 
+#include <QCoreApplication>
+
 using ozm::Error;
 using ozm::ErrorCode;
 using ozm::OperationLogItemData;
@@ -16,6 +18,16 @@ namespace workbench {
 namespace {
 
 constexpr int kSetCellId = 1;
+
+// Beside the titles of the table, in which this one has its unit.
+[[maybe_unused]] constexpr auto kMassTitle = QT_TRANSLATE_NOOP("workbench::SampleTableModel", "Mass");
+
+/// In the language of the window.
+QString titleOfColumn(const QString &column)
+{
+    const QByteArray name = ColumnFriendlyName::friendlyName(column).toUtf8();
+    return QCoreApplication::translate("workbench::SampleTableModel", name.constData());
+}
 
 RowNode rowOrEmpty(const SampleTable &table, qint64 id)
 {
@@ -72,8 +84,7 @@ SetCellCommand::SetCellCommand(SampleTable &table, qint64 id, const QString &col
 {
     const RowNode row = rowOrEmpty(table, id);
     m_oldValue = row.getDataAt(column);
-    setText(
-        tr("Set %1 of %2").arg(ColumnFriendlyName::friendlyName(column), row.getDataAt(kName).toString()));
+    setText(tr("Set %1 of %2").arg(titleOfColumn(column), row.getDataAt(kName).toString()));
     // A text that stands for no value is recorded as it was typed.
     setLogData({OperationLogItemType::Set, subjectOf(row), {column}, m_value.valueOr(text), m_oldValue});
 }
