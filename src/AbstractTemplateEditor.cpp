@@ -37,6 +37,11 @@ QList<DecodeTecExtraData> AbstractTemplateEditor::extraData(const RowNode *row) 
     return {};
 }
 
+ozm::ReportPaperOptions AbstractTemplateEditor::paperOptions() const
+{
+    return {};
+}
+
 QMap<QString, QList<RowNode *>> AbstractTemplateEditor::rowLists(const RowNode *row) const
 {
     Q_UNUSED(row);

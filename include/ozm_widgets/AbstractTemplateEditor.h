@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ozm_widgets/DecodeTecExtraData.h>
+#include <ozm_widgets/ReportPaper.h>
 #include <ozm_widgets/ShortCodes.h>
 #include <ozm_widgets/TemplateDiagnostics.h>
 #include <ozm_widgets/ozm_widgets_export.h>
@@ -77,6 +78,9 @@ public:
     /// Further rows that the template's parts can repeat for in a report on @p row, by name; see ozm::fillTemplate().
     /// They must live until the next call.
     [[nodiscard]] virtual QMap<QString, QList<RowNode *>> rowLists(const RowNode *row) const;
+    /// The style sheet, letters, sheet, header and footer of the application's reports: the preview, paper and PDF of
+    /// the window have them, and ozm::ReportPaper and ozm::ReportView take the same.
+    [[nodiscard]] virtual ozm::ReportPaperOptions paperOptions() const;
     /// The folder in which questions for template files begin; empty leaves that to the accessor.
     [[nodiscard]] virtual QString storageDirectory() const;
 

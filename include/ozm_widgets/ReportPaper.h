@@ -27,13 +27,17 @@ struct ReportPaperOptions
     /// The sheet and its margins for PDF; a printer has its own.
     QPageLayout layout = QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
                                      QMarginsF(20, 16, 18, 14), QPageLayout::Millimeter);
+    /// For elements and classes of the template, in the CSS that QTextDocument::setDefaultStyleSheet() reads. The
+    /// template's own styles stand above it.
+    QString styleSheet = {};
 };
 
 /**
  * Brings a filled template onto paper, by a printer or as PDF, always in the same way.
  *
- * Rows of tables are not cut by the end of a sheet, a table that goes on is closed at the foot, and each sheet
- * has its number. Size, orientation, margins, header, footer, name and version are those of the template where it has an
+ * Rows of tables are not cut by the end of a sheet, headings stay with what follows them, the heading rows of a table
+ * stand on each of its sheets, and each sheet has its number. The lines are the same on every device, and in
+ * ReportView. Size, orientation, margins, header, footer, name and version are those of the template where it has an
  * instruction "page", see docs/report-templates.md; a printer is set to them. ReportBook puts several reports into one
  * PDF. Only what the text carries itself is shown: nothing is loaded from disk or from a network.
  *

@@ -117,7 +117,11 @@ constexpr std::array kActions{
               [](const Parts &p, bool) { p.files.askSaveAs(); }, None},
     ActionRow{"pageSetupAction", Menu::File, "",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Page set&up…"), "",
-              [](const Parts &p, bool) { p.printing.askPage(&p.window); }, Starts},
+              [](const Parts &p, bool) {
+                  p.printing.askPage(&p.window);
+                  p.window.refresh();
+              },
+              Starts},
     ActionRow{"templatePageAction", Menu::File, "",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Page set-up of the te&mplate…"), "",
               [](const Parts &p, bool) { p.instructions.askPage(); }, Edits},
@@ -306,6 +310,15 @@ constexpr std::array kActions{
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Source"), "Ctrl+Shift+U",
               [](const Parts &p, bool) { p.window.setMode(AbstractTemplateEditor::Mode::Plain); },
               Checked | OnBar},
+    ActionRow{"zoomInAction", Menu::View, "zoom-in",
+              QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Zoom &in"), "",
+              [](const Parts &p, bool) { p.views.zoomIn(); }, Starts},
+    ActionRow{"zoomOutAction", Menu::View, "zoom-out",
+              QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Zoom &out"), "",
+              [](const Parts &p, bool) { p.views.zoomOut(); }, None},
+    ActionRow{"normalSizeAction", Menu::View, "zoom-original",
+              QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Normal size"), "Ctrl+0",
+              [](const Parts &p, bool) { p.views.setZoom(1); }, None},
     ActionRow{"refreshAction", Menu::View, "view-refresh",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Refresh preview"), "F5",
               [](const Parts &p, bool) { p.window.refresh(); }, Starts},
@@ -321,12 +334,20 @@ struct PlatformKey
 };
 
 constexpr std::array kPlatformKeys{
-    PlatformKey{"newAction", QKeySequence::New},     PlatformKey{"openAction", QKeySequence::Open},
-    PlatformKey{"saveAction", QKeySequence::Save},   PlatformKey{"printAction", QKeySequence::Print},
-    PlatformKey{"closeAction", QKeySequence::Close}, PlatformKey{"undoAction", QKeySequence::Undo},
-    PlatformKey{"redoAction", QKeySequence::Redo},   PlatformKey{"cutAction", QKeySequence::Cut},
-    PlatformKey{"copyAction", QKeySequence::Copy},   PlatformKey{"pasteAction", QKeySequence::Paste},
-    PlatformKey{"findAction", QKeySequence::Find},   PlatformKey{"selectAllAction", QKeySequence::SelectAll},
+    PlatformKey{"newAction", QKeySequence::New},
+    PlatformKey{"openAction", QKeySequence::Open},
+    PlatformKey{"saveAction", QKeySequence::Save},
+    PlatformKey{"printAction", QKeySequence::Print},
+    PlatformKey{"closeAction", QKeySequence::Close},
+    PlatformKey{"undoAction", QKeySequence::Undo},
+    PlatformKey{"redoAction", QKeySequence::Redo},
+    PlatformKey{"cutAction", QKeySequence::Cut},
+    PlatformKey{"copyAction", QKeySequence::Copy},
+    PlatformKey{"pasteAction", QKeySequence::Paste},
+    PlatformKey{"zoomInAction", QKeySequence::ZoomIn},
+    PlatformKey{"zoomOutAction", QKeySequence::ZoomOut},
+    PlatformKey{"findAction", QKeySequence::Find},
+    PlatformKey{"selectAllAction", QKeySequence::SelectAll},
 };
 
 QAction *makeAction(const ActionRow &row, QObject *parent)

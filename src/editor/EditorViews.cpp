@@ -6,11 +6,24 @@
 #include "editor/RichTextView.h"
 #include "editor/SourceHighlighter.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QStackedWidget>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace ozm::editor {
+
+namespace {
+
+constexpr std::array kZooms{0.5, 0.67, 0.8, 0.9, 1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0};
+constexpr double kInchesPerMeter = 1000 / 25.4;
+
+} // namespace
 
 EditorViews::EditorViews(CodeModel *codes, QWidget *window)
     : QObject(window)
@@ -30,6 +43,9 @@ EditorViews::EditorViews(CodeModel *codes, QWidget *window)
     m_plain->setCompletion(codes);
     m_stack->addWidget(m_rich);
     m_stack->addWidget(m_plain);
+    m_plainFont = m_plain->font();
+    m_rich->viewport()->installEventFilter(this);
+    m_plain->viewport()->installEventFilter(this);
 }
 
 EditorViews::~EditorViews() = default;
@@ -48,8 +64,66 @@ void EditorViews::show(const EditorSession &session)
     m_plain->showDocument(formatted ? nullptr : session.document());
     if (!formatted && !session.isLarge() && !session.document()->findChild<SourceHighlighter *>())
         new SourceHighlighter(session.document(), m_codes, SourceHighlighter::Language::Template);
+    applyZoom();
     m_stack->setCurrentWidget(formatted ? static_cast<QWidget *>(m_rich) : m_plain);
     current().widget()->setFocus();
+}
+
+void EditorViews::setZoom(double zoom)
+{
+    zoom = std::clamp(zoom, kZooms.front(), kZooms.back());
+    if (zoom == m_zoom)
+        return;
+    m_zoom = zoom;
+    applyZoom();
+    current().widget()->update();
+    Q_EMIT zoomChanged(zoom);
+}
+
+void EditorViews::zoomIn()
+{
+    const auto larger = std::ranges::upper_bound(kZooms, m_zoom);
+    if (larger != kZooms.end())
+        setZoom(*larger);
+}
+
+void EditorViews::zoomOut()
+{
+    const auto same = std::ranges::lower_bound(kZooms, m_zoom);
+    if (same != kZooms.begin())
+        setZoom(*std::prev(same));
+}
+
+void EditorViews::applyZoom()
+{
+    const int dotsPerMeter = qRound(m_rich->logicalDpiY() * m_zoom * kInchesPerMeter);
+    auto device = std::make_unique<QImage>(1, 1, QImage::Format_Mono);
+    device->setDotsPerMeterX(dotsPerMeter);
+    device->setDotsPerMeterY(dotsPerMeter);
+    TemplateDocument *document = m_rich->templateDocument();
+    const bool isUsual = m_zoom == 1;
+    const bool wasUsual = !document->documentLayout()->paintDevice();
+    document->documentLayout()->setPaintDevice(isUsual ? nullptr : device.get());
+    m_device = std::move(device);
+    if (!isUsual || !wasUsual)
+        document->markContentsDirty(0, document->characterCount());
+    QFont font = m_plainFont;
+    font.setPointSizeF(m_plainFont.pointSizeF() * m_zoom);
+    m_plain->setFont(font);
+}
+
+bool EditorViews::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::Wheel)
+        return QObject::eventFilter(watched, event);
+    const auto *wheel = static_cast<QWheelEvent *>(event);
+    if (!(wheel->modifiers() & Qt::ControlModifier))
+        return false;
+    if (wheel->angleDelta().y() > 0)
+        zoomIn();
+    else if (wheel->angleDelta().y() < 0)
+        zoomOut();
+    return true;
 }
 
 void EditorViews::showNothing()

@@ -2,6 +2,8 @@
 
 #include "editor/EditorView.h"
 
+#include <QFont>
+#include <QImage>
 #include <QObject>
 
 #include <memory>
@@ -33,16 +35,34 @@ public:
     /// Shows what @p session holds anew, as codes may be called otherwise now.
     void refresh(const EditorSession &session);
 
+    /// Of both views; 1 is the usual size.
+    [[nodiscard]] double zoom() const { return m_zoom; }
+    void setZoom(double zoom);
+    void zoomIn();
+    void zoomOut();
+
     [[nodiscard]] bool isReadOnly() const { return m_isReadOnly; }
     void setReadOnly(bool readOnly);
 
+Q_SIGNALS:
+    void zoomChanged(double zoom);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    void applyZoom();
+
     CodeModel *m_codes;
     QStackedWidget *m_stack;
     RichTextView *m_rich;
     CodeEdit *m_plain;
     const std::unique_ptr<EditorView> m_formattedView;
     const std::unique_ptr<EditorView> m_sourceView;
+    /// The resolution that the formatted text is laid out for; null for that of the screen.
+    std::unique_ptr<QImage> m_device;
+    QFont m_plainFont;
+    double m_zoom = 1;
     bool m_isReadOnly = false;
 };
 

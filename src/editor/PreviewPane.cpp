@@ -1,21 +1,22 @@
 #include "editor/PreviewPane.h"
 
-#include "editor/RichTextView.h"
-#include "templates/syntax/ScriptTags.h"
+#include "editor/PreviewPlace.h"
 
 #include <ozm_widgets/AbstractTemplateEditor.h>
 #include <ozm_widgets/BlackSplitterHandle.h>
 #include <ozm_widgets/OZMStyle.h>
-#include <ozm_widgets/TemplateDocument.h>
+#include <ozm_widgets/ReportView.h>
 
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
-#include <QScrollBar>
-#include <QTextBrowser>
+#include <QMenu>
+#include <QToolButton>
 #include <QVBoxLayout>
+
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -26,38 +27,47 @@ namespace {
 constexpr int kShortestDelayMs = 300;
 // A template that takes long to decode is decoded less often, so that typing keeps most of the time.
 constexpr int kDelayPerDuration = 4;
-constexpr int kPaperMargin = 20;
+constexpr int kFollowMs = 150;
 constexpr int kTroublesHeight = 130;
+constexpr int kAboveTroubles = 4;
 
 constexpr int kOffsetRole = Qt::UserRole + 1;
 constexpr int kPartRole = Qt::UserRole + 2;
 
-void makePaper(QTextBrowser *browser)
+constexpr std::array kZoomChoices{0.5, 0.75, 1.0, 1.5, 2.0};
+constexpr double kPercent = 100;
+
+QToolButton *makeButton(const char *name, const char *icon, const QString &text, QWidget *parent)
 {
-    setPaperColors(browser);
-    auto *document = new TemplateDocument(browser);
-    document->setDocumentMargin(kPaperMargin);
-    document->setUndoRedoEnabled(false);
-    browser->setDocument(document);
-    browser->setOpenLinks(false);
+    auto *button = new QToolButton(parent);
+    button->setObjectName(QString::fromLatin1(name));
+    button->setIcon(OZMStyle::icon(QString::fromLatin1(icon)));
+    button->setAutoRaise(true);
+    button->setToolTip(text);
+    button->setAccessibleName(text);
+    return button;
 }
 
 } // namespace
 
-PreviewPane::PreviewPane(const Decode &decode, QWidget *parent)
+PreviewPane::PreviewPane(const Decode &decode, const FindCaret &findCaret, QWidget *parent)
     : QWidget(parent)
     , m_decode(decode)
+    , m_findCaret(findCaret)
     , m_row(new QComboBox(this))
-    , m_text(new QTextBrowser(this))
+    , m_pages(new ReportView(this))
+    , m_page(new QLabel(this))
+    , m_zoom(new QToolButton(this))
     , m_count(new QLabel(this))
-    , m_troubles(new QListWidget(this))
+    , m_splitter(new BlackSplitter(Qt::Vertical, this))
+    , m_below(new QWidget(this))
+    , m_troubles(new QListWidget(m_below))
 {
     m_row->setObjectName(u"previewRow"_s);
     m_row->setAccessibleName(tr("Data of the preview"));
     m_row->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_text->setObjectName(u"previewText"_s);
-    m_text->setAccessibleName(tr("Preview"));
-    makePaper(m_text);
+    m_pages->setObjectName(u"previewPages"_s);
+    m_pages->setAccessibleName(tr("Preview"));
     m_count->setObjectName(u"previewCount"_s);
     m_troubles->setObjectName(u"previewTroubles"_s);
     m_troubles->setAccessibleName(tr("What could not be filled"));
@@ -69,27 +79,88 @@ PreviewPane::PreviewPane(const Decode &decode, QWidget *parent)
     auto *choice = new QHBoxLayout;
     choice->addWidget(label);
     choice->addWidget(m_row, 1);
-    auto *below = new QWidget(this);
-    auto *belowLayout = new QVBoxLayout(below);
-    belowLayout->setContentsMargins(0, 4, 0, 0);
+    auto *above = new QWidget(this);
+    auto *aboveLayout = new QVBoxLayout(above);
+    aboveLayout->setContentsMargins(0, 0, 0, 0);
+    aboveLayout->setSpacing(0);
+    aboveLayout->addWidget(m_pages, 1);
+    aboveLayout->addWidget(makeZoomBar());
+    auto *belowLayout = new QVBoxLayout(m_below);
+    belowLayout->setContentsMargins(0, kAboveTroubles, 0, 0);
     belowLayout->addWidget(m_count);
     belowLayout->addWidget(m_troubles);
-    auto *splitter = new BlackSplitter(Qt::Vertical, this);
-    splitter->addWidget(m_text);
-    splitter->addWidget(below);
-    splitter->setStretchFactor(0, 1);
-    splitter->setSizes({3 * kTroublesHeight, kTroublesHeight});
+    m_splitter->addWidget(above);
+    m_splitter->addWidget(m_below);
+    m_splitter->setStretchFactor(0, 1);
+    m_splitter->setSizes({3 * kTroublesHeight, kTroublesHeight});
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
     layout->addLayout(choice);
-    layout->addWidget(splitter, 1);
+    layout->addWidget(m_splitter, 1);
 
     m_timer.setSingleShot(true);
     m_timer.setInterval(kShortestDelayMs);
+    m_followTimer.setSingleShot(true);
+    m_followTimer.setInterval(kFollowMs);
     connect(&m_timer, &QTimer::timeout, this, &PreviewPane::updateNow);
+    connect(&m_followTimer, &QTimer::timeout, this, &PreviewPane::follow);
     connect(m_row, &QComboBox::currentIndexChanged, this, &PreviewPane::updateSoon);
     connect(m_troubles, &QListWidget::itemClicked, this, &PreviewPane::choose);
     connect(m_troubles, &QListWidget::itemActivated, this, &PreviewPane::choose);
+}
+
+QWidget *PreviewPane::makeZoomBar()
+{
+    auto *bar = new QWidget(this);
+    auto *out = makeButton("previewZoomOut", "zoom-out", tr("Zoom out (Ctrl and the wheel)"), bar);
+    auto *in = makeButton("previewZoomIn", "zoom-in", tr("Zoom in (Ctrl and the wheel)"), bar);
+    m_page->setObjectName(u"previewPage"_s);
+    m_zoom->setObjectName(u"previewZoom"_s);
+    m_zoom->setAutoRaise(true);
+    m_zoom->setPopupMode(QToolButton::InstantPopup);
+    m_zoom->setToolTip(tr("Zoom of the preview"));
+    auto *menu = new QMenu(m_zoom);
+    QAction *fit = menu->addAction(tr("&Fit the width"), this, [this] { m_pages->setFitsWidth(true); });
+    fit->setObjectName(u"previewFitWidth"_s);
+    menu->addSeparator();
+    for (const double zoom : kZoomChoices)
+        menu->addAction(tr("%1 %").arg(zoom * kPercent), this, [this, zoom] { m_pages->setZoom(zoom); });
+    m_zoom->setMenu(menu);
+    auto *layout = new QHBoxLayout(bar);
+    layout->setContentsMargins(0, 2, 0, 2);
+    layout->addWidget(m_page, 1);
+    layout->addWidget(out);
+    layout->addWidget(m_zoom);
+    layout->addWidget(in);
+    connect(out, &QToolButton::clicked, m_pages, &ReportView::zoomOut);
+    connect(in, &QToolButton::clicked, m_pages, &ReportView::zoomIn);
+    connect(m_pages, &ReportView::zoomChanged, this, &PreviewPane::showZoom);
+    connect(m_pages, &ReportView::pageChanged, this,
+            [this](int page, int pages) { m_page->setText(tr("Page %1 of %2").arg(page).arg(pages)); });
+    showZoom();
+    return bar;
+}
+
+void PreviewPane::showZoom()
+{
+    const QString text = tr("%1 %").arg(qRound(m_pages->zoom() * kPercent));
+    m_zoom->setText(text);
+    m_zoom->setAccessibleName(tr("Zoom: %1").arg(text));
+}
+
+void PreviewPane::followSoon()
+{
+    if (isVisible())
+        m_followTimer.start();
+}
+
+void PreviewPane::follow()
+{
+    // Until the report is made anew, it may show something else at the caret.
+    if (m_isStale)
+        return;
+    const Caret caret = m_findCaret();
+    m_pages->showPosition(int(placeInReport(caret.text, caret.position, m_pages->toPlainText())));
 }
 
 void PreviewPane::setRows(const QStringList &names)
@@ -136,9 +207,10 @@ void PreviewPane::updateNow()
     clock.start();
     const Decoded decoded = m_decode();
     m_content = decoded.content;
-    showText(syntax::withoutScriptTags(decoded.report.text));
+    m_pages->setReport(decoded.report.text, decoded.paper);
     listTroubles(decoded.report);
     m_isStale = false;
+    followSoon();
     m_timer.setInterval(qMax(kShortestDelayMs, int(clock.elapsed()) * kDelayPerDuration));
 }
 
@@ -147,16 +219,6 @@ void PreviewPane::showEvent(QShowEvent *event)
     QWidget::showEvent(event);
     if (m_isStale && !m_isPaused)
         m_timer.start();
-}
-
-void PreviewPane::showText(const QString &text)
-{
-    const int scrolled = m_text->verticalScrollBar()->value();
-    if (TemplateDocument::isHtml(text))
-        m_text->document()->setHtml(text);
-    else
-        m_text->document()->setPlainText(text);
-    m_text->verticalScrollBar()->setValue(scrolled);
 }
 
 void PreviewPane::listTroubles(const TemplateReport &report)
@@ -181,7 +243,19 @@ void PreviewPane::listTroubles(const TemplateReport &report)
     m_count->setText(count == 0   ? tr("Everything was filled.")
                      : count == 1 ? tr("1 place could not be filled:")
                                   : tr("%1 places could not be filled:").arg(count));
-    m_troubles->setVisible(count > 0);
+    giveRoomToTroubles(count > 0);
+}
+
+void PreviewPane::giveRoomToTroubles(bool there)
+{
+    m_troubles->setVisible(there);
+    const int least = m_count->sizeHint().height() + 2 * kAboveTroubles;
+    const bool hadRoom = m_below->maximumHeight() > least;
+    m_below->setMaximumHeight(there ? QWIDGETSIZE_MAX : least);
+    if (hadRoom != there) {
+        const int height = there ? kTroublesHeight : least;
+        m_splitter->setSizes({m_splitter->height() - height, height});
+    }
 }
 
 void PreviewPane::addTrouble(const QString &icon, const QString &text, qsizetype offset, const QString &part)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ozm_widgets/ReportPaper.h>
 #include <ozm_widgets/TemplateDiagnostics.h>
 
 #include <QTimer>
@@ -11,12 +12,17 @@ class QComboBox;
 class QLabel;
 class QListWidget;
 class QListWidgetItem;
-class QTextBrowser;
+class QSplitter;
+class QToolButton;
+
+namespace ozm {
+class ReportView;
+} // namespace ozm
 
 namespace ozm::editor {
 
-/// The template filled with data, and beside it what could not be filled. Only what the text carries itself
-/// is shown; nothing is loaded.
+/// The template filled with data on the pages that it prints on, and below what could not be filled. Only what the text
+/// carries itself is shown; nothing is loaded.
 class PreviewPane : public QWidget
 {
     Q_OBJECT
@@ -26,10 +32,18 @@ public:
     {
         QString content; ///< The content that was decoded.
         TemplateReport report;
+        ReportPaperOptions paper;
+    };
+    /// The text of the template as it is edited, and the caret's place in it.
+    struct Caret
+    {
+        QString text;
+        qsizetype position = 0;
     };
     using Decode = std::function<Decoded()>;
+    using FindCaret = std::function<Caret()>;
 
-    PreviewPane(const Decode &decode, QWidget *parent);
+    PreviewPane(const Decode &decode, const FindCaret &findCaret, QWidget *parent);
 
     /// @p names are of the rows; when there are several, all of them as a group can be chosen, too.
     void setRows(const QStringList &names);
@@ -41,6 +55,8 @@ public:
     void updateNow();
     /// Decodes only when updateNow() says so, as for a template that takes long.
     void setPaused(bool paused);
+    /// Scrolls to what stands at the caret, when it rests for a moment.
+    void followSoon();
 
 Q_SIGNALS:
     /// A place in the content that was decoded last, at which @p part begins.
@@ -50,18 +66,27 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void showText(const QString &text);
+    [[nodiscard]] QWidget *makeZoomBar();
+    void showZoom();
+    void follow();
     void listTroubles(const TemplateReport &report);
+    void giveRoomToTroubles(bool there);
     void addTrouble(const QString &icon, const QString &text, qsizetype offset, const QString &part);
     void choose(const QListWidgetItem *item);
 
     const Decode m_decode;
+    const FindCaret m_findCaret;
     QString m_content;
     QComboBox *m_row;
-    QTextBrowser *m_text;
+    ReportView *m_pages;
+    QLabel *m_page;
+    QToolButton *m_zoom;
     QLabel *m_count;
+    QSplitter *m_splitter;
+    QWidget *m_below;
     QListWidget *m_troubles;
     QTimer m_timer;
+    QTimer m_followTimer;
     bool m_isStale = true;
     bool m_isPaused = false;
 };

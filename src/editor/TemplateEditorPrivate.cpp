@@ -1,5 +1,6 @@
 #include "editor/TemplateEditorPrivate.h"
 
+#include "editor/CodeEdit.h"
 #include "editor/CodeModel.h"
 #include "editor/CodePanel.h"
 #include "editor/FindBar.h"
@@ -16,8 +17,11 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QFileInfo>
+#include <QLabel>
+#include <QResizeEvent>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -32,7 +36,16 @@ constexpr int kHeight = 860;
 constexpr int kCodesWidth = 250;
 constexpr int kPreviewWidth = 430;
 constexpr int kScriptHeight = 190;
+// Of the width of a window that is made narrower.
+constexpr double kLeastShareOfText = 0.45;
+constexpr double kLeastShareOfCodes = 0.18;
+constexpr double kLeastShareOfPreview = 0.3;
 constexpr int kStatusMs = 10000;
+
+QString percent(double zoom)
+{
+    return AbstractTemplateEditor::tr("%1 %").arg(qRound(zoom * 100));
+}
 
 /// How often @p part occurs in @p text before @p offset.
 int occurrence(const QString &text, qsizetype offset, const QString &part)
@@ -60,6 +73,7 @@ AbstractTemplateEditor::Private::Private(AbstractTemplateEditor *editor)
     , m_views(m_codes, editor)
     , m_format(new TextFormatting(m_views.rich()))
     , m_table(m_views.rich())
+    , m_printing([editor] { return editor->paperOptions(); })
     , m_files(editor, EditorFiles::Template{[this] { return content(); }, [this] { return isModified(); },
                                             [this](const QString &content) { show(content); },
                                             [this] {
@@ -122,6 +136,11 @@ void AbstractTemplateEditor::Private::buildCenter()
     layout->addWidget(m_findBar);
     qptr->setCentralWidget(center);
     qptr->statusBar()->setObjectName(u"statusBar"_s);
+    auto *zoom = new QLabel(percent(m_views.zoom()), qptr);
+    zoom->setObjectName(u"viewZoom"_s);
+    zoom->setToolTip(tr("Zoom of the template (Ctrl and the wheel)"));
+    qptr->statusBar()->addPermanentWidget(zoom);
+    connect(&m_views, &EditorViews::zoomChanged, zoom, [zoom](double now) { zoom->setText(percent(now)); });
 }
 
 void AbstractTemplateEditor::Private::buildDocks()
@@ -132,7 +151,11 @@ void AbstractTemplateEditor::Private::buildDocks()
     m_preview = new PreviewPane(
         [this] {
             const QString source = content();
-            return PreviewPane::Decoded{source, decode(source)};
+            return PreviewPane::Decoded{source, decode(source), m_printing.options()};
+        },
+        [this] {
+            const QTextCursor caret = m_views.current().cursor();
+            return PreviewPane::Caret{caret.document()->toPlainText(), caret.position()};
         },
         qptr);
     m_codeDock = addDock("codeDock", tr("Codes"), m_codePanel, Qt::LeftDockWidgetArea);
@@ -143,6 +166,24 @@ void AbstractTemplateEditor::Private::buildDocks()
     qptr->resizeDocks({m_codeDock, m_previewDock}, {kCodesWidth, kPreviewWidth}, Qt::Horizontal);
     qptr->resizeDocks({m_scriptDock}, {kScriptHeight}, Qt::Vertical);
     m_scriptDock->hide();
+    qptr->installEventFilter(this);
+}
+
+void AbstractTemplateEditor::Private::giveRoomToText()
+{
+    const int width = qptr->width();
+    if (m_views.widget()->width() >= width * kLeastShareOfText)
+        return;
+    qptr->resizeDocks({m_codeDock, m_previewDock},
+                      {int(width * kLeastShareOfCodes), int(width * kLeastShareOfPreview)}, Qt::Horizontal);
+}
+
+bool AbstractTemplateEditor::Private::eventFilter(QObject *watched, QEvent *event)
+{
+    // By then, the window has laid out its parts.
+    if (watched == qptr && event->type() == QEvent::Resize)
+        QTimer::singleShot(0, this, &Private::giveRoomToText);
+    return false;
 }
 
 QDockWidget *AbstractTemplateEditor::Private::addDock(const char *name, const QString &title,
@@ -174,6 +215,8 @@ void AbstractTemplateEditor::Private::connectParts()
     connect(&m_history->stack(), &QUndoStack::cleanChanged, this, &Private::updateState);
     connect(rich, &QTextEdit::cursorPositionChanged, this, &Private::updateState);
     connect(rich, &QTextEdit::currentCharFormatChanged, this, &Private::updateState);
+    connect(rich, &QTextEdit::cursorPositionChanged, m_preview, &PreviewPane::followSoon);
+    connect(m_views.plain(), &QPlainTextEdit::cursorPositionChanged, m_preview, &PreviewPane::followSoon);
     connect(rich, &RichTextView::scriptActivated, m_scripts.get(), &EditorScripts::editAtCursor);
     connect(rich, &RichTextView::instructionActivated, m_instructions.get(),
             &EditorInstructions::editAtCursor);

@@ -48,8 +48,13 @@ public:
     /// Fills the window with data; false when that was done before.
     bool showFirstTime();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void buildCenter();
+    /// Makes the docks narrower where they take too much of the window from the text.
+    void giveRoomToText();
     void buildDocks();
     [[nodiscard]] QDockWidget *addDock(const char *name, const QString &title, QWidget *content,
                                        Qt::DockWidgetArea area);

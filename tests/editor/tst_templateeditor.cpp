@@ -2,6 +2,7 @@
 #include "editor/TemplateGenerator.h"
 #include "support/StrictTest.h"
 
+#include <ozm_widgets/ReportView.h>
 #include <ozm_widgets/TemplateDocument.h>
 
 #include <QAbstractItemView>
@@ -18,7 +19,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStandardPaths>
-#include <QTextBrowser>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 using namespace ozm;
@@ -176,7 +177,7 @@ void TestTemplateEditor::aTemplateIsWrittenAndPrinted()
         f.content(), f.editor.previewRows().constFirst(), f.editor.extraData(nullptr)));
     QTextDocument expected;
     expected.setHtml(decoded);
-    QCOMPARE(f.child<QTextBrowser>("previewText")->toPlainText(), expected.toPlainText());
+    QCOMPARE(f.child<ozm::ReportView>("previewPages")->toPlainText(), expected.toPlainText());
     saveAndReopen(f);
     // And the number of the page at its foot.
     QCOMPARE(printedWords(f), words(expected.toPlainText()) + words(u"Page 1 of 1"_s));
@@ -213,13 +214,29 @@ void TestTemplateEditor::previewFollowsTheData()
     EditorFixture f;
     f.setContent(u"<p>[Name] of [Lot]<img src=\"file:///etc/hostname\"/></p>"_s);
     auto *rows = f.child<QComboBox>("previewRow");
-    auto *text = f.child<QTextBrowser>("previewText");
+    auto *text = f.child<ozm::ReportView>("previewPages");
     const QStringList shown{u"T12 of A-7"_s, u"BSA of A-7"_s, u"T12; BSA of A-7"_s};
     QCOMPARE(rows->count(), shown.size());
     for (int row = 0; row < rows->count(); ++row) {
         rows->setCurrentIndex(row);
         QTRY_COMPARE(text->toPlainText().remove(QChar::ObjectReplacementCharacter), shown.at(row));
     }
+    // And the caret: from the end of a long template to its page.
+    f.setContent(u"<p>first [Lot]</p>"_s + u"<p>line</p>"_s.repeated(300) + u"<p>last [Lot]</p>"_s);
+    auto *rich = f.child<QTextEdit>("richView");
+    QTRY_VERIFY(text->pageCount() > 3);
+    rich->moveCursor(QTextCursor::End);
+    QTRY_COMPARE(text->currentPage(), text->pageCount());
+    rich->moveCursor(QTextCursor::Start);
+    QTRY_COMPARE(text->currentPage(), 1);
+    const double fitted = text->zoom();
+    f.child<QAction>("zoomInAction")->trigger();
+    QTest::mouseClick(f.child<QToolButton>("previewZoomIn"), Qt::LeftButton);
+    QVERIFY(text->zoom() > fitted && !text->fitsWidth());
+    QCOMPARE(f.child<QLabel>("viewZoom")->text(), u"110 %"_s);
+
+    f.setContent(u"<p><img src=\"file:///etc/hostname\"/></p>"_s);
+    QTRY_COMPARE(text->pageCount(), 1);
     // Nothing that a template refers to is loaded.
     QVERIFY(text->document()
                 ->resource(QTextDocument::ImageResource, QUrl(u"file:///etc/hostname"_s))
@@ -411,7 +428,7 @@ void TestTemplateEditor::everythingHasAName()
         keys.insert(key);
     }
     for (const char *name : {"richView", "plainView", "codeSearch", "codeList", "scriptCode", "scriptResult",
-                             "previewRow", "previewText", "previewTroubles", "findText", "replaceText",
+                             "previewRow", "previewPages", "previewTroubles", "findText", "replaceText",
                              "fontChoice", "sizeChoice", "paragraphChoice"})
         QVERIFY2(!f.child<QWidget>(name)->accessibleName().isEmpty(), name);
 }

@@ -1,6 +1,7 @@
 #include "editor/EditorFixture.h"
 #include "support/StrictTest.h"
 
+#include <ozm_widgets/ReportView.h>
 #include <ozm_widgets/TemplateDocument.h>
 
 #include <QComboBox>
@@ -8,7 +9,6 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSpinBox>
-#include <QTextBrowser>
 #include <QTextEdit>
 
 using namespace Qt::StringLiterals;
@@ -113,7 +113,7 @@ private Q_SLOTS:
              u"<!--ozm:if code=\"Lot\" is=\"equal\" value=\"A-7\"-->"_s,
              u"<p class=\"small\">Lot [Lot]</p>"_s, u"<!--ozm:end-->"_s})
             QVERIFY2(written.contains(part), qPrintable(part + u"\n in \n"_s + written));
-        auto *preview = fixture.child<QTextBrowser>("previewText");
+        auto *preview = fixture.child<ozm::ReportView>("previewPages");
         QTRY_VERIFY(preview->toPlainText().contains(u"Lot A-7"_s));
         QVERIFY(fixture.child<QLabel>("previewCount")->text().contains(u"Everything"_s));
 
@@ -144,7 +144,7 @@ private Q_SLOTS:
         for (const QString &part : {row, format, begin, end, u"new"_s, u"changed"_s})
             QVERIFY2(fixture.content().contains(part), qPrintable(fixture.content()));
         view->setTextCursor(view->document()->find(u"a"_s));
-        auto *preview = fixture.child<QTextBrowser>("previewText");
+        auto *preview = fixture.child<ozm::ReportView>("previewPages");
         QTRY_VERIFY(preview->toPlainText().contains(u"changed"_s));
         // The list is not there: this is told, and leads to its place.
         QVERIFY(fixture.child<QLabel>("previewCount")->text().contains(u"1 place"_s));
@@ -170,7 +170,7 @@ private Q_SLOTS:
         QVERIFY2(written.indexOf(u"<!--ozm:if"_s) < written.indexOf(u"<table"_s), qPrintable(written));
         QVERIFY2(written.indexOf(u"<!--ozm:end"_s) > written.indexOf(u"Lot [Lot]</p>"_s),
                  qPrintable(written));
-        auto *preview = fixture.child<QTextBrowser>("previewText");
+        auto *preview = fixture.child<ozm::ReportView>("previewPages");
         QTRY_VERIFY2(preview->toPlainText().trimmed() == u"Sample T12 & co"_s, qPrintable(written));
     }
 

@@ -149,6 +149,7 @@ struct AbstractTemplateEditorNames : Window
     RowNode row{QList<QString>{kName}};
 };
 using ReportPaperNames = AbstractTemplateEditorNames;
+using ReportViewNames = AbstractTemplateEditorNames;
 using TemplateFillingNames = AbstractTemplateEditorNames;
 using VariantItemsNames = AbstractTemplateEditorNames;
 

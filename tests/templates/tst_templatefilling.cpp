@@ -4,6 +4,7 @@
 #include <ozm_common_core_mini/RowNode.h>
 #include <ozm_widgets/AbstractTemplateEditor.h>
 #include <ozm_widgets/ReportPaper.h>
+#include <ozm_widgets/ReportView.h>
 #include <ozm_widgets/TemplateDocument.h>
 #include <ozm_widgets/TemplateEditorJSEngine.h>
 #include <ozm_widgets/TemplateFilling.h>
@@ -12,6 +13,8 @@
 #include <QDateTime>
 #include <QImage>
 #include <QPdfWriter>
+#include <QProcess>
+#include <QTemporaryDir>
 
 #include <limits>
 
@@ -329,6 +332,59 @@ private Q_SLOTS:
         QCOMPARE(writer.pageLayout().margins(QPageLayout::Millimeter), usual);
         ozm::ReportPaper(u"<!--ozm:page margins=\"30 20 10 40\"-->text"_s).print(writer);
         QCOMPARE(writer.pageLayout().margins(QPageLayout::Millimeter), QMarginsF(40, 30, 20, 10));
+    }
+
+    void pagesAreCut_data()
+    {
+        QTest::addColumn<QString>("html");
+        QTest::addColumn<QStringList>("pages"); // the words at which each page begins and ends
+        const QString lines = u"<p>l</p>"_s.repeated(11);
+        const QString rows = u"<tr><td>a<br/>b<br/>c</td></tr>"_s.repeated(5);
+        QTest::newRow("heading") << lines + u"<h1>H</h1><p>end</p>"_s << QStringList{u"l l"_s, u"H end"_s};
+        QTest::newRow("heading of a table") << lines + u"<h1>H</h1><table><tr><td>end</td></tr></table>"_s
+                                            << QStringList{u"l l"_s, u"H end"_s};
+        QTest::newRow("rows") << u"<table cellpadding=\"9\">"_s + rows + u"</table>"_s
+                              << QStringList{u"a c"_s, u"a c"_s};
+        QTest::newRow("heading rows")
+            << u"<table cellpadding=\"9\"><thead><tr><th>T</th></tr></thead>"_s + rows + u"</table>"_s
+            << QStringList{u"T c"_s, u"T c"_s};
+        QTest::newRow("breaks") << u"<p>a</p><p style=\"page-break-before:always\">b</p><p "
+                                   "style=\"page-break-after:always\">c</p><p>d</p>"_s
+                                << QStringList{u"a a"_s, u"b c"_s, u"d d"_s};
+        QTest::newRow("break in a row")
+            << u"<p>a</p><table><tr><td>x</td><td style=\"\"><p style=\"page-break-before:always\">y</p></td></tr></table>"_s
+            << QStringList{u"a a"_s, u"xy xy"_s};
+        QTest::newRow("row higher than a page")
+            << u"<table><tr><td>%1end</td></tr></table>"_s.arg(u"l<br/>"_s.repeated(40))
+            << QStringList{u"l l"_s, u"l end"_s};
+        QTest::newRow("few lines") << lines + u"<p>1<br/>2<br/>3</p>"_s << QStringList{u"l l"_s, u"1 3"_s};
+        QTest::newRow("letters in pixels")
+            << u"<p style=\"font-size:200px\">l</p><p style=\"font-size:150pt\">m</p>"_s
+            << QStringList{u"l l"_s, u"m m"_s};
+    }
+    void pagesAreCut()
+    {
+        QFETCH(const QString, html);
+        const QTemporaryDir folder;
+        ozm::ReportPaperOptions options;
+        options.layout = QPageLayout(QPageSize(QPageSize::A6), QPageLayout::Landscape, QMarginsF(9, 9, 9, 9),
+                                     QPageLayout::Millimeter);
+        QVERIFY(!ozm::ReportPaper(html, options).writePdf(folder.filePath(u"p.pdf"_s)).hasError());
+        QProcess reader;
+        reader.start(u"pdftotext"_s, {u"-layout"_s, folder.filePath(u"p.pdf"_s), u"-"_s});
+        QVERIFY(reader.waitForFinished());
+        QStringList pages;
+        const QStringList read = QString::fromUtf8(reader.readAllStandardOutput()).split(u'\f');
+        for (const QString &page : read) {
+            const QStringList words = page.section(u"Page "_s, 0, 0).simplified().split(u' ');
+            if (!words.constFirst().isEmpty())
+                pages.append(words.constFirst() + u' ' + words.constLast());
+        }
+        QTEST(pages, "pages");
+        // The same pages as on the screen.
+        ozm::ReportView view;
+        view.setReport(html, options);
+        QCOMPARE(view.pageCount(), pages.size());
     }
 
     void images()

@@ -1,8 +1,10 @@
 #include "templates/document/TemplateChip.h"
 
+#include "templates/document/LetterSizes.h"
 #include "templates/instructions/InstructionCaption.h"
 #include "templates/syntax/ScriptTags.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QTextDocument>
@@ -71,6 +73,13 @@ QFont chipFont(QTextDocument *document, const QTextFormat &format)
     if (size != kUsualSize && font.pointSizeF() > 0)
         font.setPointSizeF(font.pointSizeF() * kSizes.at(size_t(qBound(0, size, int(kSizes.size()) - 1))));
     return font;
+}
+
+/// Of the zoom: how many dots of the layout's device a pixel has.
+double chipScale(QTextDocument *document)
+{
+    const QPaintDevice *device = document->documentLayout()->paintDevice();
+    return device ? device->logicalDpiY() / kPixelsPerInch : 1;
 }
 
 QString firstLine(const QString &text)
@@ -146,7 +155,7 @@ QSizeF ChipPainter::intrinsicSize(QTextDocument *document, int, const QTextForma
 {
     const QFontMetricsF metrics(chipFont(document, format));
     const qreal width = metrics.horizontalAdvance(label(chipPart(format)));
-    return {width + 2 * (kSideMargin + kGapToText), metrics.height()};
+    return QSizeF(width + 2 * (kSideMargin + kGapToText), metrics.height()) * chipScale(document);
 }
 
 void ChipPainter::drawObject(QPainter *painter, const QRectF &rect, QTextDocument *document, int,
@@ -165,7 +174,11 @@ void ChipPainter::drawObject(QPainter *painter, const QRectF &rect, QTextDocumen
 
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    const QRectF outline = rect.adjusted(kGapToText, 0.5, -kGapToText, -0.5);
+    const double scale = chipScale(document);
+    painter->translate(rect.topLeft());
+    painter->scale(scale, scale);
+    const QRectF outline =
+        QRectF(QPointF(), rect.size() / scale).adjusted(kGapToText, 0.5, -kGapToText, -0.5);
     painter->setPen(QPen(mixed(text, tint, 0.6), 1, known ? Qt::SolidLine : Qt::DashLine));
     painter->setBrush(mixed(base, tint, 0.15));
     painter->drawRoundedRect(outline, kCornerRadius, kCornerRadius);

@@ -1,6 +1,7 @@
 #include <ozm_widgets/TemplateDocument.h>
 
 #include "templates/document/KeptSource.h"
+#include "templates/document/LetterSizes.h"
 #include "templates/document/TemplateChip.h"
 #include "templates/document/TemplateParts.h"
 #include "templates/document/TemplateSourceWriter.h"
@@ -206,6 +207,8 @@ editor::SplitTemplate editor::readSource(QTextDocument &document, const QString 
     const bool undo = document.isUndoRedoEnabled();
     document.setUndoRedoEnabled(false);
     document.setHtml(split.html);
+    if (split.html.contains("font"_L1))
+        sizeLettersInPoints(document);
     removeLinesAfterTables(document);
     replaceMarkers(document, split, remember);
     if (remember)

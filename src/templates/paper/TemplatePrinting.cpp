@@ -1,6 +1,5 @@
 #include "templates/paper/TemplatePrinting.h"
 
-#include <ozm_widgets/ReportPaper.h>
 #include <platform/Errors.h>
 
 #include <QPageSetupDialog>
@@ -8,18 +7,33 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace ozm::editor {
 
-TemplatePrinting::TemplatePrinting() = default;
+TemplatePrinting::TemplatePrinting(std::function<ReportPaperOptions()> options)
+    : m_options(std::move(options))
+{}
+
 TemplatePrinting::~TemplatePrinting() = default;
 
 QPrinter &TemplatePrinting::printer()
 {
-    if (!m_printer)
+    if (!m_printer) {
         m_printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        m_printer->setPageLayout(m_options().layout);
+    }
     return *m_printer;
+}
+
+ReportPaperOptions TemplatePrinting::options() const
+{
+    ReportPaperOptions options = m_options();
+    if (m_printer)
+        options.layout = m_printer->pageLayout();
+    return options;
 }
 
 void TemplatePrinting::askPage(QWidget *parent)
@@ -31,7 +45,7 @@ void TemplatePrinting::askPage(QWidget *parent)
 
 void TemplatePrinting::preview(QWidget *parent, const QString &decoded)
 {
-    const ReportPaper paper(decoded);
+    const ReportPaper paper(decoded, options());
     QPrintPreviewDialog dialog(&printer(), parent);
     dialog.setObjectName(u"printPreviewDialog"_s);
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
@@ -44,17 +58,14 @@ void TemplatePrinting::print(QWidget *parent, const QString &decoded)
     QPrintDialog dialog(&printer(), parent);
     dialog.setObjectName(u"printDialog"_s);
     if (dialog.exec() == QDialog::Accepted)
-        ReportPaper(decoded).print(printer());
+        ReportPaper(decoded, options()).print(printer());
 }
 
 Error TemplatePrinting::writePdf(const QString &path, const QString &decoded, const QString &title)
 {
-    ReportPaperOptions options;
-    options.title = title;
-    // Looking for printers only to learn the usual page would take seconds on some networks.
-    if (m_printer)
-        options.layout = m_printer->pageLayout();
-    return ReportPaper(decoded, options).writePdf(path);
+    ReportPaperOptions titled = options();
+    titled.title = title;
+    return ReportPaper(decoded, titled).writePdf(path);
 }
 
 } // namespace ozm::editor

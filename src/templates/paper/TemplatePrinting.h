@@ -1,10 +1,12 @@
 #pragma once
 
 #include <ozm_common_stable/Error.h>
+#include <ozm_widgets/ReportPaper.h>
 
 #include <QCoreApplication>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 class QPrinter;
@@ -18,9 +20,12 @@ class TemplatePrinting
     Q_DECLARE_TR_FUNCTIONS(ozm::editor::TemplatePrinting)
 
 public:
-    TemplatePrinting();
+    /// @p options are asked each time.
+    explicit TemplatePrinting(std::function<ReportPaperOptions()> options);
     ~TemplatePrinting();
 
+    /// Those of the application, on the pages that the user set up if he did.
+    [[nodiscard]] ReportPaperOptions options() const;
     void askPage(QWidget *parent);
     void preview(QWidget *parent, const QString &decoded);
     void print(QWidget *parent, const QString &decoded);
@@ -31,6 +36,7 @@ private:
     /// Made on first use, as looking for printers takes its time.
     [[nodiscard]] QPrinter &printer();
 
+    const std::function<ReportPaperOptions()> m_options;
     std::unique_ptr<QPrinter> m_printer;
 };
 

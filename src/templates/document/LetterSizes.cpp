@@ -1,0 +1,38 @@
+#include "templates/document/LetterSizes.h"
+
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include <utility>
+
+namespace ozm::editor {
+
+namespace {
+
+constexpr double kPointsPerInch = 72;
+
+} // namespace
+
+void sizeLettersInPoints(QTextDocument &document)
+{
+    QTextCursor part(&document);
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        // Fragments are not what they were once one of them is changed.
+        QList<std::pair<int, int>> found;
+        for (auto at = block.begin(); !at.atEnd(); ++at)
+            if (at.fragment().charFormat().intProperty(QTextFormat::FontPixelSize) > 0)
+                found.append({at.fragment().position(), at.fragment().position() + at.fragment().length()});
+        for (const auto &[start, end] : std::as_const(found)) {
+            part.setPosition(start);
+            part.setPosition(end, QTextCursor::KeepAnchor);
+            QTextCharFormat format = part.charFormat();
+            const int pixels = format.intProperty(QTextFormat::FontPixelSize);
+            format.clearProperty(QTextFormat::FontPixelSize);
+            format.setFontPointSize(pixels * kPointsPerInch / kPixelsPerInch);
+            part.setCharFormat(format);
+        }
+    }
+}
+
+} // namespace ozm::editor
