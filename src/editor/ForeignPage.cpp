@@ -1,5 +1,6 @@
 #include "editor/ForeignPage.h"
 
+#include "templates/document/LetterSizes.h"
 #include "templates/document/TemplateChip.h"
 #include "templates/document/TemplateSourceWriter.h"
 #include "templates/syntax/Codes.h"
@@ -23,19 +24,22 @@ namespace {
 
 struct LeftOutRow
 {
-    QLatin1StringView element;
+    QLatin1StringView elements; ///< By name, with "|" between them.
     const char *name;
 };
 
 constexpr std::array kLeftOut{
     LeftOutRow{"script"_L1, QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "scripts")},
-    LeftOutRow{"iframe"_L1, QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "frames")},
-    LeftOutRow{"frame"_L1, QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "frames")},
-    LeftOutRow{"object"_L1, QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "loaded objects")},
-    LeftOutRow{"embed"_L1, QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "loaded objects")},
-    LeftOutRow{"applet"_L1, QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "loaded objects")},
-    LeftOutRow{"svg"_L1, QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "loaded objects")},
+    LeftOutRow{"iframe|frame"_L1, QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "frames")},
+    LeftOutRow{"object|embed|applet|svg"_L1, QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "loaded objects")},
+    LeftOutRow{"video|audio"_L1, QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "films and sounds")},
+    LeftOutRow{"input|select|textarea|button"_L1,
+               QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "form fields")},
 };
+
+// What stands in these is not text of the page. The toolkit's reader would show it, and would hide all that follows
+// a link to a style sheet.
+constexpr std::array kUnread{"link"_L1, "svg"_L1, "select"_L1, "button"_L1, "template"_L1};
 
 constexpr std::array kSchemes{"http"_L1, "https"_L1, "mailto"_L1, "ftp"_L1, "tel"_L1};
 
@@ -66,6 +70,30 @@ bool mayComeIn(const QString &href)
     return std::ranges::any_of(kSchemes, [&scheme](QLatin1StringView each) { return scheme == each; });
 }
 
+/// @p html without the elements of which a reader sees nothing, and without the marks of the part that was copied: the
+/// toolkit's reader would leave out what stands before them, style sheets and the beginning of a table, too.
+QString readablePart(const QString &html)
+{
+    static const QRegularExpression hidden(
+        u"\\bdisplay\\s*:\\s*none\\b|\\shidden(\\s*=|\\s*/?>|\\s+[\\w-]+\\s*=)"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression marks(u"<!--(Start|End)Fragment-->"_s);
+    const QList<HtmlToken> tokens = scanHtml(html);
+    QString part;
+    qsizetype from = 0;
+    for (const HtmlElement &element : treeOf(tokens).elements) {
+        if (element.start < from)
+            continue; // in one that is left out already
+        const bool isUnread = std::ranges::find(kUnread, element.name) != kUnread.end();
+        if (!isUnread && !html.sliced(element.start, element.startTagEnd - element.start).contains(hidden))
+            continue;
+        part += html.sliced(from, element.start - from);
+        from = element.end;
+    }
+    part += html.sliced(from);
+    return part.remove(marks);
+}
+
 struct Fragment
 {
     int position;
@@ -78,14 +106,15 @@ class Cleaning
 public:
     explicit Cleaning(const QString &html)
     {
-        for (const HtmlToken &token : scanHtml(html)) {
-            const QString name = token.kind == HtmlTokenKind::Script ? u"script"_s : token.name;
-            for (const LeftOutRow &row : kLeftOut)
-                if (name == row.element && token.kind != HtmlTokenKind::EndTag)
-                    leaveOut(row.name);
+        for (const LeftOutRow &row : kLeftOut) {
+            const QRegularExpression tag(u"<(%1)[\\s/>]"_s.arg(row.elements),
+                                         QRegularExpression::CaseInsensitiveOption);
+            if (html.contains(tag))
+                leaveOut(row.name);
         }
         m_page.setUndoRedoEnabled(false);
-        m_page.setHtml(html);
+        m_page.setHtml(readablePart(html));
+        sizeLettersInPoints(m_page);
     }
 
     QString run()
@@ -138,6 +167,10 @@ private:
             for (const int property :
                  {QTextFormat::AnchorHref, QTextFormat::AnchorName, QTextFormat::IsAnchor})
                 format.clearProperty(property);
+            cursor.setCharFormat(format);
+        } else if (format.foreground() == QBrush(Qt::black)) {
+            // As all text on paper is, unless it says otherwise.
+            format.clearForeground();
             cursor.setCharFormat(format);
         }
     }
