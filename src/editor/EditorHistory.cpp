@@ -15,6 +15,8 @@ std::unique_ptr<QTextDocument> makeDocument(EditorSession::Mode mode, const QStr
     if (mode == EditorSession::Mode::Rich) {
         auto document = std::make_unique<TemplateDocument>();
         document->setDocumentMargin(kMargin);
+        // The view lays it out when it shows it, for its own width.
+        document->setPageSize({0, 0});
         document->setSource(source);
         return document;
     }

@@ -189,6 +189,25 @@ QList<editor::ChipPlace> chipPlaces(const TemplateDocument &document)
     return chips;
 }
 
+/// Nothing is laid out while this lives. Each change would be otherwise, and a table in a table twice as often as the table
+/// around it.
+class LayoutPause
+{
+public:
+    explicit LayoutPause(QTextDocument &document)
+        : m_document(document)
+        , m_pageSize(document.pageSize())
+    {
+        document.setPageSize({0, 0});
+    }
+    ~LayoutPause() { m_document.setPageSize(m_pageSize); }
+    Q_DISABLE_COPY_MOVE(LayoutPause)
+
+private:
+    QTextDocument &m_document;
+    const QSizeF m_pageSize;
+};
+
 QImage missingImage()
 {
     static const QImage image(u":/qt-project.org/styles/commonstyle/images/file-16.png"_s);
@@ -206,6 +225,7 @@ editor::SplitTemplate editor::readSource(QTextDocument &document, const QString 
     SplitTemplate split = splitTemplate(source);
     const bool undo = document.isUndoRedoEnabled();
     document.setUndoRedoEnabled(false);
+    const LayoutPause pause(document);
     document.setHtml(split.html);
     if (split.html.contains("font"_L1))
         sizeLettersInPoints(document);
