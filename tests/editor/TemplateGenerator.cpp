@@ -16,7 +16,8 @@ QString TemplateGenerator::word()
 QString TemplateGenerator::code()
 {
     return oneOf({"[Name]", "[Charge]", "[m/z]", "[Retention time (min)]", "[a[b]", "[A&B]", "[%1]", "[äöü]",
-                  "[0]", "[Name][Name]", "[x<y]"});
+                  "[0]", "[Name][Name]", "[x<y]",
+                  "<span data-format=\"number\" data-digits=\"2\">[Mass]</span>"});
 }
 
 QString TemplateGenerator::script()
@@ -76,7 +77,8 @@ QString TemplateGenerator::list(int depth)
     const QString tag = oneOf({"ul", "ol"});
     QString html = u'<' + tag + oneOf({"", " type=\"square\"", " type=\"A\""}) + ">\n"_L1;
     for (int i = below(3) + 1; i > 0; --i) {
-        html += "<li>"_L1 + inlines(depth) + (depth < 3 && chance(25) ? list(depth + 1) : QString());
+        html += "<li>"_L1 + oneOf({"", "", "", "<!--ozm:repeat-row of=\"Ions\"-->"}) + inlines(depth) +
+                (depth < 3 && chance(25) ? list(depth + 1) : QString());
         html += chance(70) ? u"</li>\n"_s : u"\n"_s;
     }
     return html + (chance(5) ? script() : QString()) + "</"_L1 + tag + ">\n"_L1;
@@ -149,8 +151,17 @@ QString TemplateGenerator::block(int depth)
 QStringList TemplateGenerator::blocks()
 {
     QStringList all;
-    for (int i = below(8) + 1; i > 0; --i)
+    if (chance(10))
+        all += u"<!--ozm:page size=\"A5\" header=\"Lot [Name]\"-->\n"_s;
+    for (int i = below(8) + 1; i > 0; --i) {
+        const bool isSection = chance(15);
+        if (isSection)
+            all += oneOf({"<!--ozm:repeat of=\"Ions\" sort=\"Mass\"-->\n",
+                          "<p><!--ozm:if code=\"Mass\" is=\"above\" value=\"1\"--></p>\n"});
         all += block(0);
+        if (isSection)
+            all += u"<!--ozm:end-->\n"_s;
+    }
     return all;
 }
 
