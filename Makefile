@@ -5,7 +5,7 @@ PRESET ?= dev
 QT_TOOLS ?= $(addsuffix /,$(wildcard /usr/lib/qt6/bin))
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: help run pictures test check tidy bench docs package fuzz install format translations clean
+.PHONY: help run pictures test check tidy bench docs package fuzz faults install format translations clean
 
 help:
 	@echo "make run      the workbench, or its batch mode where there is no display"
@@ -17,6 +17,7 @@ help:
 	@echo "make docs     the reference of every exported class, as web pages"
 	@echo "make package  Debian packages"
 	@echo "make fuzz     readers of foreign data against made-up data, FUZZ_SECONDS each"
+	@echo "make faults   each system call of each way of writing fails once"
 	@echo "make translations  brings the texts to translate up to date"
 	@echo "make install  into PREFIX (default /usr/local)"
 
@@ -67,6 +68,12 @@ package:
 fuzz:
 	@.ci/setup build fuzz
 	@JOBS=$(JOBS) fuzz/run $(FUZZ_TARGETS)
+
+faults:
+	@.ci/setup build
+	@cmake --preset dev >/dev/null
+	cmake --build --preset dev -j $(JOBS) --target faults
+	@build/dev/bin/faults
 
 install:
 	@.ci/setup build

@@ -15,6 +15,7 @@
 #include <ozm_common_core_mini/ColumnNames.h>
 #include <ozm_widgets/FileCrawlerDialog.h>
 #include <ozm_widgets/OZMStyle.h>
+#include <ozm_widgets/WholeFile.h>
 
 #include <QAction>
 #include <QApplication>
@@ -24,7 +25,6 @@
 #include <QFile>
 #include <QPixmap>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTableView>
@@ -326,11 +326,8 @@ Error writePage(const QDir &folder)
                  u"Each window on the sample data of the first steps. With a display, <code>workbench "
                  "--first-steps</code> opens the first of them."_s,
                  figures, resultsIn(folder));
-    QSaveFile file(folder.filePath(u"index.html"_s));
-    const QByteArray bytes = page.toUtf8();
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
-        return {};
-    return notWritten(file.fileName());
+    const QString path = folder.filePath(u"index.html"_s);
+    return ozm::writeWhole(path, page.toUtf8()).hasError() ? notWritten(path) : Error();
 }
 
 } // namespace

@@ -242,6 +242,9 @@ void TestTemplateDocument::keepsSource_data()
     QTest::newRow("code written raw") << u"<p>[A&B]</p>"_s << u"<p>[A&B]</p>"_s;
     QTest::newRow("comparison in plain text")
         << u"x<y [Name]\nnext"_s << u"<div>x&lt;y [Name]</div>\n<div>next</div>"_s;
+    QTest::newRow("cell that nothing closes")
+        << u"<p>a</p><table><tr><td>"_s
+        << u"<p>a</p>\n<table border=\"0\" cellspacing=\"2\" cellpadding=\"0\">\n<tr><td></td></tr>\n</table>"_s;
     QTest::newRow("declaration in plain text")
         << u"a <! b\nnext"_s << u"<div>a &lt;! b</div>\n<div>next</div>"_s;
     QTest::newRow("heading stays plain") << u"<h2>[Name]</h2>"_s << u"<h2>[Name]</h2>"_s;

@@ -2,11 +2,12 @@
 
 #include "audit/AuditTrail.h"
 
+#include <ozm_widgets/WholeFile.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 using namespace Qt::StringLiterals;
 using ozm::Error;
@@ -79,13 +80,12 @@ QByteArray auditTrailJson(const AuditTrail &trail)
 
 Error writeAuditTrailJson(const AuditTrail &trail, const QString &path)
 {
-    const QByteArray json = auditTrailJson(trail);
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit())
+    const Error error = ozm::writeWhole(path, auditTrailJson(trail));
+    if (!error.hasError())
         return {};
     return Error(ErrorCode::FileAccess,
                  QCoreApplication::translate("AuditTrailJson", "\"%1\" cannot be written: %2.")
-                     .arg(QDir::toNativeSeparators(path), file.errorString()))
+                     .arg(QDir::toNativeSeparators(path), error.errorMessage()))
         .ecatch(OZM_HERE);
 }
 

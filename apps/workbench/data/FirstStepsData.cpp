@@ -1,10 +1,11 @@
 #include "data/FirstStepsData.h"
 
+#include <ozm_widgets/WholeFile.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <array>
 
@@ -67,13 +68,11 @@ Error cannotWrite(const QString &path, const QString &reason)
         .ecatch(OZM_HERE);
 }
 
-Error writeWhole(const QString &path, const QByteArray &bytes)
+Error writeFile(const QString &path, const QByteArray &bytes)
 {
     QDir().mkpath(QFileInfo(path).path());
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
-        return {};
-    return cannotWrite(path, file.errorString());
+    const Error error = ozm::writeWhole(path, bytes);
+    return error.hasError() ? cannotWrite(path, error.errorMessage()) : Error();
 }
 
 } // namespace
@@ -84,13 +83,13 @@ Error writeFirstStepsData(const QString &folder)
     QFile samples(u":/first-steps/samples.csv"_s);
     if (!samples.open(QIODevice::ReadOnly))
         return cannotWrite(top.filePath(u"samples.csv"_s), samples.errorString());
-    if (Error error = writeWhole(top.filePath(u"samples.csv"_s), samples.readAll()); error.hasError())
+    if (Error error = writeFile(top.filePath(u"samples.csv"_s), samples.readAll()); error.hasError())
         return error;
     for (const FileRow &row : kFiles) {
         const QByteArray bytes =
             row.text ? QByteArray(row.text) : QByteArray(qsizetype(row.kibibytes) * 1024, '\0');
         const QString path = top.filePath(u"data/"_s + QString::fromLatin1(row.path));
-        if (Error error = writeWhole(path, bytes); error.hasError())
+        if (Error error = writeFile(path, bytes); error.hasError())
             return error;
     }
     return {};

@@ -8,10 +8,10 @@
 #include <ozm_widgets/ReportPaper.h>
 #include <ozm_widgets/TemplateFile.h>
 #include <ozm_widgets/TemplateFilling.h>
+#include <ozm_widgets/WholeFile.h>
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QSaveFile>
 
 using namespace Qt::StringLiterals;
 using ozm::Error;
@@ -213,11 +213,9 @@ Error saveReportPdf(const ReportPages &report, const QString &path, const Report
 
 Error saveReportHtml(const ReportPages &report, const QString &path)
 {
-    const QByteArray bytes = reportHtml(report).toUtf8();
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
-        return {};
-    return fileError(tr("\"%1\" cannot be written."), path);
+    if (ozm::writeWhole(path, reportHtml(report).toUtf8()).hasError())
+        return fileError(tr("\"%1\" cannot be written."), path);
+    return {};
 }
 
 } // namespace workbench

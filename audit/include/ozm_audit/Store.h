@@ -39,7 +39,8 @@ class StoreBackend;
  *
  * Safe to use from several threads; calls wait for each other. Errors are texts for the user: FileAccess when
  * the store is locked, full, read-only, damaged, replaced or out of reach, NotAllowed when it is of a newer
- * form or on a file system that cannot be trusted with it. After an error nothing is stored.
+ * form or on a file system that cannot be trusted with it. After an error nothing is stored; a disk that fails
+ * once an entry is in a shared trail is the one exception, and its text says so.
  */
 class OZM_AUDIT_EXPORT Store
 {

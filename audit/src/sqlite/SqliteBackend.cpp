@@ -8,6 +8,7 @@
 #include "SqliteSchema.h"
 #include "SqliteTables.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 #include <utility>
@@ -49,6 +50,9 @@ public:
 private:
     [[nodiscard]] Error appendLocked(const QList<NewEntry> &entries, qint64 &first);
     [[nodiscard]] Error insert(const NewEntry &entry, qint64 first, Frontier &frontier);
+    /// True when the trail ends with @p edge, whoever wrote it.
+    [[nodiscard]] bool isHead(const QByteArray &edge);
+    [[nodiscard]] Error confirm();
     [[nodiscard]] Error findIndexed(const Query &query, qint64 indexed, QList<Entry> &page);
 
     const std::unique_ptr<Database> m_database;
@@ -57,6 +61,7 @@ private:
     /// The count that this program has seen: a head that counts less was put back by another program.
     qint64 m_known = 0;
     std::vector<Subtree> m_completed;
+    QByteArray m_edge; ///< The trail's frontier after the append.
     Statement m_head;
     Statement m_setHead;
     Statement m_insert;
@@ -94,11 +99,35 @@ Result<StoredHead> SqliteBackend::head()
 Result<qint64> SqliteBackend::append(const QList<NewEntry> &entries)
 {
     qint64 first = 0;
+    m_edge.clear();
     Error error = m_database->transact([&] { return appendLocked(entries, first); });
+    // With a journal that programs share, a commit can fail once it took place.
+    if (error.hasError() && isHead(m_edge))
+        error = confirm();
     if (error.hasError())
         return error;
     m_known = first + entries.size() - 1;
     return first;
+}
+
+bool SqliteBackend::isHead(const QByteArray &edge)
+{
+    const auto now = head();
+    return !edge.isEmpty() && now && now.value().frontier == edge;
+}
+
+Error SqliteBackend::confirm()
+{
+    // Makes a journal and removes it again, which has to reach the disk this time.
+    const Error error =
+        m_database->transact([this] { return m_database->run("UPDATE head SET indexed = indexed"); });
+    if (!error.hasError())
+        return {};
+    return Error(ErrorCode::FileAccess,
+                 Texts::tr("The entry is in the audit trail \"%1\", but the disk did not confirm it. "
+                           "Check the disk, and what was to be recorded.")
+                     .arg(QDir::toNativeSeparators(m_database->path())))
+        .ecatch(OZM_HERE);
 }
 
 Error SqliteBackend::appendLocked(const QList<NewEntry> &entries, qint64 &first)
@@ -126,8 +155,8 @@ Error SqliteBackend::appendLocked(const QList<NewEntry> &entries, qint64 &first)
     }
     if (Error error = keepSubtrees(*m_database, m_completed); error.hasError())
         return error;
-    const QByteArray edge = frontier->toBytes();
-    return m_setHead.bind(1, frontier->size()).bindBlob(2, edge).bind(3, indexed).run();
+    m_edge = frontier->toBytes();
+    return m_setHead.bind(1, frontier->size()).bindBlob(2, m_edge).bind(3, indexed).run();
 }
 
 Error SqliteBackend::insert(const NewEntry &entry, qint64 first, Frontier &frontier)

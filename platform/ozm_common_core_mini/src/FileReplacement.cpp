@@ -6,7 +6,11 @@
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
 #include <unistd.h>
+#else
+#include <io.h>
 #endif
+
+#include <cerrno>
 
 namespace ozm {
 
@@ -49,16 +53,43 @@ bool writeAll(QFileDevice &file, const QByteArray &bytes)
     return file.write(bytes) == bytes.size() && file.flush();
 }
 
+/// False when the disk fails to store what was written. Some file systems cannot be asked, and are believed.
+bool isStored(const QFileDevice &file)
+{
+#ifdef Q_OS_UNIX
+    while (::fsync(file.handle()) != 0) {
+        if (errno != EINTR)
+            return errno != EIO && errno != ENOSPC && errno != EDQUOT;
+    }
+    return true;
+#else
+    return ::_commit(file.handle()) == 0 || errno == EBADF;
+#endif
+}
+
 bool writeToDevice(const QString &path, const QByteArray &bytes)
 {
     QFile device(path);
     return device.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && writeAll(device, bytes);
 }
 
-bool writeBeside(const QString &path, const QByteArray &bytes)
+enum class Beside
+{
+    Written,
+    Impossible, ///< The folder takes no new file, or not in the place of the former one.
+    Failed
+};
+
+Beside writeBeside(const QString &path, const QByteArray &bytes)
 {
     QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && writeAll(file, bytes) && file.commit();
+    if (!file.open(QIODevice::WriteOnly))
+        return Beside::Impossible;
+    if (!writeAll(file, bytes) || !isStored(file)) {
+        file.cancelWriting();
+        return Beside::Failed;
+    }
+    return file.commit() ? Beside::Written : Beside::Impossible;
 }
 
 /// The old content goes back when the new one does not fit: its own blocks are there for it.
@@ -68,10 +99,16 @@ bool writeOver(const QString &path, const QByteArray &bytes)
     if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
         return false;
     const QByteArray old = file.readAll();
-    if (old.size() == file.size() && file.seek(0) && writeAll(file, bytes) && file.resize(bytes.size()))
+    // Without all of the old content nothing could be put back.
+    if (file.error() != QFileDevice::NoError || old.size() != file.size())
+        return false;
+    const auto put = [&file](const QByteArray &content) {
+        return file.seek(0) && writeAll(file, content) &&
+               (file.size() == content.size() || file.resize(content.size())) && isStored(file);
+    };
+    if (put(bytes))
         return true;
-    if (file.seek(0) && writeAll(file, old))
-        file.resize(old.size());
+    (void)put(old);
     return false;
 }
 
@@ -83,10 +120,15 @@ bool replaceFile(const QString &path, const QByteArray &bytes)
         return false;
     switch (targetAt(path)) {
     case Target::Absent:
-        return writeBeside(path, bytes);
-    case Target::OwnFile:
+        return writeBeside(path, bytes) == Beside::Written;
+    case Target::OwnFile: {
         // A read-only file in a writable folder is not replaced: a plain write would not do that either.
-        return QFileInfo(path).isWritable() && (writeBeside(path, bytes) || writeOver(path, bytes));
+        if (!QFileInfo(path).isWritable())
+            return false;
+        // A disk that is full or fails must not get at the only copy.
+        const Beside beside = writeBeside(path, bytes);
+        return beside == Beside::Written || (beside == Beside::Impossible && writeOver(path, bytes));
+    }
     case Target::SharedFile:
         return writeOver(path, bytes);
     case Target::Device:

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -61,7 +62,7 @@ public:
                 ++kept;
             if (kept < m_kept.size() && token.start >= m_kept.at(kept).start) {
                 if (token.start == m_kept.at(kept).start && !m_kept.at(kept).dropped)
-                    appendPart(PartKind::Markup, m_kept.at(kept).start, m_kept.at(kept).end);
+                    appendKept(token, m_kept.at(kept).end);
                 if (m_kept.at(kept).dropped)
                     m_runIsOpen = false;
                 continue;
@@ -357,9 +358,10 @@ private:
         });
         qsizetype run = 0;
         for (qsizetype i = 0; i < starts.size(); ++i) {
-            SourceSection section{starts.at(i), i + 1 < starts.size() ? starts.at(i + 1) : m_source.size(),
-                                  int(run), 0};
-            while (run < m_result.runs.size() && m_result.runs.at(run).start < section.end) {
+            const bool isLast = i + 1 == starts.size();
+            SourceSection section{starts.at(i), isLast ? m_source.size() : starts.at(i + 1), int(run), 0};
+            // An element that nothing closes can end with an empty line behind the last character.
+            while (run < m_result.runs.size() && (isLast || m_result.runs.at(run).start < section.end)) {
                 m_result.runs[run++].section = int(m_result.sections.size());
                 ++section.runs;
             }
@@ -426,6 +428,22 @@ private:
         beginRun(start);
         addPart({kind, m_source.sliced(start, end - start)}, {start, end});
         m_result.runs.last().end = qMax(m_result.runs.last().end, end);
+    }
+
+    /// An element that nothing closes would take in what is written behind it.
+    void appendKept(const HtmlToken &token, qsizetype end)
+    {
+        appendPart(PartKind::Markup, token.start, end);
+        if (token.kind != HtmlTokenKind::StartTag || end != m_source.size() || isVoidElement(token.name))
+            return;
+        int open = 0;
+        for (const HtmlToken &inner : std::span(m_tokens).subspan(size_t(m_index)))
+            if (inner.name == token.name)
+                open += inner.kind == HtmlTokenKind::StartTag ? 1
+                        : inner.kind == HtmlTokenKind::EndTag ? -1
+                                                              : 0;
+        if (open > 0)
+            m_result.parts.last().source += "</"_L1 + token.name + u'>';
     }
 
     void findKeptRanges()

@@ -1,4 +1,5 @@
 #include <ozm_widgets/TemplateAutosave.h>
+#include <ozm_widgets/WholeFile.h>
 
 #include "support/Logging.h"
 
@@ -84,7 +85,7 @@ bool writeCopy(const QString &name, const QByteArray &bytes)
     // The template may be confidential, and other users may look into the folder.
     return file.open(QIODevice::WriteOnly) &&
            file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
-           file.write(bytes) == bytes.size() && file.commit();
+           file.write(bytes) == bytes.size() && !commitWhole(file).hasError();
 }
 
 } // namespace

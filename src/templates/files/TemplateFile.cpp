@@ -1,4 +1,5 @@
 #include <ozm_widgets/TemplateFile.h>
+#include <ozm_widgets/WholeFile.h>
 
 #include "templates/files/TemplateFileText.h"
 #include "templates/files/WebReader.h"
@@ -9,7 +10,6 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 #include <platform/Errors.h>
 
 using namespace Qt::StringLiterals;
@@ -99,18 +99,6 @@ Result<QByteArray> bytesFor(const QString &content)
     return bytes;
 }
 
-/// Goes on after a part was written, since only the next try says why it was not all.
-bool writeAll(QSaveFile &file, const QByteArray &bytes)
-{
-    for (qint64 done = 0; done < bytes.size();) {
-        const qint64 written = file.write(bytes.constData() + done, bytes.size() - done);
-        if (written <= 0)
-            return false;
-        done += written;
-    }
-    return true;
-}
-
 } // namespace
 
 class TemplateFile::Private
@@ -149,10 +137,8 @@ Error TemplateFile::write(const QString &path, const QString &content)
         return bytes.error();
     if (isNoFile(path))
         return notWritten(path, tr("This is not a file.")).ecatch(OZM_PLACE);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeAll(file, bytes.value()) ||
-        !file.commit())
-        return notWritten(path, file.errorString()).ecatch(OZM_PLACE);
+    if (const Error error = writeWhole(path, bytes.value()); error.hasError())
+        return notWritten(path, error.errorMessage()).ecatch(OZM_PLACE);
     return {};
 }
 

@@ -2,6 +2,7 @@
 
 #include "templates/paper/ReportPaperPrivate.h"
 
+#include <ozm_widgets/WholeFile.h>
 #include <platform/Errors.h>
 
 #include <QCoreApplication>
@@ -98,9 +99,10 @@ public:
         if (!update)
             return cannotWrite(
                 bookText(QT_TRANSLATE_NOOP("ozm::ReportBook", "Bookmarks cannot be added to it.")));
-        if (!copyBytes(pages, target) || target.write(*update) != update->size() || !target.commit())
+        if (!copyBytes(pages, target) || target.write(*update) != update->size())
             return cannotWrite(target.errorString());
-        return {};
+        const Error stored = commitWhole(target);
+        return stored.hasError() ? cannotWrite(stored.errorMessage()) : Error();
     }
 
     const QString path;

@@ -2,6 +2,7 @@
 #include "../model/EntryTexts.h"
 
 #include <ozm_audit_widgets/TrailFilter.h>
+#include <ozm_widgets/WholeFile.h>
 
 #include <QDateTime>
 #include <QDir>
@@ -9,7 +10,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 #include <QStringList>
 
 #include <algorithm>
@@ -160,11 +160,9 @@ Error notAFilter()
         .ecatch(OZM_HERE);
 }
 
-Error fileError(const QString &pattern, const QFileDevice &file)
+Error fileError(const QString &pattern, const QString &path, const QString &reason)
 {
-    return Error(ErrorCode::FileAccess,
-                 pattern.arg(QDir::toNativeSeparators(file.fileName()), file.errorString()))
-        .ecatch(OZM_HERE);
+    return Error(ErrorCode::FileAccess, pattern.arg(QDir::toNativeSeparators(path), reason)).ecatch(OZM_HERE);
 }
 
 } // namespace
@@ -300,18 +298,18 @@ Result<TrailFilter> TrailFilter::fromJson(const QByteArray &json)
 
 Error TrailFilter::save(const QString &path) const
 {
-    QSaveFile file(path);
-    const QByteArray json = toJson() + '\n';
-    if (file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit())
-        return {};
-    return fileError(WidgetTexts::tr("The filter cannot be saved as \"%1\": %2"), file);
+    if (const Error error = writeWhole(path, toJson() + '\n'); error.hasError()) {
+        return fileError(WidgetTexts::tr("The filter cannot be saved as \"%1\": %2"), path,
+                         error.errorMessage());
+    }
+    return {};
 }
 
 Result<TrailFilter> TrailFilter::load(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return fileError(WidgetTexts::tr("The filter \"%1\" cannot be read: %2"), file);
+        return fileError(WidgetTexts::tr("The filter \"%1\" cannot be read: %2"), path, file.errorString());
     return fromJson(file.read(kMostBytes));
 }
 

@@ -4,6 +4,7 @@
 #include <ozm_audit_widgets/Signature.h>
 #include <ozm_audit_widgets/TrailOutput.h>
 #include <ozm_widgets/ReportPaper.h>
+#include <ozm_widgets/WholeFile.h>
 
 #include <QDateTime>
 #include <QDir>
@@ -197,7 +198,7 @@ Error TrailOutput::writeCsv(const QString &path) const
     written = written && write(titles);
     for (int row = 0; written && row < int(m_model.shown()); ++row)
         written = write(rowOf(m_model, m_model.entryAt(row)));
-    return written && file.commit() ? Error() : failed();
+    return written && !commitWhole(file).hasError() ? Error() : failed();
 }
 
 } // namespace ozm::audit
