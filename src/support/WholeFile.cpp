@@ -63,15 +63,12 @@ Error commitWhole(QSaveFile &file)
 {
     if (!file.isOpen())
         return Error(codes::FileAccess, file.errorString());
-    QString reason;
-    if (!file.flush())
-        reason = file.errorString();
-    else if (const int error = syncError(file.handle()); error != 0)
-        reason = QString::fromLocal8Bit(std::system_category().message(error));
-    else if (file.commit())
+    const bool isWritten = file.flush();
+    const int error = isWritten ? syncError(file.handle()) : 0;
+    if (isWritten && error == 0 && file.commit())
         return {};
-    else
-        reason = file.errorString();
+    const QString reason =
+        error == 0 ? file.errorString() : QString::fromLocal8Bit(std::system_category().message(error));
     file.cancelWriting();
     return Error(codes::FileAccess, reason);
 }
