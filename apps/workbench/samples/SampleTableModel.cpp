@@ -75,7 +75,9 @@ bool isNumber(int section)
 
 int alignmentOf(int section)
 {
-    return static_cast<int>((isNumber(section) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    // Units stand below units in every language.
+    const Qt::Alignment side = isNumber(section) ? Qt::AlignRight | Qt::AlignAbsolute : Qt::AlignLeft;
+    return static_cast<int>(side | Qt::AlignVCenter);
 }
 
 QString kindName(const QString &kind)
