@@ -17,6 +17,8 @@ namespace ozm::editor {
 
 namespace {
 
+// As the toolkit marks an object that is selected; it has no public name.
+constexpr int kSelectionBrush = QTextFormat::ForegroundBrush + 1;
 constexpr int kKindProperty = QTextFormat::UserProperty + 1;
 constexpr int kSourceProperty = QTextFormat::UserProperty + 2;
 
@@ -165,12 +167,14 @@ void ChipPainter::drawObject(QPainter *painter, const QRectF &rect, QTextDocumen
     const QString code = codeOf(part);
     const bool known = code.isEmpty() || isKnown(code);
     const QColor tint = known ? QColor(lookOf(part).tint) : QColor(Qt::red);
-    // Templates are shown on paper, which is white; a selection brings its own colours.
+    // Templates are shown on paper, which is white. The toolkit lays the colour of a selection over what is drawn
+    // here, so that the colours of its text would not be seen below.
     const QTextCharFormat look = format.toCharFormat();
-    const QColor base =
-        look.background().style() == Qt::NoBrush ? QColor(Qt::white) : look.background().color();
-    const QColor text =
-        look.foreground().style() == Qt::NoBrush ? QColor(Qt::black) : look.foreground().color();
+    const bool isSelected = format.hasProperty(kSelectionBrush);
+    const QColor base = isSelected || look.background().style() == Qt::NoBrush ? QColor(Qt::white)
+                                                                               : look.background().color();
+    const QColor text = isSelected || look.foreground().style() == Qt::NoBrush ? QColor(Qt::black)
+                                                                               : look.foreground().color();
 
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
