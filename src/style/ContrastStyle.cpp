@@ -2,6 +2,8 @@
 
 #include <ozm_widgets/OZMStyle.h>
 
+#include <QApplication>
+#include <QFontMetrics>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -19,6 +21,35 @@ constexpr int kTextMargin = 4;
 constexpr qreal kRoundLine = 1.5;
 // A little more than Fusion has, for an icon that is sharp.
 constexpr int kExtensionExtent = 16;
+
+// Of the font that the sizes of the toolkit are made for, in pixels.
+constexpr int kUsualTextHeight = 15;
+
+/// Icons, and the marks of boxes and radio buttons.
+bool growsWithText(QStyle::PixelMetric metric)
+{
+    switch (metric) {
+    case QStyle::PM_SmallIconSize:
+    case QStyle::PM_ButtonIconSize:
+    case QStyle::PM_ToolBarIconSize:
+    case QStyle::PM_ListViewIconSize:
+    case QStyle::PM_TabBarIconSize:
+    case QStyle::PM_IndicatorWidth:
+    case QStyle::PM_IndicatorHeight:
+    case QStyle::PM_ExclusiveIndicatorWidth:
+    case QStyle::PM_ExclusiveIndicatorHeight:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// @p size for the text of the application, from half again as high as usual on: up to there it fits.
+int grown(int size)
+{
+    const int height = QFontMetrics(QApplication::font()).height();
+    return height * 2 < kUsualTextHeight * 3 ? size : size * height / kUsualTextHeight;
+}
 
 /// Nothing is darker than this window, which is how Fusion makes its outlines.
 bool isBlack(const QPalette &palette)
@@ -69,8 +100,10 @@ QIcon ContrastStyle::standardIcon(StandardPixmap icon, const QStyleOption *optio
 
 int ContrastStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
 {
-    return metric == PM_ToolBarExtensionExtent ? kExtensionExtent
-                                               : QProxyStyle::pixelMetric(metric, option, widget);
+    if (metric == PM_ToolBarExtensionExtent)
+        return kExtensionExtent;
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    return growsWithText(metric) ? grown(usual) : usual;
 }
 
 void ContrastStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,

@@ -10,7 +10,7 @@ namespace ozm {
 /**
  * Fusion, with the outlines of check boxes and radio buttons, on black those of buttons and fields as well, and the
  * arrow of a tool bar without room, drawn to be seen on every palette; and with data that reads as it was written,
- * whatever the direction of the language around it.
+ * whatever the direction of the language around it. Icons and marks grow with large letters.
  *
  * Fusion derives the outlines from the colour of the window by a fixed step, which is next to nothing on dark.
  */

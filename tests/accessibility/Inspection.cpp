@@ -262,6 +262,9 @@ void inspectPixels(QWidget &window, Inspection &found)
     constexpr double kVisible = 3.0;
     const QImage image = window.grab().toImage();
     const auto look = [&](const QWidget &widget, bool isText) {
+        // Scrolled out of sight, its place shows something else.
+        if (widget.visibleRegion().boundingRect().height() < widget.height())
+            return;
         const QRect area(widget.mapTo(&window, QPoint()), widget.size());
         // Without the frame, which may be the part that is seen best.
         const double ratio = contrastIn(image, area.adjusted(4, 4, -4, -4) & window.rect());
@@ -343,6 +346,11 @@ void inspectRoom(const QWidget &window, QStringList &findings)
             continue;
         if (const int spare = spareRoom(*widget); spare < 0 && !widget->visibleRegion().isEmpty())
             findings += u"%1 lacks %2 pixels for its text"_s.arg(told(*widget)).arg(-spare);
+        const QRect place(widget->mapTo(&window, QPoint()), widget->size());
+        const bool isText =
+            qobject_cast<const QLabel *>(widget) || qobject_cast<const QAbstractButton *>(widget);
+        if (isText && (place.left() < 0 || place.right() > window.width()))
+            findings += told(*widget) + u" is cut off by the window"_s;
         const auto *header = qobject_cast<const QHeaderView *>(widget);
         if (!header || header->orientation() != Qt::Horizontal)
             continue;

@@ -17,6 +17,8 @@ namespace workbench {
 namespace {
 
 constexpr int kPageWidth = 300;
+// Large letters leave less beside them, for the table has to have room as well.
+constexpr int kLeastPageWidth = 240;
 
 QLabel *wrapped(const QString &text, QWidget *parent)
 {
@@ -117,7 +119,7 @@ bool FirstStepsPage::viewportEvent(QEvent *event)
 
 QSize FirstStepsPage::sizeHint() const
 {
-    return {forFontOf(*this, kPageWidth), QScrollArea::sizeHint().height()};
+    return {qMax(kPageWidth, forFontOf(*this, kLeastPageWidth)), QScrollArea::sizeHint().height()};
 }
 
 } // namespace workbench

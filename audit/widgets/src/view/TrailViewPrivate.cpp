@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QScrollBar>
 #include <QSplitter>
+#include <QStyle>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -76,7 +77,8 @@ void TrailView::Private::build()
 {
     auto *tools = new QToolBar;
     tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    tools->setIconSize({16, 16});
+    const int icon = tools->style()->pixelMetric(QStyle::PM_SmallIconSize);
+    tools->setIconSize({icon, icon});
     addActions(*tools);
     addZones(*tools);
 
