@@ -374,6 +374,10 @@
         <source>this program was built without zip files. Choose a folder.</source>
         <translation>dieses Programm wurde ohne Zip-Dateien gebaut. Wählen Sie einen Ordner.</translation>
     </message>
+    <message>
+        <source>The entry is in the audit trail &quot;%1&quot;, but the disk did not confirm it. Check the disk, and what was to be recorded.</source>
+        <translation>Der Eintrag steht im Audit-Trail „%1“, aber der Datenträger hat ihn nicht bestätigt. Prüfen Sie den Datenträger und was aufgezeichnet werden sollte.</translation>
+    </message>
 </context>
 <context>
     <name>ozm::audit::EntryDetails</name>

@@ -374,6 +374,10 @@
         <source>The bytes of entry %1 are gone, and no disposal is recorded.</source>
         <translation>Le contenu de l’entrée %1 a disparu, et aucune destruction n’est consignée.</translation>
     </message>
+    <message>
+        <source>The entry is in the audit trail &quot;%1&quot;, but the disk did not confirm it. Check the disk, and what was to be recorded.</source>
+        <translation>L’entrée est dans la piste d’audit «&#x202f;%1&#x202f;», mais le disque ne l’a pas confirmée. Vérifiez le disque et ce qui devait être consigné.</translation>
+    </message>
 </context>
 <context>
     <name>ozm::audit::EntryDetails</name>

@@ -55,6 +55,14 @@
         <source>There is no data row to fill the template with.</source>
         <translation>Es gibt keine Datenzeile, mit der die Vorlage gefüllt werden kann.</translation>
     </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Zoom of the template (Ctrl and the wheel)</source>
+        <translation>Zoom der Vorlage (Strg und Mausrad)</translation>
+    </message>
 </context>
 <context>
     <name>BlackSplitterPlugin</name>
@@ -551,6 +559,29 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::ReportView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>Verkl&amp;einern</translation>
+    </message>
+    <message>
+        <source>&amp;Fit the width</source>
+        <translation>An &amp;Breite anpassen</translation>
+    </message>
+</context>
+<context>
     <name>ozm::TemplateFile</name>
     <message>
         <source>&quot;%1&quot; cannot be read: %2</source>
@@ -983,6 +1014,18 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
         <source>Page set-up of the te&amp;mplate…</source>
         <translation>Seiten der Vor&amp;lage…</translation>
     </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>&amp;Normal size</source>
+        <translation>&amp;Normale Größe</translation>
+    </message>
 </context>
 <context>
     <name>ozm::editor::EditorFiles</name>
@@ -1263,6 +1306,14 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     <message>
         <source>links</source>
         <translation>Verweise</translation>
+    </message>
+    <message>
+        <source>films and sounds</source>
+        <translation>Filme und Töne</translation>
+    </message>
+    <message>
+        <source>form fields</source>
+        <translation>Formularfelder</translation>
     </message>
 </context>
 <context>
@@ -1571,6 +1622,34 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     <message>
         <source>%1 came in with the result of a script.</source>
         <translation>%1 kam mit dem Ergebnis eines Skripts hinein.</translation>
+    </message>
+    <message>
+        <source>Zoom out (Ctrl and the wheel)</source>
+        <translation>Verkleinern (Strg und Mausrad)</translation>
+    </message>
+    <message>
+        <source>Zoom in (Ctrl and the wheel)</source>
+        <translation>Vergrößern (Strg und Mausrad)</translation>
+    </message>
+    <message>
+        <source>Zoom of the preview</source>
+        <translation>Zoom der Vorschau</translation>
+    </message>
+    <message>
+        <source>&amp;Fit the width</source>
+        <translation>An Breite an&amp;passen</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>Zoom: %1</source>
+        <translation>Zoom: %1</translation>
     </message>
 </context>
 <context>

@@ -55,6 +55,14 @@
         <source>There is no data row to fill the template with.</source>
         <translation>Il n’y a pas de ligne de données pour remplir le modèle.</translation>
     </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#x202f;%</translation>
+    </message>
+    <message>
+        <source>Zoom of the template (Ctrl and the wheel)</source>
+        <translation>Zoom du modèle (Ctrl et la molette)</translation>
+    </message>
 </context>
 <context>
     <name>BlackSplitterPlugin</name>
@@ -551,6 +559,29 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::ReportView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>A&amp;grandir</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>&amp;Réduire</translation>
+    </message>
+    <message>
+        <source>&amp;Fit the width</source>
+        <translation>Ajuster à la &amp;largeur</translation>
+    </message>
+</context>
+<context>
     <name>ozm::TemplateFile</name>
     <message>
         <source>&quot;%1&quot; cannot be read: %2</source>
@@ -983,6 +1014,18 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
         <source>Format</source>
         <translation>Mise en forme</translation>
     </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>A&amp;grandir</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>&amp;Réduire</translation>
+    </message>
+    <message>
+        <source>&amp;Normal size</source>
+        <translation>&amp;Taille normale</translation>
+    </message>
 </context>
 <context>
     <name>ozm::editor::EditorFiles</name>
@@ -1263,6 +1306,14 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
     <message>
         <source>links</source>
         <translation>liens</translation>
+    </message>
+    <message>
+        <source>films and sounds</source>
+        <translation>films et sons</translation>
+    </message>
+    <message>
+        <source>form fields</source>
+        <translation>champs de formulaire</translation>
     </message>
 </context>
 <context>
@@ -1571,6 +1622,34 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
     <message>
         <source>Go to this place in the template</source>
         <translation>Aller à cet endroit du modèle</translation>
+    </message>
+    <message>
+        <source>Zoom out (Ctrl and the wheel)</source>
+        <translation>Réduire (Ctrl et la molette)</translation>
+    </message>
+    <message>
+        <source>Zoom in (Ctrl and the wheel)</source>
+        <translation>Agrandir (Ctrl et la molette)</translation>
+    </message>
+    <message>
+        <source>Zoom of the preview</source>
+        <translation>Zoom de l’aperçu</translation>
+    </message>
+    <message>
+        <source>&amp;Fit the width</source>
+        <translation>Ajuster à la lar&amp;geur</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#x202f;%</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Zoom: %1</source>
+        <translation>Zoom&#x202f;: %1</translation>
     </message>
 </context>
 <context>
