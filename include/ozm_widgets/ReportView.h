@@ -41,6 +41,7 @@ public:
     [[nodiscard]] double zoom() const;
     /// True while the zoom follows the width of the view.
     [[nodiscard]] bool fitsWidth() const;
+    /// Of the report; 0 without one.
     [[nodiscard]] int pageCount() const;
     /// The page in the middle of the view, from 1; 0 without a report.
     [[nodiscard]] int currentPage() const;
@@ -48,19 +49,24 @@ public:
     [[nodiscard]] QString toPlainText() const;
     /// The report as it is laid out; null before setReport(). It belongs to the view and goes with the next report.
     [[nodiscard]] const QTextDocument *document() const;
+    /// The text that is selected by mouse or selectAll(); empty without a selection.
     [[nodiscard]] QString selectedText() const;
 
     /// @p decoded is HTML or plain text as decoding gives it. The view stays at its place.
     void setReport(const QString &decoded, const ReportPaperOptions &options = {});
     /// Bounded by kSmallestZoom and kLargestZoom.
     void setZoom(double zoom);
+    /// Has the zoom follow the width of the view, or leaves it where it is.
     void setFitsWidth(bool fits);
-    /// The next larger or smaller of the usual steps.
+    /// To the next larger of the usual steps.
     void zoomIn();
+    /// To the next smaller of the usual steps.
     void zoomOut();
     /// Scrolls to @p position in document(), unless it can be seen.
     void showPosition(int position);
+    /// Puts selectedText() on the clipboard, unless it is empty.
     void copy() const;
+    /// Selects the text of all pages.
     void selectAll();
 
 Q_SIGNALS:

@@ -20,7 +20,7 @@ namespace ozm::editor {
 
 namespace {
 
-constexpr std::array kZooms{0.5, 0.67, 0.8, 0.9, 1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0};
+constexpr std::array kViewZooms{0.5, 0.67, 0.8, 0.9, 1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0};
 constexpr double kInchesPerMeter = 1000 / 25.4;
 
 } // namespace
@@ -71,7 +71,7 @@ void EditorViews::show(const EditorSession &session)
 
 void EditorViews::setZoom(double zoom)
 {
-    zoom = std::clamp(zoom, kZooms.front(), kZooms.back());
+    zoom = std::clamp(zoom, kViewZooms.front(), kViewZooms.back());
     if (zoom == m_zoom)
         return;
     m_zoom = zoom;
@@ -82,15 +82,15 @@ void EditorViews::setZoom(double zoom)
 
 void EditorViews::zoomIn()
 {
-    const auto larger = std::ranges::upper_bound(kZooms, m_zoom);
-    if (larger != kZooms.end())
+    const auto larger = std::ranges::upper_bound(kViewZooms, m_zoom);
+    if (larger != kViewZooms.end())
         setZoom(*larger);
 }
 
 void EditorViews::zoomOut()
 {
-    const auto same = std::ranges::lower_bound(kZooms, m_zoom);
-    if (same != kZooms.begin())
+    const auto same = std::ranges::lower_bound(kViewZooms, m_zoom);
+    if (same != kViewZooms.begin())
         setZoom(*std::prev(same));
 }
 

@@ -37,7 +37,7 @@ constexpr int kPartRole = Qt::UserRole + 2;
 constexpr std::array kZoomChoices{0.5, 0.75, 1.0, 1.5, 2.0};
 constexpr double kPercent = 100;
 
-QToolButton *makeButton(const char *name, const char *icon, const QString &text, QWidget *parent)
+QToolButton *makeZoomButton(const char *name, const char *icon, const QString &text, QWidget *parent)
 {
     auto *button = new QToolButton(parent);
     button->setObjectName(QString::fromLatin1(name));
@@ -112,8 +112,8 @@ PreviewPane::PreviewPane(const Decode &decode, const FindCaret &findCaret, QWidg
 QWidget *PreviewPane::makeZoomBar()
 {
     auto *bar = new QWidget(this);
-    auto *out = makeButton("previewZoomOut", "zoom-out", tr("Zoom out (Ctrl and the wheel)"), bar);
-    auto *in = makeButton("previewZoomIn", "zoom-in", tr("Zoom in (Ctrl and the wheel)"), bar);
+    auto *out = makeZoomButton("previewZoomOut", "zoom-out", tr("Zoom out (Ctrl and the wheel)"), bar);
+    auto *in = makeZoomButton("previewZoomIn", "zoom-in", tr("Zoom in (Ctrl and the wheel)"), bar);
     m_page->setObjectName(u"previewPage"_s);
     m_zoom->setObjectName(u"previewZoom"_s);
     m_zoom->setAutoRaise(true);

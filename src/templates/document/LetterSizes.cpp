@@ -10,7 +10,7 @@ namespace ozm::editor {
 
 namespace {
 
-constexpr double kPointsPerInch = 72;
+constexpr double kPointsInInch = 72;
 
 } // namespace
 
@@ -29,7 +29,7 @@ void sizeLettersInPoints(QTextDocument &document)
             QTextCharFormat format = part.charFormat();
             const int pixels = format.intProperty(QTextFormat::FontPixelSize);
             format.clearProperty(QTextFormat::FontPixelSize);
-            format.setFontPointSize(pixels * kPointsPerInch / kPixelsPerInch);
+            format.setFontPointSize(pixels * kPointsInInch / kPixelsPerInch);
             part.setCharFormat(format);
         }
     }
