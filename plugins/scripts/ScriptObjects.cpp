@@ -1,5 +1,7 @@
 #include "ScriptObjects.h"
 
+#include <QDateTime>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -62,13 +64,14 @@ bool isList(const QVariant &value)
            value.metaType() == QMetaType::fromType<QObjectList>();
 }
 
-bool hasObjects(const QVariant &value)
+/// True for values that the engine itself would hand out otherwise.
+bool hasOwnWay(const QVariant &value)
 {
     if (value.typeId() == QMetaType::QVariantMap)
-        return std::ranges::any_of(value.toMap(), hasObjects);
+        return std::ranges::any_of(value.toMap(), hasOwnWay);
     if (isList(value))
-        return std::ranges::any_of(value.toList(), hasObjects);
-    return isObject(value);
+        return std::ranges::any_of(value.toList(), hasOwnWay);
+    return isObject(value) || value.typeId() == QMetaType::QDate;
 }
 
 } // namespace
@@ -99,7 +102,7 @@ bool ScriptObjects::keep(const QJSValue &value)
 
 QJSValue ScriptObjects::handOut(QJSEngine &engine, const QMap<QString, QVariant> &parameters, bool readOnly)
 {
-    if (std::ranges::none_of(parameters, hasObjects))
+    if (std::ranges::none_of(parameters, hasOwnWay))
         return engine.toScriptValue(parameters);
     if (m_makeShown.isUndefined()) {
         const QJSValue reflect = engine.globalObject().property(u"Reflect"_s);
@@ -114,6 +117,9 @@ QJSValue ScriptObjects::handOut(QJSEngine &engine, const QVariant &value)
 {
     if (isObject(value))
         return m_shown.call({engine.toScriptValue(value)});
+    // The engine takes a day for its midnight at Greenwich: west of it, a script would see the day before.
+    if (value.typeId() == QMetaType::QDate && value.toDate().isValid())
+        return engine.toScriptValue(value.toDate().startOfDay());
     if (value.typeId() == QMetaType::QVariantMap) {
         QJSValue object = engine.newObject();
         const QVariantMap map = value.toMap();

@@ -470,6 +470,24 @@ private Q_SLOTS:
     }
 
 #ifdef Q_OS_LINUX
+    // The first hour of 2018-11-04 is left out in the last of the zones.
+    void daysAreThoseOfTheCalendar()
+    {
+        const QDate day(2018, 11, 4);
+        const QByteArray zone = qgetenv("TZ");
+        QString shown;
+        for (const char *other : {"America/Los_Angeles", "Asia/Tokyo", "America/Sao_Paulo"}) {
+            qputenv("TZ", other);
+            tzset();
+            shown += TemplateEditorJSCodeReader().readAsString(
+                piece(u"inputParameters['[Day]'].getDate() + inputParameters['[Days]'][0].getDate()"_s),
+                {{u"[Day]"_s, day}, {u"[Days]"_s, QVariantList{day}}});
+        }
+        qputenv("TZ", zone);
+        tzset();
+        QCOMPARE(shown, piece(u"8"_s) + piece(u"8"_s) + piece(u"8"_s));
+    }
+
     void memoryStaysBounded()
     {
         const auto residentMiB = [] {
