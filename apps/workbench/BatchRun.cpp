@@ -280,7 +280,10 @@ private:
             const auto filled = fillReport(each.path, each.forGroup, each.forGroup ? all : first, context);
             if (!filled)
                 return filled.error();
-            pages.append(filled.value());
+            ReportPages made = filled.value();
+            if (each.forGroup)
+                made.pages.first().name = each.title;
+            pages.append(made);
         }
         for (const QString &trouble : std::as_const(pages.troubles))
             tell(tr("report: ") + trouble);

@@ -59,16 +59,27 @@ private Q_SLOTS:
         QVERIFY(!shown.contains(code));
     }
 
+    void listOfAll_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QStringList>("expected");
+        QTest::newRow("list") << 1
+                              << QStringList{u"2 samples"_s, u"499.2754 – 622.3439 Da"_s, u"1 – 2"_s,
+                                             u"312.1792"_s};
+        QTest::newRow("summary") << 2 << QStringList{u"2 samples"_s, u"622.3439 Da"_s, u"none"_s};
+    }
     void listOfAll()
     {
+        QFETCH(const int, index);
+        QFETCH(const QStringList, expected);
         const ReportContext context(u"jdoe"_s, u"samples.csv"_s, samples());
-        const auto filled = fillReport(reportTemplates().at(1).path, true, samples(), context);
+        const auto filled = fillReport(reportTemplates().at(index).path, true, samples(), context);
         QVERIFY(filled);
         QCOMPARE(filled.value().pages.size(), 1);
         QCOMPARE(filled.value().troubles, QStringList());
         const QString shown = text(filled.value());
-        for (const auto &expected : {u"2 samples"_s, u"499.2754 – 622.3439 Da"_s, u"1 – 2"_s, u"312.1792"_s})
-            QVERIFY2(shown.contains(expected), qPrintable(expected + u" in "_s + shown));
+        for (const QString &each : expected)
+            QVERIFY2(shown.contains(each), qPrintable(each + u" in "_s + shown));
     }
 
     void troublesAreTold()

@@ -53,15 +53,6 @@ Error fileError(const QString &text, const QString &path)
     return Error(ErrorCode::FileAccess, text.arg(QDir::toNativeSeparators(path))).ecatch(OZM_HERE);
 }
 
-ozm::Result<QString> loadTemplate(const QString &path)
-{
-    initReportResource();
-    const auto loaded = ozm::TemplateFile::read(path);
-    if (!loaded)
-        return loaded.error();
-    return loaded.value().content;
-}
-
 ReportPages pageOf(const QString &name, const ozm::TemplateReport &decoded)
 {
     ReportPages page{{{name, AbstractTemplateEditor::withoutScriptTags(decoded.text)}}, {}};
@@ -110,8 +101,18 @@ const QList<ReportTemplate> &reportTemplates()
     static const QList<ReportTemplate> templates{
         {tr("Sample certificate"), u":/reports/sample-certificate.html"_s, false},
         {tr("Sample list"), u":/reports/peptide-table.html"_s, true},
+        {tr("Batch summary"), u":/reports/batch-summary.html"_s, true},
     };
     return templates;
+}
+
+ozm::Result<QString> reportTemplateContent(const QString &path)
+{
+    initReportResource();
+    const auto loaded = ozm::TemplateFile::read(path);
+    if (!loaded)
+        return loaded.error();
+    return loaded.value().content;
 }
 
 ReportFiller::ReportFiller(QString content, bool asGroup, const std::vector<RowNode> &rows,
@@ -126,7 +127,7 @@ ReportFiller::ReportFiller(QString content, bool asGroup, const std::vector<RowN
 ozm::Result<ReportFiller> ReportFiller::of(const QString &path, bool asGroup,
                                            const std::vector<RowNode> &rows, const ReportContext &context)
 {
-    const auto content = loadTemplate(path);
+    const auto content = reportTemplateContent(path);
     if (!content)
         return content.error();
     return ReportFiller(content.value(), asGroup, rows, context);

@@ -40,6 +40,8 @@ struct ReportPages
 };
 
 [[nodiscard]] const QList<ReportTemplate> &reportTemplates();
+/// The content of the template in the file @p path, without its envelope.
+[[nodiscard]] ozm::Result<QString> reportTemplateContent(const QString &path);
 
 /// Fills one template with samples, a report at a time. The rows must outlive it.
 class ReportFiller

@@ -15,6 +15,7 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
@@ -150,9 +151,23 @@ void ReportDialog::fill()
         shown.append(filler.value().filled(index));
     if (count > kPreviewed)
         note.append(tr("These are the first %1 of %2 reports; all are saved.").arg(kPreviewed).arg(count));
-    m_preview->setHtml(reportHtml(shown, PageEnd::Line));
+    m_preview->document()->setHtml(reportHtml(shown, PageEnd::Line));
+    showTop();
     showNote(filler ? (note + shown.troubles).join(u'\n') : filler.error().errorMessage());
     m_save->setEnabled(count > 0);
+}
+
+void ReportDialog::showTop()
+{
+    m_preview->moveCursor(QTextCursor::Start);
+    m_preview->verticalScrollBar()->setValue(0);
+}
+
+void ReportDialog::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    // The page is laid out for the window's size only now.
+    showTop();
 }
 
 void ReportDialog::save()

@@ -31,11 +31,15 @@ public:
     ReportDialog(std::vector<RowNode> rows, const ReportContext &context, QWidget *parent = nullptr);
     ~ReportDialog() override;
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     void chooseTemplate();
     void askTemplate();
     void fill();
     void showChoice();
+    void showTop();
     void save();
     void saveFile();
     void saveFolder();

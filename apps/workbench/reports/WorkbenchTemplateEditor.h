@@ -11,7 +11,8 @@
 namespace workbench {
 
 /// Edits templates of reports on samples: it offers the samples' columns and what a report can say beside
-/// them, and previews the samples that it was given.
+/// them, and previews the samples that it was given; without any, made-up ones. The menu "Gallery" has templates to start
+/// from.
 class WorkbenchTemplateEditor : public AbstractTemplateEditor
 {
     Q_OBJECT
@@ -28,6 +29,9 @@ public:
     [[nodiscard]] QMap<QString, QList<RowNode *>> rowLists(const RowNode *row) const override;
 
 private:
+    void addGallery();
+    void startFrom(const QString &templatePath);
+
     std::vector<RowNode> m_rows;
     const ReportContext m_context;
     /// Decoding reads this after extraData() has returned.
