@@ -55,8 +55,13 @@ public:
         m_end = m_layout.documentSize().height();
         // The line that a document has behind a table at its end gets no page of its own.
         const QTextBlock last = document.lastBlock();
-        if (last.length() <= 1 && last != document.begin())
-            m_end = std::min(m_end, m_layout.blockBoundingRect(last).top());
+        if (last.length() <= 1 && last != document.begin()) {
+            // It stands beside the end of the table rather than below it.
+            double end = m_layout.blockBoundingRect(last).top();
+            for (const TableRows &table : m_tables)
+                end = std::max(end, table.body.bottom);
+            m_end = std::min(m_end, end);
+        }
     }
 
     [[nodiscard]] double end() const { return m_end; }
