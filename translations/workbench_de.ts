@@ -262,6 +262,10 @@
         <source>Without a name</source>
         <translation>Ohne Namen</translation>
     </message>
+    <message>
+        <source>Batch summary</source>
+        <translation>Serienübersicht</translation>
+    </message>
 </context>
 <context>
     <name>workbench::AddSampleDialog</name>
@@ -1175,6 +1179,37 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
     <message>
         <source>Those of the toolkit</source>
         <translation>Die des Toolkits</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::WorkbenchTemplateEditor</name>
+    <message>
+        <source>made-up samples</source>
+        <translation>erfundene Proben</translation>
+    </message>
+    <message>
+        <source>&amp;Gallery</source>
+        <translation>&amp;Galerie</translation>
+    </message>
+    <message>
+        <source>Shows a copy of this template, in a window of its own unless this one is empty</source>
+        <translation>Zeigt eine Kopie dieser Vorlage, in einem eigenen Fenster, wenn dieses nicht leer ist</translation>
+    </message>
+    <message>
+        <source>Number of the row</source>
+        <translation>Nummer der Zeile</translation>
+    </message>
+    <message>
+        <source>In a part that repeats, counted from 1</source>
+        <translation>In einem wiederholten Teil, ab 1 gezählt</translation>
+    </message>
+    <message>
+        <source>Number of all rows</source>
+        <translation>Anzahl aller Zeilen</translation>
+    </message>
+    <message>
+        <source>In a part that repeats</source>
+        <translation>In einem wiederholten Teil</translation>
     </message>
 </context>
 <context>

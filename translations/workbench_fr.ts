@@ -262,6 +262,10 @@
         <source>Without a name</source>
         <translation>Sans nom</translation>
     </message>
+    <message>
+        <source>Batch summary</source>
+        <translation>Synthèse de lot</translation>
+    </message>
 </context>
 <context>
     <name>workbench::AddSampleDialog</name>
@@ -1175,6 +1179,37 @@ Ouvrez un fichier CSV, recherchez des données MS, déposez des données ici ou 
     <message>
         <source>Those of the toolkit</source>
         <translation>Celles de Qt</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::WorkbenchTemplateEditor</name>
+    <message>
+        <source>made-up samples</source>
+        <translation>échantillons inventés</translation>
+    </message>
+    <message>
+        <source>&amp;Gallery</source>
+        <translation>&amp;Galerie</translation>
+    </message>
+    <message>
+        <source>Shows a copy of this template, in a window of its own unless this one is empty</source>
+        <translation>Affiche une copie de ce modèle, dans une autre fenêtre si celle-ci n’est pas vide</translation>
+    </message>
+    <message>
+        <source>Number of the row</source>
+        <translation>Numéro de la ligne</translation>
+    </message>
+    <message>
+        <source>In a part that repeats, counted from 1</source>
+        <translation>Dans une partie répétée, à partir de 1</translation>
+    </message>
+    <message>
+        <source>Number of all rows</source>
+        <translation>Nombre de lignes</translation>
+    </message>
+    <message>
+        <source>In a part that repeats</source>
+        <translation>Dans une partie répétée</translation>
     </message>
 </context>
 <context>
