@@ -356,7 +356,7 @@ private Q_SLOTS:
             << QStringList{u"a a"_s, u"xy xy"_s};
         QTest::newRow("row higher than a page")
             << u"<table><tr><td>%1end</td></tr></table>"_s.arg(u"l<br/>"_s.repeated(40))
-            << QStringList{u"l l"_s, u"l end"_s};
+            << QStringList{u"l l"_s, u"l l"_s, u"l end"_s};
         QTest::newRow("few lines") << lines + u"<p>1<br/>2<br/>3</p>"_s << QStringList{u"l l"_s, u"1 3"_s};
         QTest::newRow("letters in pixels")
             << u"<p style=\"font-size:200px\">l</p><p style=\"font-size:150pt\">m</p>"_s
@@ -411,8 +411,7 @@ private Q_SLOTS:
         QVERIFY(size > 0 && size < 20'000);
         ozm::TemplateDocument document;
         const auto isShown = [&document](const QString &href) {
-            const QString svg =
-                u"data:image/svg+xml,<svg width='9' height='9'><a xlink:href='%1'/></svg>"_s;
+            const QString svg = u"data:image/svg+xml,<svg width='9' height='9'><a xlink:href='%1'/></svg>"_s;
             return document.resource(QTextDocument::ImageResource, QUrl(svg.arg(href))).typeId() !=
                    document.resource(QTextDocument::ImageResource, QUrl(u"x.png"_s)).typeId();
         };
