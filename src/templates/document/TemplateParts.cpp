@@ -12,7 +12,6 @@
 
 #include <algorithm>
 #include <array>
-#include <span>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -434,16 +433,12 @@ private:
     void appendKept(const HtmlToken &token, qsizetype end)
     {
         appendPart(PartKind::Markup, token.start, end);
-        if (token.kind != HtmlTokenKind::StartTag || end != m_source.size() || isVoidElement(token.name))
+        if (end != m_source.size())
             return;
-        int open = 0;
-        for (const HtmlToken &inner : std::span(m_tokens).subspan(size_t(m_index)))
-            if (inner.name == token.name)
-                open += inner.kind == HtmlTokenKind::StartTag ? 1
-                        : inner.kind == HtmlTokenKind::EndTag ? -1
-                                                              : 0;
-        if (open > 0)
-            m_result.parts.last().source += "</"_L1 + token.name + u'>';
+        const QList<HtmlElement> &elements = m_tree.elements;
+        for (int open = m_tree.innermost.constLast(); open >= 0 && elements.at(open).start >= token.start;
+             open = elements.at(open).parent)
+            m_result.parts.last().source += "</"_L1 + elements.at(open).name + u'>';
     }
 
     void findKeptRanges()
