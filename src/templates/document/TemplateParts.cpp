@@ -435,6 +435,7 @@ private:
         appendPart(PartKind::Markup, token.start, end);
         if (end != m_source.size())
             return;
+        m_result.parts.last().source += missingEnd(m_source, m_tokens.constLast());
         const QList<HtmlElement> &elements = m_tree.elements;
         for (int open = m_tree.innermost.constLast(); open >= 0 && elements.at(open).start >= token.start;
              open = elements.at(open).parent)
