@@ -435,11 +435,16 @@ private:
         appendPart(PartKind::Markup, token.start, end);
         if (end != m_source.size())
             return;
-        m_result.parts.last().source += missingEnd(m_source, m_tokens.constLast());
+        QString &source = m_result.parts.last().source;
+        const HtmlToken &last = m_tokens.constLast();
+        // What is written behind half a tag would become its other half.
+        if (last.kind == HtmlTokenKind::Text && m_tree.innermost.constLast() >= 0)
+            source = source.chopped(text(last).size()) + text(last).toString().replace(u'<', "&lt;"_L1);
+        source += missingEnd(m_source, last);
         const QList<HtmlElement> &elements = m_tree.elements;
         for (int open = m_tree.innermost.constLast(); open >= 0 && elements.at(open).start >= token.start;
              open = elements.at(open).parent)
-            m_result.parts.last().source += "</"_L1 + elements.at(open).name + u'>';
+            source += "</"_L1 + elements.at(open).name + u'>';
     }
 
     void findKeptRanges()
