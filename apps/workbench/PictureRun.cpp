@@ -169,7 +169,7 @@ private:
             if (!dialog || isTaken)
                 return;
             isTaken = true;
-            // What a dialog says of files it says of those that are chosen.
+            // A dialog speaks of the files that are chosen.
             if (auto *files = dialog->findChild<QTreeView *>(u"treeView"_s))
                 files->selectAll();
             take(*dialog, picture);

@@ -12,7 +12,7 @@ namespace ozm {
 
 class ReportPaper;
 
-/// What a PDF says about itself; none of it is printed.
+/// The facts that a PDF carries about itself; none of them is printed.
 struct ReportBookOptions
 {
     QString title;

@@ -37,7 +37,7 @@ constexpr std::array kLeftOut{
                QT_TRANSLATE_NOOP("ozm::editor::ForeignPage", "form fields")},
 };
 
-// What stands in these is not text of the page. The toolkit's reader would show it, and would hide all that follows
+// These hold no text of the page. The toolkit's reader would show it, and would hide all that follows
 // a link to a style sheet.
 constexpr std::array kUnread{"link"_L1, "svg"_L1, "select"_L1, "button"_L1, "template"_L1};
 

@@ -57,7 +57,7 @@ const QString kTranslators = u"ozmTranslator/"_s;
 const QString kToolkit = u"qtbase"_s;
 const QString kTexts = u":/i18n"_s;
 
-// What not all of the toolkit's own translations have, though its dialogs show it; lupdate finds it here.
+// Texts that some of the toolkit's own translations lack, though its dialogs show them; lupdate finds them here.
 [[maybe_unused]] constexpr std::array kTextsOfToolkit{
     QT_TRANSLATE_NOOP("QAbstractFileIconProvider", "Alias"),
     QT_TRANSLATE_NOOP("QAbstractFileIconProvider", "Drive"),

@@ -6,7 +6,7 @@ class QWidget;
 
 namespace ozm::test {
 
-/// What a window lacks for those who do without mouse, or without eyes, in one line each.
+/// The things that a window lacks for those who do without mouse, or without eyes, in one line each.
 struct Inspection
 {
     QStringList findings;

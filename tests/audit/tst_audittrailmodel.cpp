@@ -121,7 +121,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!model.isSearching());
         QCOMPARE(shown(model), expected);
         QCOMPARE(model.hidden(), 12 - expected.size());
-        // What comes later is found by what was remembered; and the newest first is the same, reversed.
+        // A later page is found by what was remembered; and the newest first is the same, reversed.
         VERIFY_RESULT(store.value()->append(eventfulTrail()));
         QTRY_COMPARE(model.total(), 24);
         QTRY_VERIFY(!model.isSearching());

@@ -40,7 +40,7 @@ void addColumns()
     QTest::addColumn<QString>("formats");
 }
 
-/// What was written at debug level while it lived.
+/// The lines written at debug level while it lived.
 class DebugLines
 {
 public:

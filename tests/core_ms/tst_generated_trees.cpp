@@ -38,7 +38,7 @@ const QStringList kNames =
                    "_FUNC001.DAT спектр")
         .split(u' ');
 
-/// What real data consists of, so that not every tree is nonsense.
+/// The parts that real data consists of, so that not every tree is nonsense.
 const QList<QStringList> kParts{{u"AcqData/msscan.bin"_s},
                                 {u"y.d/AcqData/"_s},
                                 {u"4711.m/y.D/acqdata/"_s},

@@ -40,7 +40,7 @@ struct Edit
     /// Pushed from within the first run.
     std::shared_ptr<Edit> inner = {};
 
-    // What the model knows of it.
+    // The model's knowledge of it.
     bool firstRun = true;
     bool failed = false;
     bool obsolete = false;

@@ -114,7 +114,7 @@ private:
     QRandomGenerator m_random;
 };
 
-/// What a value reads back as: lists of any type as plain lists, bytes that are text as text.
+/// The form in which a value is read back: lists of any type as plain lists, bytes that are text as text.
 QVariant asRead(const QVariant &value)
 {
     if (value.metaType() == QMetaType::fromType<VariantItems>())

@@ -14,7 +14,7 @@ using ozm::OperationLogItem;
 using ozm::UndoMacro;
 using ozm::UndoStack;
 
-/// What the model of the stack cannot say: texts and results, slots, child commands, guards, lifetimes.
+/// The facts that the model of the stack cannot express: texts and results, slots, child commands, guards, lifetimes.
 class TestUndoStack : public StrictTest
 {
     Q_OBJECT

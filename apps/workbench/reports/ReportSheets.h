@@ -7,7 +7,7 @@
 
 namespace workbench {
 
-/// What the PDF of a report says about itself.
+/// The facts that the PDF of a report carries about itself.
 [[nodiscard]] ozm::ReportBookOptions bookOptions(const ReportContext &context);
 
 /// Adds each page of @p report to @p book, with a bookmark.

@@ -83,7 +83,7 @@ void WorkbenchTemplateEditor::addGallery()
     }
 }
 
-/// What is in this window is not replaced: it may not be saved.
+/// The template in this window stays: it may not be saved.
 void WorkbenchTemplateEditor::startFrom(const QString &templatePath)
 {
     const auto content = reportTemplateContent(templatePath);

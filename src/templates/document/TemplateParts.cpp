@@ -437,7 +437,7 @@ private:
             return;
         QString &source = m_result.parts.last().source;
         const HtmlToken &last = m_tokens.constLast();
-        // What is written behind half a tag would become its other half.
+        // Half a tag would take what is written behind it for its other half.
         if (last.kind == HtmlTokenKind::Text && m_tree.innermost.constLast() >= 0)
             source = source.chopped(text(last).size()) + text(last).toString().replace(u'<', "&lt;"_L1);
         source += missingEnd(m_source, last);

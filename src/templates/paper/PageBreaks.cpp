@@ -22,7 +22,7 @@ constexpr double kLargestHeading = 0.5;
 constexpr int kSplitLines = 2; // of a paragraph on either page, at least
 constexpr double kUnitsPerInch = 96;
 
-/// What keeps a part whole; the later, the sooner it gives way.
+/// The reasons that keep a part whole; the later, the sooner one gives way.
 enum class Holding
 {
     Line,

@@ -21,7 +21,7 @@ struct Bookmark
     double sheetHeight = 0;
 };
 
-/// What a PDF says about itself beside its title.
+/// The facts that a PDF carries about itself beside its title.
 struct PdfRemarks
 {
     QString author;

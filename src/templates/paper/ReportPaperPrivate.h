@@ -15,7 +15,7 @@ namespace ozm {
 class ReportPaper::Private
 {
 public:
-    /// What was drawn.
+    /// The part that was drawn.
     struct Drawn
     {
         int sheets = 0;
