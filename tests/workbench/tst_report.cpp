@@ -4,10 +4,11 @@
 #include "support/StrictTest.h"
 
 #include <ozm_common_core_mini/ColumnNames.h>
+#include <ozm_widgets/ReportView.h>
 
 #include <QComboBox>
 #include <QRadioButton>
-#include <QTextBrowser>
+#include <QTextDocument>
 
 using namespace Qt::StringLiterals;
 using namespace workbench;
@@ -150,8 +151,10 @@ private Q_SLOTS:
     void dialog()
     {
         ReportDialog dialog(samples(), ReportContext(u"jdoe"_s, u"samples.csv"_s, samples()));
-        auto *preview = dialog.findChild<QTextBrowser *>(u"preview"_s);
+        auto *preview = dialog.findChild<ozm::ReportView *>(u"preview"_s);
         QVERIFY(preview->toPlainText().contains(u"Certificate of Annotation"_s));
+        dialog.findChild<QComboBox *>(u"report"_s)->setCurrentIndex(1);
+        QVERIFY(preview->toPlainText().contains(u"FTISR"_s));
         dialog.findChild<QComboBox *>(u"template"_s)->setCurrentIndex(1);
         QVERIFY(dialog.findChild<QRadioButton *>(u"group"_s)->isChecked());
         QVERIFY(preview->toPlainText().contains(u"2 samples"_s));

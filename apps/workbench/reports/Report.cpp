@@ -5,7 +5,6 @@
 
 #include <ozm_common_core_mini/ColumnNames.h>
 #include <ozm_widgets/AbstractTemplateEditor.h>
-#include <ozm_widgets/ReportPaper.h>
 #include <ozm_widgets/TemplateFile.h>
 #include <ozm_widgets/TemplateFilling.h>
 #include <ozm_widgets/WholeFile.h>
@@ -176,17 +175,23 @@ ozm::Result<ReportPages> fillReport(const QString &path, bool asGroup, const std
     return report;
 }
 
-QString reportHtml(const ReportPages &report, PageEnd end)
+QString reportHtml(const ReportPages &report)
 {
     QString html = u"<!DOCTYPE html><html><head><meta charset=\"utf-8\"><title>"_s + tr("Report") +
                    u"</title><style>"_s + kStyle + u"</style></head><body>"_s;
     for (qsizetype index = 0; index < report.pages.size(); ++index) {
         if (index > 0)
-            html += end == PageEnd::Line ? u"<p></p><hr/><p></p>"_s
-                                         : u"<p style=\"page-break-before: always; margin: 0px;\"></p>"_s;
+            html += u"<p style=\"page-break-before: always; margin: 0px;\"></p>"_s;
         html += report.pages.at(index).html;
     }
     return html + u"</body></html>"_s;
+}
+
+ozm::ReportPaperOptions reportPaperOptions()
+{
+    ozm::ReportPaperOptions options{tr("Report"), tr("Made by the workbench")};
+    options.styleSheet = kStyle;
+    return options;
 }
 
 ozm::ReportBookOptions bookOptions(const ReportContext &context)
@@ -197,7 +202,7 @@ ozm::ReportBookOptions bookOptions(const ReportContext &context)
 Error addSheets(const ReportPages &report, ozm::ReportBook &book)
 {
     for (const ReportPage &page : report.pages) {
-        const ozm::ReportPaper paper(reportHtml({{page}, {}}), {tr("Report"), tr("Made by the workbench")});
+        const ozm::ReportPaper paper(page.html, reportPaperOptions());
         if (Error error = book.add(paper, page.name.isEmpty() ? tr("Without a name") : page.name);
             error.hasError())
             return error;

@@ -75,13 +75,8 @@ private:
 [[nodiscard]] ozm::Result<ReportPages>
 fillReport(const QString &path, bool asGroup, const std::vector<RowNode> &rows, const ReportContext &context);
 
-/// The pages as one HTML document, in which each begins on a new sheet; or with lines between them.
-enum class PageEnd
-{
-    Sheet,
-    Line
-};
-[[nodiscard]] QString reportHtml(const ReportPages &report, PageEnd end = PageEnd::Sheet);
+/// The pages as one HTML document, in which each begins on a new sheet.
+[[nodiscard]] QString reportHtml(const ReportPages &report);
 
 [[nodiscard]] ozm::Error saveReportHtml(const ReportPages &report, const QString &path);
 /// On A4 unless the template says otherwise, each page with its own numbers of sheets and its bookmark.

@@ -1,9 +1,10 @@
 #include "reports/ReportDialog.h"
 
+#include "reports/ReportSheets.h"
 #include "window/FileQuestions.h"
 
 #include <ozm_widgets/OZMStyle.h>
-#include <ozm_widgets/TemplateDocument.h>
+#include <ozm_widgets/ReportView.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -16,7 +17,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
-#include <QTextBrowser>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -29,8 +29,8 @@ namespace workbench {
 
 namespace {
 
-// Further ones are only made when they are saved: a thousand would keep the user waiting at each choice.
-constexpr int kPreviewed = 20;
+// Further ones are only made when they are shown or saved: a thousand would keep the user waiting at each choice.
+constexpr int kLookedThrough = 20;
 // In milliseconds.
 constexpr int kProgressAfter = 400;
 
@@ -52,7 +52,9 @@ ReportDialog::ReportDialog(std::vector<RowNode> rows, const ReportContext &conte
     , m_each(named(new QRadioButton(tr("&One by one"), this), "each"))
     , m_group(named(new QRadioButton(tr("As a &group"), this), "group"))
     , m_files(named(new QCheckBox(tr("A &file for each"), this), "files"))
-    , m_preview(named(new QTextBrowser(this), "preview"))
+    , m_report(named(new QComboBox(this), "report"))
+    , m_page(named(new QLabel(this), "page"))
+    , m_preview(named(new ozm::ReportView(this), "preview"))
     , m_note(named(new QLabel(this), "note"))
     , m_save(named(new QPushButton(tr("&Save…"), this), "save"))
 {
@@ -63,15 +65,7 @@ ReportDialog::ReportDialog(std::vector<RowNode> rows, const ReportContext &conte
     for (const ReportTemplate &each : std::as_const(m_templates))
         m_template->addItem(each.title);
     m_note->setWordWrap(true);
-    // Paper is white, whatever the desktop is.
-    QPalette paper = m_preview->palette();
-    paper.setColor(QPalette::Base, Qt::white);
-    paper.setColor(QPalette::Text, Qt::black);
-    m_preview->setPalette(paper);
-    // It draws plots as paper does.
-    m_preview->setDocument(new ozm::TemplateDocument(m_preview));
-    m_preview->document()->setDocumentMargin(24);
-
+    m_report->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_preview->setAccessibleName(tr("Preview"));
 
     auto *label = new QLabel(tr("&Template:"), this);
@@ -88,10 +82,17 @@ ReportDialog::ReportDialog(std::vector<RowNode> rows, const ReportContext &conte
     choices->addSpacing(16);
     choices->addWidget(m_files);
     choices->addStretch();
+    auto *shownLabel = new QLabel(tr("&Report:"), this);
+    shownLabel->setBuddy(m_report);
+    auto *shown = new QHBoxLayout;
+    shown->addWidget(shownLabel);
+    shown->addWidget(m_report, 1);
+    shown->addWidget(m_page);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     buttons->addButton(m_save, QDialogButtonBox::ActionRole);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(choices);
+    layout->addLayout(shown);
     layout->addWidget(m_preview, 1);
     layout->addWidget(m_note);
     layout->addWidget(buttons);
@@ -99,6 +100,8 @@ ReportDialog::ReportDialog(std::vector<RowNode> rows, const ReportContext &conte
     connect(m_template, &QComboBox::currentIndexChanged, this, &ReportDialog::chooseTemplate);
     connect(other, &QPushButton::clicked, this, &ReportDialog::askTemplate);
     connect(m_group, &QRadioButton::toggled, this, &ReportDialog::showChoice);
+    connect(m_report, &QComboBox::currentIndexChanged, this, &ReportDialog::showReport);
+    connect(m_preview, &ozm::ReportView::pageChanged, this, &ReportDialog::showPage);
     connect(buttons, &QDialogButtonBox::rejected, this, &ReportDialog::reject);
     connect(m_save, &QPushButton::clicked, this, &ReportDialog::save);
     chooseTemplate();
@@ -144,30 +147,46 @@ ozm::Result<ReportFiller> ReportDialog::reports() const
 void ReportDialog::fill()
 {
     auto filler = reports();
-    ReportPages shown;
-    QStringList note;
-    const int count = filler ? filler.value().count() : 0;
-    for (int index = 0; index < std::min(count, kPreviewed); ++index)
-        shown.append(filler.value().filled(index));
-    if (count > kPreviewed)
-        note.append(tr("These are the first %1 of %2 reports; all are saved.").arg(kPreviewed).arg(count));
-    m_preview->document()->setHtml(reportHtml(shown, PageEnd::Line));
-    showTop();
-    showNote(filler ? (note + shown.troubles).join(u'\n') : filler.error().errorMessage());
+    const QSignalBlocker quiet(m_report);
+    m_report->clear();
+    m_filler.reset();
+    ReportPages looked;
+    if (filler)
+        m_filler.emplace(std::move(filler.value()));
+    const int count = m_filler ? m_filler->count() : 0;
+    for (int index = 0; index < count; ++index)
+        m_report->addItem(m_filler->name(index));
+    m_report->setEnabled(count > 1);
     m_save->setEnabled(count > 0);
+    for (int index = 0; index < std::min(count, kLookedThrough); ++index)
+        looked.append(m_filler->filled(index));
+    m_troubles = looked.troubles;
+    if (count > kLookedThrough)
+        m_troubles.prepend(tr("The first %1 of %2 reports were looked through for what is missing.")
+                               .arg(kLookedThrough)
+                               .arg(count));
+    showReport();
+    if (!filler)
+        showNote(filler.error().errorMessage());
 }
 
-void ReportDialog::showTop()
+void ReportDialog::showReport()
 {
-    m_preview->moveCursor(QTextCursor::Start);
+    ReportPages shown;
+    if (m_filler && m_report->currentIndex() >= 0)
+        shown = m_filler->filled(m_report->currentIndex());
+    m_preview->setReport(shown.pages.isEmpty() ? QString() : shown.pages.constFirst().html,
+                         reportPaperOptions());
     m_preview->verticalScrollBar()->setValue(0);
+    showPage(m_preview->currentPage(), m_preview->pageCount());
+    ReportPages told{{}, m_troubles};
+    told.append(shown);
+    showNote(told.troubles.join(u'\n'));
 }
 
-void ReportDialog::showEvent(QShowEvent *event)
+void ReportDialog::showPage(int page, int pages)
 {
-    QDialog::showEvent(event);
-    // The page is laid out for the window's size only now.
-    showTop();
+    m_page->setText(tr("Page %1 of %2").arg(page).arg(pages));
 }
 
 void ReportDialog::save()

@@ -4,6 +4,7 @@
 
 #include <QDialog>
 
+#include <optional>
 #include <vector>
 
 class QCheckBox;
@@ -12,14 +13,17 @@ class QLabel;
 class QProgressDialog;
 class QPushButton;
 class QRadioButton;
-class QTextBrowser;
+
+namespace ozm {
+class ReportView;
+} // namespace ozm
 
 namespace workbench {
 
 /**
  * Fills a template with samples, shows the outcome, and saves it as HTML or PDF, in one file or a file for each sample:
- * a template of the workbench's own, or one that the editor saved. Of many samples, the first are shown; saving has
- * progress, and can be canceled.
+ * a template of the workbench's own, or one that the editor saved. One report is shown at a time, on its pages as they
+ * are printed; saving has progress, and can be canceled.
  *
  * The samples are copies: what is edited while the dialog is open does not get into the report.
  */
@@ -31,15 +35,13 @@ public:
     ReportDialog(std::vector<RowNode> rows, const ReportContext &context, QWidget *parent = nullptr);
     ~ReportDialog() override;
 
-protected:
-    void showEvent(QShowEvent *event) override;
-
 private:
     void chooseTemplate();
     void askTemplate();
     void fill();
     void showChoice();
-    void showTop();
+    void showReport();
+    void showPage(int page, int pages);
     void save();
     void saveFile();
     void saveFolder();
@@ -56,9 +58,14 @@ private:
     QRadioButton *m_each;
     QRadioButton *m_group;
     QCheckBox *m_files;
-    QTextBrowser *m_preview;
+    QComboBox *m_report;
+    QLabel *m_page;
+    ozm::ReportView *m_preview;
     QLabel *m_note;
     QPushButton *m_save;
+    std::optional<ReportFiller> m_filler;
+    /// Of the first reports; those of further ones are told when they are shown.
+    QStringList m_troubles;
 };
 
 } // namespace workbench

@@ -4,8 +4,12 @@
 
 #include <ozm_common_stable/Error.h>
 #include <ozm_widgets/ReportBook.h>
+#include <ozm_widgets/ReportPaper.h>
 
 namespace workbench {
+
+/// How each report looks: on paper, in the report dialog and in the template editor.
+[[nodiscard]] ozm::ReportPaperOptions reportPaperOptions();
 
 /// The facts that the PDF of a report carries about itself.
 [[nodiscard]] ozm::ReportBookOptions bookOptions(const ReportContext &context);

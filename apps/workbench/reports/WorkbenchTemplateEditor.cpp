@@ -1,6 +1,7 @@
 #include "reports/WorkbenchTemplateEditor.h"
 
 #include "reports/Report.h"
+#include "reports/ReportSheets.h"
 #include "samples/SampleTable.h"
 
 #include <ozm_common_core_mini/ColumnFriendlyName.h>
@@ -137,6 +138,11 @@ QList<DecodeTecExtraData> WorkbenchTemplateEditor::extraData(const RowNode *row)
 QMap<QString, QList<RowNode *>> WorkbenchTemplateEditor::rowLists(const RowNode *row) const
 {
     return m_lists.about(row);
+}
+
+ozm::ReportPaperOptions WorkbenchTemplateEditor::paperOptions() const
+{
+    return reportPaperOptions();
 }
 
 } // namespace workbench

@@ -27,6 +27,7 @@ public:
     [[nodiscard]] QString previewName(const RowNode &row) const override;
     [[nodiscard]] QList<DecodeTecExtraData> extraData(const RowNode *row) const override;
     [[nodiscard]] QMap<QString, QList<RowNode *>> rowLists(const RowNode *row) const override;
+    [[nodiscard]] ozm::ReportPaperOptions paperOptions() const override;
 
 private:
     void addGallery();
