@@ -5,7 +5,7 @@ PRESET ?= dev
 QT_TOOLS ?= $(addsuffix /,$(wildcard /usr/lib/qt6/bin))
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
-.PHONY: help run pictures test check tidy bench docs package fuzz faults install format translations clean
+.PHONY: help run pictures test check tidy bench docs package fuzz faults soak install format translations clean
 
 help:
 	@echo "make run      the workbench, or its batch mode where there is no display"
@@ -18,6 +18,7 @@ help:
 	@echo "make package  Debian packages"
 	@echo "make fuzz     readers of foreign data against made-up data, FUZZ_SECONDS each"
 	@echo "make faults   each system call of each way of writing fails once"
+	@echo "make soak     the workbench used at random for SOAK_MINUTES (60), and what grew"
 	@echo "make translations  brings the texts to translate up to date"
 	@echo "make install  into PREFIX (default /usr/local)"
 
@@ -74,6 +75,14 @@ faults:
 	@cmake --preset dev >/dev/null
 	cmake --build --preset dev -j $(JOBS) --target faults
 	@build/dev/bin/faults
+
+SOAK_MINUTES ?= 60
+SOAK_SEED ?= 1
+soak:
+	@.ci/setup build
+	@cmake --preset dev >/dev/null
+	cmake --build --preset dev -j $(JOBS) --target soak
+	@build/dev/bin/soak --minutes $(SOAK_MINUTES) --seed $(SOAK_SEED) --csv build/dev/soak.csv
 
 install:
 	@.ci/setup build
