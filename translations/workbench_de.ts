@@ -191,6 +191,10 @@
         <source>Report</source>
         <translation>Bericht</translation>
     </message>
+    <message>
+        <source>Made by the workbench</source>
+        <translation>Von der Werkbank erstellt</translation>
+    </message>
 </context>
 <context>
     <name>workbench</name>
@@ -245,10 +249,6 @@
     <message>
         <source>&quot;%1&quot; cannot be written.</source>
         <translation>„%1“ kann nicht geschrieben werden.</translation>
-    </message>
-    <message>
-        <source>Made by the workbench</source>
-        <translation>Von der Werkbank erstellt</translation>
     </message>
     <message>
         <source>%1 came in with a value.</source>
@@ -820,10 +820,6 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
         <translation>Je eine &amp;Datei</translation>
     </message>
     <message>
-        <source>These are the first %1 of %2 reports; all are saved.</source>
-        <translation>Dies sind die ersten %1 von %2 Berichten; alle werden gespeichert.</translation>
-    </message>
-    <message>
         <source>Report %1 of %2: %3</source>
         <translation>Bericht %1 von %2: %3</translation>
     </message>
@@ -848,6 +844,18 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
     <message>
         <source>Canceled.</source>
         <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>&amp;Report:</source>
+        <translation>&amp;Bericht:</translation>
+    </message>
+    <message>
+        <source>The first %1 of %2 reports were looked through for what is missing.</source>
+        <translation>Die ersten %1 von %2 Berichten wurden auf Fehlendes durchgesehen.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
     </message>
 </context>
 <context>

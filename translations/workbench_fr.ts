@@ -191,6 +191,10 @@
         <source>Report</source>
         <translation>Rapport</translation>
     </message>
+    <message>
+        <source>Made by the workbench</source>
+        <translation>Produit par l’atelier</translation>
+    </message>
 </context>
 <context>
     <name>workbench</name>
@@ -249,10 +253,6 @@
     <message>
         <source>Report</source>
         <translation>Rapport</translation>
-    </message>
-    <message>
-        <source>Made by the workbench</source>
-        <translation>Produit par l’atelier</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be written.</source>
@@ -820,10 +820,6 @@ Ouvrez un fichier CSV, recherchez des données MS, déposez des données ici ou 
         <translation>Un &amp;fichier pour chacun</translation>
     </message>
     <message>
-        <source>These are the first %1 of %2 reports; all are saved.</source>
-        <translation>Voici les %1 premiers rapports sur %2&#x202f;; tous seront enregistrés.</translation>
-    </message>
-    <message>
         <source>Report %1 of %2: %3</source>
         <translation>Rapport %1 sur %2&#x202f;: %3</translation>
     </message>
@@ -848,6 +844,18 @@ Ouvrez un fichier CSV, recherchez des données MS, déposez des données ici ou 
     <message>
         <source>Canceled.</source>
         <translation>Annulé.</translation>
+    </message>
+    <message>
+        <source>&amp;Report:</source>
+        <translation>&amp;Rapport&#x202f;:</translation>
+    </message>
+    <message>
+        <source>The first %1 of %2 reports were looked through for what is missing.</source>
+        <translation>Les %1 premiers rapports sur %2 ont été examinés pour y chercher ce qui manque.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
     </message>
 </context>
 <context>
