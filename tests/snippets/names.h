@@ -25,6 +25,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QMainWindow>
+#include <QSaveFile>
 #include <QSettings>
 #include <QTableView>
 #include <QTextCursor>
@@ -158,6 +159,13 @@ struct DisplayStringNames : Window
     DisplayString text;
 };
 
+struct ReportBookNames : Window
+{
+    QList<const RowNode *> rows;
+    QString filled(const RowNode &row);
+    QString nameOf(const RowNode &row);
+};
+
 struct StoreNames : Window
 {
     std::unique_ptr<ozm::audit::Store> store;
@@ -174,3 +182,9 @@ struct ProofNames : StoreNames
     QByteArray text;
 };
 using QueryNames = StoreNames;
+
+struct WholeFileNames : Window
+{
+    QByteArray bytes;
+    ozm::Error notWritten(const QString &why);
+};
