@@ -27,6 +27,7 @@
 #include <ozm_widgets/openfilefolderdialog.h>
 
 #include <QAccessible>
+#include <QDir>
 #include <QMainWindow>
 #include <QTranslator>
 
@@ -263,6 +264,8 @@ private Q_SLOTS:
     {
         OZMStyle::apply();
         QAccessible::setActive(true);
+        // Dialogs show the current folder, and a path can be longer than any room for it.
+        QDir::setCurrent(QDir::rootPath());
     }
 
     void windowsAreForAll_data()
