@@ -15,10 +15,10 @@ class ReportPaper;
 /// The facts that a PDF carries about itself; none of them is printed.
 struct ReportBookOptions
 {
-    QString title;
-    QString author = {};
-    QString subject = {};
-    QStringList keywords = {};
+    QString title;             ///< shown by viewers in place of the file's name
+    QString author = {};       ///< who answers for the content, such as the signer
+    QString subject = {};      ///< in one line, such as the project or the batch
+    QStringList keywords = {}; ///< words that archives find the file by
 };
 
 /**
