@@ -222,3 +222,9 @@ bool OZMDockWidgetTitleBar::event(QEvent *event)
     }
     return QWidget::event(event);
 }
+
+OZMDockWidget::OZMDockWidget(QWidget *parent)
+    : QDockWidget(parent)
+{
+    setTitleBarWidget(new OZMDockWidgetTitleBar(this));
+}

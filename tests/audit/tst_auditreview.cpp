@@ -96,7 +96,8 @@ private Q_SLOTS:
         QVERIFY(record(change(3, 2, u"typing error"_s)));
         QVERIFY(record(change(2, 3, u"was right before"_s)));
 
-        TrailView view(*store.value());
+        TrailView view;
+        view.setStore(*store.value());
         view.setLogger(&logger, kReviewer);
         TrailModel &model = view.model();
         view.show();

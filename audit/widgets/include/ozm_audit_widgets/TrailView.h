@@ -54,7 +54,13 @@ public:
     using SubjectHook = std::function<void(const QString &type, const QString &key)>;
 
     explicit TrailView(Store &store, QWidget *parent = nullptr);
+    /// For forms of Qt Designer: empty and disabled until setStore().
+    explicit TrailView(QWidget *parent = nullptr);
     ~TrailView() override;
+
+    /// Gives a view of a form its trail and enables it. Call it once, and before the functions below: model and
+    /// actions are other ones afterwards.
+    void setStore(Store &store);
 
     /// The rows that the view shows.
     [[nodiscard]] TrailModel &model() const;
@@ -89,7 +95,7 @@ protected:
 
 private:
     class Private;
-    const std::unique_ptr<Private> d;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace ozm::audit

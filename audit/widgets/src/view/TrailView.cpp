@@ -4,11 +4,22 @@
 #include <ozm_widgets/OZMStyle.h>
 
 #include <QKeyEvent>
+#include <QLayout>
+#include <QLoggingCategory>
+#include <QPointer>
 #include <QScrollBar>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace ozm::audit {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcTrailView, "ozm.audit")
+
+} // namespace
 
 TrailView::TrailView(Store &store, QWidget *parent)
     : QWidget(parent)
@@ -16,14 +27,41 @@ TrailView::TrailView(Store &store, QWidget *parent)
 {
     setObjectName(u"trailView"_s);
     setAccessibleName(tr("Audit trail"));
-    d->build();
-    d->connectAll();
-    d->updateActions();
-    d->updateStatus();
-    showNewest();
+    d->start();
+}
+
+TrailView::TrailView(QWidget *parent)
+    : QWidget(parent)
+    , d(std::make_unique<Private>(*this, Store::open(u"memory:"_s).value()))
+{
+    setObjectName(u"trailView"_s);
+    setAccessibleName(tr("Audit trail"));
+    setEnabled(false);
+    d->start();
 }
 
 TrailView::~TrailView() = default;
+
+void TrailView::setStore(Store &store)
+{
+    if (!d->empty) {
+        qCWarning(lcTrailView) << "This view has its trail already";
+        return;
+    }
+    QList<QPointer<QWidget>> former;
+    for (QWidget *child : findChildren<QWidget *>(Qt::FindDirectChildrenOnly))
+        former.append(child);
+    delete layout();
+    auto last = std::exchange(d, std::make_unique<Private>(*this, store));
+    d->start();
+    for (const auto &row : last->actions)
+        delete row.second;
+    // The parts of the former content first: they are no objects of their own, and must not go with their parents.
+    last.reset();
+    for (const QPointer<QWidget> &child : former)
+        delete child;
+    setEnabled(true);
+}
 
 TrailModel &TrailView::model() const
 {

@@ -73,6 +73,23 @@ TrailView::Private::Private(TrailView &view, Store &store)
     , details(model)
 {}
 
+TrailView::Private::Private(TrailView &view, std::unique_ptr<Store> emptyStore)
+    : q(view)
+    , empty(std::move(emptyStore))
+    , model(*empty)
+    , bar(model)
+    , details(model)
+{}
+
+void TrailView::Private::start()
+{
+    build();
+    connectAll();
+    updateActions();
+    updateStatus();
+    q.showNewest();
+}
+
 void TrailView::Private::build()
 {
     auto *tools = new QToolBar;
@@ -184,7 +201,7 @@ void TrailView::Private::connectAll()
                      [this](const QPoint &position) { showContextMenu(position); });
     QObject::connect(table.verticalScrollBar(), &QScrollBar::actionTriggered, &q, [this] {
         QMetaObject::invokeMethod(
-            &q, [this] { follows = isAtNewest(); }, Qt::QueuedConnection);
+            &model, [this] { follows = isAtNewest(); }, Qt::QueuedConnection);
     });
     QObject::connect(&model, &QAbstractItemModel::rowsInserted, &q, [this] { follow(); });
     QObject::connect(&model, &QAbstractItemModel::modelReset, &q, [this] {

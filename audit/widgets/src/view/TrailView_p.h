@@ -4,6 +4,7 @@
 #include "../view/FilterBar.h"
 
 #include <ozm_audit/Logger.h>
+#include <ozm_audit/Store.h>
 #include <ozm_audit_widgets/TrailView.h>
 
 #include <QAction>
@@ -12,6 +13,7 @@
 #include <QTableView>
 
 #include <map>
+#include <memory>
 
 class QToolBar;
 
@@ -21,7 +23,11 @@ class TrailView::Private
 {
 public:
     Private(TrailView &view, Store &store);
+    /// Shows @p empty, a trail without entries, and keeps it.
+    Private(TrailView &view, std::unique_ptr<Store> empty);
 
+    /// Fills the view.
+    void start();
     void build();
     void addZones(QToolBar &bar);
     void connectAll();
@@ -51,6 +57,7 @@ public:
     void recordOutput(const QString &what);
 
     TrailView &q;
+    const std::unique_ptr<Store> empty; ///< Before the parts that read it.
     TrailModel model;
     FilterBar bar;
     QTableView table;
