@@ -65,13 +65,6 @@
     </message>
 </context>
 <context>
-    <name>BlackSplitterPlugin</name>
-    <message>
-        <source>A splitter whose dividers are thin lines and wide enough to grab.</source>
-        <translation>Ein Splitter, dessen Trenner schmale Linien und doch breit genug zum Greifen sind.</translation>
-    </message>
-</context>
-<context>
     <name>FileCrawlerDialog</name>
     <message>
         <source>These folders could not be searched:
@@ -197,6 +190,25 @@ und %1 weitere</translation>
     <message>
         <source>&quot;%1&quot; is a folder. Double-click it to look inside.</source>
         <translation>„%1“ ist ein Ordner. Ein Doppelklick zeigt, was darin ist.</translation>
+    </message>
+</context>
+<context>
+    <name>FormWidgets</name>
+    <message>
+        <source>A splitter whose dividers are thin lines and wide enough to grab</source>
+        <translation>Ein Splitter, dessen Trenner schmale Linien und doch breit genug zum Greifen sind</translation>
+    </message>
+    <message>
+        <source>A dock whose title bar is in the style of the suite</source>
+        <translation>Ein Andockfenster, dessen Titelleiste dem Stil der Programmfamilie folgt</translation>
+    </message>
+    <message>
+        <source>A report on its pages, as it is printed</source>
+        <translation>Ein Bericht auf seinen Seiten, wie er gedruckt wird</translation>
+    </message>
+    <message>
+        <source>An audit trail to be read, filtered, reviewed and signed; setStore() fills it</source>
+        <translation>Ein Audit-Trail zum Lesen, Filtern, Prüfen und Unterschreiben; setStore() füllt ihn</translation>
     </message>
 </context>
 <context>

@@ -65,13 +65,6 @@
     </message>
 </context>
 <context>
-    <name>BlackSplitterPlugin</name>
-    <message>
-        <source>A splitter whose dividers are thin lines and wide enough to grab.</source>
-        <translation>Un séparateur aux poignées fines comme un trait, mais assez larges pour être saisies.</translation>
-    </message>
-</context>
-<context>
     <name>FileCrawlerDialog</name>
     <message>
         <source>These folders could not be searched:
@@ -197,6 +190,25 @@ et %1 de plus</translation>
     <message>
         <source>&quot;%1&quot; is a folder. Double-click it to look inside.</source>
         <translation>«&#x202f;%1&#x202f;» est un dossier. Double-cliquez dessus pour en voir le contenu.</translation>
+    </message>
+</context>
+<context>
+    <name>FormWidgets</name>
+    <message>
+        <source>A splitter whose dividers are thin lines and wide enough to grab</source>
+        <translation>Un séparateur aux poignées fines comme un trait, mais assez larges pour être saisies</translation>
+    </message>
+    <message>
+        <source>A dock whose title bar is in the style of the suite</source>
+        <translation>Un panneau ancrable dont la barre de titre suit le style de la suite</translation>
+    </message>
+    <message>
+        <source>A report on its pages, as it is printed</source>
+        <translation>Un rapport sur ses pages, tel qu’il est imprimé</translation>
+    </message>
+    <message>
+        <source>An audit trail to be read, filtered, reviewed and signed; setStore() fills it</source>
+        <translation>Une piste d’audit à lire, filtrer, réviser et signer ; setStore() la remplit</translation>
     </message>
 </context>
 <context>
