@@ -25,22 +25,33 @@ constexpr int kLevelsOfRecord = 3;
 
 std::atomic<qint64> s_nextInternalId{0};
 
+struct Siblings
+{
+    QList<Item> items;
+    qsizetype next = 0;
+};
+
 /// Destroys children one after the other instead of one inside the other, so that the depth of a tree does
-/// not become the depth of the stack.
+/// not become the depth of the stack. Each is followed by what was below it: that is the order in which a
+/// trail is made, and so mostly that of its memory.
 void destroyFlat(QList<Item> &&children)
 {
-    thread_local std::vector<QList<Item>> *doomed = nullptr;
+    thread_local std::vector<Siblings> *doomed = nullptr;
+    // Items that somebody else has in a list stay, and are not to be copied for it.
+    if (children.isEmpty() || !children.isDetached())
+        return;
     if (doomed) {
-        doomed->push_back(std::move(children));
+        doomed->push_back({std::move(children)});
         return;
     }
-    std::vector<QList<Item>> pending;
-    pending.push_back(std::move(children));
+    std::vector<Siblings> pending;
+    pending.push_back({std::move(children)});
     doomed = &pending;
     while (!pending.empty()) {
-        QList<Item> siblings = std::move(pending.back());
-        pending.pop_back();
-        siblings.clear();
+        Siblings &siblings = pending.back();
+        const Item item = std::move(siblings.items[siblings.next++]);
+        if (siblings.next == siblings.items.size())
+            pending.pop_back();
     }
     doomed = nullptr;
 }
