@@ -29,7 +29,7 @@ public:
         OperationLogItemData data = *command.logData();
         data.setUndoContext(context);
         m_items.append(
-            OperationLogItemPrivate::createItem(parent, m_items.size() + 1, m_time++, u"jdoe"_s, data));
+            OperationLogItem::create(parent, m_items.size() + 1, m_time++, u"jdoe"_s, std::move(data)));
         return m_items.constLast();
     }
     Item logCommandInMacro(Item macro, const UndoCommand &command,

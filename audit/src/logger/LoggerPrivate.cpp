@@ -9,6 +9,7 @@
 #include <QLoggingCategory>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -237,7 +238,8 @@ Logger::Private::Item Logger::Private::itemOf(const Stored &stored, const Item &
         return {};
     OperationLogItemData own = data;
     own.setUndoContext(context);
-    return OperationLogItemPrivate::createItem(parent, stored.id, stored.timeMs, facts.user().id, own);
+    return OperationLogItemPrivate::createItem(parent, stored.id, stored.timeMs, facts.user().id,
+                                               std::move(own));
 }
 
 /// One reason for all: the strongest demand among them asks.

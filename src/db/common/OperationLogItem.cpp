@@ -125,8 +125,8 @@ private:
 class OperationLogItem::Stored final : private OperationLogItemPrivate, public OperationLogItem
 {
 public:
-    Stored(qint64 id, qint64 timestamp, const QString &userName, const OperationLogItemData &data)
-        : OperationLogItemPrivate({}, id, timestamp, userName, data)
+    Stored(qint64 id, qint64 timestamp, const QString &userName, OperationLogItemData &&data)
+        : OperationLogItemPrivate(id, timestamp, userName, std::move(data))
         , OperationLogItem(static_cast<OperationLogItemPrivate &>(*this))
     {}
 };
@@ -148,16 +148,21 @@ OperationLogItemPrivate::OperationLogItemPrivate(const OperationLogItemPrivate &
 OperationLogItemPrivate::OperationLogItemPrivate(const QSharedPointer<OperationLogItem> &parent, qint64 id,
                                                  qint64 timestamp, const QString &userName,
                                                  const OperationLogItemData &data)
-    : m_parent(parent)
-    , m_id(id)
-    , m_internalId(s_nextInternalId++)
-    , m_timestamp(timestamp)
-    , m_userName(userName)
-    , m_data(data)
+    : OperationLogItemPrivate(id, timestamp, userName, OperationLogItemData(data))
 {
+    m_parent = parent;
     if (parent)
         parent->d->m_wasParent = true;
 }
+
+OperationLogItemPrivate::OperationLogItemPrivate(qint64 id, qint64 timestamp, const QString &userName,
+                                                 OperationLogItemData &&data)
+    : m_id(id)
+    , m_internalId(s_nextInternalId++)
+    , m_timestamp(timestamp)
+    , m_userName(userName)
+    , m_data(std::move(data))
+{}
 
 QSharedPointer<OperationLogItem>
 OperationLogItemPrivate::createItem(const QSharedPointer<OperationLogItem> &parent, qint64 id,
@@ -165,6 +170,13 @@ OperationLogItemPrivate::createItem(const QSharedPointer<OperationLogItem> &pare
                                     const OperationLogItemData &data)
 {
     return OperationLogItem::create(parent, id, timestamp, userName, data);
+}
+
+QSharedPointer<OperationLogItem>
+OperationLogItemPrivate::createItem(const QSharedPointer<OperationLogItem> &parent, qint64 id,
+                                    qint64 timestamp, const QString &userName, OperationLogItemData &&data)
+{
+    return OperationLogItem::create(parent, id, timestamp, userName, std::move(data));
 }
 
 OperationLogItemPrivate::Children &OperationLogItemPrivate::childrenToChange()
@@ -202,7 +214,15 @@ QSharedPointer<OperationLogItem> OperationLogItem::create(const QSharedPointer<O
                                                           const QString &userName,
                                                           const OperationLogItemData &data)
 {
-    Item item = QSharedPointer<Stored>::create(id, timestamp, userName, data);
+    return create(parent, id, timestamp, userName, OperationLogItemData(data));
+}
+
+QSharedPointer<OperationLogItem> OperationLogItem::create(const QSharedPointer<OperationLogItem> &parent,
+                                                          qint64 id, qint64 timestamp,
+                                                          const QString &userName,
+                                                          OperationLogItemData &&data)
+{
+    Item item = QSharedPointer<Stored>::create(id, timestamp, userName, std::move(data));
     if (parent)
         OperationLogItemPrivate::setParent(item, parent);
     return item;

@@ -3,6 +3,8 @@
 #include "UndoStack_p.h"
 #include "support/Logging.h"
 
+#include <utility>
+
 namespace ozm {
 
 UndoCommand::UndoCommand(UndoCommand *parent)
@@ -50,6 +52,11 @@ QList<OperationLogItemData> UndoCommand::childLogData() const
 void UndoCommand::setLogData(const OperationLogItemData &data)
 {
     d->logData = data;
+}
+
+void UndoCommand::setLogData(OperationLogItemData &&data)
+{
+    d->logData = std::move(data);
 }
 
 void UndoCommand::setChildLogData(const QList<OperationLogItemData> &data)
@@ -139,8 +146,7 @@ void UndoCommand::undo()
 
 void UndoCommand::runRedo(UndoStack *stack, UndoHistoryStep *step)
 {
-    d->error = beginRedo(stack);
-    if (d->error.hasError())
+    if (!beginRedo(stack))
         return;
     d->error = doRedo();
     if (step)
@@ -152,8 +158,7 @@ void UndoCommand::runRedo(UndoStack *stack, UndoHistoryStep *step)
 
 void UndoCommand::runUndo(UndoStack *stack, UndoHistoryStep *step)
 {
-    d->error = beginUndo(stack);
-    if (d->error.hasError())
+    if (!beginUndo(stack))
         return;
     if (step)
         step->restoreIndex();
@@ -169,40 +174,44 @@ void UndoCommand::runUndo(UndoStack *stack, UndoHistoryStep *step)
         d->error = afterEndLast(true);
 }
 
-Error UndoCommand::beginRedo(UndoStack *stack)
+/// False when the step is not to run; lastError() says why.
+bool UndoCommand::beginRedo(UndoStack *stack)
 {
     d->error = {};
     if (d->parentCommand)
-        return d->parentCommand->child(0) == this ? beforeBeginFirst() : Error();
+        return d->parentCommand->child(0) != this || beginsRun();
     if (!stack || stack->d->doneCounts.isEmpty())
-        return {};
-    Error error;
-    if (stack->d->doneCounts.constLast() == 0)
-        error = beforeBeginFirst();
-    if (!error.hasError() && !stack->d->doneCounts.isEmpty()) {
+        return true;
+    if (stack->d->doneCounts.constLast() == 0 && !beginsRun())
+        return false;
+    if (!stack->d->doneCounts.isEmpty()) {
         ++stack->d->doneCounts.last();
         stack->d->undoneCounts.last() = 0;
     }
-    return error;
+    return true;
 }
 
-Error UndoCommand::beginUndo(UndoStack *stack)
+/// As beginRedo().
+bool UndoCommand::beginUndo(UndoStack *stack)
 {
     d->error = {};
     if (d->parentCommand)
-        return d->parentCommand->child(d->parentCommand->childCount() - 1) == this ? beforeBeginFirst()
-                                                                                   : Error();
+        return d->parentCommand->child(d->parentCommand->childCount() - 1) != this || beginsRun();
     if (!stack || stack->d->undoneCounts.isEmpty())
-        return {};
-    Error error;
-    if (stack->d->undoneCounts.constLast() == 0)
-        error = beforeBeginFirst();
+        return true;
+    const bool begun = stack->d->undoneCounts.constLast() != 0 || beginsRun();
     // Counted even when the step is refused, unlike in redo: the base class moves its index all the same.
     if (!stack->d->undoneCounts.isEmpty()) {
         ++stack->d->undoneCounts.last();
         --stack->d->doneCounts.last();
     }
-    return error;
+    return begun;
+}
+
+bool UndoCommand::beginsRun()
+{
+    d->error = beforeBeginFirst();
+    return !d->error.hasError();
 }
 
 bool UndoCommand::endsUndoRun(UndoStack *stack) const

@@ -52,7 +52,7 @@ Error UndoStack::push(UndoCommand *command)
             d->place(push);
     }
     d->recentLogItem = std::move(push.item);
-    if (!push.error.hasError() && push.command && !d->doneCounts.isEmpty())
+    if (!d->doneCounts.isEmpty() && push.command && !push.error.hasError())
         d->lastMacroCommand = push.command;
     return push.error;
 }
@@ -154,7 +154,7 @@ QSharedPointer<OperationLogItem> UndoStack::createOrLog(const UndoCommand &comma
     QSharedPointer<OperationLogItem> item;
     if (d->logging && command.isAuditTrailEnabled())
         item = d->log(command, context);
-    if (command.lastError().hasError()) {
+    if (command.d->error.hasError()) {
         OZM_WIDGETS_WARNING() << "Error in" << OperationLogItemData::undoContextToString(context)
                               << "command:" << *command.logData();
     }

@@ -90,14 +90,15 @@ bool UndoStackPrivate::isMacroOpen() const
 /// Puts a command that has run into the history.
 void UndoStackPrivate::place(Push &run)
 {
-    if (run.error.hasError() && !isMacroOpen()) {
+    const bool failed = run.error.hasError();
+    if (failed && !isMacroOpen()) {
         delete run.command;
         return;
     }
     run.placing = true;
     qptr->QUndoStack::push(run.command);
     // The base class takes nothing out of a macro; the mark drops the command when the next merges with it.
-    if (run.error.hasError() && run.command)
+    if (failed && run.command)
         run.command->setObsolete(true);
 }
 

@@ -44,6 +44,9 @@ public:
     [[nodiscard]] static QSharedPointer<OperationLogItem>
     create(const QSharedPointer<OperationLogItem> &parent, qint64 id, qint64 timestamp,
            const QString &userName, const OperationLogItemData &data);
+    [[nodiscard]] static QSharedPointer<OperationLogItem>
+    create(const QSharedPointer<OperationLogItem> &parent, qint64 id, qint64 timestamp,
+           const QString &userName, OperationLogItemData &&data);
 
     virtual ~OperationLogItem();
     Q_DISABLE_COPY_MOVE(OperationLogItem)
@@ -151,6 +154,9 @@ public:
     [[nodiscard]] static QSharedPointer<OperationLogItem>
     createItem(const QSharedPointer<OperationLogItem> &parent, qint64 id, qint64 timestamp,
                const QString &userName, const OperationLogItemData &data);
+    [[nodiscard]] static QSharedPointer<OperationLogItem>
+    createItem(const QSharedPointer<OperationLogItem> &parent, qint64 id, qint64 timestamp,
+               const QString &userName, OperationLogItemData &&data);
 
     /// Moves @p child, which must not be null, to the end of @p parent's children; a null @p parent makes it
     /// top-level.
@@ -160,6 +166,8 @@ private:
     friend class OperationLogItem;
     class Children;
 
+    OperationLogItemPrivate(qint64 id, qint64 timestamp, const QString &userName,
+                            OperationLogItemData &&data);
     [[nodiscard]] Children &childrenToChange();
     [[nodiscard]] const QList<QSharedPointer<OperationLogItem>> &children() const;
 

@@ -102,6 +102,7 @@ protected:
     [[nodiscard]] OperationLogItemData *logData();
     /// The record of this command, without context.
     void setLogData(const OperationLogItemData &data);
+    void setLogData(OperationLogItemData &&data);
     /// Further records that belong to this command's own.
     void setChildLogData(const QList<OperationLogItemData> &data);
     /// To be said before the command is pushed.
@@ -116,8 +117,9 @@ private:
 
     void runRedo(UndoStack *stack, UndoHistoryStep *step);
     void runUndo(UndoStack *stack, UndoHistoryStep *step);
-    [[nodiscard]] Error beginRedo(UndoStack *stack);
-    [[nodiscard]] Error beginUndo(UndoStack *stack);
+    [[nodiscard]] bool beginRedo(UndoStack *stack);
+    [[nodiscard]] bool beginUndo(UndoStack *stack);
+    [[nodiscard]] bool beginsRun();
     [[nodiscard]] bool endsUndoRun(UndoStack *stack) const;
 
     class Private;
