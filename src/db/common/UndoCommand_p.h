@@ -19,8 +19,9 @@ public:
     UndoCommand *const parentCommand;
     QPointer<UndoStack> stack;
     QWeakPointer<OperationLogItem> recentLogItem;
-    OperationLogItemData logData;
     std::unique_ptr<const QList<OperationLogItemData>> childLogData;
+    // Its last bytes are free, and have room for the two flags.
+    [[no_unique_address]] OperationLogItemData logData;
     bool auditTrailEnabled = true;
     bool firstRedo = true;
 };
