@@ -56,6 +56,10 @@ function(ozm_configure_target target)
             "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/="
             # A call of an older form is worth a warning, and never a reason to refuse the build.
             $<$<BOOL:${OZM_WARNINGS_AS_ERRORS}>:-Werror> -Wno-error=deprecated-declarations)
+        # GCC then puts calls of a source's own exported functions in place, as other compilers do. Not where
+        # one steps through them.
+        target_compile_options(${target} PRIVATE
+            $<$<AND:$<CXX_COMPILER_ID:GNU>,$<NOT:$<CONFIG:Debug>>>:-fno-semantic-interposition>)
         if(OZM_SANITIZE)
             target_compile_options(${target} PRIVATE
                 -fsanitize=${OZM_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
