@@ -266,6 +266,36 @@ void TestTemplateDocument::keepsSource_data()
         << u"<p>x</p>\n<p style=\"white-space:pre-wrap\"> </p>\n<p>y</p>"_s;
     QTest::newRow("style sheet") << u"<style>p { color: red }</style><p>x</p>"_s
                                  << u"<div><style>p { color: red }</style></div>\n<p>x</p>"_s;
+    const QString table =
+        u"<table border=\"0\" cellspacing=\"2\" cellpadding=\"0\">\n<tr>%1</tr>\n</table>"_s;
+    QTest::newRow("half a tag in brackets")
+        << u"<p>[<b =\"]</p><td>"_s << u"<p>&#91;&lt;b =\"]</p>\n"_s + table.arg(u"<td></td>"_s);
+    QTest::newRow("half a tag before a stray end") << u"<ul>[A]<</b>x"_s << u"<div><ul>[A]&lt;x</ul></div>"_s;
+    QTest::newRow("end of another element") << u"<form></div>x"_s << u"<div><form>x</form></div>"_s;
+    QTest::newRow("style sheet that nothing ends") << u"<style>"_s << u"<div><style></style></div>"_s;
+    QTest::newRow("script that nothing ends")
+        << u"<p><script>x<style>"_s << u"<p><script></script>x<style></style></p>"_s;
+    QTest::newRow("shortest comment") << u"<p><!-->x</p>"_s << u"<p><!-->x</p>"_s;
+    QTest::newRow("end tag with a code in a head") << u"<head></b [A]></head><p>x</p>"_s << u"<p>x</p>"_s;
+    QTest::newRow("row by itself") << u"<td><tr>x"_s << table.arg(u"<td><table><tr>x</tr></table></td>"_s);
+    QTest::newRow("list in a paragraph")
+        << u"<p><ul>1</ul> x"_s << u"<div style=\"margin-top:12px;margin-bottom:12px\"><ul>1</ul> x</div>"_s;
+    QTest::newRow("thin space at an edge") << u"<p>x\u2009\f</p>"_s << u"<p>x\u2009\f</p>"_s;
+    QTest::newRow("object that is not there") << u"<p>&#65532;</p>"_s << u"<p>\uFFFD</p>"_s;
+    QTest::newRow("margin of the item around")
+        << u"<blockquote><ul><li>1<ul><li>2"_s
+        << u"<ul>\n<li style=\"margin-left:40px;margin-right:40px\">1<ul>\n<li>2</li>\n</ul>\n</li>\n</ul>"_s;
+    QTest::newRow("colour of the item around")
+        << u"<div style=\"background-color:red\"><ul><li>1<x><ul><li>2"_s
+        << u"<ul>\n<li style=\"background-color:#ff0000\">1<ul>\n"
+           "<li style=\"background-color:rgba(0,0,0,0)\">2</li>\n</ul>\n</li>\n</ul>"_s;
+    QTest::newRow("alignment of the cell around")
+        << u"<td style=\"vertical-align:top\"><thead><x><td>"_s
+        << table.arg(u"<td style=\"vertical-align:top\">"_s +
+                     table.arg(u"<td style=\"vertical-align:baseline\"></td>"_s) + u"\n</td>"_s);
+    QTest::newRow("cell in a heading") << u"<h4><td>1"_s
+                                       << table.arg(u"<td><h4 style=\"margin-top:0px;margin-bottom:0px\">"
+                                                    "<span style=\"font-weight:400\">1</span></h4>\n</td>"_s);
 }
 
 void TestTemplateDocument::keepsSource()
@@ -274,6 +304,7 @@ void TestTemplateDocument::keepsSource()
     QFETCH(const QString, written);
 
     QCOMPARE(writtenAnew(source), written);
+    QCOMPARE(writtenAnew(written), written);
 }
 
 void TestTemplateDocument::generatedTemplatesComeThrough()

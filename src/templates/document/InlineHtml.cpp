@@ -33,8 +33,8 @@ QString fontSize(const QTextCharFormat &format)
         return QString::number(format.intProperty(QTextFormat::FontPixelSize)) + "px"_L1;
     if (format.hasProperty(QTextFormat::FontPointSize))
         return QString::number(format.doubleProperty(QTextFormat::FontPointSize)) + "pt"_L1;
-    const int step = format.intProperty(QTextFormat::FontSizeAdjustment);
-    return kSizeNames.at(size_t(qBound(-1, step, 3) + 1));
+    const int step = qBound(-1, format.intProperty(QTextFormat::FontSizeAdjustment), 3) + 1;
+    return kSizeNames.at(size_t(step));
 }
 
 QStringList fontDeclarations(const QTextCharFormat &format, const QTextCharFormat &base)
@@ -45,7 +45,8 @@ QStringList fontDeclarations(const QTextCharFormat &format, const QTextCharForma
         css.append("font-family:"_L1 + quotedFamilies(families));
     if (differs(format, base, QTextFormat::FontPixelSize) ||
         differs(format, base, QTextFormat::FontPointSize) ||
-        differs(format, base, QTextFormat::FontSizeAdjustment))
+        format.intProperty(QTextFormat::FontSizeAdjustment) !=
+            base.intProperty(QTextFormat::FontSizeAdjustment))
         css.append("font-size:"_L1 + fontSize(format));
     const int weight = format.fontWeight();
     const int baseWeight = base.fontWeight();

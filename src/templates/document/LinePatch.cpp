@@ -40,7 +40,8 @@ QList<Cell> cellsOf(const QTextBlock &block)
         const QTextCharFormat format = at.fragment().charFormat();
         const InlineTags tags = inlineTags(format, {});
         for (const QChar character : at.fragment().text()) {
-            const bool isObject = character == QChar::ObjectReplacementCharacter;
+            const bool isObject =
+                character == QChar::ObjectReplacementCharacter && (isChip(format) || format.isImageFormat());
             cells.append({!isObject        ? escaped(character)
                           : isChip(format) ? chipPart(format).source
                                            : imageTag(format.toImageFormat()),

@@ -48,11 +48,15 @@ QStringList linesOf(const QString &text)
     for (const editor::HtmlToken &token : editor::scanHtml(text)) {
         QString part = text.sliced(token.start, token.end - token.start);
         // A "<!" that nothing ends is text: as a comment it would swallow the rest.
-        if (token.kind != editor::HtmlTokenKind::Text && editor::missingEnd(text, token).isEmpty()) {
+        if (token.kind == editor::HtmlTokenKind::Script ||
+            (token.kind != editor::HtmlTokenKind::Text && editor::missingEnd(text, token).isEmpty())) {
             lines.last() += part;
             continue;
         }
-        const QStringList parts = part.replace(ampersand, u"&amp;"_s).replace(less, u"&lt;"_s).split(u'\n');
+        const QStringList parts = part.replace(ampersand, u"&amp;"_s)
+                                      .replace(less, u"&lt;"_s)
+                                      .replace(editor::halfTag(), u"&lt;"_s)
+                                      .split(u'\n');
         lines.last() += parts.first();
         lines += parts.sliced(1);
     }
@@ -300,7 +304,15 @@ void TemplateDocument::insertSource(QTextCursor &cursor, const QString &source)
     if (!isChip) {
         QTextDocument parsed;
         read(parsed, source);
+        const bool isEmptyLine = cursor.block().length() <= 1;
+        const int start = cursor.position();
         cursor.insertFragment(QTextDocumentFragment(&parsed));
+        // A fragment leaves the line that it comes into as it is, and none of a rule.
+        const QTextBlockFormat first = parsed.begin().blockFormat();
+        if (isEmptyLine && parsed.begin().length() <= 1 &&
+            (first.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth) ||
+             first.hasProperty(editor::kWrittenLine)))
+            QTextCursor(findBlock(start)).setBlockFormat(first);
     } else {
         cursor.insertText(QString(QChar::ObjectReplacementCharacter), editor::chipFormat(part, around));
     }

@@ -1,5 +1,6 @@
 #include "templates/document/TemplateParts.h"
 
+#include "templates/document/StandingMarkup.h"
 #include "templates/document/TemplateElements.h"
 #include "templates/instructions/InstructionSyntax.h"
 #include "templates/syntax/Codes.h"
@@ -30,6 +31,17 @@ template <typename Table>
 bool contains(const Table &table, const QString &name)
 {
     return std::any_of(table.begin(), table.end(), [&](QLatin1StringView row) { return name == row; });
+}
+
+// The reader folds these; it would fold others, too, which are parts of their own so that they stay.
+bool isBlank(QChar c)
+{
+    return QStringView(u" \t\n\r\u2028\u2029").contains(c);
+}
+
+bool isBlankText(QStringView text)
+{
+    return std::ranges::all_of(text, isBlank);
 }
 
 struct Range
@@ -92,18 +104,13 @@ private:
             appendText(token);
             break;
         case HtmlTokenKind::Script:
-            appendPart(PartKind::Script, token.start, token.end);
+            appendWhole(PartKind::Script, token);
             break;
         case HtmlTokenKind::RawElement:
-            appendPart(PartKind::Markup, token.start, token.end);
-            m_result.parts.last().source += missingEnd(m_source, token);
-            break;
         case HtmlTokenKind::Opaque:
             // The page's own document type says nothing about a part of a page.
-            if (!text(token).startsWith("<!doctype"_L1, Qt::CaseInsensitive)) {
-                appendPart(PartKind::Markup, token.start, token.end);
-                m_result.parts.last().source += missingEnd(m_source, token);
-            }
+            if (!text(token).startsWith("<!doctype"_L1, Qt::CaseInsensitive))
+                appendWhole(PartKind::Markup, token);
             break;
         case HtmlTokenKind::StartTag:
         case HtmlTokenKind::EndTag:
@@ -160,7 +167,7 @@ private:
             return false;
         for (qsizetype next = m_index + 1; next < m_tokens.size(); ++next) {
             const HtmlToken &after = m_tokens.at(next);
-            if (after.kind == HtmlTokenKind::Text && text(after).trimmed().isEmpty())
+            if (after.kind == HtmlTokenKind::Text && isBlankText(text(after)))
                 continue;
             return after.kind == HtmlTokenKind::EndTag ||
                    (after.kind == HtmlTokenKind::StartTag && after.name == token.name);
@@ -193,7 +200,7 @@ private:
             return m_index;
         qsizetype next = m_index + 1;
         if (next < m_tokens.size() && m_tokens.at(next).kind == HtmlTokenKind::Text &&
-            text(m_tokens.at(next)).trimmed().isEmpty()) {
+            isBlankText(text(m_tokens.at(next)))) {
             if (isLineOfBlanks(next))
                 return m_index;
             ++next;
@@ -232,7 +239,7 @@ private:
             return true;
         const HtmlToken &token = m_tokens.at(index);
         return (token.kind == HtmlTokenKind::StartTag || token.kind == HtmlTokenKind::EndTag) &&
-               contains(kBlockElements, token.name);
+               contains(kBlockElements, token.name) && !isKept(token.start);
     }
 
     // Parents stand before their children.
@@ -253,9 +260,9 @@ private:
         qsizetype at = token.start;
         qsizetype end = token.end;
         if (!keepsBlanks(m_tree.innermost.at(m_index))) {
-            while (isBlockEdge(m_index + 1) && end > at && m_source.at(end - 1).isSpace())
+            while (isBlockEdge(m_index + 1) && end > at && isBlank(m_source.at(end - 1)))
                 --end;
-            while (isBlockEdge(m_index - 1) && at < end && m_source.at(at).isSpace())
+            while (isBlockEdge(m_index - 1) && at < end && isBlank(m_source.at(at)))
                 ++at;
         }
         const QStringView trimmed = QStringView(m_source).sliced(at, end - at);
@@ -263,6 +270,8 @@ private:
         auto codes = syntax::codePattern().globalMatch(trimmed);
         while (codes.hasNext()) {
             const QRegularExpressionMatch code = codes.next();
+            if (code.capturedView().contains(halfTag()))
+                continue;
             appendPlain(at, offset + code.capturedStart());
             at = offset + code.capturedEnd();
             appendPart(PartKind::Code, offset + code.capturedStart(), at);
@@ -387,14 +396,14 @@ private:
         if (start == end)
             return;
         const QString plain = m_source.sliced(start, end - start);
-        if (!m_runIsOpen && !isLineOfBlanks(m_index) && plain.trimmed().isEmpty()) {
+        if (!m_runIsOpen && !isLineOfBlanks(m_index) && isBlankText(plain)) {
             m_result.html += plain;
             return;
         }
         beginRun(start);
         // The reader takes all of these for blanks, and several for one.
         static const QRegularExpression wide(
-            uR"([\x{1680}\x{2000}-\x{200A}\x{202F}\x{205F}\x{3000}])"
+            uR"([\x{0B}\x{0C}\x{85}\x{1680}\x{2000}-\x{200A}\x{202F}\x{205F}\x{3000}])"
             uR"(|&(?:thinsp|ensp|emsp|hairsp|numsp|puncsp);|&#(?:819[2-9]|820[0-2]|8239|8287|12288);)"
             uR"(|&#[xX](?:200[0-9aA]|202[fF]|205[fF]|3000);)"_s);
         qsizetype at = 0;
@@ -429,22 +438,16 @@ private:
         m_result.runs.last().end = qMax(m_result.runs.last().end, end);
     }
 
-    /// An element that nothing closes would take in what is written behind it.
+    void appendWhole(PartKind kind, const HtmlToken &token)
+    {
+        appendPart(kind, token.start, token.end);
+        m_result.parts.last().source += missingEnd(m_source, token);
+    }
+
     void appendKept(const HtmlToken &token, qsizetype end)
     {
         appendPart(PartKind::Markup, token.start, end);
-        if (end != m_source.size())
-            return;
-        QString &source = m_result.parts.last().source;
-        const HtmlToken &last = m_tokens.constLast();
-        // Half a tag would take what is written behind it for its other half.
-        if (last.kind == HtmlTokenKind::Text && m_tree.innermost.constLast() >= 0)
-            source = source.chopped(text(last).size()) + text(last).toString().replace(u'<', "&lt;"_L1);
-        source += missingEnd(m_source, last);
-        const QList<HtmlElement> &elements = m_tree.elements;
-        for (int open = m_tree.innermost.constLast(); open >= 0 && elements.at(open).start >= token.start;
-             open = elements.at(open).parent)
-            source += "</"_L1 + elements.at(open).name + u'>';
+        m_result.parts.last().source = standingMarkup(m_source, m_tokens, m_tree, m_index, end);
     }
 
     void findKeptRanges()
@@ -486,6 +489,7 @@ private:
         const bool matters = std::any_of(m_tokens.begin(), m_tokens.end(), [&](const HtmlToken &token) {
             const bool raw = token.kind == HtmlTokenKind::RawElement && token.name != "title"_L1;
             return token.start >= head.start && token.end <= head.end &&
+                   token.kind != HtmlTokenKind::EndTag &&
                    (raw || token.kind == HtmlTokenKind::Script ||
                     text(token).contains(syntax::codePattern()));
         });
@@ -541,7 +545,7 @@ private:
     bool isPart(const HtmlToken &token) const
     {
         if (token.kind == HtmlTokenKind::Text)
-            return !text(token).trimmed().isEmpty();
+            return !isBlankText(text(token));
         return token.kind != HtmlTokenKind::StartTag && token.kind != HtmlTokenKind::EndTag;
     }
 
@@ -582,9 +586,14 @@ SplitTemplate splitTemplate(const QString &source)
 
 TemplatePart partOf(const QString &text)
 {
-    if (syntax::isCode(text))
+    const QList<HtmlToken> tokens = scanHtml(text);
+    if (tokens.size() != 1)
+        return {PartKind::Markup, text};
+    const HtmlTokenKind kind = tokens.constFirst().kind;
+    if (kind == HtmlTokenKind::Text && syntax::isCode(text) && !text.contains(halfTag()))
         return {PartKind::Code, text};
-    return {syntax::beginsWithScript(text) ? PartKind::Script : PartKind::Markup, text};
+    return {kind == HtmlTokenKind::Script ? PartKind::Script : PartKind::Markup,
+            text + missingEnd(text, tokens.constFirst())};
 }
 
 } // namespace ozm::editor

@@ -98,24 +98,17 @@ bool needsBlanksKept(const QString &text)
            text.contains(u" \u2028"_s) || text.contains(u"\u2028 "_s);
 }
 
-// Beside these the reader drops blanks.
-constexpr std::array kBlockMarkup{"<table"_L1, "<form"_L1, "<ul"_L1, "<ol"_L1, "<div"_L1, "<p"_L1};
+// These end a paragraph.
+constexpr std::array kBlockMarkup{"<table"_L1, "<ul"_L1, "<ol"_L1, "<div"_L1, "<p"_L1};
 
-bool hasBlankBesideMarkup(const QTextBlock &block)
+bool hasBlockMarkup(const QTextBlock &block)
 {
-    const QString text = block.text();
     for (auto at = block.begin(); !at.atEnd(); ++at) {
-        const QTextFragment fragment = at.fragment();
-        const QString markup =
-            isChip(fragment.charFormat()) ? chipPart(fragment.charFormat()).source : QString();
-        if (std::ranges::none_of(kBlockMarkup, [&markup](QLatin1StringView tag) {
-                return markup.startsWith(tag, Qt::CaseInsensitive);
-            }))
-            continue;
-        const qsizetype first = fragment.position() - block.position();
-        const qsizetype after = first + fragment.length();
-        if ((first > 0 && text.at(first - 1) == u' ') || (after < text.size() && text.at(after) == u' '))
-            return true;
+        const QTextCharFormat format = at.fragment().charFormat();
+        const QString markup = isChip(format) ? chipPart(format).source : QString();
+        for (const QLatin1StringView tag : kBlockMarkup)
+            if (markup.startsWith(tag, Qt::CaseInsensitive))
+                return true;
     }
     return false;
 }
@@ -125,11 +118,25 @@ bool isRuler(const QTextBlock &block)
     return block.blockFormat().hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth);
 }
 
+bool isObject(const QTextCharFormat &format)
+{
+    return isChip(format) || format.isImageFormat();
+}
+
+// The character that stands for an object, where there is none.
+QString plainText(const QTextFragment &fragment)
+{
+    return fragment.text().replace(QChar::ObjectReplacementCharacter, QChar::ReplacementCharacter);
+}
+
 /// Formats that the surrounding cell already gives to its blocks.
 struct Surroundings
 {
     QTextCharFormat text;
     Qt::Alignment alignment = Qt::AlignLeft;
+    qreal leftMargin = 0;
+    qreal rightMargin = 0;
+    bool isColoured = false; ///< An item, which hands its colour down.
 };
 
 QStringList blockDeclarations(const QTextBlock &block, const Surroundings &around)
@@ -145,11 +152,12 @@ QStringList blockDeclarations(const QTextBlock &block, const Surroundings &aroun
                    : alignment & Qt::AlignJustify ? u"text-align:justify"_s
                                                   : u"text-align:left"_s);
     }
-    const qreal left = format.leftMargin() + 40.0 * (block.textList() ? 0 : format.indent());
+    const qreal left =
+        format.leftMargin() + 40.0 * (block.textList() ? 0 : format.indent()) - around.leftMargin;
     if (left != 0)
         css.append("margin-left:"_L1 + px(left));
-    if (format.rightMargin() != 0)
-        css.append("margin-right:"_L1 + px(format.rightMargin()));
+    if (format.rightMargin() != around.rightMargin)
+        css.append("margin-right:"_L1 + px(format.rightMargin() - around.rightMargin));
     if (format.textIndent() != 0)
         css.append("text-indent:"_L1 + px(format.textIndent()));
     if (format.lineHeightType() == QTextBlockFormat::ProportionalHeight && format.lineHeight() != 100)
@@ -157,11 +165,13 @@ QStringList blockDeclarations(const QTextBlock &block, const Surroundings &aroun
     // The reader hands a cell's down to the lines in it.
     if (format.background().style() == Qt::SolidPattern && format.background() != around.text.background())
         css.append("background-color:"_L1 + cssColor(format.background().color()));
+    else if (around.isColoured && format.background().style() == Qt::NoBrush)
+        css.append("background-color:"_L1 + cssColor(Qt::transparent));
     if (format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore)
         css.append(u"page-break-before:always"_s);
     if (format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysAfter)
         css.append(u"page-break-after:always"_s);
-    if (needsBlanksKept(block.text()) || hasBlankBesideMarkup(block))
+    if (needsBlanksKept(block.text()))
         css.append(u"white-space:pre-wrap"_s);
     return css;
 }
@@ -257,14 +267,17 @@ private:
     {
         if (QTextList *list = block.textList()) {
             enterList(list, listsOutside);
-            // An item hands its alignment down to the lists in it.
-            Surroundings own = around;
-            if (m_lists.size() > listsOutside + 1)
-                own.alignment = m_alignments.at(m_lists.size() - 2);
-            m_alignments.resize(m_lists.size());
-            m_alignments.last() = block.blockFormat().hasProperty(QTextFormat::BlockAlignment)
-                                      ? block.blockFormat().alignment() & Qt::AlignHorizontal_Mask
-                                      : Qt::Alignment(Qt::AlignLeft);
+            // An item hands its alignment, margins and colour down to the lists in it.
+            const bool isInner = m_lists.size() > listsOutside + 1;
+            const Surroundings own = isInner ? m_listItems.at(m_lists.size() - 2) : around;
+            const QTextBlockFormat format = block.blockFormat();
+            m_listItems.resize(m_lists.size());
+            m_listItems.last() = {around.text,
+                                  format.hasProperty(QTextFormat::BlockAlignment)
+                                      ? format.alignment() & Qt::AlignHorizontal_Mask
+                                      : Qt::Alignment(Qt::AlignLeft),
+                                  format.leftMargin(), format.rightMargin(),
+                                  format.background().style() != Qt::NoBrush};
             const QStringList css = blockDeclarations(block, own);
             beginLine(block);
             add("<li"_L1 + styleAttribute(css) + u'>');
@@ -309,10 +322,12 @@ private:
         const TagDefaults &defaults = level > 0 ? headingDefaults(level) : paragraphDefaults();
         QString tag = level > 0 ? u"h%1"_s.arg(level) : u"p"_s;
         QStringList css = blockDeclarations(block, around);
-        if (format.topMargin() == 0 && format.bottomMargin() == 0 && level == 0) {
+        const bool hasMargins = format.topMargin() != 0 || format.bottomMargin() != 0;
+        if (level == 0 && (!hasMargins || hasBlockMarkup(block)))
             tag = u"div"_s;
-        } else if (format.topMargin() != defaults.block.topMargin() ||
-                   format.bottomMargin() != defaults.block.bottomMargin()) {
+        if (tag == "div"_L1 ? hasMargins
+                            : format.topMargin() != defaults.block.topMargin() ||
+                                  format.bottomMargin() != defaults.block.bottomMargin()) {
             css.append("margin-top:"_L1 + px(format.topMargin()));
             css.append("margin-bottom:"_L1 + px(format.bottomMargin()));
         }
@@ -360,7 +375,10 @@ private:
     void findLooseBrackets(const QTextBlock &block)
     {
         m_looseBrackets.clear();
-        auto all = syntax::codePattern().globalMatch(block.text());
+        QString text;
+        for (auto at = block.begin(); !at.atEnd(); ++at)
+            text += isObject(at.fragment().charFormat()) ? at.fragment().text() : plainText(at.fragment());
+        auto all = syntax::codePattern().globalMatch(text);
         while (all.hasNext()) {
             const QRegularExpressionMatch match = all.next();
             if (!match.capturedView().contains(QChar::ObjectReplacementCharacter))
@@ -382,8 +400,8 @@ private:
     {
         const QTextCharFormat format = fragment.charFormat();
         const QString text = fragment.text();
-        if (!text.contains(QChar::ObjectReplacementCharacter)) {
-            addText(text, fragment.position());
+        if (!isObject(format) || !text.contains(QChar::ObjectReplacementCharacter)) {
+            addText(plainText(fragment), fragment.position());
             return;
         }
         // Neighbours of the same format, as two of the same code are, come as one fragment.
@@ -394,7 +412,7 @@ private:
                 const qsizetype start = m_out.text.size();
                 add(chipPart(format).source);
                 m_out.chips.append({start, m_out.text.size(), fragment.position() + i});
-            } else if (format.isImageFormat()) {
+            } else {
                 add(imageTag(format.toImageFormat()));
             }
         }
@@ -480,7 +498,8 @@ private:
     {
         const QString tag = header ? u"th"_s : u"td"_s;
         add(u'<' + tag + cellAttributes(table, cell));
-        addStructure(u'<' + tag + cellAttributes(table, cell) + styleAttribute(cellDeclarations(cell)));
+        addStructure(u'<' + tag + cellAttributes(table, cell) +
+                     styleAttribute(cellDeclarations(table, cell)));
         Surroundings around;
         if (header)
             around = {headerCellText(), Qt::AlignHCenter};
@@ -490,12 +509,12 @@ private:
                             !isRuler(first) && cell.begin().currentFrame() == nullptr;
         if (single && isPlain(first)) {
             beginLine(first);
-            add(styleAttribute(blockDeclarations(first, around) + cellDeclarations(cell)) + u'>');
+            add(styleAttribute(blockDeclarations(first, around) + cellDeclarations(table, cell)) + u'>');
             beginInner();
             writeText(first, around.text);
             endInner();
         } else {
-            add(styleAttribute(cellDeclarations(cell)) + u'>');
+            add(styleAttribute(cellDeclarations(table, cell)) + u'>');
             writeBlocks(cell.begin(), cell.end(), around);
         }
         add("</"_L1 + tag + u'>');
@@ -512,6 +531,20 @@ private:
                (rest.lineHeightType() == QTextBlockFormat::SingleHeight || rest.lineHeight() == 100);
     }
 
+    static QLatin1StringView verticalAlignment(const QTextCharFormat &cell)
+    {
+        switch (cell.verticalAlignment()) {
+        case QTextCharFormat::AlignMiddle:
+            return "middle"_L1;
+        case QTextCharFormat::AlignBottom:
+            return "bottom"_L1;
+        case QTextCharFormat::AlignTop:
+            return "top"_L1;
+        default:
+            return ""_L1;
+        }
+    }
+
     static QString cellAttributes(const QTextTable &table, const QTextTableCell &cell)
     {
         QString attributes;
@@ -525,33 +558,27 @@ private:
         return attributes;
     }
 
-    static QStringList cellDeclarations(const QTextTableCell &cell)
+    static QStringList cellDeclarations(const QTextTable &table, const QTextTableCell &cell)
     {
         const QTextCharFormat format = cell.format();
         QStringList css;
         if (format.background().style() == Qt::SolidPattern)
             css.append("background-color:"_L1 + cssColor(format.background().color()));
-        switch (format.verticalAlignment()) {
-        case QTextCharFormat::AlignMiddle:
-            css.append(u"vertical-align:middle"_s);
-            break;
-        case QTextCharFormat::AlignBottom:
-            css.append(u"vertical-align:bottom"_s);
-            break;
-        case QTextCharFormat::AlignTop:
-            css.append(u"vertical-align:top"_s);
-            break;
-        default:
-            break;
-        }
+        const QLatin1StringView vertical = verticalAlignment(format);
+        // A cell hands its alignment down to those of tables in it.
+        const auto *outer = qobject_cast<QTextTable *>(table.parentFrame());
+        if (!vertical.isEmpty())
+            css.append("vertical-align:"_L1 + vertical);
+        else if (outer && !verticalAlignment(outer->cellAt(table.firstPosition()).format()).isEmpty())
+            css.append(u"vertical-align:baseline"_s);
         return css;
     }
 
     WrittenSource m_out;
     QSet<int> m_looseBrackets;
     QList<QTextList *> m_lists;
-    QList<Qt::Alignment> m_alignments; ///< Of the last item of each of them.
-    int m_depth = 0;                   ///< Of tables.
+    QList<Surroundings> m_listItems; ///< The last item of each of them.
+    int m_depth = 0;                 ///< Of tables.
 };
 
 } // namespace

@@ -77,19 +77,21 @@ private:
             m_tokens.append({HtmlTokenKind::Text, m_textStart, end, {}});
     }
 
+    /// Up to @p end; to the end of the source when that is negative.
     bool take(HtmlTokenKind kind, qsizetype end, const QString &name = {})
     {
         flushText(m_at);
-        m_tokens.append({kind, m_at, end, name});
-        m_at = end;
-        m_textStart = end;
+        const bool isOpen = end < 0;
+        m_tokens.append({kind, m_at, isOpen ? m_source.size() : end, name, isOpen});
+        m_at = m_tokens.constLast().end;
+        m_textStart = m_at;
         return true;
     }
 
     qsizetype after(QStringView text, qsizetype from) const
     {
-        const qsizetype found = m_source.indexOf(text, from, Qt::CaseInsensitive);
-        return found < 0 ? m_source.size() : found + text.size();
+        const qsizetype found = from < 0 ? -1 : m_source.indexOf(text, from);
+        return found < 0 ? -1 : found + text.size();
     }
 
     bool takeMarkup()
@@ -97,7 +99,7 @@ private:
         if (const auto tag = syntax::scriptTagAt(m_source, m_at))
             return tag->opening ? takeScript(*tag) : take(HtmlTokenKind::Opaque, m_at + tag->length);
         if (startsWith("<!--"_L1))
-            return take(HtmlTokenKind::Opaque, after(u"-->", m_at + 4));
+            return take(HtmlTokenKind::Opaque, after(u"-->", m_at + 2));
         if (startsWith("<!"_L1) || startsWith("<?"_L1))
             return take(HtmlTokenKind::Opaque, after(u">", m_at));
         const bool closing = startsWith("</"_L1);
@@ -146,7 +148,7 @@ private:
             return take(HtmlTokenKind::EndTag, end, name);
         if (isIn(kRawElements, name)) {
             const qsizetype close = m_source.indexOf(u"</"_s + name, end, Qt::CaseInsensitive);
-            return take(HtmlTokenKind::RawElement, close < 0 ? m_source.size() : after(u">", close), name);
+            return take(HtmlTokenKind::RawElement, after(u">", close), name);
         }
         return take(HtmlTokenKind::StartTag, end, name);
     }
@@ -238,12 +240,24 @@ QList<HtmlToken> scanHtml(const QString &source)
 QString missingEnd(const QString &source, const HtmlToken &token)
 {
     const QStringView text = QStringView(source).sliced(token.start, token.end - token.start);
-    if (token.kind == HtmlTokenKind::RawElement)
-        return text.endsWith(u'>') ? QString() : "</"_L1 + token.name + u'>';
-    if (token.kind != HtmlTokenKind::Opaque)
+    if (syntax::beginsWithScript(text) && token.kind != HtmlTokenKind::RawElement) {
+        qsizetype open = 0;
+        for (const syntax::ScriptTag &tag : syntax::scriptTags(text))
+            open += tag.opening ? 1 : -1;
+        return QString(syntax::kScriptClose).repeated(open);
+    }
+    if (!token.isOpen)
         return {};
-    const QString end = text.startsWith("<!--"_L1) ? u"-->"_s : u">"_s;
-    return text.endsWith(end) ? QString() : end;
+    if (token.kind == HtmlTokenKind::RawElement)
+        return "</"_L1 + token.name + u'>';
+    return text.startsWith("<!--"_L1) ? u"-->"_s : u">"_s;
+}
+
+const QRegularExpression &halfTag()
+{
+    static const QRegularExpression pattern(uR"(<(?=/?(?:[a-zA-Z][\p{L}\p{N}:-]*(?:[\s/>]|$)|$)))"_s,
+                                            QRegularExpression::UseUnicodePropertiesOption);
+    return pattern;
 }
 
 bool isVoidElement(const QString &name)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QRegularExpression>
 #include <QString>
 
 namespace ozm::editor {
@@ -25,6 +26,7 @@ struct HtmlToken
     qsizetype end = 0;
     /// Lower case; of tags and raw elements only.
     QString name;
+    bool isOpen = false; ///< The source ended in it.
 };
 
 /**
@@ -33,8 +35,11 @@ struct HtmlToken
  */
 [[nodiscard]] QList<HtmlToken> scanHtml(const QString &source);
 
-/// The end that @p token lacks because the source ended in it; without, it would swallow the text behind it.
+/// The end that @p token lacks when the source ended in it; without, it would swallow the text behind it.
 [[nodiscard]] QString missingEnd(const QString &source, const HtmlToken &token);
+
+/// A "<" in a text that begins a tag once the end of a tag comes to stand behind it.
+[[nodiscard]] const QRegularExpression &halfTag();
 
 /// An element by its range; an element that is never closed ends where its parent does.
 struct HtmlElement
