@@ -203,7 +203,9 @@ QPointF PaperLayout::toDocument(int page, const QPointF &point) const
 {
     const PageSlices &slices = m_pages.at(page);
     const double y = point.y() - top() - slices.heading.height() + slices.body.top;
-    return {point.x(), std::clamp(y, slices.body.top, slices.body.bottom)};
+    // At its very end the next page begins.
+    const double last = std::max(slices.body.top, slices.body.bottom - kTouch);
+    return {point.x(), std::clamp(y, slices.body.top, last)};
 }
 
 QPointF PaperLayout::toPage(int page, const QPointF &place) const
