@@ -2,13 +2,18 @@
 
 #include "templates/instructions/InstructionCaption.h"
 
+#include <ozm_widgets/TemplateDocument.h>
+
 #include <QComboBox>
 #include <QDoubleValidator>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QSpinBox>
 #include <QTextDocumentFragment>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -25,6 +30,27 @@ constexpr std::array kTotals{Total::None,     Total::Sum,     Total::Mean,
                              Total::Smallest, Total::Largest, Total::Count};
 constexpr QChar kThinSpace = QChar(0x2009);
 constexpr int kMostFactorDigits = 12;
+constexpr QSizeF kPictureRoom(280, 140);
+
+/// The page @p html, made smaller where it needs more room than there is.
+QPixmap pictureOf(const QString &html, double devicePixelRatio)
+{
+    TemplateDocument document;
+    document.setDocumentMargin(0);
+    document.setHtml(html);
+    document.setTextWidth(document.idealWidth());
+    const QSizeF size = document.size();
+    const double scale =
+        std::min({1.0, kPictureRoom.width() / size.width(), kPictureRoom.height() / size.height()});
+    QPixmap picture((size * scale * devicePixelRatio).toSize().expandedTo({1, 1}));
+    picture.setDevicePixelRatio(devicePixelRatio);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.scale(scale, scale);
+    document.drawContents(&painter);
+    return picture;
+}
 
 } // namespace
 
@@ -168,21 +194,33 @@ void FormatDialog::showFields()
     form()->setRowVisible(m_pattern, kind == FormatKind::Date);
     form()->setRowVisible(m_width, kind == FormatKind::Image);
     form()->setRowVisible(m_alternative, kind == FormatKind::Image);
-    if (std::exchange(m_shownKind, int(kind)) != int(kind) && isVisible())
-        adjustSize();
+}
+
+void FormatDialog::showSample(const CodeFormat &format)
+{
+    const bool isWhole = instructions::readInstruction(sourceOf(format)).has_value();
+    setAcceptable(isWhole);
+    // A text that is nothing but the code has an image's alternative text in its place.
+    const bool isImage = format.kind == FormatKind::Image;
+    const QString source = isImage ? u"<div>%1</div>"_s.arg(sourceOf(format)) : sourceOf(format);
+    const auto filled = isWhole ? choices().filled(source) : std::nullopt;
+    if (isImage && filled && filled->contains("<img "_L1)) {
+        m_sample->setPixmap(pictureOf(*filled, devicePixelRatioF()));
+        return;
+    }
+    const QString text = format.isHtml || isImage
+                             ? QTextDocumentFragment::fromHtml(filled.value_or(QString())).toPlainText()
+                             : filled.value_or(QString());
+    setSample(m_sample, filled ? text : tr("No value in the preview"));
 }
 
 void FormatDialog::update()
 {
     showFields();
-    const CodeFormat format = this->format();
-    const bool isWhole = instructions::readInstruction(sourceOf(format)).has_value();
-    setAcceptable(isWhole);
-    const auto filled = isWhole ? choices().filled(sourceOf(format)) : std::nullopt;
-    const QString text = format.isHtml
-                             ? QTextDocumentFragment::fromHtml(filled.value_or(QString())).toPlainText()
-                             : filled.value_or(tr("No value in the preview"));
-    m_sample->setText(text);
+    showSample(format());
+    const int kind = m_kind->currentData().toInt();
+    if (std::exchange(m_shownKind, kind) != kind && isVisible())
+        adjustSize();
 }
 
 } // namespace ozm::editor

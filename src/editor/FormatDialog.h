@@ -31,6 +31,7 @@ private:
     [[nodiscard]] QSpinBox *addCount(const char *name, const QString &label, int value, int most, int none,
                                      const QString &noneText);
     void showFields();
+    void showSample(const instructions::CodeFormat &format);
     void update();
 
     int m_shownKind = -1;

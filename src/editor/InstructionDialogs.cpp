@@ -30,6 +30,8 @@ using instructions::SortKey;
 using instructions::Test;
 
 constexpr int kFieldWidth = 300;
+// Some lines of the sample.
+constexpr int kLongestSample = 300;
 // In millimetres, as paper has them without a set-up.
 constexpr std::array kUsualMargins{16, 18, 14, 20};
 
@@ -113,11 +115,18 @@ QLabel *InstructionDialog::addSample(const char *name, const QString &label)
     auto *sample = named(new QLabel(this), name);
     sample->setTextFormat(Qt::PlainText);
     sample->setWordWrap(true);
+    // A text of several lines would have the height of one otherwise.
+    sample->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
     sample->setAccessibleName(tr("With the data of the preview"));
     sample->setFrameShape(QFrame::StyledPanel);
     sample->setMargin(6);
     m_form->addRow(label, sample);
     return sample;
+}
+
+void InstructionDialog::setSample(QLabel *sample, const QString &text)
+{
+    sample->setText(text.size() > kLongestSample ? text.first(kLongestSample) + u'…' : text);
 }
 
 void InstructionDialog::addButtons()
@@ -210,9 +219,9 @@ void ConditionDialog::update()
     const auto filled = isWhole
                             ? choices().filled(sourceOf(condition) + shown + sourceOf(instructions::End()))
                             : std::nullopt;
-    m_sample->setText(!filled            ? tr("No value in the preview")
-                      : *filled == shown ? tr("Shown")
-                                         : tr("Not shown"));
+    setSample(m_sample, !filled            ? tr("No value in the preview")
+                        : *filled == shown ? tr("Shown")
+                                           : tr("Not shown"));
 }
 
 PageDialog::PageDialog(const Page &page, const InstructionChoices &choices, QWidget *parent)

@@ -49,6 +49,8 @@ protected:
     [[nodiscard]] QLineEdit *addLine(const char *name, const QString &label, const QString &text,
                                      const QString &placeholder = {});
     [[nodiscard]] QLabel *addSample(const char *name, const QString &label);
+    /// Shows the beginning of a long text.
+    static void setSample(QLabel *sample, const QString &text);
     void addButtons();
     void setAcceptable(bool isAcceptable);
 
