@@ -1038,6 +1038,10 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
         <source>&amp;Normal size</source>
         <translation>&amp;Normale Größe</translation>
     </message>
+    <message>
+        <source>&amp;Heading on each page</source>
+        <translation>Tabellen&amp;kopf auf jeder Seite</translation>
+    </message>
 </context>
 <context>
     <name>ozm::editor::EditorFiles</name>
@@ -1798,6 +1802,10 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     <message>
         <source>&amp;Columns:</source>
         <translation>&amp;Spalten:</translation>
+    </message>
+    <message>
+        <source>The first row is the &amp;heading, on each page</source>
+        <translation>Die erste Zeile ist der Tabellen&amp;kopf, auf jeder Seite</translation>
     </message>
 </context>
 <context>

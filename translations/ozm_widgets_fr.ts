@@ -1038,6 +1038,10 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
         <source>&amp;Normal size</source>
         <translation>&amp;Taille normale</translation>
     </message>
+    <message>
+        <source>&amp;Heading on each page</source>
+        <translation>En-&amp;tête sur chaque page</translation>
+    </message>
 </context>
 <context>
     <name>ozm::editor::EditorFiles</name>
@@ -1798,6 +1802,10 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
     <message>
         <source>&amp;Columns:</source>
         <translation>&amp;Colonnes&#x202f;:</translation>
+    </message>
+    <message>
+        <source>The first row is the &amp;heading, on each page</source>
+        <translation>La première ligne est l’en-&amp;tête, sur chaque page</translation>
     </message>
 </context>
 <context>

@@ -295,6 +295,10 @@ constexpr std::array kActions{
     ActionRow{"deleteColumnAction", Menu::Table, "table-column-delete",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Delete &columns"), "",
               [](const Parts &p, bool) { p.table.removeColumns(); }, Edits | Rich | InTable | OnView},
+    ActionRow{"headingRowsAction", Menu::Table, "",
+              QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Heading on each page"), "",
+              [](const Parts &p, bool on) { p.table.setHeading(on); },
+              Edits | Rich | InTable | OnView | Checked | Starts},
     ActionRow{"mergeCellsAction", Menu::Table, "table-cells-merge",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "&Merge cells"), "",
               [](const Parts &p, bool) { p.table.mergeCells(); }, Edits | Rich | InTable | OnView | Starts},
@@ -505,6 +509,7 @@ void EditorActions::update()
     }
     check("richModeAction", rich);
     check("plainModeAction", !rich);
+    check("headingRowsAction", inTable && m_parts.table.isInHeading());
     auto *bar = m_parts.window.findChild<QToolBar *>(u"formatToolBar"_s);
     bar->setEnabled(rich && !m_parts.views.isReadOnly());
     if (!rich)

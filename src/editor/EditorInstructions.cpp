@@ -156,12 +156,10 @@ void EditorInstructions::ask(const Page &page, bool isNew)
     PageDialog dialog(page, choices(isNew), m_window);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    if (isNew) {
-        QTextCursor start = m_views.current().cursor();
-        start.movePosition(QTextCursor::Start);
-        m_views.current().setCursor(start);
-    }
-    write(dialog.page(), Extent::Row, isNew);
+    if (isNew)
+        m_views.current().insertFirstLine(sourceOf(dialog.page()));
+    else
+        write(dialog.page(), Extent::Row, isNew);
 }
 
 void EditorInstructions::write(const Instruction &instruction, Extent extent, bool isNew)

@@ -155,6 +155,11 @@ void FormattedView::enclose(const QString &begin, const QString &end)
     m_view->enclose(begin, end);
 }
 
+void FormattedView::insertFirstLine(const QString &source)
+{
+    m_view->insertFirstLine(source);
+}
+
 bool FormattedView::isInRow() const
 {
     return cursor().currentTable() || cursor().currentList();
@@ -276,6 +281,12 @@ void SourceView::enclose(const QString &begin, const QString &end)
     lines.setPosition(start);
     lines.insertText(begin + lineEnd);
     lines.endEditBlock();
+}
+
+void SourceView::insertFirstLine(const QString &source)
+{
+    QTextCursor start(m_view->document());
+    start.insertText(source + u'\n');
 }
 
 bool SourceView::isInRow() const

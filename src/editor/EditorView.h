@@ -49,6 +49,8 @@ public:
     virtual void setPartSource(const QTextCursor &part, const QString &source) = 0;
     /// Puts @p begin and @p end around the selected lines.
     virtual void enclose(const QString &begin, const QString &end) = 0;
+    /// Puts @p source into a line of its own at the beginning; the cursor stays at its place.
+    virtual void insertFirstLine(const QString &source) = 0;
     /// True when the cursor may stand in a table row or list item.
     [[nodiscard]] virtual bool isInRow() const = 0;
     /// The @p source that was just inserted before the cursor, as a selection.
@@ -81,6 +83,7 @@ public:
     [[nodiscard]] QString partSource(const QTextCursor &part) const override;
     void setPartSource(const QTextCursor &part, const QString &source) override;
     void enclose(const QString &begin, const QString &end) override;
+    void insertFirstLine(const QString &source) override;
     [[nodiscard]] bool isInRow() const override;
     [[nodiscard]] QTextCursor insertedBeforeCursor(const QString &source) const override;
 
@@ -114,6 +117,7 @@ public:
     [[nodiscard]] QString partSource(const QTextCursor &part) const override;
     void setPartSource(const QTextCursor &part, const QString &source) override;
     void enclose(const QString &begin, const QString &end) override;
+    void insertFirstLine(const QString &source) override;
     [[nodiscard]] bool isInRow() const override;
     [[nodiscard]] QTextCursor insertedBeforeCursor(const QString &source) const override;
 

@@ -4,6 +4,7 @@
 #include "editor/CodeModel.h"
 #include "editor/EditorKeys.h"
 #include "editor/ForeignPage.h"
+#include "editor/TableEditing.h"
 #include "templates/document/InlineHtml.h"
 #include "templates/document/TemplateChip.h"
 #include "templates/document/TemplateParts.h"
@@ -177,6 +178,20 @@ void RichTextView::insertLine(const QTextBlock &block, bool isBehind, const QStr
     templateDocument()->insertSource(cursor, source);
 }
 
+void RichTextView::insertFirstLine(const QString &source)
+{
+    if (isReadOnly())
+        return;
+    const QTextBlock first = document()->firstBlock();
+    QTextCursor cursor(first);
+    cursor.beginEditBlock();
+    // The line before a table at the beginning is there for nothing else; any other empty one is for text.
+    if (first.length() <= 1 && !QTextCursor(first.next()).currentTable())
+        cursor.insertBlock();
+    insertLine(document()->firstBlock(), false, source);
+    cursor.endEditBlock();
+}
+
 void RichTextView::enclose(const QString &begin, const QString &end)
 {
     if (isReadOnly())
@@ -243,13 +258,18 @@ void RichTextView::keyPressEvent(QKeyEvent *event)
         event->ignore();
         return;
     }
+    if (!isReadOnly() && goesToCell(*event))
+        return;
     if (isReadOnly() || !changesText(*event)) {
         QTextEdit::keyPressEvent(event);
         return;
     }
     if (!mayRemove(removedBy(*event)))
         return;
+    const int headingLevel = textCursor().blockFormat().headingLevel();
     QTextEdit::keyPressEvent(event);
+    if (headingLevel > 0 && textCursor().blockFormat().headingLevel() == 0)
+        leaveHeading();
     if (event->text() == "]"_L1)
         closeCode();
     m_completer->offer();
@@ -285,6 +305,26 @@ QTextCursor RichTextView::removedBy(const QKeyEvent &event) const
         }
     }
     return cursor;
+}
+
+bool RichTextView::goesToCell(const QKeyEvent &event)
+{
+    const bool isBack = event.key() == Qt::Key_Backtab;
+    if ((event.key() != Qt::Key_Tab && !isBack) || (event.modifiers() & ~Qt::ShiftModifier))
+        return false;
+    return TableEditing(this).goToCell(isBack ? TableEditing::Side::Before : TableEditing::Side::After);
+}
+
+// The toolkit gives the margins of a heading to the text that is typed behind it.
+void RichTextView::leaveHeading()
+{
+    QTextCursor cursor = textCursor();
+    QTextBlockFormat text;
+    text.setTopMargin(0);
+    text.setBottomMargin(0);
+    cursor.joinPreviousEditBlock();
+    cursor.mergeBlockFormat(text);
+    cursor.endEditBlock();
 }
 
 // A code that was typed to its end becomes a chip.

@@ -38,10 +38,12 @@ public:
     /// False, said by removalRefused(), when the selection holds a code that may not be removed.
     [[nodiscard]] bool mayRemove(const QTextCursor &selection);
 
-    /// Merges, as chips would not outlive a format that is set.
     /// Puts @p begin and @p end into lines of their own around the selected ones, or around the tables that the
     /// selection begins or ends in.
     void enclose(const QString &begin, const QString &end);
+    /// Puts @p source into a line of its own before all others.
+    void insertFirstLine(const QString &source);
+    /// Merges, as chips would not outlive a format that is set.
     void mergeFormat(const QTextCharFormat &format);
 
 Q_SIGNALS:
@@ -64,6 +66,9 @@ private:
     [[nodiscard]] int chipAtPoint(const QPoint &point) const;
     [[nodiscard]] QString toolTipOf(const TemplateDocument::Chip &chip) const;
     [[nodiscard]] QTextCursor removedBy(const QKeyEvent &event) const;
+    /// Tab and Shift+Tab in a table; false where they mean something else.
+    bool goesToCell(const QKeyEvent &event);
+    void leaveHeading();
     void closeCode();
     void replace(QTextCursor cursor, const QString &code);
     void insertLine(const QTextBlock &block, bool isBehind, const QString &source);

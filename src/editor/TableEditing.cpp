@@ -2,11 +2,13 @@
 
 #include "editor/RichTextView.h"
 
+#include <QCheckBox>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QSpinBox>
+#include <QTextList>
 #include <QTextTable>
 
 using namespace Qt::StringLiterals;
@@ -29,11 +31,44 @@ QSpinBox *makeCount(const char *name, int value, int most, const QString &text, 
     return count;
 }
 
+/// True for an empty line that has a line of text right before it.
+bool isEmptyBelowText(const QTextCursor &cursor)
+{
+    const QTextBlock before = cursor.block().previous();
+    if (cursor.block().length() > 1 || cursor.currentList() || !before.isValid())
+        return false;
+    const QTextCursor end(before);
+    const QTextTable *table = cursor.currentTable();
+    return end.currentFrame() == cursor.currentFrame() &&
+           (!table || table->cellAt(end) == table->cellAt(cursor));
+}
+
+/// A table in an empty line takes its place: the toolkit would leave the line above the table.
+QTextTable *insertTableAt(QTextCursor &cursor, int rows, int columns, const QTextTableFormat &format)
+{
+    if (!isEmptyBelowText(cursor))
+        return cursor.insertTable(rows, columns, format);
+    const QTextBlockFormat block = cursor.blockFormat();
+    const QTextCharFormat text = cursor.blockCharFormat();
+    cursor.deletePreviousChar();
+    QTextTable *table = cursor.insertTable(rows, columns, format);
+    cursor.setPosition(table->lastPosition() + 1);
+    cursor.setBlockFormat(block);
+    cursor.setBlockCharFormat(text);
+    return table;
+}
+
 } // namespace
 
 bool TableEditing::isInTable() const
 {
     return m_view->textCursor().currentTable() != nullptr;
+}
+
+bool TableEditing::isInHeading() const
+{
+    const Range cells = selected();
+    return cells.table && cells.row < cells.table->format().headerRowCount();
 }
 
 bool TableEditing::canMerge() const
@@ -89,15 +124,18 @@ void TableEditing::askInsert()
     auto *form = new QFormLayout(&dialog);
     const auto *rows = makeCount("tableRows", 3, kMostRows, tr("&Rows:"), form);
     const auto *columns = makeCount("tableColumns", 2, kMostColumns, tr("&Columns:"), form);
+    auto *heading = new QCheckBox(tr("The first row is the &heading, on each page"), &dialog);
+    heading->setObjectName(u"tableHeading"_s);
+    form->addRow(heading);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
     form->addRow(buttons);
     QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     if (dialog.exec() == QDialog::Accepted)
-        insert(rows->value(), columns->value());
+        insert(rows->value(), columns->value(), heading->isChecked());
 }
 
-void TableEditing::insert(int rows, int columns)
+void TableEditing::insert(int rows, int columns, bool hasHeading)
 {
     QTextCursor cursor = m_view->textCursor();
     if (m_view->isReadOnly() || !m_view->mayRemove(cursor))
@@ -111,9 +149,68 @@ void TableEditing::insert(int rows, int columns)
     format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
     cursor.beginEditBlock();
     cursor.removeSelectedText();
-    QTextTable *table = cursor.insertTable(rows, columns, format);
+    format.setHeaderRowCount(hasHeading ? 1 : 0);
+    QTextTable *table = insertTableAt(cursor, rows, columns, format);
+    if (hasHeading)
+        showAsHeading(*table, 0, true);
     cursor.endEditBlock();
     m_view->setTextCursor(table->cellAt(0, 0).firstCursorPosition());
+}
+
+void TableEditing::setHeading(bool on)
+{
+    const Range cells = selected();
+    if (!cells.table)
+        return;
+    QTextTableFormat format = cells.table->format();
+    const int before = format.headerRowCount();
+    const int after = on ? cells.row + cells.rows : cells.row;
+    QTextCursor step = m_view->textCursor();
+    step.beginEditBlock();
+    format.setHeaderRowCount(after);
+    cells.table->setFormat(format);
+    for (int row = qMin(before, after); row < qMax(before, after); ++row)
+        showAsHeading(*cells.table, row, on);
+    step.endEditBlock();
+}
+
+/// As a table shows its heading where nothing else is said.
+void TableEditing::showAsHeading(QTextTable &table, int row, bool on) const
+{
+    QTextCharFormat text;
+    text.setFontWeight(on ? QFont::Bold : QFont::Normal);
+    QTextBlockFormat lines;
+    lines.setAlignment(on ? Qt::AlignHCenter : Qt::AlignLeft);
+    for (int column = 0; column < table.columns(); ++column) {
+        const QTextTableCell cell = table.cellAt(row, column);
+        QTextCursor content = cell.firstCursorPosition();
+        content.setPosition(cell.lastPosition(), QTextCursor::KeepAnchor);
+        content.mergeCharFormat(text);
+        content.mergeBlockCharFormat(text);
+        content.mergeBlockFormat(lines);
+    }
+}
+
+bool TableEditing::goToCell(Side side)
+{
+    QTextTable *table = m_view->textCursor().currentTable();
+    if (!table)
+        return false;
+    const QTextTableCell here = table->cellAt(m_view->textCursor());
+    const int step = side == Side::After ? 1 : -1;
+    int place = here.row() * table->columns() + here.column();
+    QTextTableCell cell;
+    do {
+        place += step;
+        if (place < 0)
+            return true;
+        if (place >= table->rows() * table->columns())
+            table->appendRows(1);
+        cell = table->cellAt(place / table->columns(), place % table->columns());
+        // Cells that go over several places count once.
+    } while (cell.row() * table->columns() + cell.column() != place);
+    m_view->setTextCursor(cell.lastCursorPosition());
+    return true;
 }
 
 void TableEditing::insertRow(Side side)

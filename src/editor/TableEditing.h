@@ -30,9 +30,15 @@ public:
     [[nodiscard]] bool isInTable() const;
     [[nodiscard]] bool canMerge() const;
     [[nodiscard]] bool canSplit() const;
+    /// True when the row of the cursor is one of those that each page of the table begins with.
+    [[nodiscard]] bool isInHeading() const;
 
     void askInsert();
-    void insert(int rows, int columns);
+    void insert(int rows, int columns, bool hasHeading);
+    /// Makes the rows down to that of the cursor the heading of the table, or has it end before that row.
+    void setHeading(bool on);
+    /// Goes to the cell beside that of the cursor; after the last cell, to a new row. False outside of tables.
+    bool goToCell(Side side);
     void insertRow(Side side);
     void insertColumn(Side side);
     void removeRows();
@@ -51,6 +57,7 @@ private:
     };
     [[nodiscard]] Range selected() const;
     [[nodiscard]] bool mayRemove(const Range &cells) const;
+    void showAsHeading(QTextTable &table, int row, bool on) const;
     void insertBeside(Side side, const std::function<void(bool isBefore)> &insertCells);
 
     RichTextView *m_view;

@@ -2,6 +2,7 @@
 
 #include "editor/RichTextView.h"
 #include "templates/document/TemplateChip.h"
+#include "templates/document/TemplateSourceWriter.h"
 
 #include <QColorDialog>
 #include <QDoubleValidator>
@@ -222,6 +223,12 @@ void TextFormatting::setHeading(int level)
     QTextCursor cursor = m_view->textCursor();
     QTextBlockFormat block;
     block.setHeadingLevel(level);
+    // Text that was a heading is text as it is typed; other text keeps its margins.
+    if (level > 0 || cursor.blockFormat().headingLevel() > 0) {
+        const QTextBlockFormat usual = level > 0 ? headingBlock(level) : QTextBlockFormat();
+        block.setTopMargin(usual.topMargin());
+        block.setBottomMargin(usual.bottomMargin());
+    }
     QTextCharFormat look;
     look.setFontWeight(level > 0 ? QFont::Bold : QFont::Normal);
     look.setProperty(QTextFormat::FontSizeAdjustment, level > 0 ? kLargestHeading + 1 - level : 0);

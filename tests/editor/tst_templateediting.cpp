@@ -125,6 +125,12 @@ private Q_SLOTS:
         rich->setTextCursor(cursor);
         QTest::keyClicks(rich, u"b"_s);
         QCOMPARE(f.content(), u"<p>a</p><hr/>\n<div>b</div><p>[Signature]</p>"_s);
+        f.setContent(u"<h1>a</h1>"_s);
+        rich->moveCursor(QTextCursor::End);
+        QTest::keyClicks(rich, u"\r"_s);
+        QTest::keyClicks(rich, u"b"_s);
+        QCOMPARE(f.content(), u"<h1>a</h1>\n<div>b</div>"_s);
+        f.setContent(u"<p>[Signature]</p>"_s);
         // An input method must not take the code that may not go.
         rich->selectAll();
         QInputMethodEvent commit;
@@ -210,6 +216,12 @@ private Q_SLOTS:
         QCOMPARE(size(), QSize(4, 5));
         f.trigger("deleteColumnAction");
         QCOMPARE(size(), QSize(3, 5));
+        for (const int cells : {6, 3}) { // of the rows down to the cursor, and before it
+            f.trigger("headingRowsAction");
+            QCOMPARE(f.content().count("</th>"_L1), cells);
+            QVERIFY2(!f.content().contains("style=\"text"_L1) && !f.content().contains("font-weight"_L1),
+                     qPrintable(f.content()));
+        }
         QTextTable *table =
             rich->document()->rootFrame()->childFrames().isEmpty()
                 ? nullptr
@@ -224,6 +236,17 @@ private Q_SLOTS:
         QVERIFY(!f.content().contains("colspan"_L1));
         f.trigger("undoAction");
         QVERIFY(f.content().contains("colspan=\"2\""_L1));
+        // The merged cells count once, and behind the last cell there is a new row.
+        rich->setTextCursor(table->cellAt(0, 0).firstCursorPosition());
+        for (const QPoint &next : {QPoint(2, 0), QPoint(0, 1)}) {
+            QTest::keyClick(rich, Qt::Key_Tab);
+            QCOMPARE(place(), next);
+        }
+        QTest::keyClick(rich, Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(place(), QPoint(2, 0));
+        rich->setTextCursor(table->cellAt(4, 2).firstCursorPosition());
+        QTest::keyClick(rich, Qt::Key_Tab);
+        QCOMPARE(place(), QPoint(0, 5));
         const QString source = f.content();
         f.trigger("plainModeAction");
         f.trigger("richModeAction");

@@ -588,4 +588,9 @@ WrittenSource writeSource(const QTextDocument &document)
     return Writer().run(document);
 }
 
+QTextBlockFormat headingBlock(int level)
+{
+    return headingDefaults(level).block;
+}
+
 } // namespace ozm::editor

@@ -3,6 +3,7 @@
 #include <QList>
 #include <QString>
 
+class QTextBlockFormat;
 class QTextDocument;
 
 namespace ozm::editor {
@@ -54,5 +55,8 @@ struct WrittenSource
  * with codes, scripts and kept markup to the letter. What is written, read, and written again is the same.
  */
 [[nodiscard]] WrittenSource writeSource(const QTextDocument &document);
+
+/// The lines of a heading of @p level, from 1 to 6, where its tag says nothing of them.
+[[nodiscard]] QTextBlockFormat headingBlock(int level);
 
 } // namespace ozm::editor
