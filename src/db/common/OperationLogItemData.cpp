@@ -8,6 +8,8 @@
 #include <QJsonDocument>
 #include <platform/Errors.h>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace ozm {
@@ -56,7 +58,13 @@ public:
     QList<QString> attributes;
     QVariant value;
     QVariant oldValue;
-    QString legacyDescription;
+    // Each edit of the history has one of these: what is rarely there takes a pointer only. Never empty.
+    std::shared_ptr<const QString> legacyDescription;
+
+    void setLegacyDescription(const QString &description)
+    {
+        legacyDescription = description.isEmpty() ? nullptr : std::make_shared<const QString>(description);
+    }
 };
 
 OperationLogItemData::OperationLogItemData() = default;
@@ -119,7 +127,7 @@ void OperationLogItemData::read(const QJsonObject &json)
     d->attributes = readAttributes(json);
     d->value = logvalue::fromJson(json.value("value"_L1));
     d->oldValue = logvalue::fromJson(json.value("oldValue"_L1));
-    d->legacyDescription = json.value("legacyDescription"_L1).toString();
+    d->setLegacyDescription(json.value("legacyDescription"_L1).toString());
 }
 
 const OperationLogItemData::Content &OperationLogItemData::content() const
@@ -131,7 +139,7 @@ const OperationLogItemData::Content &OperationLogItemData::content() const
 bool OperationLogItemData::isValid() const
 {
     const Content &record = content();
-    if (!record.legacyDescription.isEmpty())
+    if (record.legacyDescription)
         return true;
     return record.type != OperationLogItemType::None && record.subject.isValid() &&
            !record.attributes.isEmpty() && m_undoContext != OperationLogItemUndoContext::Invalid;
@@ -169,7 +177,8 @@ OperationLogItemUndoContext OperationLogItemData::undoContext() const
 
 QString OperationLogItemData::legacyDescription() const
 {
-    return content().legacyDescription;
+    const auto &description = content().legacyDescription;
+    return description ? *description : QString();
 }
 
 bool OperationLogItemData::collapseTrivialMacro() const
@@ -191,7 +200,7 @@ void OperationLogItemData::setLegacyDescription(const QString &description)
 {
     if (!d)
         d = new Content;
-    d->legacyDescription = description;
+    d->setLegacyDescription(description);
 }
 
 void OperationLogItemData::setCollapseTrivialMacro(bool collapse)
@@ -213,8 +222,8 @@ QJsonObject OperationLogItemData::toJsonObject(int room) const
 {
     if (!isValid())
         return {};
-    if (!content().legacyDescription.isEmpty())
-        return {{u"legacyDescription"_s, content().legacyDescription}};
+    if (content().legacyDescription)
+        return {{u"legacyDescription"_s, *content().legacyDescription}};
     return {
         {u"version"_s, kVersion},
         {u"type"_s, typeToString(content().type)},
@@ -233,8 +242,8 @@ QByteArray OperationLogItemData::toJson() const
 
 QString OperationLogItemData::toString() const
 {
-    if (!content().legacyDescription.isEmpty())
-        return logvalue::onOneLine(content().legacyDescription);
+    if (content().legacyDescription)
+        return logvalue::onOneLine(*content().legacyDescription);
     if (!isValid())
         return {};
 
@@ -321,7 +330,7 @@ bool operator==(const OperationLogItemData &a, const OperationLogItemData &b)
            (&left == &right ||
             (left.type == right.type && left.subject == right.subject &&
              left.attributes == right.attributes && left.value == right.value &&
-             left.oldValue == right.oldValue && left.legacyDescription == right.legacyDescription));
+             left.oldValue == right.oldValue && a.legacyDescription() == b.legacyDescription()));
 }
 
 QDebug operator<<(QDebug debug, const OperationLogItemData &data)
