@@ -138,11 +138,11 @@ const OperationLogItemData::Content &OperationLogItemData::content() const
 
 bool OperationLogItemData::isValid() const
 {
-    const Content &record = content();
-    if (record.legacyDescription)
-        return true;
-    return record.type != OperationLogItemType::None && record.subject.isValid() &&
-           !record.attributes.isEmpty() && m_undoContext != OperationLogItemUndoContext::Invalid;
+    if (!d)
+        return false;
+    return d->legacyDescription ||
+           (d->type != OperationLogItemType::None && d->subject.isValid() && !d->attributes.isEmpty() &&
+            m_undoContext != OperationLogItemUndoContext::Invalid);
 }
 
 OperationLogItemType OperationLogItemData::type() const

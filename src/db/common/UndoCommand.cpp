@@ -95,10 +95,11 @@ void UndoCommand::setStack(UndoStack *stack)
 
 UndoStack *UndoCommand::stack() const
 {
-    const UndoCommand *command = this;
-    while (!command->d->stack && command->d->parentCommand)
-        command = command->d->parentCommand;
-    return command->d->stack;
+    for (const UndoCommand *command = this; command; command = command->d->parentCommand) {
+        if (UndoStack *stack = command->d->stack)
+            return stack;
+    }
+    return nullptr;
 }
 
 void UndoCommand::redo()

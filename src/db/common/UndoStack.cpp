@@ -149,14 +149,15 @@ AuditTrailMonitor *UndoStack::auditTrailMonitor()
 QSharedPointer<OperationLogItem> UndoStack::createOrLog(const UndoCommand &command,
                                                         OperationLogItemUndoContext context)
 {
-    if (!command.logData()->isValid() || !d->mayLog(context))
+    const UndoCommand::Private &inside = *command.d;
+    if (!inside.logData.isValid() || !d->mayLog(context))
         return {};
     QSharedPointer<OperationLogItem> item;
-    if (d->logging && command.isAuditTrailEnabled())
+    if (d->logging && inside.auditTrailEnabled)
         item = d->log(command, context);
-    if (command.d->error.hasError()) {
+    if (inside.error.hasError()) {
         OZM_WIDGETS_WARNING() << "Error in" << OperationLogItemData::undoContextToString(context)
-                              << "command:" << *command.logData();
+                              << "command:" << inside.logData;
     }
     return item;
 }

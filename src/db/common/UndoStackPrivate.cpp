@@ -58,19 +58,6 @@ void UndoHistoryStep::restoreIndex()
     history.setIndex(m_index - qMax(0, m_count - history.count()));
 }
 
-UndoStackPrivate::Push *UndoStackPrivate::pushThatRuns(const UndoCommand *command)
-{
-    if (!push || push->command != command || push->started)
-        return nullptr;
-    push->started = true;
-    return push;
-}
-
-bool UndoStackPrivate::takePlacing(const UndoCommand *command)
-{
-    return push && push->command == command && std::exchange(push->placing, false);
-}
-
 void UndoStackPrivate::forget(const UndoCommand *command)
 {
     for (Push *running = push; running; running = running->outer) {

@@ -2,6 +2,8 @@
 
 #include <ozm_widgets/db/common/UndoStack.h>
 
+#include <utility>
+
 namespace ozm {
 
 class AuditTrailMonitor;
@@ -26,9 +28,15 @@ public:
     {}
 
     /// The push that asked for the run of @p command which now begins; null for a step of the history.
-    [[nodiscard]] Push *pushThatRuns(const UndoCommand *command);
+    [[nodiscard]] Push *pushThatRuns(const UndoCommand *command)
+    {
+        return push && push->command == command && !std::exchange(push->started, true) ? push : nullptr;
+    }
     /// True when the run that now begins is the one that the base class asks for; it has been done already.
-    [[nodiscard]] bool takePlacing(const UndoCommand *command);
+    [[nodiscard]] bool takePlacing(const UndoCommand *command)
+    {
+        return push && push->command == command && std::exchange(push->placing, false);
+    }
     /// To be called by a command's destructor.
     void forget(const UndoCommand *command);
 
