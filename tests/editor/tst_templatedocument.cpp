@@ -286,9 +286,10 @@ void TestTemplateDocument::keepsSource_data()
         << u"<blockquote><ul><li>1<ul><li>2"_s
         << u"<ul>\n<li style=\"margin-left:40px;margin-right:40px\">1<ul>\n<li>2</li>\n</ul>\n</li>\n</ul>"_s;
     QTest::newRow("colour of the item around")
-        << u"<div style=\"background-color:red\"><ul><li>1<x><ul><li>2"_s
+        << u"<div style=\"background-color:red\"><ul><li>1<x><ul><li>2<ul><li>3"_s
         << u"<ul>\n<li style=\"background-color:#ff0000\">1<ul>\n"
-           "<li style=\"background-color:rgba(0,0,0,0)\">2</li>\n</ul>\n</li>\n</ul>"_s;
+           "<li style=\"background-color:rgba(0,0,0,0)\">2<ul>\n"
+           "<li style=\"background-color:rgba(0,0,0,0)\">3</li>\n</ul>\n</li>\n</ul>\n</li>\n</ul>"_s;
     QTest::newRow("alignment of the cell around")
         << u"<td style=\"vertical-align:top\"><thead><x><td>"_s
         << table.arg(u"<td style=\"vertical-align:top\">"_s +

@@ -277,7 +277,7 @@ private:
                                       ? format.alignment() & Qt::AlignHorizontal_Mask
                                       : Qt::Alignment(Qt::AlignLeft),
                                   format.leftMargin(), format.rightMargin(),
-                                  format.background().style() != Qt::NoBrush};
+                                  own.isColoured || format.background().style() != Qt::NoBrush};
             const QStringList css = blockDeclarations(block, own);
             beginLine(block);
             add("<li"_L1 + styleAttribute(css) + u'>');
