@@ -378,6 +378,10 @@
         <source>The entry is in the audit trail &quot;%1&quot;, but the disk did not confirm it. Check the disk, and what was to be recorded.</source>
         <translation>Der Eintrag steht im Audit-Trail „%1“, aber der Datenträger hat ihn nicht bestätigt. Prüfen Sie den Datenträger und was aufgezeichnet werden sollte.</translation>
     </message>
+    <message>
+        <source>Entry %1 is there, but is not found by its number.</source>
+        <translation>Eintrag %1 ist da, wird unter seiner Nummer aber nicht gefunden.</translation>
+    </message>
 </context>
 <context>
     <name>ozm::audit::EntryDetails</name>

@@ -378,6 +378,10 @@
         <source>The entry is in the audit trail &quot;%1&quot;, but the disk did not confirm it. Check the disk, and what was to be recorded.</source>
         <translation>L’entrée est dans la piste d’audit «&#x202f;%1&#x202f;», mais le disque ne l’a pas confirmée. Vérifiez le disque et ce qui devait être consigné.</translation>
     </message>
+    <message>
+        <source>Entry %1 is there, but is not found by its number.</source>
+        <translation>L’entrée %1 est là, mais n’est pas trouvée par son numéro.</translation>
+    </message>
 </context>
 <context>
     <name>ozm::audit::EntryDetails</name>

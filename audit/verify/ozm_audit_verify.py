@@ -99,6 +99,9 @@ class Check:
             self.find("missing", self.next, number - 1)
             self.known = False
         self.next = number + 1
+        tables = ("entry",) if columns[0] is None else ("entry", "entry_index")
+        if not all(self.one(f"SELECT 1 FROM {table} WHERE number = ?", number) for table in tables):
+            self.find("index differs", number, number)
         computed = stored
         if not data:
             self.disposed.append(number)

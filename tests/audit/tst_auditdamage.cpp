@@ -124,6 +124,41 @@ private Q_SLOTS:
         QVERIFY2(other.contains(words), other.constData());
     }
 
+    /// Each byte of the keys by which entries are found: a trail is called whole only if all of it is found.
+    void wholeMeansFound()
+    {
+        constexpr qsizetype page = 4096;
+        constexpr char keys = 5;
+        const Stores stores;
+        QList<Checkpoint> outside;
+        make(stores, outside);
+        QFile file(stores.path());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray whole = file.readAll();
+        file.close();
+        int tried = 0;
+        for (qsizetype at = page; at < whole.size(); ++at) {
+            const bool isKey = whole.at(at / page * page) == keys && whole.at(at) != 0;
+            if (!isKey || ++tried % 3 != 0)
+                continue;
+            QVERIFY(file.open(QIODevice::ReadWrite) && file.seek(at) && file.putChar(char(~whole.at(at))));
+            file.close();
+            if (const auto store = Store::open(u"sqlite:"_s + stores.path(), Store::Mode::ReadOnly)) {
+                const auto verified = store.value()->verify(outside);
+                if (verified && verified.value().isWhole()) {
+                    const auto root = store.value()->root(kEntries);
+                    QVERIFY2(root && root.value() == outside.constFirst().root,
+                             qPrintable(QString::number(at)));
+                    for (qint64 number = 1; number <= kEntries; ++number)
+                        QVERIFY2(store.value()->entry(number), qPrintable(QString::number(at)));
+                }
+            }
+            QVERIFY(file.open(QIODevice::ReadWrite) && file.seek(at) && file.putChar(whole.at(at)));
+            file.close();
+        }
+        QVERIFY(tried > 100);
+    }
+
     /// One who makes all anew is consistent in itself; only the copy outside tells.
     void findsATrailMadeAnew()
     {

@@ -41,6 +41,7 @@ public:
     [[nodiscard]] Result<QList<Entry>> find(const Query &query) override;
     [[nodiscard]] Result<QList<qint64>> findNumbers(const Query &query) override;
     [[nodiscard]] Result<std::vector<Hash>> hashes(int level, qint64 first, qint64 count) override;
+    [[nodiscard]] Result<QList<qint64>> notFound(const QList<SeenRow> &rows) override;
     [[nodiscard]] Result<qint64> lastRow() override;
     Error keepCheckpoint(const Checkpoint &checkpoint) override;
     [[nodiscard]] Result<QList<Checkpoint>> keptCheckpoints() override;
@@ -66,6 +67,7 @@ private:
     Statement m_setHead;
     Statement m_insert;
     Statement m_rows;
+    Statement m_row;
     Statement m_leaves;
     Statement m_subtrees;
 };
@@ -81,6 +83,8 @@ SqliteBackend::SqliteBackend(std::unique_ptr<Database> database, const QByteArra
              "SELECT e.number, e.hash, e.bytes, i.number, i.time_ms, i.kind, i.user, i.outcome, i.parent, "
              "i.subject, i.attributes FROM entry e LEFT JOIN entry_index i ON i.number = e.number "
              "WHERE e.number BETWEEN ? AND ? ORDER BY e.number")
+    , m_row(*m_database, "SELECT EXISTS (SELECT 1 FROM entry WHERE number = ?1), "
+                         "EXISTS (SELECT 1 FROM entry_index WHERE number = ?1)")
     , m_leaves(*m_database, "SELECT hash FROM entry WHERE number BETWEEN ? AND ? ORDER BY number")
     , m_subtrees(*m_database,
                  "SELECT hash FROM subtree WHERE level = ? AND position BETWEEN ? AND ? ORDER BY position")
@@ -190,6 +194,22 @@ Error SqliteBackend::rows(qint64 first, qint64 last, const std::function<bool(co
         }
     }
     return m_rows.error();
+}
+
+Result<QList<qint64>> SqliteBackend::notFound(const QList<SeenRow> &rows)
+{
+    QList<qint64> missed;
+    for (const SeenRow &row : rows) {
+        m_row.bind(1, row.number);
+        bool isFound = false;
+        while (m_row.step())
+            isFound = m_row.number(0) == 1 && (m_row.number(1) == 1 || !row.hasColumns);
+        if (m_row.error().hasError())
+            return m_row.error();
+        if (!isFound)
+            missed.append(row.number);
+    }
+    return missed;
 }
 
 Result<QList<Entry>> SqliteBackend::find(const Query &query)
