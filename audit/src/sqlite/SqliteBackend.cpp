@@ -41,7 +41,7 @@ public:
     [[nodiscard]] Result<QList<Entry>> find(const Query &query) override;
     [[nodiscard]] Result<QList<qint64>> findNumbers(const Query &query) override;
     [[nodiscard]] Result<std::vector<Hash>> hashes(int level, qint64 first, qint64 count) override;
-    [[nodiscard]] Result<QList<qint64>> notFound(const QList<SeenRow> &rows) override;
+    [[nodiscard]] bool isFound(const StoredRow &row) override;
     [[nodiscard]] Result<qint64> lastRow() override;
     Error keepCheckpoint(const Checkpoint &checkpoint) override;
     [[nodiscard]] Result<QList<Checkpoint>> keptCheckpoints() override;
@@ -196,20 +196,13 @@ Error SqliteBackend::rows(qint64 first, qint64 last, const std::function<bool(co
     return m_rows.error();
 }
 
-Result<QList<qint64>> SqliteBackend::notFound(const QList<SeenRow> &rows)
+bool SqliteBackend::isFound(const StoredRow &row)
 {
-    QList<qint64> missed;
-    for (const SeenRow &row : rows) {
-        m_row.bind(1, row.number);
-        bool isFound = false;
-        while (m_row.step())
-            isFound = m_row.number(0) == 1 && (m_row.number(1) == 1 || !row.hasColumns);
-        if (m_row.error().hasError())
-            return m_row.error();
-        if (!isFound)
-            missed.append(row.number);
-    }
-    return missed;
+    bool isFound = false;
+    m_row.bind(1, row.number);
+    while (m_row.step())
+        isFound = m_row.number(0) == 1 && (m_row.number(1) == 1 || !row.index);
+    return isFound;
 }
 
 Result<QList<Entry>> SqliteBackend::find(const Query &query)

@@ -26,13 +26,6 @@ struct StoredRow
     std::optional<IndexRow> index;
 };
 
-/// One entry as rows() showed it.
-struct SeenRow
-{
-    qint64 number = 0;
-    bool hasColumns = false;
-};
-
 /// The head as a back end holds it, damaged or not.
 struct StoredHead
 {
@@ -99,11 +92,8 @@ public:
     }
     /// Kept hashes of a level, 0 for leaves; those that exist from a position on.
     [[nodiscard]] virtual Result<std::vector<Hash>> hashes(int level, qint64 first, qint64 count) = 0;
-    /// The numbers of those that rows() showed and that are not found, or not with their columns, one by one.
-    [[nodiscard]] virtual Result<QList<qint64>> notFound(const QList<SeenRow> & /*rows*/)
-    {
-        return QList<qint64>();
-    }
+    /// False when @p row, which rows() shows at this moment, or its columns are not found by the number.
+    [[nodiscard]] virtual bool isFound(const StoredRow & /*row*/) { return true; }
     /// Number of the last row, whatever the head says.
     [[nodiscard]] virtual Result<qint64> lastRow() = 0;
 

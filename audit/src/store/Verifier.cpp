@@ -133,8 +133,6 @@ Error Verifier::readRows(const Progress &between)
                 checkRow(row);
                 return true;
             });
-        if (!error.hasError())
-            error = checkFound();
         if (error.hasError())
             return error;
         // A head that is damaged can claim any number.
@@ -160,23 +158,8 @@ Error Verifier::readLaterDisposals()
     });
 }
 
-/// A damaged tree of keys can show all entries in passing, and miss the one that is asked for.
-Error Verifier::checkFound()
-{
-    const auto missed = m_backend.notFound(m_seen);
-    m_seen.clear();
-    if (!missed)
-        return missed.error();
-    for (const qint64 number : missed.value()) {
-        find(Damage::IndexDiffers, number, number,
-             Texts::tr("Entry %1 is there, but is not found by its number.").arg(number));
-    }
-    return {};
-}
-
 void Verifier::checkRow(const StoredRow &row)
 {
-    m_seen.append({row.number, row.index.has_value()});
     if (row.number > m_next) {
         find(Damage::Missing, m_next, row.number - 1,
              row.number - 1 == m_next
@@ -185,6 +168,11 @@ void Verifier::checkRow(const StoredRow &row)
         m_treeKnown = false;
     }
     m_next = row.number + 1;
+    // A damaged tree of keys can show all entries in passing, and miss the one that is asked for.
+    if (!m_backend.isFound(row)) {
+        find(Damage::IndexDiffers, row.number, row.number,
+             Texts::tr("Entry %1 is there, but is not found by its number.").arg(row.number));
+    }
     const auto stored = toHash(row.hash);
     Hash computed = {};
     if (row.bytes.isEmpty()) {

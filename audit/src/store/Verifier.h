@@ -39,7 +39,6 @@ private:
     [[nodiscard]] Error readRows(const Progress &between);
     [[nodiscard]] Error readLaterDisposals();
     void checkRow(const StoredRow &row);
-    [[nodiscard]] Error checkFound();
     [[nodiscard]] std::optional<Damage> checkBytes(const StoredRow &row, const EntryMembers &members,
                                                    const Hash &computed, bool isEntry);
     void checkIndex(const StoredRow &row, const EntryMembers &members);
@@ -66,7 +65,6 @@ private:
     qint64 m_end = 0; ///< The number up to which rows are to be there.
     qint64 m_next = 1;
     qint64 m_lastDamaged = 0; ///< The last entry that is itself damaged.
-    QList<SeenRow> m_seen;    ///< Of the page.
     Frontier m_stored;
     std::optional<Frontier> m_fromBytes;
     bool m_treeKnown = true;
