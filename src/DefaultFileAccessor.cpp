@@ -94,7 +94,7 @@ DefaultFileAccessor::getSaveFileName(QWidget *parent, const QString &caption, co
 Error DefaultFileAccessor::saveFile(const DestinationFileLocation &location, const Writer &writer) const
 {
     if (location.isCanceled())
-        return Error(ozm::codes::BadParameter, u"There is no place to save to."_s).ecatch(OZM_PLACE);
+        return Error(ozm::codes::BadParameter, u"No place to save to was given."_s).ecatch(OZM_PLACE);
     return writer(location.reference->location());
 }
 

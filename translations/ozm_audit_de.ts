@@ -136,7 +136,7 @@
         <translation>Es gibt schon einen Audit-Trail „%1“.</translation>
     </message>
     <message>
-        <source>There is no trail &quot;%1&quot;.</source>
+        <source>The trail &quot;%1&quot; does not exist.</source>
         <translation>Es gibt keinen Audit-Trail „%1“.</translation>
     </message>
     <message>

@@ -140,7 +140,7 @@
         <translation>Il existe déjà une piste d’audit «&#x202f;%1&#x202f;».</translation>
     </message>
     <message>
-        <source>There is no trail &quot;%1&quot;.</source>
+        <source>The trail &quot;%1&quot; does not exist.</source>
         <translation>Il n’y a pas de piste d’audit «&#x202f;%1&#x202f;».</translation>
     </message>
     <message>

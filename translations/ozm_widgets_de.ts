@@ -24,7 +24,7 @@
         <translation>%1 darf aus dieser Vorlage nicht entfernt werden.</translation>
     </message>
     <message>
-        <source>This place is no longer in the template.</source>
+        <source>This place was removed from the template.</source>
         <translation>Diese Stelle gibt es in der Vorlage nicht mehr.</translation>
     </message>
     <message>
@@ -52,7 +52,7 @@
         <translation>Falsches Format des Vorlageninhalts.</translation>
     </message>
     <message>
-        <source>There is no data row to fill the template with.</source>
+        <source>No data row was given to fill the template with.</source>
         <translation>Es gibt keine Datenzeile, mit der die Vorlage gefüllt werden kann.</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@ und %1 weitere</translation>
         <translation>„%1“ ist vorhanden und wird ersetzt.</translation>
     </message>
     <message>
-        <source>There is no folder &quot;%1&quot; here.</source>
+        <source>The folder &quot;%1&quot; does not exist here.</source>
         <translation>Hier gibt es keinen Ordner „%1“.</translation>
     </message>
     <message>
@@ -555,7 +555,7 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
         <translation>Lesezeichen können ihm nicht hinzugefügt werden.</translation>
     </message>
     <message>
-        <source>There is no report to be written.</source>
+        <source>The book has no report.</source>
         <translation>Es gibt keinen Bericht zu schreiben.</translation>
     </message>
 </context>
@@ -1118,7 +1118,7 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
         <translation>Die Vorlage wurde geändert. Zuerst speichern?</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no longer there. The template is kept in the window.</source>
+        <source>&quot;%1&quot; does not exist any more. The template is kept in the window.</source>
         <translation>„%1“ ist nicht mehr da. Die Vorlage bleibt im Fenster erhalten.</translation>
     </message>
     <message>
@@ -1223,7 +1223,7 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
 <context>
     <name>ozm::editor::EditorScripts</name>
     <message>
-        <source>There is no script at the cursor.</source>
+        <source>The cursor is not in a script.</source>
         <translation>An der Schreibmarke steht kein Skript.</translation>
     </message>
     <message>
@@ -1898,7 +1898,7 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
         <translation>Der Kommentar endet nicht.</translation>
     </message>
     <message>
-        <source>There is no instruction &quot;%1&quot;.</source>
+        <source>The instruction &quot;%1&quot; does not exist.</source>
         <translation>Es gibt keine Anweisung „%1“.</translation>
     </message>
     <message>
@@ -1958,7 +1958,7 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
         <translation>Der Abschnitt hat kein Ende.</translation>
     </message>
     <message>
-        <source>There is no section that ends here.</source>
+        <source>No section ends here.</source>
         <translation>Es gibt keinen Abschnitt, der hier endet.</translation>
     </message>
     <message>
@@ -1966,7 +1966,7 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
         <translation>Der Abschnitt endet in einem anderen Element, als er beginnt.</translation>
     </message>
     <message>
-        <source>There is no table row and no list item around this.</source>
+        <source>This is neither in a table row nor in a list item.</source>
         <translation>Darum steht keine Tabellenzeile und kein Listenpunkt.</translation>
     </message>
     <message>
@@ -1982,7 +1982,7 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
         <translation>Es sind zu viele Abschnitte ineinander.</translation>
     </message>
     <message>
-        <source>There is no list of rows &quot;%1&quot;.</source>
+        <source>The list of rows &quot;%1&quot; does not exist.</source>
         <translation>Es gibt keine Zeilenliste „%1“.</translation>
     </message>
     <message>
@@ -2006,7 +2006,7 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
         <translation>Sonst</translation>
     </message>
     <message>
-        <source>There is no section that has another part here.</source>
+        <source>No section has another part here.</source>
         <translation>Es gibt hier keinen Abschnitt, der einen anderen Teil hat.</translation>
     </message>
     <message>
@@ -2100,7 +2100,7 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
         <translation>Die Verknüpfung führt ins Leere.</translation>
     </message>
     <message>
-        <source>There is no such file or folder.</source>
+        <source>No such file or folder.</source>
         <translation>Eine solche Datei oder einen solchen Ordner gibt es nicht.</translation>
     </message>
     <message>
@@ -2112,7 +2112,7 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
         <translation>Der Name hat keine der Endungen von Massenspektrometrie-Daten.</translation>
     </message>
     <message>
-        <source>The folder is no longer there.</source>
+        <source>The folder does not exist any more.</source>
         <translation>Der Ordner ist nicht mehr vorhanden.</translation>
     </message>
     <message>

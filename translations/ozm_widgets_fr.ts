@@ -24,7 +24,7 @@
         <translation>rapport</translation>
     </message>
     <message>
-        <source>This place is no longer in the template.</source>
+        <source>This place was removed from the template.</source>
         <translation>Cet endroit n’existe plus dans le modèle.</translation>
     </message>
     <message>
@@ -52,7 +52,7 @@
         <translation>Format incorrect du contenu du modèle.</translation>
     </message>
     <message>
-        <source>There is no data row to fill the template with.</source>
+        <source>No data row was given to fill the template with.</source>
         <translation>Il n’y a pas de ligne de données pour remplir le modèle.</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@ et %1 de plus</translation>
         <translation>«&#x202f;%1&#x202f;» existe et sera remplacé.</translation>
     </message>
     <message>
-        <source>There is no folder &quot;%1&quot; here.</source>
+        <source>The folder &quot;%1&quot; does not exist here.</source>
         <translation>Il n’y a pas de dossier «&#x202f;%1&#x202f;» ici.</translation>
     </message>
     <message>
@@ -555,7 +555,7 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
         <translation>Des signets ne peuvent pas y être ajoutés.</translation>
     </message>
     <message>
-        <source>There is no report to be written.</source>
+        <source>The book has no report.</source>
         <translation>Il n’y a pas de rapport à écrire.</translation>
     </message>
 </context>
@@ -1118,7 +1118,7 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
         <translation>Le modèle a été modifié. L’enregistrer d’abord&#x202f;?</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no longer there. The template is kept in the window.</source>
+        <source>&quot;%1&quot; does not exist any more. The template is kept in the window.</source>
         <translation>«&#x202f;%1&#x202f;» n’existe plus. Le modèle est conservé dans la fenêtre.</translation>
     </message>
     <message>
@@ -1223,7 +1223,7 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
 <context>
     <name>ozm::editor::EditorScripts</name>
     <message>
-        <source>There is no script at the cursor.</source>
+        <source>The cursor is not in a script.</source>
         <translation>Il n’y a pas de script au curseur.</translation>
     </message>
     <message>
@@ -1954,7 +1954,7 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
         <translation>Le commentaire n’a pas de fin.</translation>
     </message>
     <message>
-        <source>There is no instruction &quot;%1&quot;.</source>
+        <source>The instruction &quot;%1&quot; does not exist.</source>
         <translation>Il n’y a pas d’instruction «&#x202f;%1&#x202f;».</translation>
     </message>
     <message>
@@ -1966,7 +1966,7 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
         <translation>La section n’a pas de fin.</translation>
     </message>
     <message>
-        <source>There is no section that ends here.</source>
+        <source>No section ends here.</source>
         <translation>Aucune section ne se termine ici.</translation>
     </message>
     <message>
@@ -1978,7 +1978,7 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
         <translation>La mise en page est déjà définie.</translation>
     </message>
     <message>
-        <source>There is no table row and no list item around this.</source>
+        <source>This is neither in a table row nor in a list item.</source>
         <translation>Il n’y a ni ligne de tableau ni élément de liste autour.</translation>
     </message>
     <message>
@@ -1994,7 +1994,7 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
         <translation>Trop de sections sont imbriquées.</translation>
     </message>
     <message>
-        <source>There is no list of rows &quot;%1&quot;.</source>
+        <source>The list of rows &quot;%1&quot; does not exist.</source>
         <translation>Il n’y a pas de liste de lignes «&#x202f;%1&#x202f;».</translation>
     </message>
     <message>
@@ -2006,7 +2006,7 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
         <translation>Sinon</translation>
     </message>
     <message>
-        <source>There is no section that has another part here.</source>
+        <source>No section has another part here.</source>
         <translation>Il n’y a pas ici de section qui ait une autre partie.</translation>
     </message>
     <message>
@@ -2100,7 +2100,7 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
         <translation>Le lien ne mène nulle part.</translation>
     </message>
     <message>
-        <source>There is no such file or folder.</source>
+        <source>No such file or folder.</source>
         <translation>Il n’y a pas de fichier ni de dossier de ce nom.</translation>
     </message>
     <message>
@@ -2112,7 +2112,7 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
         <translation>Le nom n’a aucune des extensions des données de spectrométrie de masse.</translation>
     </message>
     <message>
-        <source>The folder is no longer there.</source>
+        <source>The folder does not exist any more.</source>
         <translation>Le dossier n’existe plus.</translation>
     </message>
     <message>

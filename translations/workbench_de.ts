@@ -65,7 +65,7 @@
 <context>
     <name>SampleCommand</name>
     <message>
-        <source>The sample is no longer in the table.</source>
+        <source>The sample was removed from the table.</source>
         <translation>Die Probe ist nicht mehr in der Tabelle.</translation>
     </message>
 </context>
@@ -96,7 +96,7 @@
         <translation>Die Größe muss eine Anzahl von Bytes sein oder leer, nicht „%1“.</translation>
     </message>
     <message>
-        <source>There is no column &quot;%1&quot;.</source>
+        <source>The column &quot;%1&quot; does not exist.</source>
         <translation>Eine Spalte „%1“ gibt es nicht.</translation>
     </message>
     <message>
@@ -455,8 +455,8 @@
         <translation>Einen Bericht ansehen</translation>
     </message>
     <message>
-        <source>There is no room for sample data: %1</source>
-        <translation>Für Beispieldaten ist kein Platz: %1</translation>
+        <source>A folder for the sample data could not be made: %1</source>
+        <translation>Ein Ordner für die Beispieldaten ließ sich nicht anlegen: %1</translation>
     </message>
     <message>
         <source>CDR-H2, isomers of Asp seen</source>
@@ -769,7 +769,7 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
         <translation>die geöffnete Tabelle</translation>
     </message>
     <message>
-        <source>There is no sample &quot;%1&quot; in the table now.</source>
+        <source>The table has no sample &quot;%1&quot; now.</source>
         <translation>In der Tabelle gibt es jetzt keine Probe „%1“.</translation>
     </message>
 </context>

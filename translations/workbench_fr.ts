@@ -65,7 +65,7 @@
 <context>
     <name>SampleCommand</name>
     <message>
-        <source>The sample is no longer in the table.</source>
+        <source>The sample was removed from the table.</source>
         <translation>L’échantillon n’est plus dans le tableau.</translation>
     </message>
 </context>
@@ -96,7 +96,7 @@
         <translation>La taille doit être un nombre d’octets, ou vide, pas «&#x202f;%1&#x202f;».</translation>
     </message>
     <message>
-        <source>There is no column &quot;%1&quot;.</source>
+        <source>The column &quot;%1&quot; does not exist.</source>
         <translation>Il n’y a pas de colonne «&#x202f;%1&#x202f;».</translation>
     </message>
     <message>
@@ -455,8 +455,8 @@
         <translation>Voir un rapport</translation>
     </message>
     <message>
-        <source>There is no room for sample data: %1</source>
-        <translation>Il n’y a pas de place pour des données d’exemple&#x202f;: %1</translation>
+        <source>A folder for the sample data could not be made: %1</source>
+        <translation>Impossible de créer un dossier pour les données d’exemple&#x202f;: %1</translation>
     </message>
     <message>
         <source>CDR-H2, isomers of Asp seen</source>
@@ -711,7 +711,7 @@ Ouvrez un fichier CSV, recherchez des données MS, déposez des données ici ou 
         <translation>Piste d’audit</translation>
     </message>
     <message>
-        <source>There is no sample &quot;%1&quot; in the table now.</source>
+        <source>The table has no sample &quot;%1&quot; now.</source>
         <translation>Il n’y a plus d’échantillon «&#x202f;%1&#x202f;» dans le tableau.</translation>
     </message>
     <message>

@@ -74,7 +74,7 @@ private:
     {
         if (m_row.setDataAt(kCharge, charge))
             return {};
-        return ozm::Error(ozm::ErrorCode::Failed, u"There is no such row."_s);
+        return ozm::Error(ozm::ErrorCode::Failed, u"This row does not exist."_s);
     }
 
     RowNode &m_row;

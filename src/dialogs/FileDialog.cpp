@@ -174,7 +174,7 @@ QString FileDialog::noticeText() const
     if (isSaving)
         return chosen.isFile() ? tr("\"%1\" exists and will be replaced.").arg(name) : QString();
     if (fileMode() == QFileDialog::Directory)
-        return chosen.isDir() ? QString() : tr("There is no folder \"%1\" here.").arg(name);
+        return chosen.isDir() ? QString() : tr("The folder \"%1\" does not exist here.").arg(name);
     // Without a name, it is the folder that is shown.
     const bool isPick = chosen.isDir() && QDir(chosen.filePath()) != directory();
     return isPick ? tr("\"%1\" is a folder. Double-click it to look inside.").arg(name) : QString();

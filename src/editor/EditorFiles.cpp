@@ -261,7 +261,7 @@ void EditorFiles::checkDisk()
     if (!QFileInfo::exists(path())) {
         m_file->opened(path());
         m_shown.setUnsaved();
-        Q_EMIT told(tr("\"%1\" is no longer there. The template is kept in the window.").arg(file));
+        Q_EMIT told(tr("\"%1\" does not exist any more. The template is kept in the window.").arg(file));
         return;
     }
     const auto answer = OZMStyle::question(

@@ -27,7 +27,7 @@ void EditorScripts::editAtCursor()
 {
     const QTextCursor place = m_views.current().scriptAtCursor();
     if (place.isNull()) {
-        Q_EMIT told(tr("There is no script at the cursor."));
+        Q_EMIT told(tr("The cursor is not in a script."));
         return;
     }
     m_place = place;

@@ -336,7 +336,7 @@ void AbstractTemplateEditor::Private::goTo(const QString &content, qsizetype off
     const QString source = m_history->session().documentSource();
     const qsizetype place = offsetOfOccurrence(source, occurrence(content, offset, part), part);
     if (place < 0) {
-        tell(tr("This place is no longer in the template."));
+        tell(tr("This place was removed from the template."));
         return;
     }
     m_views.current().select(place, part.size());

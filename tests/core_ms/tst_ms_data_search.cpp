@@ -333,8 +333,8 @@ private Q_SLOTS:
         row("scan file, small letters", {u"x.WIFF"_s, u"x.wiff.scan"_s}, "\"x.WIFF.scan\"");
         row("scan file, capitals", {u"x.wiff2"_s, u"X.wiff.SCAN"_s},
             "\"X.wiff.SCAN\" would have to be called \"x.wiff.scan\"");
-        QTest::newRow("missing") << QStringList() << u"a.mzml"_s << u"no such file"_s;
-        QTest::newRow("below a file") << QStringList{u"a"_s} << u"a/a.mzml"_s << u"no such file"_s;
+        QTest::newRow("missing") << QStringList() << u"a.mzml"_s << u"No such file"_s;
+        QTest::newRow("below a file") << QStringList{u"a"_s} << u"a/a.mzml"_s << u"No such file"_s;
         QTest::newRow("link to nothing")
             << QStringList{u"a.mgf -> b"_s} << u"a.mgf"_s << u"leads to nothing"_s;
         QTest::newRow("link to itself")

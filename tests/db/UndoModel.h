@@ -5,7 +5,7 @@
 namespace ozm::test {
 
 /**
- * What an undo stack with an audit trail has to do, written down a second time and as plainly as possible:
+ * The duties of an undo stack with an audit trail, written down a second time and as plainly as possible:
  * values in lists, no toolkit, no signals. Each operation writes into `journal` what is to happen, in the
  * words of ScriptedCommand and RecordingLogger.
  */

@@ -285,7 +285,7 @@ private Q_SLOTS:
         };
         const DialogDriver driver(
             {check(u"new.csv"_s, u"folder"_s, u"\"folder\" is a folder. Double-click it to look inside."_s),
-             check(u"folder"_s, u"missing"_s, u"There is no folder \"missing\" here."_s)});
+             check(u"folder"_s, u"missing"_s, u"The folder \"missing\" does not exist here."_s)});
         (void)FileDialog::getOpenFileName(nullptr, {}, saving.path());
         (void)FileDialog::getExistingDirectory(nullptr, {}, saving.path());
     }

@@ -56,7 +56,7 @@ Error checkExists(const SampleTable &table, qint64 id)
 {
     if (table.rowOf(id))
         return {};
-    return Error(ErrorCode::BadParameter, SampleCommand::tr("The sample is no longer in the table."))
+    return Error(ErrorCode::BadParameter, SampleCommand::tr("The sample was removed from the table."))
         .ecatch(OZM_HERE);
 }
 

@@ -144,7 +144,7 @@ Parsed parse(const QString &column, const QString &text)
         return parseKind(trimmed);
     if (column == kSize)
         return parseSize(trimmed);
-    return refusal(QT_TRANSLATE_NOOP("SampleRules", "There is no column \"%1\"."), column);
+    return refusal(QT_TRANSLATE_NOOP("SampleRules", "The column \"%1\" does not exist."), column);
 }
 
 Error checkRow(const RowNode &row)

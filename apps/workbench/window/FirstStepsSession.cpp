@@ -103,7 +103,7 @@ Error FirstStepsSession::open(const QString &user)
 {
     if (!m_folder.isValid())
         return Error(ErrorCode::FileAccess,
-                     tr("There is no room for sample data: %1").arg(m_folder.errorString()))
+                     tr("A folder for the sample data could not be made: %1").arg(m_folder.errorString()))
             .ecatch(OZM_HERE);
     if (Error error = writeFirstStepsData(m_folder.path()); error.hasError())
         return error;

@@ -184,7 +184,7 @@ void MainWindow::selectSample(const QString &subjectKey)
             return;
         }
     }
-    statusBar()->showMessage(tr("There is no sample \"%1\" in the table now.").arg(name), kStatusMs);
+    statusBar()->showMessage(tr("The table has no sample \"%1\" now.").arg(name), kStatusMs);
 }
 
 void MainWindow::createStatusBar(const QString &trailPath)

@@ -14,7 +14,7 @@ class FirstStepsSession;
 /**
  * The windows of a running workbench: one on the user's own samples and trail, and those of first steps.
  *
- * What was opened lives until the program ends, so that windows beside it, such as a template editor, may use it. The
+ * Sessions live until the program ends, so that windows beside them, such as a template editor, may use them. The
  * user's trail is opened, or made, with the first window that needs it. GUI thread.
  */
 class Sessions

@@ -316,7 +316,7 @@ Result<std::unique_ptr<StoreBackend>> openPostgresql(const Address &address, Sto
     if (exists ? mode == Store::Mode::Create : !mayMake) {
         return Error(ErrorCode::FileAccess,
                      exists ? Texts::tr("There is a trail \"%1\" already.").arg(address.shown())
-                            : Texts::tr("There is no trail \"%1\".").arg(address.shown()))
+                            : Texts::tr("The trail \"%1\" does not exist.").arg(address.shown()))
             .ecatch(OZM_HERE);
     }
     Error error = exists ? Error() : makeTrail(*connection.value(), place.value());

@@ -114,7 +114,7 @@ QString decodeRow(const QString &text, const RowNode *row, const QList<DecodeTec
 {
     if (row)
         return rowDecoder().decode(text, *row, extraData, report);
-    refuse(report, AbstractTemplateEditor::tr("There is no data row to fill the template with."));
+    refuse(report, AbstractTemplateEditor::tr("No data row was given to fill the template with."));
     return {};
 }
 

@@ -376,7 +376,7 @@ Reading readComment(const QString &comment)
         return reading(attributes, Else());
     if (name == kEnd)
         return reading(attributes, End());
-    return {std::nullopt, Texts::tr("There is no instruction \"%1\".").arg(name)};
+    return {std::nullopt, Texts::tr("The instruction \"%1\" does not exist.").arg(name)};
 }
 
 Reading readFormat(const QString &tag, const QString &inner)

@@ -128,7 +128,7 @@ private:
     void takeElse(qsizetype index, const SourceRange &mark)
     {
         if (m_open.isEmpty()) {
-            fail(mark, Texts::tr("There is no section that has another part here."));
+            fail(mark, Texts::tr("No section has another part here."));
             return;
         }
         OpenSection &open = m_open.last();
@@ -152,7 +152,7 @@ private:
     void endSection(qsizetype index, const SourceRange &mark)
     {
         if (m_open.isEmpty()) {
-            fail(mark, Texts::tr("There is no section that ends here."));
+            fail(mark, Texts::tr("No section ends here."));
             return;
         }
         const OpenSection open = m_open.takeLast();
@@ -190,7 +190,7 @@ private:
     {
         const int row = rowAround(index);
         if (row < 0) {
-            fail(mark, Texts::tr("There is no table row and no list item around this."));
+            fail(mark, Texts::tr("This is neither in a table row nor in a list item."));
             return;
         }
         const HtmlElement &element = m_elements.elements.at(row);

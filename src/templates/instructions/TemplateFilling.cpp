@@ -293,7 +293,7 @@ private:
     {
         auto rows = rowsOf(repeat.of);
         if (!rows)
-            return refuse(part, Texts::tr("There is no list of rows \"%1\".").arg(repeat.of));
+            return refuse(part, Texts::tr("The list of rows \"%1\" does not exist.").arg(repeat.of));
         if (rows->isEmpty())
             return part.otherwise.isEmpty() ? withoutRows(repeat, part)
                                             : filled(part.otherwise, childrenIn(part.otherwise, part), scope);
@@ -359,7 +359,7 @@ private:
     {
         const auto rows = rowsOf(format.of);
         if (!rows) {
-            refuse(part, Texts::tr("There is no list of rows \"%1\".").arg(format.of));
+            refuse(part, Texts::tr("The list of rows \"%1\" does not exist.").arg(format.of));
             return std::nullopt;
         }
         QList<TemplateField> fields;

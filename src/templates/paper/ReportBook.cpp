@@ -152,7 +152,7 @@ Error ReportBook::finish()
         return d->error;
     if (!d->writer || std::exchange(d->isFinished, true))
         return Error(codes::BadParameter,
-                     bookText(QT_TRANSLATE_NOOP("ozm::ReportBook", "There is no report to be written.")))
+                     bookText(QT_TRANSLATE_NOOP("ozm::ReportBook", "The book has no report.")))
             .ecatch(OZM_PLACE);
     return d->close();
 }

@@ -162,7 +162,7 @@ QString noEntryText(const QString &path, Obstacle obstacle)
     if (obstacle == Obstacle::NotAnswering)
         return RefusalText::tr("The disk or the share does not answer.");
     return QFileInfo(path).isSymLink() ? RefusalText::tr("The link leads to nothing.")
-                                       : RefusalText::tr("There is no such file or folder.");
+                                       : RefusalText::tr("No such file or folder.");
 }
 
 } // namespace
@@ -186,7 +186,7 @@ QString folderReason(Obstacle obstacle)
     if (QString text = obstacleText(obstacle); !text.isNull())
         return text;
     if (obstacle == Obstacle::Missing)
-        return RefusalText::tr("The folder is no longer there.");
+        return RefusalText::tr("The folder does not exist any more.");
     if (obstacle == Obstacle::Closed)
         return RefusalText::tr("The folder cannot be read. Access is not allowed.");
     return RefusalText::tr("The folder cannot be read. The disk or the share does not answer.");
