@@ -97,7 +97,11 @@ private Q_SLOTS:
         QVERIFY(record(change(2, 3, u"was right before"_s)));
 
         TrailView view;
+        QVERIFY(!view.isEnabled());
+        const qsizetype actions = view.findChildren<QAction *>().size();
         view.setStore(*store.value());
+        QVERIFY(view.isEnabled());
+        QCOMPARE(view.findChildren<QAction *>().size(), actions);
         view.setLogger(&logger, kReviewer);
         TrailModel &model = view.model();
         view.show();
