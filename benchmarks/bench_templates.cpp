@@ -248,6 +248,19 @@ void script_uncontained(benchmark::State &state)
         benchmark::DoNotOptimize(reader.readAsString(u"<script>var n = 6; n * 7</script>"_s, {}));
 }
 
+/// A decoding of a hundred pieces, in this program or in the helper process.
+void script_hundred(benchmark::State &state)
+{
+    using Place = TemplateEditorJSEngine::ScriptPlace;
+    TemplateEditorJSEngine::setScriptPlace(state.range(0) == 0 ? Place::InProgram : Place::HelperProcess);
+    const Values values{{u"[Mass]"_s, u"1045.5342"_s}, {u"[Charge]"_s, u"2"_s}};
+    TemplateEditorJSCodeReader reader;
+    const QString text = QString(u"m/z <script>"_s + kCode + u"</script>"_s).repeated(100);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(reader.readAsString(text, values));
+    TemplateEditorJSEngine::setScriptPlace(Place::InProgram);
+}
+
 void several_rows(benchmark::State &state)
 {
     std::vector<RowNode> rows = peptides(static_cast<int>(state.range(0)));
@@ -280,6 +293,7 @@ BENCHMARK(short_by_hand)->Unit(benchmark::kMillisecond);
 BENCHMARK(script_piece);
 BENCHMARK(script_bare);
 BENCHMARK(script_uncontained);
+BENCHMARK(script_hundred)->Arg(0)->Arg(1)->UseRealTime();
 BENCHMARK(several_rows)->RangeMultiplier(10)->Range(100, 100000)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char **argv)

@@ -140,18 +140,23 @@ function(ozm_add_resources target name)
     endif()
 endfunction()
 
+# Beside what asks for it: the program that holds a static library, or the library itself. In the build tree as after
+# an install.
+function(ozm_folders_beside_library build_folder install_folder)
+    if(WIN32 OR NOT BUILD_SHARED_LIBS)
+        set(${build_folder} "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/ozm_widgets" PARENT_SCOPE)
+        set(${install_folder} ${CMAKE_INSTALL_BINDIR}/ozm_widgets PARENT_SCOPE)
+    else()
+        set(${build_folder} "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/ozm_widgets" PARENT_SCOPE)
+        set(${install_folder} ${CMAKE_INSTALL_LIBDIR}/ozm_widgets PARENT_SCOPE)
+    endif()
+endfunction()
+
 # ozm_add_plugin(<name> SOURCES <file>... LIBRARIES <target>...): a module that ozm_widgets finds at run time,
 # below its own folder in the build tree as after an install.
 function(ozm_add_plugin name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
-    # Beside what asks for it: the program that holds a static library, or the library itself.
-    if(WIN32 OR NOT BUILD_SHARED_LIBS)
-        set(library_folder "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
-        set(install_folder ${CMAKE_INSTALL_BINDIR})
-    else()
-        set(library_folder "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
-        set(install_folder ${CMAKE_INSTALL_LIBDIR})
-    endif()
+    ozm_folders_beside_library(build_folder install_folder)
     add_library(${name} MODULE ${arg_SOURCES})
     ozm_configure_target(${name})
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/src")
@@ -159,7 +164,23 @@ function(ozm_add_plugin name)
     set_target_properties(${name} PROPERTIES
         AUTOMOC ON
         PREFIX ""
-        LIBRARY_OUTPUT_DIRECTORY "${library_folder}/ozm_widgets/plugins"
+        LIBRARY_OUTPUT_DIRECTORY "${build_folder}/plugins"
         INSTALL_RPATH "$<$<NOT:$<PLATFORM_ID:Windows,Darwin>>:$ORIGIN/../..>$<$<PLATFORM_ID:Darwin>:@loader_path/../..>")
-    install(TARGETS ${name} LIBRARY DESTINATION ${install_folder}/ozm_widgets/plugins)
+    install(TARGETS ${name} LIBRARY DESTINATION ${install_folder}/plugins)
+endfunction()
+
+# ozm_add_helper(<name> SOURCES <file>... LIBRARIES <target>...): a program that ozm_widgets starts, and finds below
+# its own folder as it does its plug-ins. It links Qt only.
+function(ozm_add_helper name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
+    ozm_folders_beside_library(build_folder install_folder)
+    add_executable(${name} ${arg_SOURCES})
+    ozm_configure_target(${name})
+    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/src")
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
+    set_target_properties(${name} PROPERTIES
+        AUTOMOC ON
+        MACOSX_BUNDLE OFF
+        RUNTIME_OUTPUT_DIRECTORY "${build_folder}/libexec")
+    install(TARGETS ${name} RUNTIME DESTINATION ${install_folder}/libexec)
 endfunction()

@@ -5,11 +5,14 @@
 #include "templates/decoding/TokenReplacement.h"
 
 #include <ozm_widgets/TemplateEditorJSFileReader.h>
+#include <platform/Errors.h>
 
 #include <QCoreApplication>
+#include <QMutex>
 
 #include <algorithm>
 #include <atomic>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +23,25 @@ constexpr std::chrono::milliseconds kDefaultDeadline{5000};
 
 std::atomic<std::chrono::milliseconds> s_deadline{kDefaultDeadline};
 std::atomic<TemplateEditorJSEngine::ObjectAccess> s_objectAccess{TemplateEditorJSEngine::ObjectAccess::Full};
+
+// More than the scripts of reports take by far, and little enough for any computer.
+constexpr qint64 kDefaultHelperMemory = 1024LL * 1024 * 1024;
+
+std::atomic<TemplateEditorJSEngine::ScriptPlace> s_scriptPlace{
+    TemplateEditorJSEngine::ScriptPlace::InProgram};
+std::atomic<qint64> s_helperMemory{kDefaultHelperMemory};
+
+struct HelperProgram
+{
+    QMutex mutex;
+    QString path;
+};
+
+HelperProgram &wantedHelper()
+{
+    static HelperProgram helper;
+    return helper;
+}
 
 /// True when nothing of @p value lives on in an engine that has seen it, and nothing of it can be called.
 bool isPlain(const QVariant &value)
@@ -75,6 +97,16 @@ QList<ozm::FailedScript> failedScripts(const ozm::TemplateText &parsed,
     return failed;
 }
 
+ozm::Error scriptError(const QList<ozm::ScriptOutcome> &outcomes)
+{
+    // Pieces run from the last to the first.
+    const auto first = std::find_if(outcomes.crbegin(), outcomes.crend(),
+                                    [](const ozm::ScriptOutcome &outcome) { return outcome.isUnserved; });
+    if (first == outcomes.crend())
+        return {};
+    return ozm::Error(ozm::codes::Failed, first->message).ecatch(OZM_PLACE);
+}
+
 /// @p codes, whose places are those in the text with results, at their places in the template.
 QList<ozm::BroughtInCode> inPlace(const ozm::TemplateText &parsed, const QList<ozm::ScriptOutcome> &outcomes,
                                   QList<ozm::BroughtInCode> codes)
@@ -125,13 +157,20 @@ void TemplateEditorJSEnginePrivate::initJSEngine(const QString &path)
         m_library = {path, reader.fileContent()};
     QString trouble;
     m_realm = ozm::ScriptRealm::create(m_library, &trouble);
-    m_valid = read && trouble.isNull();
-    if (m_valid)
+    m_valid = read && trouble.isNull() && m_realm->isServed();
+    if (trouble.isNull())
         return;
     // Not to be tried again for each template.
     m_library = {};
     if (read)
         qCWarning(lcOzmWidgets) << "File content not valid. Js Engine will no be used! Details:" << trouble;
+}
+
+ozm::ScriptRealm &TemplateEditorJSEnginePrivate::realm()
+{
+    if (std::exchange(m_place, TemplateEditorJSEngine::scriptPlace()) != m_place)
+        m_realm = freshRealm();
+    return *m_realm;
 }
 
 std::unique_ptr<ozm::ScriptRealm> TemplateEditorJSEnginePrivate::freshRealm() const
@@ -182,6 +221,38 @@ TemplateEditorJSEngine::ObjectAccess TemplateEditorJSEngine::objectAccess()
     return s_objectAccess;
 }
 
+void TemplateEditorJSEngine::setScriptPlace(ScriptPlace place)
+{
+    s_scriptPlace = place;
+}
+
+TemplateEditorJSEngine::ScriptPlace TemplateEditorJSEngine::scriptPlace()
+{
+    return s_scriptPlace;
+}
+
+void TemplateEditorJSEngine::setHelperMemory(qint64 bytes)
+{
+    s_helperMemory = bytes;
+}
+
+qint64 TemplateEditorJSEngine::helperMemory()
+{
+    return s_helperMemory;
+}
+
+void TemplateEditorJSEngine::setHelperProgram(const QString &path)
+{
+    const QMutexLocker lock(&wantedHelper().mutex);
+    wantedHelper().path = path;
+}
+
+QString TemplateEditorJSEngine::helperProgram()
+{
+    const QMutexLocker lock(&wantedHelper().mutex);
+    return wantedHelper().path;
+}
+
 std::shared_ptr<const ozm::TemplateText> TemplateEditorJSCodeReader::Private::parsed(const QString &text)
 {
     return m_cache.parsed(text);
@@ -202,6 +273,7 @@ QString TemplateEditorJSCodeReader::Private::read(const ozm::TemplateText &parse
     const ozm::syntax::MarkedText marks = ozm::syntax::marked(text);
     if (report) {
         report->failed = failedScripts(parsed, outcomes);
+        report->scriptError = scriptError(outcomes);
         report->broughtIn = inPlace(parsed, outcomes, ozm::tokens::broughtIn(text, marks, parameters)) +
                             inResults(parsed, outcomes, parameters);
         std::ranges::stable_sort(report->broughtIn, {}, &ozm::BroughtInCode::position);

@@ -15,12 +15,13 @@ public:
 
     /// A realm in which nothing has run yet. The library's troubles have been told already.
     [[nodiscard]] std::unique_ptr<ozm::ScriptRealm> freshRealm() const;
-    /// The engine's own.
-    [[nodiscard]] ozm::ScriptRealm &realm() { return *m_realm; }
+    /// The engine's own, where scripts run now.
+    [[nodiscard]] ozm::ScriptRealm &realm();
     [[nodiscard]] bool isValid() const { return m_valid; }
 
 private:
     ozm::ScriptLibrary m_library;
+    TemplateEditorJSEngine::ScriptPlace m_place = TemplateEditorJSEngine::scriptPlace();
     std::unique_ptr<ozm::ScriptRealm> m_realm;
     bool m_valid = false;
 };

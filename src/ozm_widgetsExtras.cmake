@@ -16,15 +16,17 @@ function(ozm_deploy_script_library target)
     if(arg_DESTINATION)
         install(FILES "${library}" DESTINATION "${arg_DESTINATION}/templateEditorJSLib")
     endif()
-    get_property(plugins GLOBAL PROPERTY OZM_STATIC_LIBRARY_PLUGINS)
-    if(plugins)
+    # The plug-ins, and the programs that the library starts.
+    get_property(beside GLOBAL PROPERTY OZM_STATIC_LIBRARY_PLUGINS)
+    foreach(folder IN LISTS beside)
+        cmake_path(GET folder FILENAME name)
         add_custom_command(TARGET ${target} POST_BUILD
-            COMMAND ${CMAKE_COMMAND} -E copy_directory "${plugins}" "$<TARGET_FILE_DIR:${target}>/ozm_widgets/plugins"
+            COMMAND ${CMAKE_COMMAND} -E copy_directory "${folder}" "$<TARGET_FILE_DIR:${target}>/ozm_widgets/${name}"
             VERBATIM)
         if(arg_DESTINATION)
-            install(DIRECTORY "${plugins}" DESTINATION "${arg_DESTINATION}/ozm_widgets")
+            install(DIRECTORY "${folder}" DESTINATION "${arg_DESTINATION}/ozm_widgets" USE_SOURCE_PERMISSIONS)
         endif()
-    endif()
+    endforeach()
 endfunction()
 
 # The tree of the sources has said where its own is; in the package it is beside what else is shared.
@@ -34,6 +36,7 @@ if(NOT known)
         "${ozm_widgets_PREFIX}/share/ozm_widgets/templateEditorJSLib/TemplateEditorJSUtils.js")
     get_target_property(type ozm::ozm_widgets TYPE)
     if(type STREQUAL "STATIC_LIBRARY")
-        set_property(GLOBAL PROPERTY OZM_STATIC_LIBRARY_PLUGINS "${ozm_widgets_PREFIX}/bin/ozm_widgets/plugins")
+        set_property(GLOBAL PROPERTY OZM_STATIC_LIBRARY_PLUGINS "${ozm_widgets_PREFIX}/bin/ozm_widgets/plugins"
+            "${ozm_widgets_PREFIX}/bin/ozm_widgets/libexec")
     endif()
 endif()

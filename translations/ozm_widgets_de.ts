@@ -492,6 +492,17 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::HelperScriptRealm</name>
+    <message>
+        <source>The values are too large for scripts in a process of their own.</source>
+        <translation>Die Werte sind zu groß für Skripte in einem eigenen Prozess.</translation>
+    </message>
+    <message>
+        <source>The process that runs scripts had ended before this script.</source>
+        <translation>Der Prozess, der Skripte ausführt, war vor diesem Skript schon beendet.</translation>
+    </message>
+</context>
+<context>
     <name>ozm::OperationLogItemData</name>
     <message>
         <source>The record cannot be read from byte %1 on: %2.</source>
@@ -594,6 +605,40 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::ScriptHelper</name>
+    <message>
+        <source>The program &quot;%1&quot;, which runs scripts, cannot be started: %2</source>
+        <translation>Das Programm „%1“, das Skripte ausführt, kann nicht gestartet werden: %2</translation>
+    </message>
+    <message>
+        <source>The program that runs scripts was not found. It should be here: %1</source>
+        <translation>Das Programm, das Skripte ausführt, wurde nicht gefunden. Es müsste hier sein: %1</translation>
+    </message>
+    <message>
+        <source>The program &quot;%1&quot; was started to run scripts, and does not answer.</source>
+        <translation>Das Programm „%1“ wurde gestartet, um Skripte auszuführen, und antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The program &quot;%1&quot;, which runs scripts, is of another version: %2 instead of %3.</source>
+        <translation>Das Programm „%1“, das Skripte ausführt, hat eine andere Version: %2 statt %3.</translation>
+    </message>
+    <message>
+        <source>The process that runs scripts has ended. It may take up to %1 MiB of memory.</source>
+        <translation>Der Prozess, der Skripte ausführt, hat sich beendet. Er darf bis zu %1 MiB Speicher belegen.</translation>
+    </message>
+    <message>
+        <source>The process that runs scripts has ended.</source>
+        <translation>Der Prozess, der Skripte ausführt, hat sich beendet.</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::ScriptRealm</name>
+    <message>
+        <source>The script engine &quot;ozm_scripts&quot; is not installed.</source>
+        <translation>Die Skript-Engine „ozm_scripts“ ist nicht installiert.</translation>
+    </message>
+</context>
+<context>
     <name>ozm::TemplateFile</name>
     <message>
         <source>&quot;%1&quot; cannot be read: %2</source>
@@ -673,6 +718,13 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     <message>
         <source>A new edit cannot be made while another is being undone or redone.</source>
         <translation>Solange eine Änderung rückgängig gemacht oder wiederholt wird, ist keine neue möglich.</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::WithheldValue</name>
+    <message>
+        <source>A value of the type &quot;%1&quot; cannot be used by scripts in a process of their own.</source>
+        <translation>Ein Wert vom Typ „%1“ kann von Skripten in einem eigenen Prozess nicht verwendet werden.</translation>
     </message>
 </context>
 <context>

@@ -492,6 +492,17 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::HelperScriptRealm</name>
+    <message>
+        <source>The values are too large for scripts in a process of their own.</source>
+        <translation>Les valeurs sont trop volumineuses pour des scripts dans un processus séparé.</translation>
+    </message>
+    <message>
+        <source>The process that runs scripts had ended before this script.</source>
+        <translation>Le processus qui exécute les scripts s’était arrêté avant ce script.</translation>
+    </message>
+</context>
+<context>
     <name>ozm::OperationLogItemData</name>
     <message>
         <source>The record cannot be read from byte %1 on: %2.</source>
@@ -594,6 +605,40 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::ScriptHelper</name>
+    <message>
+        <source>The program &quot;%1&quot;, which runs scripts, cannot be started: %2</source>
+        <translation>Le programme « %1 », qui exécute les scripts, ne peut pas être démarré : %2</translation>
+    </message>
+    <message>
+        <source>The program that runs scripts was not found. It should be here: %1</source>
+        <translation>Le programme qui exécute les scripts est introuvable. Il devrait être ici : %1</translation>
+    </message>
+    <message>
+        <source>The program &quot;%1&quot; was started to run scripts, and does not answer.</source>
+        <translation>Le programme « %1 » a été démarré pour exécuter les scripts et ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The program &quot;%1&quot;, which runs scripts, is of another version: %2 instead of %3.</source>
+        <translation>Le programme « %1 », qui exécute les scripts, est d’une autre version : %2 au lieu de %3.</translation>
+    </message>
+    <message>
+        <source>The process that runs scripts has ended. It may take up to %1 MiB of memory.</source>
+        <translation>Le processus qui exécute les scripts s’est arrêté. Il peut occuper jusqu’à %1 Mio de mémoire.</translation>
+    </message>
+    <message>
+        <source>The process that runs scripts has ended.</source>
+        <translation>Le processus qui exécute les scripts s’est arrêté.</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::ScriptRealm</name>
+    <message>
+        <source>The script engine &quot;ozm_scripts&quot; is not installed.</source>
+        <translation>Le moteur de scripts « ozm_scripts » n’est pas installé.</translation>
+    </message>
+</context>
+<context>
     <name>ozm::TemplateFile</name>
     <message>
         <source>&quot;%1&quot; cannot be read: %2</source>
@@ -673,6 +718,13 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
     <message>
         <source>A new edit cannot be made while another is being undone or redone.</source>
         <translation>Aucune nouvelle modification n’est possible pendant l’annulation ou le rétablissement d’une autre.</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::WithheldValue</name>
+    <message>
+        <source>A value of the type &quot;%1&quot; cannot be used by scripts in a process of their own.</source>
+        <translation>Une valeur du type « %1 » ne peut pas être utilisée par les scripts dans un processus séparé.</translation>
     </message>
 </context>
 <context>

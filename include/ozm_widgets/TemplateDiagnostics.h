@@ -52,6 +52,10 @@ struct TemplateReport
     Error error = {};
     QList<FaultyInstruction> faulty = {}; ///< In order of position.
 
+    /// Why scripts could not be run, which are then among the failed: code 1 when the script engine or its process is
+    /// not there, or the process has ended. See TemplateEditorJSEngine::setScriptPlace().
+    Error scriptError = {};
+
     /// True when the template was decoded, and each code and script in it came out as its author meant.
     [[nodiscard]] bool isComplete() const
     {

@@ -39,7 +39,7 @@ public:
     explicit TemplateEditorJSEngine(const QString &path, QObject *parent = nullptr);
     ~TemplateEditorJSEngine() override;
 
-    /// True when the library was loaded and evaluated without an error.
+    /// True when the library was loaded and evaluated without an error, as the engine was made.
     [[nodiscard]] bool isValid() const;
 
     /// The text of the script's result; @p code itself when the script fails in any way: an error as its
@@ -53,7 +53,8 @@ public:
      * process, from the next decoding on; any thread.
      *
      * Only running script code is interrupted. One call of a built-in function that takes long by itself
-     * (filling an array of a hundred million elements) is not: it ends in its own time.
+     * (filling an array of a hundred million elements) is not: it ends in its own time. In a helper process
+     * it is ended, half a second later.
      */
     static void setDeadline(std::chrono::milliseconds deadline);
     /// The time that the scripts of one decoding have in all.
@@ -74,6 +75,57 @@ public:
     static void setObjectAccess(ObjectAccess access);
     /// The access that is in force for the process.
     [[nodiscard]] static ObjectAccess objectAccess();
+
+    /// Where scripts run.
+    enum class ScriptPlace
+    {
+        InProgram,     ///< In this program. A script that takes all memory takes the program along.
+        HelperProcess, ///< In a process of their own, which may end without harm to this program.
+    };
+
+    /**
+     * Where the scripts of templates run: in this program unless set. Helper processes are for templates of others.
+     *
+     *     TemplateEditorJSEngine::setScriptPlace(TemplateEditorJSEngine::ScriptPlace::HelperProcess);
+     *     const ozm::TemplateReport report = AbstractTemplateEditor::decodeTECReport(text, {});
+     *     if (report.scriptError.hasError())
+     *         qWarning() << report.scriptError;
+     *
+     * Results are the same, with these differences:
+     * - Values cross: texts, numbers, dates, what else is of Qt's core, lists and maps of such, and enumerators
+     *   as numbers. Objects and values of other types stay: a script fails where it uses one, whatever the
+     *   object access, and runs where it does not.
+     * - The deadline holds for functions built into the engine, too: the process is ended, and the scripts after
+     *   that one fail.
+     * - A process that ends takes along the variables that scripts have left behind. The next decoding starts
+     *   another. One process serves all engines of this program, and ends with it.
+     * - Its time zone and its surroundings are those of this program when the process is started.
+     *
+     * The helper program comes with the plug-in of the script engine. When it is missing, is of another version, or
+     * ends, scripts fail, and the report's scriptError says why. For all engines of the process, from the next
+     * decoding on; any thread.
+     */
+    static void setScriptPlace(ScriptPlace place);
+    /// The place that is in force for the process.
+    [[nodiscard]] static ScriptPlace scriptPlace();
+
+    /**
+     * The memory that the helper process may take beyond what it has when it starts, in bytes; a gigabyte unless set,
+     * without a bound when zero. A script that wants more ends it. Linux and Windows hold a process to it, other
+     * systems as they hold to RLIMIT_AS: macOS does not. From the next decoding on; any thread.
+     */
+    static void setHelperMemory(qint64 bytes);
+    /// The bound that is in force for the process.
+    [[nodiscard]] static qint64 helperMemory();
+
+    /**
+     * The path of the helper program, for applications that put it elsewhere; empty unless set. It is looked for in
+     * "ozm_widgets/libexec" beside the library, and on macOS in the Helpers of the application as well. From
+     * the next decoding on; any thread.
+     */
+    static void setHelperProgram(const QString &path);
+    /// The path that was set.
+    [[nodiscard]] static QString helperProgram();
 
 private:
     friend class TemplateEditorJSCodeReader;

@@ -13,7 +13,7 @@ namespace {
 const QString kParameters = u"inputParameters"_s;
 const QString kLibrary = u"templateEditorCore"_s;
 
-const QString kLate = u"The script did not end in time."_s;
+const QString kLate = kLateScript.toString();
 const QString kOwnScript = u"ozm_scripts"_s;
 
 // The functions are taken when the realm is made, before a script can change them. A list writes the lists in
@@ -111,6 +111,14 @@ std::optional<QString> EngineScriptRealm::load(const ScriptLibrary &library)
 QList<ScriptOutcome> EngineScriptRealm::run(const QList<ScriptTask> &tasks,
                                             const QMap<QString, QVariant> &parameters)
 {
+    QList<ScriptOutcome> outcomes;
+    run(tasks, parameters, [&outcomes](const ScriptOutcome &outcome) { outcomes.append(outcome); });
+    return outcomes;
+}
+
+void EngineScriptRealm::run(const QList<ScriptTask> &tasks, const QMap<QString, QVariant> &parameters,
+                            const std::function<void(const ScriptOutcome &)> &ended)
+{
     const ScriptRules rules = m_rules();
     // A script may call the application, which may decode with the same engine: within the same deadline.
     const QScopedValueRollback depth(m_depth, m_depth + 1);
@@ -118,10 +126,9 @@ QList<ScriptOutcome> EngineScriptRealm::run(const QList<ScriptTask> &tasks,
         watch(rules.deadline);
     QJSValue global = m_engine.globalObject();
     QJSValue shared;
-    QList<ScriptOutcome> outcomes;
     for (const ScriptTask &task : tasks) {
         if (isLate()) {
-            outcomes.append({task.code, true, 1, kLate});
+            ended({task.code, true, 1, kLate});
             continue;
         }
         QJSValue handed = shared;
@@ -130,10 +137,10 @@ QList<ScriptOutcome> EngineScriptRealm::run(const QList<ScriptTask> &tasks,
         if (!task.mayChangeParameters)
             shared = handed;
         global.setProperty(kParameters, handed);
-        outcomes.append(evaluate(task.code));
+        const ScriptOutcome outcome = evaluate(task.code);
         global.deleteProperty(kParameters);
+        ended(outcome);
     }
-    return outcomes;
 }
 
 ScriptOutcome EngineScriptRealm::evaluate(const QString &code)
@@ -152,12 +159,6 @@ ScriptOutcome EngineScriptRealm::evaluate(const QString &code)
     if (!text.hasProperty(u"text"_s))
         return {code, true, 1, messageOf(text.isError() ? text : text.property(u"error"_s))};
     return {text.property(u"text"_s).toString()};
-}
-
-std::unique_ptr<ScriptRealm> EngineScripts::createRealm(const ScriptLibrary &library, ScriptRulesNow rules,
-                                                        QString *trouble)
-{
-    return std::make_unique<EngineScriptRealm>(library, rules, trouble);
 }
 
 } // namespace ozm

@@ -5,8 +5,8 @@
 #include "templates/scripts/ScriptRealm.h"
 
 #include <QJSEngine>
-#include <QObject>
 
+#include <functional>
 #include <optional>
 
 namespace ozm {
@@ -20,6 +20,9 @@ public:
 
     QList<ScriptOutcome> run(const QList<ScriptTask> &tasks,
                              const QMap<QString, QVariant> &parameters) override;
+    /// The same, each outcome as soon as there is one.
+    void run(const QList<ScriptTask> &tasks, const QMap<QString, QVariant> &parameters,
+             const std::function<void(const ScriptOutcome &)> &ended);
 
 private:
     [[nodiscard]] std::optional<QString> load(const ScriptLibrary &library);
@@ -35,17 +38,6 @@ private:
     /// Stays between two runs, for what the first has left to the event loop.
     std::optional<ScriptWatch> m_watch;
     int m_depth = 0;
-};
-
-class EngineScripts : public QObject, public ScriptEngineInterface
-{
-    Q_OBJECT
-    Q_PLUGIN_METADATA(IID OZM_SCRIPT_ENGINE_IID)
-    Q_INTERFACES(ozm::ScriptEngineInterface)
-
-public:
-    [[nodiscard]] std::unique_ptr<ScriptRealm> createRealm(const ScriptLibrary &library, ScriptRulesNow rules,
-                                                           QString *trouble) override;
 };
 
 } // namespace ozm

@@ -1,5 +1,7 @@
 #include "ScriptObjects.h"
 
+#include "templates/scripts/ScriptRealm.h"
+
 #include <QDateTime>
 
 #include <algorithm>
@@ -53,6 +55,17 @@ const QString kStandIns =
     "  return onlyRead => value => shown(value, onlyRead);"
     "})"_s;
 
+// The handler is asked for the way in which the value is used, and never gives one.
+const QString kWithheld = u"(function (message) {"
+                          "  const refuse = () => { throw new TypeError(message) };"
+                          "  return new Proxy({}, new Proxy({}, { get: refuse }));"
+                          "})"_s;
+
+bool isWithheld(const QVariant &value)
+{
+    return value.metaType() == QMetaType::fromType<WithheldValue>();
+}
+
 bool isObject(const QVariant &value)
 {
     return value.metaType().flags() & QMetaType::PointerToQObject;
@@ -71,7 +84,7 @@ bool hasOwnWay(const QVariant &value)
         return std::ranges::any_of(value.toMap(), hasOwnWay);
     if (isList(value))
         return std::ranges::any_of(value.toList(), hasOwnWay);
-    return isObject(value) || value.typeId() == QMetaType::QDate;
+    return isObject(value) || value.typeId() == QMetaType::QDate || isWithheld(value);
 }
 
 } // namespace
@@ -117,6 +130,8 @@ QJSValue ScriptObjects::handOut(QJSEngine &engine, const QVariant &value)
 {
     if (isObject(value))
         return m_shown.call({engine.toScriptValue(value)});
+    if (isWithheld(value))
+        return engine.evaluate(kWithheld).call({value.value<WithheldValue>().message});
     // The engine takes a day for its midnight at Greenwich: west of it, a script would see the day before.
     if (value.typeId() == QMetaType::QDate && value.toDate().isValid())
         return engine.toScriptValue(value.toDate().startOfDay());

@@ -61,4 +61,20 @@ QStringList pluginFolders(QLatin1StringView name)
     return folders;
 }
 
+QStringList helperPrograms(QLatin1StringView program, QLatin1StringView name)
+{
+#ifdef Q_OS_WIN
+    const QString file = program + ".exe"_L1;
+#else
+    const QString file = program;
+#endif
+    QStringList programs;
+    if (const QString folder = libraryFolder(); !folder.isEmpty())
+        programs.append(QDir::cleanPath(folder + u'/' + name + "/libexec/"_L1 + file));
+#ifdef Q_OS_MACOS
+    programs.append(QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../Helpers/"_L1 + file));
+#endif
+    return programs;
+}
+
 } // namespace ozm

@@ -13,4 +13,9 @@ namespace ozm {
 /// tree as after an install, and below Qt's folders for plug-ins.
 [[nodiscard]] QStringList pluginFolders(QLatin1StringView name = QLatin1StringView("ozm_widgets"));
 
+/// Where the program @p program of this library may be, in the order in which to look: beside the plug-ins, and on
+/// macOS in the Helpers of the application, too.
+[[nodiscard]] QStringList helperPrograms(QLatin1StringView program,
+                                         QLatin1StringView name = QLatin1StringView("ozm_widgets"));
+
 } // namespace ozm

@@ -3,6 +3,7 @@
 #include <ozm_common_stable/Result.h>
 #include <ozm_widgets/AbstractTemplateEditor.h>
 #include <ozm_widgets/DefaultWidgetCreator.h>
+#include <ozm_widgets/TemplateEditorJSEngine.h>
 #include <ozm_widgets/db/common/AuditTrailLoggingInterface.h>
 #include <ozm_widgets/db/common/UndoCommand.h>
 #include <ozm_widgets/db/common/UndoRedoHints.h>
@@ -112,8 +113,15 @@ int main(int argc, char *argv[])
 
     const QString text =
         u"[Name], <script>templateEditorCore.number(inputParameters['[Charge]'], 1)</script>"_s;
-    const QString decoded =
-        AbstractTemplateEditor::withoutScriptTags(AbstractTemplateEditor::decodeTEC(text, &row, {}));
+    QString decoded;
+    // By the plug-in, and by the helper program beside it.
+    using Place = TemplateEditorJSEngine::ScriptPlace;
+    for (const Place place : {Place::InProgram, Place::HelperProcess}) {
+        TemplateEditorJSEngine::setScriptPlace(place);
+        decoded +=
+            AbstractTemplateEditor::withoutScriptTags(AbstractTemplateEditor::decodeTEC(text, &row, {}));
+    }
     out << decoded << '\n';
-    return row.getDataAt(kCharge) == 2 && logger.items.size() == 2 && decoded == u"T12, 2.0"_s ? 0 : 1;
+    return row.getDataAt(kCharge) == 2 && logger.items.size() == 2 && decoded == u"T12, 2.0T12, 2.0"_s ? 0
+                                                                                                       : 1;
 }

@@ -405,6 +405,8 @@ private:
             add(m_report.failed, script);
         for (const BroughtInCode &code : report.broughtIn)
             add(m_report.broughtIn, code);
+        if (!m_report.scriptError.hasError())
+            m_report.scriptError = report.scriptError;
     }
 
     void putInOrder()

@@ -3,8 +3,11 @@
 #include "support/LibraryFolder.h"
 #include "support/Logging.h"
 #include "support/PluginLoader.h"
+#include "templates/scripts/HelperScriptRealm.h"
 
 #include <ozm_widgets/TemplateEditorJSEngine.h>
+
+#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -14,16 +17,18 @@ namespace {
 
 class NoScripts : public ScriptRealm
 {
+    Q_DECLARE_TR_FUNCTIONS(ozm::ScriptRealm)
+
 public:
     QList<ScriptOutcome> run(const QList<ScriptTask> &tasks, const QMap<QString, QVariant> &) override
     {
         QList<ScriptOutcome> failed;
         for (const ScriptTask &task : tasks)
-            failed.append({task.code, true, 1, text()});
+            failed.append(
+                {task.code, true, 1, tr("The script engine \"ozm_scripts\" is not installed."), true});
         return failed;
     }
-
-    static QString text() { return u"The script engine \"ozm_scripts\" is not installed."_s; }
+    [[nodiscard]] bool isServed() const override { return false; }
 };
 
 ScriptRules rulesNow()
@@ -44,11 +49,11 @@ ScriptEngineInterface *findEngine()
 
 std::unique_ptr<ScriptRealm> ScriptRealm::create(const ScriptLibrary &library, QString *trouble)
 {
+    if (TemplateEditorJSEngine::scriptPlace() == TemplateEditorJSEngine::ScriptPlace::HelperProcess)
+        return std::make_unique<HelperScriptRealm>(library, trouble);
     static ScriptEngineInterface *const engine = findEngine();
     if (engine)
         return engine->createRealm(library, &rulesNow, trouble);
-    if (trouble)
-        *trouble = NoScripts::text();
     return std::make_unique<NoScripts>();
 }
 

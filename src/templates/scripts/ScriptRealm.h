@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDataStream>
 #include <QList>
 #include <QMap>
 #include <QString>
@@ -8,6 +9,7 @@
 
 #include <chrono>
 #include <memory>
+#include <tuple>
 
 namespace ozm {
 
@@ -17,15 +19,39 @@ struct ScriptTask
     QString code;
     /// False only when it is certain that the piece cannot change its parameters: others then get the same.
     bool mayChangeParameters = true;
+
+    static auto fields(auto &self) { return std::tie(self.code, self.mayChangeParameters); }
 };
 
 /// The outcome of a piece of script. A failed one has its code as its text.
 struct ScriptOutcome
 {
-    QString text;
+    QString text = {};
     bool failed = false;
     int line = 0; ///< At which it failed, counted from 1.
     QString message = {};
+    /// True when it failed for want of an engine, or of the process with the engine.
+    bool isUnserved = false;
+
+    static auto fields(auto &self) { return std::tie(self.text, self.failed, self.line, self.message); }
+};
+
+/// The message of those that the deadline has stopped.
+inline constexpr QStringView kLateScript = u"The script did not end in time.";
+
+/// Stands for a value that scripts do not get. Any use that a script makes of it throws the message.
+struct WithheldValue
+{
+    QString message;
+
+    friend QDataStream &operator<<(QDataStream &stream, const WithheldValue &value)
+    {
+        return stream << value.message;
+    }
+    friend QDataStream &operator>>(QDataStream &stream, WithheldValue &value)
+    {
+        return stream >> value.message;
+    }
 };
 
 /// The script library as read from its file: empty where there is none to be used.
@@ -53,9 +79,11 @@ public:
     /// whatever they left to be done later is not done.
     [[nodiscard]] virtual QList<ScriptOutcome> run(const QList<ScriptTask> &tasks,
                                                    const QMap<QString, QVariant> &parameters) = 0;
+    /// False when it was made without an engine.
+    [[nodiscard]] virtual bool isServed() const { return true; }
 
-    /// Takes what is wrong with the library, if anything is, to @p trouble. Without the plug-in, a realm in
-    /// which every script fails, and says why.
+    /// A realm at the place where scripts run now. Takes what is wrong with the library, if anything is, to
+    /// @p trouble. Without an engine, a realm in which every script fails, and says why.
     [[nodiscard]] static std::unique_ptr<ScriptRealm> create(const ScriptLibrary &library, QString *trouble);
 };
 
@@ -81,5 +109,6 @@ public:
 
 } // namespace ozm
 
-#define OZM_SCRIPT_ENGINE_IID "ozm_widgets.ScriptEngineInterface/3"
+#define OZM_SCRIPT_ENGINE_IID "ozm_widgets.ScriptEngineInterface/4"
 Q_DECLARE_INTERFACE(ozm::ScriptEngineInterface, OZM_SCRIPT_ENGINE_IID)
+Q_DECLARE_METATYPE(ozm::WithheldValue)
