@@ -17,6 +17,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace ozm {
@@ -93,6 +95,170 @@ QString correctionText(const QString &path)
         .arg(path);
 }
 
+QString correctionTitle()
+{
+    return QCoreApplication::translate("OZMFileDialog", "File path correction");
+}
+
+/// The files picked, where one inside a raw folder stands for that folder.
+QList<QString> openedFiles(QList<QString> paths, const QString &remembered,
+                           const OZMFileDialog::DirLocation &dirLocation)
+{
+    for (QString &path : paths) {
+        bool changed = false;
+        path = adjustBrukerFilenPathToFolderPath(path, &changed);
+        if (changed)
+            qCDebug(lcOzmWidgets).noquote() << correctionText(path);
+    }
+    rememberOpened(dirLocation, paths.isEmpty() ? remembered : folderOf(paths.constFirst()));
+    for (QString &path : paths)
+        path = slashRepaired(path);
+    return paths;
+}
+
+QString chosenFolder(const QString &path, const OZMFileDialog::DirLocation &dirLocation)
+{
+    // The parent is remembered, so the next dialog opens one level up and shows the folder.
+    remember(dirLocation, QFileInfo(path).absolutePath());
+    return slashRepaired(path);
+}
+
+QString placeToSave(const QString &path, const OZMFileDialog::DirLocation &dirLocation)
+{
+    // Also when canceled, which forgets the folder.
+    remember(dirLocation, folderOf(path));
+    return slashRepaired(path);
+}
+
+QString proposedPath(const QString &dir, const QString &fileName,
+                     const OZMFileDialog::DirLocation &dirLocation)
+{
+    const QString start = saveStart(dir, FileSystemSettings::Instance().fileLocation(dirLocation));
+    return fileName.isEmpty() ? start : joinPaths(start, fileName, u'/');
+}
+
+using Question = OZMFileDialog::Question;
+using Kind = Question::Kind;
+
+bool opensFiles(Kind kind)
+{
+    return kind == Kind::OpenFile || kind == Kind::OpenFiles;
+}
+
+/// The automation store's key for a kind of question; empty where it answers none.
+QString automationKey(Kind kind)
+{
+    switch (kind) {
+    case Kind::OpenFile:
+        return AUTOMATION_OZMFILEDIALOG_OPEN_FILE_NAME_KEY;
+    case Kind::SaveFile:
+        return AUTOMATION_OZMFILEDIALOG_SAVE_FILE_NAME_KEY;
+    case Kind::OpenFiles:
+    case Kind::Folder:
+        break;
+    }
+    return {};
+}
+
+QFileDialog::FileMode fileMode(Kind kind)
+{
+    switch (kind) {
+    case Kind::OpenFile:
+        return QFileDialog::ExistingFile;
+    case Kind::OpenFiles:
+        return QFileDialog::ExistingFiles;
+    case Kind::Folder:
+        return QFileDialog::Directory;
+    case Kind::SaveFile:
+        break;
+    }
+    return QFileDialog::AnyFile;
+}
+
+/// Gives bare names the extension of the filter, as FileDialog does.
+void addExtensions(QFileDialog *dialog)
+{
+    const auto follow = [dialog](const QString &filter) {
+        dialog->setDefaultSuffix(QFileInfo(FileDialog::fileNameWithExtension(u"name"_s, filter)).suffix());
+    };
+    QObject::connect(dialog, &QFileDialog::filterSelected, dialog, follow);
+    follow(dialog->selectedNameFilter());
+}
+
+QFileDialog *systemDialog(QWidget *parent, const Question &question, const QString &start)
+{
+    // A plain one: the toolkit draws derived dialogs itself.
+    auto *dialog = new QFileDialog(parent, question.caption, start, question.filter.toFilterString());
+    dialog->setSupportedSchemes({u"file"_s});
+    dialog->setFileMode(fileMode(question.kind));
+    if (question.kind == Kind::SaveFile) {
+        dialog->setAcceptMode(QFileDialog::AcceptSave);
+        addExtensions(dialog);
+    }
+    return dialog;
+}
+
+QFileDialog *toolkitDialog(QWidget *parent, const Question &question, const QString &start)
+{
+    auto *dialog = new FileDialog(parent, question.caption, start, question.filter.toFilterString());
+    if (question.kind == Kind::Folder)
+        dialog->setFileMode(QFileDialog::Directory);
+    dialog->setAcceptMode(question.kind == Kind::SaveFile ? QFileDialog::AcceptSave
+                                                          : QFileDialog::AcceptOpen);
+    return dialog;
+}
+
+/// The name in the box of a FileDialog may lack its extension.
+QStringList picksOf(const QFileDialog &dialog)
+{
+    const QStringList paths = dialog.selectedFiles();
+    if (dialog.acceptMode() != QFileDialog::AcceptSave || paths.isEmpty())
+        return paths;
+    return {FileDialog::fileNameWithExtension(paths.constFirst(), dialog.selectedNameFilter())};
+}
+
+/// Shows a warning that is gone with @p parent and that nobody waits for.
+void leaveWarning(QWidget *parent, const QString &title, const QString &text)
+{
+    auto *box = new QMessageBox(QMessageBox::Warning, title, text, QMessageBox::Ok, parent);
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+QString openedFile(const QString &path, const OZMFileDialog::DirLocation &dirLocation, QWidget *owner)
+{
+    bool changed = false;
+    const QString result = adjustBrukerFilenPathToFolderPath(path, &changed);
+    if (changed)
+        leaveWarning(owner, correctionTitle(), correctionText(result));
+    rememberOpened(dirLocation, folderOf(result));
+    return slashRepaired(result);
+}
+
+/// Ends @p question with the paths that were picked, none when canceled: remembers the folder, and gives what
+/// the waiting functions return.
+QStringList answerTo(const Question &question, const QStringList &picks, const QString &remembered,
+                     QWidget *owner)
+{
+    if (question.kind == Kind::OpenFiles)
+        return openedFiles(picks, remembered, question.dirLocation);
+    QString path = picks.value(0);
+    if (question.kind == Kind::OpenFile)
+        path = openedFile(path, question.dirLocation, owner);
+    else if (question.kind == Kind::Folder)
+        path = chosenFolder(path, question.dirLocation);
+    else
+        path = placeToSave(path, question.dirLocation);
+    return path.isEmpty() ? QStringList() : QStringList(path);
+}
+
+void tellLater(QObject *context, const OZMFileDialog::Answered &answered, const QStringList &paths)
+{
+    QMetaObject::invokeMethod(
+        context, [answered, paths] { answered(paths); }, Qt::QueuedConnection);
+}
+
 } // namespace
 
 bool OZMFileDialog::useOZmFileDialog()
@@ -142,8 +308,7 @@ QString OZMFileDialog::getOpenFileName(QWidget *parent, const QString &caption, 
     bool changed = false;
     result = adjustBrukerFilenPathToFolderPath(result, &changed);
     if (changed) {
-        showWarning(owner, QCoreApplication::translate("OZMFileDialog", "File path correction"),
-                    correctionText(result));
+        showWarning(owner, correctionTitle(), correctionText(result));
     }
     // Also when canceled, which forgets the folder: the next question then starts in the documents.
     rememberOpened(dirLocation, folderOf(result));
@@ -166,17 +331,8 @@ QList<QString> OZMFileDialog::getOpenFileNames(QWidget *parent, const QString &c
     _setDir(start, remembered, dirLocation);
     const auto ask = filter.containsType(msFileType()) ? &SpectrumFileDialog::getSpectrumFileList
                                                        : &RestrictedFileDialog::getOpenFileNames;
-    QList<QString> paths = ask(parent, caption, start, filter.toFilterString(), selectedFilter, options);
-    for (QString &path : paths) {
-        bool changed = false;
-        path = adjustBrukerFilenPathToFolderPath(path, &changed);
-        if (changed)
-            qCDebug(lcOzmWidgets).noquote() << correctionText(path);
-    }
-    rememberOpened(dirLocation, paths.isEmpty() ? remembered : folderOf(paths.constFirst()));
-    for (QString &path : paths)
-        path = slashRepaired(path);
-    return paths;
+    return openedFiles(ask(parent, caption, start, filter.toFilterString(), selectedFilter, options),
+                       remembered, dirLocation);
 }
 
 QString OZMFileDialog::getExistingDirectory(QWidget *parent, const QString &caption, const QString &dir,
@@ -188,10 +344,7 @@ QString OZMFileDialog::getExistingDirectory(QWidget *parent, const QString &capt
                                         : "calling native select directory dialog");
     const auto ask =
         isToolkit ? &FileDialog::getExistingDirectory : &RestrictedFileDialog::getExistingDirectory;
-    const QString result = ask(parent, caption, start, options);
-    // The parent is remembered, so the next dialog opens one level up and shows the folder.
-    remember(dirLocation, QFileInfo(result).absolutePath());
-    return slashRepaired(result);
+    return chosenFolder(ask(parent, caption, start, options), dirLocation);
 }
 
 QString OZMFileDialog::getSaveFileName(QWidget *parent, const QString &caption, const QString &dir,
@@ -202,17 +355,13 @@ QString OZMFileDialog::getSaveFileName(QWidget *parent, const QString &caption, 
     if (as::contains(AUTOMATION_OZMFILEDIALOG_SAVE_FILE_NAME_KEY))
         return automated(AUTOMATION_OZMFILEDIALOG_SAVE_FILE_NAME_KEY);
 
-    QString start = saveStart(dir, FileSystemSettings::Instance().fileLocation(dirLocation));
-    if (!fileName.isEmpty())
-        start = joinPaths(start, fileName, u'/');
+    const QString start = proposedPath(dir, fileName, dirLocation);
     const bool isToolkit = useOZmFileDialog();
     qCDebug(lcOzmWidgets) << (isToolkit ? "calling qt save dialog instead of native"
                                         : "calling native save dialog");
     const auto ask = isToolkit ? &FileDialog::getSaveFileName : &RestrictedFileDialog::getSaveFileName;
-    const QString result = ask(parent, caption, start, filter.toFilterString(), selectedFilter, options);
-    // Also when canceled, which forgets the folder.
-    remember(dirLocation, folderOf(result));
-    return slashRepaired(result);
+    return placeToSave(ask(parent, caption, start, filter.toFilterString(), selectedFilter, options),
+                       dirLocation);
 }
 
 QString OZMFileDialog::getSaveFileName(QWidget *parent, const QString &caption, const QString &dir,
@@ -226,6 +375,48 @@ QString OZMFileDialog::getSaveFileName(QWidget *parent, const QString &caption, 
                                        const FileExtensionsNameFilter &filter, DirLocation dirLocation)
 {
     return getSaveFileName(parent, caption, dir, filter, nullptr, {}, dirLocation);
+}
+
+void OZMFileDialog::ask(QWidget *parent, const Question &question, QObject *context, const Answered &answered)
+{
+    const QString key = automationKey(question.kind);
+    if (!key.isEmpty() && as::contains(key)) {
+        const QString path = automated(key);
+        tellLater(context, answered, path.isEmpty() ? QStringList() : QStringList(path));
+        return;
+    }
+    QString start = question.dir;
+    QString remembered;
+    if (opensFiles(question.kind))
+        _setDir(start, remembered, question.dirLocation);
+    else
+        start = proposedPath(start, question.kind == Kind::SaveFile ? question.fileName : QString(),
+                             question.dirLocation);
+
+    const QPointer<QWidget> owner(parent);
+    // Not under the dialog's own call: whoever is told may delete the parent.
+    const auto finish = [question, remembered, owner, context, answered](const QStringList &picks) {
+        tellLater(context, answered, answerTo(question, picks, remembered, owner));
+    };
+    if (opensFiles(question.kind) && question.filter.containsType(msFileType())) {
+        SpectrumFileDialog::openSpectrumFileList(parent, question.caption, start,
+                                                 question.filter.toFilterString(), context, finish);
+        return;
+    }
+    const bool isToolkit = question.kind != Kind::OpenFiles && useOZmFileDialog();
+    QFileDialog *dialog = (isToolkit ? toolkitDialog : systemDialog)(parent, question, start);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    const auto isTold = std::make_shared<bool>(false);
+    QObject::connect(dialog, &QDialog::finished, context, [dialog, finish, isTold](int result) {
+        *isTold = true;
+        finish(result == QDialog::Rejected ? QStringList() : picksOf(*dialog));
+    });
+    // With its parent it goes without a word.
+    QObject::connect(dialog, &QObject::destroyed, context, [finish, isTold] {
+        if (!*isTold)
+            finish({});
+    });
+    static_cast<QDialog *>(dialog)->open();
 }
 
 } // namespace ozm

@@ -50,6 +50,9 @@ public:
     /// none.
     [[nodiscard]] static QString fileNameWithExtension(const QString &fileName, const QString &filter);
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     void accept() override;
 

@@ -6,6 +6,8 @@
 
 #include <QFileDialog>
 
+#include <functional>
+
 namespace ozm {
 
 /**
@@ -65,6 +67,42 @@ public:
     [[nodiscard]] static QString getSaveFileName(QWidget *parent, const QString &caption, const QString &dir,
                                                  const FileExtensionsNameFilter &filter,
                                                  DirLocation dirLocation = {});
+
+    /// A question for ask(): what is asked for, and how its dialog begins.
+    struct Question
+    {
+        /// What is asked for.
+        enum class Kind
+        {
+            OpenFile,  ///< One file.
+            OpenFiles, ///< Any number of files.
+            Folder,    ///< A folder.
+            SaveFile,  ///< Where to save.
+        };
+
+        Kind kind = Kind::OpenFile;      ///< What is asked for.
+        QString caption;                 ///< The dialog's title; the usual one when empty.
+        QString dir;                     ///< Where the dialog starts, as in the functions above.
+        QString fileName;                ///< Proposed when saving; may be empty.
+        FileExtensionsNameFilter filter; ///< Of no use for a folder.
+        DirLocation dirLocation;         ///< The purpose, whose folder is remembered.
+    };
+    /// Called with the paths that the user chose, one unless several were asked for; empty when canceled.
+    using Answered = std::function<void(const QList<QString> &paths)>;
+
+    /**
+     * Asks without waiting: opens the dialog over @p parent and returns.
+     *
+     *     ozm::OZMFileDialog::Question question;
+     *     question.kind = ozm::OZMFileDialog::Question::Kind::SaveFile;
+     *     question.caption = tr("Export");
+     *     question.filter = filter;
+     *     ozm::OZMFileDialog::ask(this, question, this, [this](const QStringList &paths) { exportTo(paths); });
+     *
+     * @p answered is called once, from the event loop, with what the waiting function would have returned;
+     * with nothing when the parent goes meanwhile, and not at all when @p context does.
+     */
+    static void ask(QWidget *parent, const Question &question, QObject *context, const Answered &answered);
 
 private:
     static void _setDir(QString &dir, QString &remembered, const DirLocation &dirLocation);

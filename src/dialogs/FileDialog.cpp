@@ -89,7 +89,6 @@ QString FileDialog::getOpenFileName(QWidget *parent, const QString &caption, con
     dialog->setAcceptMode(QFileDialog::AcceptOpen);
     // Callers create what does not exist: any name will do.
     dialog->setFileMode(QFileDialog::AnyFile);
-    dialog->updateNotice();
     return dialog.exec() ? dialog->selectedFiles().value(0) : QString();
 }
 
@@ -101,7 +100,6 @@ QString FileDialog::getSaveFileName(QWidget *parent, const QString &caption, con
     Q_UNUSED(options);
     GuardedDialog dialog(new FileDialog(parent, caption, dir, filter));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->updateNotice();
     return dialog.exec() ? dialog->pathToSave() : QString();
 }
 
@@ -112,8 +110,14 @@ QString FileDialog::getExistingDirectory(QWidget *parent, const QString &caption
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOptions(options);
     dialog->setAcceptMode(QFileDialog::AcceptOpen);
-    dialog->updateNotice();
     return dialog.exec() ? dialog->selectedFiles().value(0) : QString();
+}
+
+void FileDialog::showEvent(QShowEvent *event)
+{
+    RestrictedFileDialog::showEvent(event);
+    // What it says depends on what the dialog was set up to ask meanwhile.
+    updateNotice();
 }
 
 void FileDialog::accept()

@@ -48,8 +48,30 @@ FileExtensionsNameFilter msFilter()
     return FileExtensionsNameFilter().add(u"MS data"_s, *FileTypes::find(u"MS"_s));
 }
 
+/// Each test is run with the functions that wait and with the one that does not.
+bool isWaiting = true;
+
+QString askWithoutWaiting(Question question, const QString &dir, const FileExtensionsNameFilter &filter)
+{
+    using Kind = OZMFileDialog::Question::Kind;
+    static const QHash<Question, Kind> kinds{{Question::OpenOne, Kind::OpenFile},
+                                             {Question::OpenSeveral, Kind::OpenFiles},
+                                             {Question::Folder, Kind::Folder},
+                                             {Question::Save, Kind::SaveFile}};
+    QObject context;
+    std::optional<QStringList> answer;
+    OZMFileDialog::ask(nullptr, {kinds[question], u"Ask"_s, dir, {}, filter, {}}, &context,
+                       [&](const QStringList &paths) { answer = paths; });
+    // Nothing is answered under the call.
+    if (answer || !QTest::qWaitFor([&] { return answer.has_value(); }))
+        return u"not answered later"_s;
+    return answer->join(u'|');
+}
+
 QString ask(Question question, const QString &dir, const FileExtensionsNameFilter &filter = kCsv)
 {
+    if (!isWaiting)
+        return askWithoutWaiting(question, dir, filter);
     const DefaultFileAccessor accessor;
     switch (question) {
     case Question::OpenOne:
@@ -116,6 +138,20 @@ class TestFileAccessor : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase_data()
+    {
+        QTest::addColumn<bool>("waits");
+
+        QTest::newRow("waiting") << true;
+        QTest::newRow("not waiting") << false;
+    }
+
+    void init()
+    {
+        QFETCH_GLOBAL(const bool, waits);
+        isWaiting = waits;
+    }
+
     void cleanup()
     {
         as::clear();
@@ -300,7 +336,7 @@ private Q_SLOTS:
                  box->accept();
              }});
         QCOMPARE(ask(Question::OpenOne, folder, FileExtensionsNameFilter(u"All (*)"_s)), folder);
-        QCOMPARE(driver.opened(), 2);
+        QTRY_COMPARE(driver.opened(), 2);
         QCOMPARE(remembered(), tree.path());
     }
 
@@ -320,6 +356,23 @@ private Q_SLOTS:
         QCOMPARE(answer, folder + u'|' + folder);
         QCOMPARE(driver.opened(), 1);
         QCOMPARE(remembered(), tree.path());
+    }
+
+    void isAnsweredOnceByParentOrContext()
+    {
+        int answers = 0;
+        const auto answered = [&](const QStringList &paths) { answers += paths.isEmpty() ? 1 : 100; };
+        const auto deleteParent = [](QDialog *dialog) { delete dialog->parent(); };
+        const DialogDriver driver({deleteParent, deleteParent, canceling()});
+        OZMFileDialog::ask(new QWidget, {}, this, answered);
+        QTRY_COMPARE(answers, 1);
+        qputenv("OZM_USE_QT_FILE_DIALOG", "1");
+        OZMFileDialog::ask(new QWidget, {}, this, answered);
+        QTRY_COMPARE(answers, 2);
+        OZMFileDialog::ask(nullptr, {}, std::make_unique<QObject>().get(), answered);
+        QTRY_COMPARE(driver.opened(), 3);
+        QCoreApplication::processEvents();
+        QCOMPARE(answers, 2);
     }
 
     void proposesAName()

@@ -114,6 +114,7 @@ struct Window : QMainWindow
     bool openAsModified(const ozm::TemplateAutosave::Rescued &);
     bool userWantsToOverwrite();
     ozm::Result<QStringList> readNames(const QString &);
+    void exportTo(const QStringList &paths);
     void showSummary(const ozm::Error &, bool);
     Run currentRun();
 
