@@ -746,6 +746,40 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::editor::ColumnDragging</name>
+    <message>
+        <source>%1 pixels</source>
+        <translation>%1 Pixel</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::ColumnWidthDialog</name>
+    <message>
+        <source>As its text needs</source>
+        <translation>So breit wie ihr Text</translation>
+    </message>
+    <message>
+        <source>Share of the table in percent</source>
+        <translation>Anteil an der Tabelle in Prozent</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>&amp;Measured as:</source>
+        <translation>&amp;Gemessen als:</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Breite:</translation>
+    </message>
+</context>
+<context>
     <name>ozm::editor::ConditionDialog</name>
     <message>
         <source>Condition</source>
@@ -782,6 +816,10 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     <message>
         <source>Not shown</source>
         <translation>Wird nicht gezeigt</translation>
+    </message>
+    <message>
+        <source>&amp;Otherwise, show another part</source>
+        <translation>&amp;Sonst einen anderen Teil zeigen</translation>
     </message>
 </context>
 <context>
@@ -1094,6 +1132,14 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
         <source>&amp;Heading on each page</source>
         <translation>Tabellen&amp;kopf auf jeder Seite</translation>
     </message>
+    <message>
+        <source>Other &amp;part of the section</source>
+        <translation>&amp;Anderer Teil des Abschnitts</translation>
+    </message>
+    <message>
+        <source>Column &amp;width…</source>
+        <translation>Spaltenb&amp;reite…</translation>
+    </message>
 </context>
 <context>
     <name>ozm::editor::EditorFiles</name>
@@ -1207,6 +1253,17 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     <message>
         <source>Change of mode</source>
         <translation>Wechsel der Ansicht</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::EditorInstructions</name>
+    <message>
+        <source>The cursor is not in a section. Select lines, and give them a condition first.</source>
+        <translation>Der Cursor steht in keinem Abschnitt. Wählen Sie Zeilen aus, und geben Sie ihnen zuerst eine Bedingung.</translation>
+    </message>
+    <message>
+        <source>The section has a text for no rows already.</source>
+        <translation>Der Abschnitt hat schon einen Text für den Fall, dass es keine Zeilen gibt.</translation>
     </message>
 </context>
 <context>
@@ -1858,6 +1915,17 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     <message>
         <source>The first row is the &amp;heading, on each page</source>
         <translation>Die erste Zeile ist der Tabellen&amp;kopf, auf jeder Seite</translation>
+    </message>
+    <message numerus="yes">
+        <source>Width of %n column(s)</source>
+        <translation>
+            <numerusform>Breite von %n Spalte</numerusform>
+            <numerusform>Breite von %n Spalten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Width of column %1</source>
+        <translation>Breite der Spalte %1</translation>
     </message>
 </context>
 <context>

@@ -11,4 +11,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>ozm::editor::TableEditing</name>
+    <message numerus="yes">
+        <source>Width of %n column(s)</source>
+        <translation>
+            <numerusform>Width of %n column</numerusform>
+            <numerusform>Widths of %n columns</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -746,6 +746,40 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::editor::ColumnDragging</name>
+    <message>
+        <source>%1 pixels</source>
+        <translation>%1 pixels</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#x202f;%</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::ColumnWidthDialog</name>
+    <message>
+        <source>As its text needs</source>
+        <translation>Selon son texte</translation>
+    </message>
+    <message>
+        <source>Share of the table in percent</source>
+        <translation>Part du tableau en pour cent</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixels</translation>
+    </message>
+    <message>
+        <source>&amp;Measured as:</source>
+        <translation>&amp;Mesurée en&#x202f;:</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Largeur&#x202f;:</translation>
+    </message>
+</context>
+<context>
     <name>ozm::editor::ConditionDialog</name>
     <message>
         <source>Condition</source>
@@ -782,6 +816,10 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
     <message>
         <source>Not shown</source>
         <translation>Non affiché</translation>
+    </message>
+    <message>
+        <source>&amp;Otherwise, show another part</source>
+        <translation>Sinon, montrer une &amp;autre partie</translation>
     </message>
 </context>
 <context>
@@ -1094,6 +1132,14 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
         <source>&amp;Heading on each page</source>
         <translation>En-&amp;tête sur chaque page</translation>
     </message>
+    <message>
+        <source>Other &amp;part of the section</source>
+        <translation>&amp;Autre partie de la section</translation>
+    </message>
+    <message>
+        <source>Column &amp;width…</source>
+        <translation>Large&amp;ur de la colonne…</translation>
+    </message>
 </context>
 <context>
     <name>ozm::editor::EditorFiles</name>
@@ -1207,6 +1253,17 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
     <message>
         <source>Change of mode</source>
         <translation>Changement de mode</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::EditorInstructions</name>
+    <message>
+        <source>The cursor is not in a section. Select lines, and give them a condition first.</source>
+        <translation>Le curseur n’est pas dans une section. Sélectionnez des lignes et donnez-leur d’abord une condition.</translation>
+    </message>
+    <message>
+        <source>The section has a text for no rows already.</source>
+        <translation>La section a déjà un texte pour le cas où il n’y a aucune ligne.</translation>
     </message>
 </context>
 <context>
@@ -1858,6 +1915,17 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
     <message>
         <source>The first row is the &amp;heading, on each page</source>
         <translation>La première ligne est l’en-&amp;tête, sur chaque page</translation>
+    </message>
+    <message numerus="yes">
+        <source>Width of %n column(s)</source>
+        <translation>
+            <numerusform>Largeur de %n colonne</numerusform>
+            <numerusform>Largeur de %n colonnes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Width of column %1</source>
+        <translation>Largeur de la colonne %1</translation>
     </message>
 </context>
 <context>

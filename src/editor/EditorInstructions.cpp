@@ -8,6 +8,8 @@
 
 #include "support/Platform.h"
 
+#include <QTextBlock>
+
 using namespace Qt::StringLiterals;
 
 namespace ozm::editor {
@@ -16,6 +18,7 @@ namespace {
 
 using instructions::CodeFormat;
 using instructions::Condition;
+using instructions::Else;
 using instructions::End;
 using instructions::Extent;
 using instructions::Instruction;
@@ -88,9 +91,17 @@ void EditorInstructions::askPage()
 
 bool EditorInstructions::editAtCursor()
 {
-    const auto present = atCursor();
+    auto present = atCursor();
     if (!present || m_views.isReadOnly())
         return false;
+    if (std::holds_alternative<Else>(*present) || std::holds_alternative<End>(*present)) {
+        // They say nothing themselves: the section does.
+        const auto whole = section();
+        if (!whole)
+            return true;
+        m_views.current().setCursor(cursorAt(whole->begin.start));
+        present = whole->begin.instruction;
+    }
     if (const auto *repeat = std::get_if<Repeat>(&*present))
         ask(*repeat, false);
     else if (const auto *condition = std::get_if<Condition>(&*present))
@@ -100,6 +111,45 @@ bool EditorInstructions::editAtCursor()
     else if (const auto *page = std::get_if<Page>(&*present))
         ask(*page, false);
     return true;
+}
+
+std::optional<SectionPlaces> EditorInstructions::section() const
+{
+    const EditorView &view = m_views.current();
+    return sectionAround(view.instructionMarks(), view.cursor().selectionStart());
+}
+
+/// On the line below, where @p mark has one of its own.
+QTextCursor EditorInstructions::behind(const InstructionMark &mark) const
+{
+    QTextCursor cursor = cursorAt(mark.end);
+    const QString rest = cursor.block().text().sliced(cursor.positionInBlock()).trimmed();
+    if (rest.isEmpty() || rest.startsWith("</"_L1))
+        cursor.movePosition(QTextCursor::NextBlock);
+    return cursor;
+}
+
+QTextCursor EditorInstructions::cursorAt(int position) const
+{
+    QTextCursor cursor = m_views.current().cursor();
+    cursor.setPosition(position);
+    return cursor;
+}
+
+void EditorInstructions::addOtherPart()
+{
+    EditorView &view = m_views.current();
+    const auto whole = section();
+    const auto *repeat = whole ? std::get_if<Repeat>(&whole->begin.instruction) : nullptr;
+    if (!whole)
+        Q_EMIT told(tr("The cursor is not in a section. Select lines, and give them a condition first."));
+    else if (repeat && !repeat->empty.isEmpty())
+        Q_EMIT told(tr("The section has a text for no rows already."));
+    else if (whole->otherwise)
+        view.setCursor(behind(*whole->otherwise));
+    else
+        view.insertOtherPart(whole->end, sourceOf(Else()));
+    view.widget()->setFocus();
 }
 
 InstructionChoices EditorInstructions::choices(bool isNew) const
@@ -139,9 +189,16 @@ void EditorInstructions::ask(const Repeat &repeat, bool isNew)
 
 void EditorInstructions::ask(const Condition &condition, bool isNew)
 {
-    ConditionDialog dialog(condition, choices(isNew), m_window);
-    if (dialog.exec() == QDialog::Accepted)
-        write(dialog.condition(), dialog.condition().extent, isNew);
+    const auto whole = isNew ? std::nullopt : section();
+    ConditionDialog dialog(condition, choices(isNew), whole && whole->otherwise, m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    QTextCursor step = m_views.current().cursor();
+    step.beginEditBlock();
+    write(dialog.condition(), dialog.condition().extent, isNew);
+    if (dialog.addsOtherPart())
+        addOtherPart();
+    step.endEditBlock();
 }
 
 void EditorInstructions::ask(const CodeFormat &format, bool isNew)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/InstructionDialogs.h"
+#include "editor/SectionPlaces.h"
 
 #include <ozm_widgets/TemplateDiagnostics.h>
 
@@ -34,8 +35,13 @@ public:
     void askCondition();
     void askFormat();
     void askPage();
+    /// Gives the section around the cursor its other part, or goes to that.
+    void addOtherPart();
     /// False when there is no instruction at the cursor.
     bool editAtCursor();
+
+Q_SIGNALS:
+    void told(const QString &text);
 
 private:
     [[nodiscard]] InstructionChoices choices(bool isNew) const;
@@ -45,6 +51,9 @@ private:
     void ask(const instructions::CodeFormat &format, bool isNew);
     void ask(const instructions::Page &page, bool isNew);
     void write(const instructions::Instruction &instruction, instructions::Extent extent, bool isNew);
+    [[nodiscard]] std::optional<SectionPlaces> section() const;
+    [[nodiscard]] QTextCursor cursorAt(int position) const;
+    [[nodiscard]] QTextCursor behind(const InstructionMark &mark) const;
 
     EditorViews &m_views;
     const CodeModel &m_codes;

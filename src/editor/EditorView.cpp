@@ -51,6 +51,35 @@ syntax::ScriptRange codeAround(const QString &source, qsizetype position)
     return {};
 }
 
+/// The line that holds a mark and nothing else, or the mark itself.
+struct SourceLine
+{
+    qsizetype start;
+    qsizetype end;
+    bool isAlone;
+};
+
+SourceLine lineOfMark(const QString &source, qsizetype start, qsizetype end)
+{
+    static const QRegularExpression open(u"<(p|div|h[1-6])(?:\\s[^<>]*)?>\\s*$"_s,
+                                         QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch tag = open.match(source.first(start));
+    const QRegularExpression close(u"^\\s*</%1\\s*>"_s.arg(tag.captured(1)),
+                                   QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch endTag = close.match(source.sliced(end));
+    if (tag.hasMatch() && endTag.hasMatch())
+        return {tag.capturedStart(), end + endTag.capturedEnd(), true};
+    const qsizetype lineStart = source.lastIndexOf(u'\n', start - 1) + 1;
+    const qsizetype lineEnd = source.indexOf(u'\n', end);
+    const bool isAlone =
+        (start == 0 || QStringView(source).sliced(lineStart, start - lineStart).trimmed().isEmpty()) &&
+        QStringView(source)
+            .sliced(end, lineEnd < 0 ? source.size() - end : lineEnd - end)
+            .trimmed()
+            .isEmpty();
+    return {start, end, isAlone};
+}
+
 } // namespace
 
 QWidget *FormattedView::widget() const
@@ -158,6 +187,28 @@ void FormattedView::enclose(const QString &begin, const QString &end)
 void FormattedView::insertFirstLine(const QString &source)
 {
     m_view->insertFirstLine(source);
+}
+
+QList<InstructionMark> FormattedView::instructionMarks() const
+{
+    const TemplateDocument *document = m_view->templateDocument();
+    QList<InstructionMark> marks;
+    const auto next = [document](const QTextCursor &from) {
+        return document->find(QString(QChar::ObjectReplacementCharacter), from);
+    };
+    for (QTextCursor chip = next(QTextCursor(m_view->document())); !chip.isNull(); chip = next(chip)) {
+        const QString source = document->chipAt(chip.selectionStart()).source;
+        if (!instructions::isInstructionComment(source))
+            continue;
+        if (const auto instruction = instructions::readInstruction(source))
+            marks.append({chip.selectionStart(), chip.selectionEnd(), *instruction});
+    }
+    return marks;
+}
+
+void FormattedView::insertOtherPart(const InstructionMark &end, const QString &source)
+{
+    m_view->insertOtherPart(end.start, source);
 }
 
 bool FormattedView::isInRow() const
@@ -287,6 +338,36 @@ void SourceView::insertFirstLine(const QString &source)
 {
     QTextCursor start(m_view->document());
     start.insertText(source + u'\n');
+}
+
+QList<InstructionMark> SourceView::instructionMarks() const
+{
+    const QString source = m_view->toPlainText();
+    QList<InstructionMark> marks;
+    for (const HtmlToken &token : scanHtml(source)) {
+        if (token.kind != HtmlTokenKind::Opaque)
+            continue;
+        if (const auto instruction =
+                instructions::readInstruction(source.sliced(token.start, token.end - token.start)))
+            marks.append({int(token.start), int(token.end), *instruction});
+    }
+    return marks;
+}
+
+void SourceView::insertOtherPart(const InstructionMark &end, const QString &source)
+{
+    const QString content = m_view->toPlainText();
+    const SourceLine line = lineOfMark(content, end.start, end.end);
+    QTextCursor place = cursor();
+    place.beginEditBlock();
+    place.setPosition(int(line.start));
+    const QString tag = content.sliced(line.start, end.start - line.start);
+    const QString close = content.sliced(end.end, line.end - end.end);
+    place.insertText(tag + source + close + (line.isAlone ? u"\n\n"_s : QString()));
+    if (line.isAlone)
+        place.movePosition(QTextCursor::PreviousCharacter);
+    place.endEditBlock();
+    setCursor(place);
 }
 
 bool SourceView::isInRow() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "editor/SectionPlaces.h"
+
 #include <QTextCursor>
 
 class QWidget;
@@ -51,6 +53,11 @@ public:
     virtual void enclose(const QString &begin, const QString &end) = 0;
     /// Puts @p source into a line of its own at the beginning; the cursor stays at its place.
     virtual void insertFirstLine(const QString &source) = 0;
+    /// The instructions in comments, in their order.
+    [[nodiscard]] virtual QList<InstructionMark> instructionMarks() const = 0;
+    /// Begins the other part of the section that @p end ends with @p source, right before that, and puts the cursor
+    /// into it. Where @p end has a line of its own, so has @p source, with an empty line for the part.
+    virtual void insertOtherPart(const InstructionMark &end, const QString &source) = 0;
     /// True when the cursor may stand in a table row or list item.
     [[nodiscard]] virtual bool isInRow() const = 0;
     /// The @p source that was just inserted before the cursor, as a selection.
@@ -84,6 +91,8 @@ public:
     void setPartSource(const QTextCursor &part, const QString &source) override;
     void enclose(const QString &begin, const QString &end) override;
     void insertFirstLine(const QString &source) override;
+    [[nodiscard]] QList<InstructionMark> instructionMarks() const override;
+    void insertOtherPart(const InstructionMark &end, const QString &source) override;
     [[nodiscard]] bool isInRow() const override;
     [[nodiscard]] QTextCursor insertedBeforeCursor(const QString &source) const override;
 
@@ -118,6 +127,8 @@ public:
     void setPartSource(const QTextCursor &part, const QString &source) override;
     void enclose(const QString &begin, const QString &end) override;
     void insertFirstLine(const QString &source) override;
+    [[nodiscard]] QList<InstructionMark> instructionMarks() const override;
+    void insertOtherPart(const InstructionMark &end, const QString &source) override;
     [[nodiscard]] bool isInRow() const override;
     [[nodiscard]] QTextCursor insertedBeforeCursor(const QString &source) const override;
 

@@ -183,8 +183,9 @@ Repeat RepeatDialog::repeat() const
 }
 
 ConditionDialog::ConditionDialog(const Condition &condition, const InstructionChoices &choices,
-                                 QWidget *parent)
+                                 bool hasOtherPart, QWidget *parent)
     : InstructionDialog("conditionDialog", tr("Condition"), choices, parent)
+    , m_hasOtherPart(hasOtherPart)
 {
     addExtent(tr("Show:"), condition.extent);
     m_code = addCode("conditionCode", tr("&If the code:"), condition.code);
@@ -194,8 +195,12 @@ ConditionDialog::ConditionDialog(const Condition &condition, const InstructionCh
     m_test->setCurrentIndex(m_test->findData(int(condition.test)));
     form()->addRow(tr("&Test:"), m_test);
     m_value = addLine("conditionValue", tr("&Value:"), condition.value);
+    m_other = named(new QCheckBox(tr("&Otherwise, show another part"), this), "conditionOther");
+    m_other->setChecked(hasOtherPart);
+    form()->addRow(QString(), m_other);
     m_sample = addSample("conditionSample", tr("Preview:"));
     addButtons();
+    connect(rowChoice(), &QRadioButton::toggled, this, &ConditionDialog::update);
     connect(m_code, &QComboBox::currentTextChanged, this, &ConditionDialog::update);
     connect(m_test, &QComboBox::currentIndexChanged, this, &ConditionDialog::update);
     connect(m_value, &QLineEdit::textChanged, this, &ConditionDialog::update);
@@ -208,9 +213,16 @@ Condition ConditionDialog::condition() const
     return {extent(), m_code->currentText().trimmed(), test, hasValue(test) ? m_value->text() : QString()};
 }
 
+bool ConditionDialog::addsOtherPart() const
+{
+    return m_other->isEnabled() && m_other->isChecked();
+}
+
 void ConditionDialog::update()
 {
     Condition condition = this->condition();
+    // A row has none, and one that is there goes with its line in the template.
+    m_other->setEnabled(!m_hasOtherPart && condition.extent == Extent::Section);
     m_value->setEnabled(hasValue(condition.test));
     const bool isWhole = !condition.code.isEmpty() && m_value->isEnabled() == !condition.value.isEmpty();
     setAcceptable(isWhole);

@@ -43,6 +43,7 @@ protected:
     /// Adds a choice between the row around the cursor and the selected lines.
     void addExtent(const QString &label, instructions::Extent extent);
     [[nodiscard]] instructions::Extent extent() const;
+    [[nodiscard]] QRadioButton *rowChoice() const { return m_row; }
     /// Adds a field for the name of a code. Without one, the dialog cannot be accepted; @p none is shown then.
     [[nodiscard]] QComboBox *addCode(const char *name, const QString &label, const QString &code);
     [[nodiscard]] QComboBox *addList(const char *name, const QString &label, const QString &list);
@@ -92,10 +93,13 @@ class ConditionDialog : public InstructionDialog
     Q_OBJECT
 
 public:
+    /// With @p hasOtherPart, the section has the part already that is shown where the condition does not hold.
     ConditionDialog(const instructions::Condition &condition, const InstructionChoices &choices,
-                    QWidget *parent);
+                    bool hasOtherPart, QWidget *parent);
 
     [[nodiscard]] instructions::Condition condition() const;
+    /// True when the section shall get its other part.
+    [[nodiscard]] bool addsOtherPart() const;
 
 private:
     void update();
@@ -103,6 +107,8 @@ private:
     QComboBox *m_code;
     QComboBox *m_test;
     QLineEdit *m_value;
+    QCheckBox *m_other;
+    const bool m_hasOtherPart;
     QLabel *m_sample;
 };
 

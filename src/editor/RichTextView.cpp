@@ -175,7 +175,8 @@ void RichTextView::insertLine(const QTextBlock &block, bool isBehind, const QStr
         cursor.setBlockCharFormat(QTextCharFormat());
         cursor.setCharFormat(QTextCharFormat());
     }
-    templateDocument()->insertSource(cursor, source);
+    if (!source.isEmpty())
+        templateDocument()->insertSource(cursor, source);
 }
 
 void RichTextView::insertFirstLine(const QString &source)
@@ -228,6 +229,26 @@ void RichTextView::enclose(const QString &begin, const QString &end)
     insertLine(document()->findBlock(last), !isBeforeLast, end);
     insertLine(document()->findBlock(first), isBehindFirst, begin);
     cursor.endEditBlock();
+}
+
+void RichTextView::insertOtherPart(int position, const QString &source)
+{
+    if (isReadOnly())
+        return;
+    QTextCursor cursor(document());
+    cursor.setPosition(position);
+    cursor.beginEditBlock();
+    if (const QTextBlock line = cursor.block(); line.length() == 2 && !line.textList()) {
+        insertLine(line, false, source);
+        // A line is the chip and its end.
+        insertLine(document()->findBlock(position + 2), false, {});
+        cursor.setPosition(position + 2);
+    } else {
+        templateDocument()->insertSource(cursor, source);
+    }
+    cursor.endEditBlock();
+    setTextCursor(cursor);
+    ensureCursorVisible();
 }
 
 void RichTextView::mergeFormat(const QTextCharFormat &format)

@@ -41,6 +41,9 @@ public:
     /// Puts @p begin and @p end into lines of their own around the selected ones, or around the tables that the
     /// selection begins or ends in.
     void enclose(const QString &begin, const QString &end);
+    /// Puts @p source before the chip at @p position and the cursor behind it; into a line of its own, with an empty
+    /// one behind it for the cursor, where the chip has its own, too.
+    void insertOtherPart(int position, const QString &source);
     /// Puts @p source into a line of its own before all others.
     void insertFirstLine(const QString &source);
     /// Merges, as chips would not outlive a format that is set.
@@ -71,6 +74,7 @@ private:
     void leaveHeading();
     void closeCode();
     void replace(QTextCursor cursor, const QString &code);
+    /// An empty @p source makes an empty line.
     void insertLine(const QTextBlock &block, bool isBehind, const QString &source);
 
     CodeModel *m_codes;

@@ -229,6 +229,7 @@ void AbstractTemplateEditor::Private::connectParts()
         m_views.current().widget()->setFocus();
     });
     connect(m_scripts.get(), &EditorScripts::told, this, &Private::tell);
+    connect(m_instructions.get(), &EditorInstructions::told, this, &Private::tell);
     connect(&m_questions, &EditorQuestions::told, this, &Private::tell);
     connect(&m_files, &EditorFiles::pathChanged, this, [this] {
         updateTitle();

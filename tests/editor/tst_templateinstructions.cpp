@@ -4,6 +4,7 @@
 #include <ozm_widgets/ReportView.h>
 #include <ozm_widgets/TemplateDocument.h>
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -84,10 +85,12 @@ private Q_SLOTS:
                  choose(dialog, "conditionTest", u"is equal to"_s);
                  field<QLineEdit>(dialog, "conditionValue")->setText(u"B-\"1\""_s);
                  QCOMPARE(field<QLabel>(dialog, "conditionSample")->text(), u"Not shown"_s);
+                 field<QCheckBox>(dialog, "conditionOther")->setChecked(true);
                  dialog->accept();
              },
              [](QDialog *dialog) {
                  QVERIFY(!field<QRadioButton>(dialog, "extentRow")->isEnabled());
+                 QVERIFY(!field<QCheckBox>(dialog, "conditionOther")->isEnabled());
                  QCOMPARE(field<QLineEdit>(dialog, "conditionValue")->text(), u"B-\"1\""_s);
                  field<QLineEdit>(dialog, "conditionValue")->setText(u"A-7"_s);
                  dialog->accept();
@@ -97,8 +100,11 @@ private Q_SLOTS:
         fixture.trigger("codeFormatAction");
         place(fixture, isRich, u"Lot"_s, 0);
         fixture.trigger("conditionAction");
+        type(fixture, isRich, u"Another lot"_s);
+        fixture.trigger("otherPartAction"); // goes to the one that is there
+        type(fixture, isRich, u"!"_s);
         if (isRich)
-            place(fixture, isRich, u"Lot"_s, -2);
+            place(fixture, isRich, u"Another"_s, -3); // at the mark of the other part
         else
             place(fixture, isRich, u"B-"_s, 0);
         fixture.trigger("editScriptAction");
@@ -113,8 +119,12 @@ private Q_SLOTS:
              u"<!--ozm:if code=\"Lot\" is=\"equal\" value=\"A-7\"-->"_s,
              u"<p class=\"small\">Lot [Lot]</p>"_s, u"<!--ozm:end-->"_s})
             QVERIFY2(written.contains(part), qPrintable(part + u"\n in \n"_s + written));
+        static const QRegularExpression section(u"ozm:if .*Lot \\[Lot\\].*ozm:else-.*!Another lot.*ozm:end"_s,
+                                                QRegularExpression::DotMatchesEverythingOption);
+        QVERIFY2(written.contains(section), qPrintable(written));
         auto *preview = fixture.child<ozm::ReportView>("previewPages");
         QTRY_VERIFY(preview->toPlainText().contains(u"Lot A-7"_s));
+        QVERIFY(!preview->toPlainText().contains(u"Another"_s));
         QVERIFY(fixture.child<QLabel>("previewCount")->text().contains(u"Everything"_s));
 
         for (const char *mode : {"plainModeAction", "richModeAction", "plainModeAction"})
@@ -175,6 +185,14 @@ private Q_SLOTS:
     }
 
 private:
+    static void type(const EditorFixture &fixture, bool isRich, const QString &text)
+    {
+        if (isRich)
+            fixture.child<QTextEdit>("richView")->insertPlainText(text);
+        else
+            fixture.child<QPlainTextEdit>("plainView")->insertPlainText(text);
+    }
+
     /// Sets the cursor @p by characters behind the beginning of @p text, which is looked for from the end.
     static void place(const EditorFixture &fixture, bool isRich, const QString &text, int by)
     {
