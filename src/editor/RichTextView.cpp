@@ -2,6 +2,7 @@
 
 #include "editor/CodeCompleter.h"
 #include "editor/CodeModel.h"
+#include "editor/ColumnDragging.h"
 #include "editor/EditorKeys.h"
 #include "editor/ForeignPage.h"
 #include "editor/TableEditing.h"
@@ -96,6 +97,7 @@ RichTextView::RichTextView(CodeModel *codes, QWidget *parent)
     setAcceptRichText(true);
     setPaperColors(this);
     setDocument(m_nothing);
+    new ColumnDragging(this);
 }
 
 void RichTextView::showDocument(TemplateDocument *document)

@@ -1,5 +1,7 @@
 #include "editor/TableEditing.h"
 
+#include "editor/ColumnWidthDialog.h"
+#include "editor/ColumnWidths.h"
 #include "editor/RichTextView.h"
 
 #include <QCheckBox>
@@ -11,6 +13,8 @@
 #include <QTextList>
 #include <QTextTable>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace ozm::editor {
@@ -20,6 +24,7 @@ namespace {
 constexpr int kMostRows = 500;
 constexpr int kMostColumns = 50;
 constexpr int kPadding = 4;
+constexpr double kAllColumns = 100; // in percent
 
 QSpinBox *makeCount(const char *name, int value, int most, const QString &text, QFormLayout *form)
 {
@@ -29,6 +34,14 @@ QSpinBox *makeCount(const char *name, int value, int most, const QString &text, 
     count->setValue(value);
     form->addRow(text, count);
     return count;
+}
+
+void addButtons(QDialog &dialog, QFormLayout &form)
+{
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    form.addRow(buttons);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
 }
 
 /// True for an empty line that has a line of text right before it.
@@ -127,10 +140,7 @@ void TableEditing::askInsert()
     auto *heading = new QCheckBox(tr("The first row is the &heading, on each page"), &dialog);
     heading->setObjectName(u"tableHeading"_s);
     form->addRow(heading);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
-    form->addRow(buttons);
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    addButtons(dialog, *form);
     if (dialog.exec() == QDialog::Accepted)
         insert(rows->value(), columns->value(), heading->isChecked());
 }
@@ -223,10 +233,14 @@ void TableEditing::insertRow(Side side)
 
 void TableEditing::insertColumn(Side side)
 {
-    if (const Range cells = selected(); cells.table)
+    const Range cells = selected();
+    if (!cells.table)
+        return;
+    changeColumns(*cells.table, [&] {
         insertBeside(side, [&](bool isBefore) {
             cells.table->insertColumns(isBefore ? cells.column : cells.column + cells.columns, 1);
         });
+    });
 }
 
 void TableEditing::insertBeside(Side side, const std::function<void(bool isBefore)> &insertCells)
@@ -258,8 +272,42 @@ void TableEditing::removeColumns()
     if (!cells.table)
         return;
     const Range whole{cells.table, 0, cells.table->rows(), cells.column, cells.columns};
-    if (mayRemove(whole))
+    if (!mayRemove(whole))
+        return;
+    if (cells.columns == cells.table->columns())
         cells.table->removeColumns(cells.column, cells.columns);
+    else
+        changeColumns(*cells.table, [&] { cells.table->removeColumns(cells.column, cells.columns); });
+}
+
+void TableEditing::changeColumns(QTextTable &table, const std::function<void()> &change)
+{
+    QTextCursor step = m_view->textCursor();
+    step.beginEditBlock();
+    const double share = shareOf(table);
+    change();
+    keepShare(table, share);
+    step.endEditBlock();
+}
+
+void TableEditing::askColumnWidth()
+{
+    const Range cells = selected();
+    if (!cells.table)
+        return;
+    QList<QTextLength> lengths = cells.table->format().columnWidthConstraints();
+    lengths.resize(cells.table->columns());
+    const QTextLength now = lengths.at(cells.column);
+    const ColumnEdges edges = columnEdges(*cells.table);
+    const double share = edges.isEmpty() ? kAllColumns / cells.table->columns()
+                                         : columnLengths(*cells.table, edges).at(cells.column).rawValue();
+    ColumnWidthDialog dialog(now, share, m_view->window());
+    dialog.setWindowTitle(cells.columns > 1 ? tr("Width of %n column(s)", nullptr, cells.columns)
+                                            : tr("Width of column %1").arg(cells.column + 1));
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    std::fill_n(lengths.begin() + cells.column, cells.columns, dialog.length());
+    setColumnLengths(*cells.table, lengths);
 }
 
 void TableEditing::mergeCells()

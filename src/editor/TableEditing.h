@@ -43,6 +43,8 @@ public:
     void insertColumn(Side side);
     void removeRows();
     void removeColumns();
+    /// Asks for the width of the columns of the cursor.
+    void askColumnWidth();
     void mergeCells();
     void splitCell();
 
@@ -59,6 +61,8 @@ private:
     [[nodiscard]] bool mayRemove(const Range &cells) const;
     void showAsHeading(QTextTable &table, int row, bool on) const;
     void insertBeside(Side side, const std::function<void(bool isBefore)> &insertCells);
+    /// Columns that come or go leave the table as wide as it is.
+    void changeColumns(QTextTable &table, const std::function<void()> &change);
 
     RichTextView *m_view;
 };

@@ -9,6 +9,7 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocumentFragment>
+#include <QTextTable>
 
 #include <QPainter>
 
@@ -107,6 +108,7 @@ public:
         Join,
         Format,
         Align,
+        Widths,
     };
 
     explicit Edits(quint32 seed)
@@ -115,7 +117,7 @@ public:
 
     Kind apply(ozm::TemplateDocument &document)
     {
-        const auto kind = Kind(m_random.bounded(7));
+        const auto kind = Kind(m_random.bounded(8));
         QTextCursor cursor(&document);
         for (int tries = 0; tries == 0 || (tries < 50 && !isOfTheSource(cursor.block())); ++tries)
             cursor.setPosition(m_random.bounded(document.characterCount()));
@@ -145,9 +147,11 @@ public:
             cursor.mergeCharFormat(bold());
             break;
         case Kind::Align:
-            QTextBlockFormat right;
-            right.setAlignment(Qt::AlignRight);
-            cursor.mergeBlockFormat(right);
+            cursor.mergeBlockFormat(right());
+            break;
+        case Kind::Widths:
+            if (QTextTable *table = cursor.currentTable())
+                setWidths(*table);
         }
         return kind;
     }
@@ -194,6 +198,23 @@ private:
         QTextCharFormat format;
         format.setFontWeight(QFont::Bold);
         return format;
+    }
+
+    static QTextBlockFormat right()
+    {
+        QTextBlockFormat format;
+        format.setAlignment(Qt::AlignRight);
+        return format;
+    }
+
+    void setWidths(QTextTable &table)
+    {
+        QTextTableFormat format = table.format();
+        QList<QTextLength> widths(table.columns());
+        for (QTextLength &width : widths)
+            width = QTextLength(QTextLength::Type(m_random.bounded(3)), m_random.bounded(1, 90));
+        format.setColumnWidthConstraints(widths);
+        table.setFormat(format);
     }
 
     // An empty line at the edge of a table is the document's own.

@@ -3,11 +3,15 @@
 
 #include <ozm_widgets/TemplateDocument.h>
 
+#include <QAbstractTextDocumentLayout>
 #include <QClipboard>
+#include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QStandardPaths>
+#include <QTextBlock>
 #include <QTextTable>
 
 using namespace Qt::StringLiterals;
@@ -251,6 +255,66 @@ private Q_SLOTS:
         f.trigger("plainModeAction");
         f.trigger("richModeAction");
         QCOMPARE(f.content(), source);
+    }
+
+    // Only the widths change in the source, in one step; Esc changes nothing.
+    void columnsAreDragged()
+    {
+        EditorFixture f;
+        const QString source =
+            u"<p>before</p>\n<table class='list' border=1 width=\"100%\"><tr><th colspan=2>Both</th></tr>\n"
+            "<tr><td@ style='padding:3px' class=a>left</td><td align=right>right</td></tr></table><p>[Lot]</p>"_s;
+        const QString before = QString(source).remove(u'@');
+        f.setContent(before);
+        auto *rich = f.child<QTextEdit>("richView");
+        QWidget *area = rich->viewport();
+        const auto border = [&] {
+            const QTextDocument &document = *rich->document();
+            const QRectF cell =
+                document.documentLayout()->blockBoundingRect(document.find(u"right"_s).block());
+            return QPoint(int(cell.left()) - 3, int(cell.center().y()));
+        };
+        const auto drag = [&](int by, bool cancels) {
+            const QPoint from = border();
+            QTest::mouseMove(area, from + QPoint(40, 0));
+            QCOMPARE(area->cursor().shape(), Qt::IBeamCursor);
+            QTest::mouseMove(area, from);
+            QCOMPARE(area->cursor().shape(), Qt::SplitHCursor);
+            QTest::mousePress(area, Qt::LeftButton, {}, from);
+            QTest::mouseMove(area, from + QPoint(by, 0));
+            QVERIFY(f.child<QWidget>("columnLine")->isVisible());
+            if (cancels)
+                QTest::keyClick(rich, Qt::Key_Escape);
+            QTest::mouseRelease(area, Qt::LeftButton, {}, from + QPoint(by, 0));
+            QVERIFY(!f.child<QWidget>("columnLine")->isVisible());
+        };
+        drag(80, true);
+        QCOMPARE(f.content(), before);
+        const int left = border().x();
+        drag(80, false);
+        QVERIFY(qAbs(border().x() - left - 80) <= 2);
+        const QString dragged = f.content();
+        drag(-120, false);
+        QVERIFY(qAbs(border().x() - left + 40) <= 2);
+        f.trigger("undoAction");
+        QCOMPARE(f.content(), dragged);
+        for (const char *mode : {"plainModeAction", "richModeAction"})
+            f.trigger(mode);
+        QCOMPARE(f.content(), dragged);
+        QVERIFY(qAbs(border().x() - left - 80) <= 2);
+        for (int step = 0; step < 3; ++step)
+            f.trigger("undoAction");
+        QCOMPARE(f.content(), before);
+
+        rich->setTextCursor(rich->document()->find(u"left"_s));
+        DialogDriver driver({[](QDialog *dialog) {
+            auto *unit = dialog->findChild<QComboBox *>(u"columnUnit"_s);
+            unit->setCurrentIndex(unit->findData(int(QTextLength::PercentageLength)));
+            dialog->findChild<QDoubleSpinBox *>(u"columnWidth"_s)->setValue(12.5);
+            dialog->accept();
+        }});
+        f.trigger("columnWidthAction");
+        QCOMPARE(f.content(), QString(source).replace(u'@', u" width=\"12.5%\""_s));
     }
 
     void imagesAndLinksAreInserted()

@@ -183,7 +183,7 @@ private:
             m_linesNow[run] = index;
     }
 
-    [[nodiscard]] bool isSameSkeleton() const
+    bool isSameSkeleton()
     {
         QSet<int> runsNow;
         QSet<int> runsBefore;
@@ -208,7 +208,46 @@ private:
             if (isRun)
                 step = QString::number(run - m_section.firstRun);
         }
-        return now == before;
+        return now == before || patchWidths(before, now);
+    }
+
+    static bool isCellTag(const QString &step)
+    {
+        return step.startsWith("<td"_L1) || (step.startsWith("<th"_L1) && !step.startsWith("<thead"_L1));
+    }
+
+    /// Writes other widths into the tags of cells; false where more than these changed.
+    bool patchWidths(const QStringList &before, const QStringList &now)
+    {
+        QList<SourceRange> tags;
+        for (const HtmlToken &token : scanHtml(m_text)) {
+            const bool isCell = token.name == "td"_L1 || token.name == "th"_L1;
+            if (token.kind == HtmlTokenKind::StartTag && isCell && !isInPart(token.start))
+                tags.append({token.start, token.end});
+        }
+        if (before.size() != now.size() || tags.size() != std::ranges::count_if(before, isCellTag))
+            return false;
+        qsizetype cell = 0;
+        for (qsizetype step = 0; step < now.size(); ++step) {
+            const bool isCell = isCellTag(before.at(step));
+            const SourceRange tag = isCell ? tags.at(cell++) : SourceRange{};
+            if (now.at(step) == before.at(step))
+                continue;
+            if (!isCell || withoutWidth(now.at(step)) != withoutWidth(before.at(step)))
+                return false;
+            m_widths.append({tag.start, tag.end,
+                             withWidthOf(slice(m_text, tag.start, tag.end).toString(), now.at(step))});
+        }
+        return true;
+    }
+
+    /// True in a part of the section that is shown as a whole.
+    [[nodiscard]] bool isInPart(qsizetype position) const
+    {
+        const qsizetype place = m_kept.m_around.size() + position;
+        return std::ranges::any_of(m_split.places, [place](const PartPlace &part) {
+            return part.start <= place && place < part.end;
+        });
     }
 
     bool patchRun(int run)
@@ -375,6 +414,7 @@ private:
 
     std::optional<QString> applied()
     {
+        m_replacements += m_widths;
         std::ranges::stable_sort(m_replacements, {}, &Replacement::start);
         QString result;
         qsizetype at = 0;
@@ -409,6 +449,7 @@ private:
     QList<QList<int>> m_more;  ///< By run: new lines behind it.
     QList<QList<int>> m_ahead; ///< By run: new lines before it.
     QList<Replacement> m_replacements;
+    QList<Replacement> m_widths; ///< Of columns, in the tags of cells.
 };
 
 } // namespace ozm::editor

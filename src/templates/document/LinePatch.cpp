@@ -343,6 +343,20 @@ std::optional<QString> patchedLine(const QString &run, const QList<LineObject> &
     return result;
 }
 
+QString withoutWidth(QString tag)
+{
+    static const QRegularExpression width(u"\\swidth\\s*=\\s*(?:\"[^\"]*\"|'[^']*'|[^\\s>]+)"_s,
+                                          QRegularExpression::CaseInsensitiveOption);
+    return tag.remove(width);
+}
+
+QString withWidthOf(QString tag, const QString &now)
+{
+    static const QRegularExpression width(u"\\swidth=\"[^\"]*\""_s);
+    tag = withoutWidth(tag);
+    return tag.insert(1 + tagName(tag).size(), width.match(now).captured());
+}
+
 QString patchedTag(const QString &tag, const QString &before, const QString &now)
 {
     if (before == now)

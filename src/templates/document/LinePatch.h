@@ -29,6 +29,12 @@ struct LineObject
 /// @p before to @p now. Nothing when the elements do not match.
 [[nodiscard]] QString patchedTag(const QString &tag, const QString &before, const QString &now);
 
+/// @p tag, the start tag of a cell, with the width that the tag @p now says; without one where that says none.
+[[nodiscard]] QString withWidthOf(QString tag, const QString &now);
+
+/// @p tag without its width.
+[[nodiscard]] QString withoutWidth(QString tag);
+
 /// The name of the element that @p tag opens, in lower case.
 [[nodiscard]] QString tagName(QStringView tag);
 

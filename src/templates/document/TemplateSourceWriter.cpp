@@ -545,6 +545,15 @@ private:
         }
     }
 
+    /// The first cell of its column that spans no others.
+    static bool saysWidth(const QTextTable &table, const QTextTableCell &cell)
+    {
+        for (int row = 0; row < cell.row(); ++row)
+            if (table.cellAt(row, cell.column()).columnSpan() == 1)
+                return false;
+        return cell.columnSpan() == 1;
+    }
+
     static QString cellAttributes(const QTextTable &table, const QTextTableCell &cell)
     {
         QString attributes;
@@ -553,7 +562,7 @@ private:
         if (cell.rowSpan() > 1)
             attributes += u" rowspan=\"%1\""_s.arg(cell.rowSpan());
         const QList<QTextLength> widths = table.format().columnWidthConstraints();
-        if (cell.row() == 0 && cell.columnSpan() == 1 && cell.column() < widths.size())
+        if (cell.column() < widths.size() && saysWidth(table, cell))
             attributes += widthAttribute(widths.at(cell.column()));
         return attributes;
     }
