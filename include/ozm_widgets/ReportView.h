@@ -54,6 +54,9 @@ public:
 
     /// @p decoded is HTML or plain text as decoding gives it. The view stays at its place.
     void setReport(const QString &decoded, const ReportPaperOptions &options = {});
+    /// setReport() for a long report: it is laid out in another thread, and shown when that is done. What was shown before
+    /// stays until then. Of several, the last one is shown in the end.
+    void setReportSoon(const QString &decoded, const ReportPaperOptions &options = {});
     /// Bounded by kSmallestZoom and kLargestZoom.
     void setZoom(double zoom);
     /// Has the zoom follow the width of the view, or leaves it where it is.
@@ -70,6 +73,8 @@ public:
     void selectAll();
 
 Q_SIGNALS:
+    /// After setReportSoon(), the report is there.
+    void reportShown();
     /// The zoom is another, or whether it follows the width.
     void zoomChanged(double zoom);
     /// Another page is in the middle, or there are more or fewer.

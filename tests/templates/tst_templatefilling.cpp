@@ -385,6 +385,9 @@ private Q_SLOTS:
         ozm::ReportView view;
         view.setReport(html, options);
         QCOMPARE(view.pageCount(), pages.size());
+        ozm::ReportView later;
+        later.setReportSoon(html, options);
+        QTRY_COMPARE(later.pageCount(), pages.size());
     }
 
     void images()

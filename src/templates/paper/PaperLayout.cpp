@@ -10,6 +10,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QTextBlock>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <array>
@@ -112,6 +113,19 @@ void PaperLayout::layOut(const QSizeF &sheet)
     m_sheet = sheet;
     m_document->setTextWidth(sheet.width());
     m_pages = cutIntoPages(*m_document, sheet.height() - kEdgeMm * kDotsPerInch / kMmPerInch - top());
+}
+
+void PaperLayout::layOutOnOwnSheets()
+{
+    layOut(pageLayout(m_options.layout).paintRectPixels(kDotsPerInch).size());
+}
+
+void PaperLayout::moveTo(QThread &thread)
+{
+    // The letters that lines remember are those of the present thread, and go with it.
+    for (QTextBlock block = m_document->begin(); block.isValid(); block = block.next())
+        block.layout()->setFont(block.layout()->font());
+    m_document->moveToThread(&thread);
 }
 
 void PaperLayout::drawSlice(QPainter &painter, const Slice &slice, const Slice &withBorders, double at,

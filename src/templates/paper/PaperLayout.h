@@ -13,6 +13,7 @@
 #include <optional>
 
 class QPainter;
+class QThread;
 
 namespace ozm {
 class TemplateDocument;
@@ -45,6 +46,10 @@ public:
 
     /// Lays the report out for sheets with room for @p sheet between their margins.
     void layOut(const QSizeF &sheet);
+    /// For the sheets that options() and the template ask for.
+    void layOutOnOwnSheets();
+    /// From the thread that laid it out to the one that draws it.
+    void moveTo(QThread &thread);
     [[nodiscard]] int pageCount() const { return int(m_pages.size()); }
     /// Draws a page with its header and footer; the painter's origin is the corner between the margins.
     void draw(QPainter &painter, int page, const Selections &selections = {}) const;

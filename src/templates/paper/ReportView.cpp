@@ -1,5 +1,6 @@
 #include <ozm_widgets/ReportView.h>
 
+#include "templates/paper/LayoutDesk.h"
 #include "templates/paper/PaperLayout.h"
 
 #include <ozm_widgets/TemplateDocument.h>
@@ -167,6 +168,15 @@ public:
         return {{selection, format}};
     }
 
+    void show(std::unique_ptr<paper::PaperLayout> newLayout)
+    {
+        selection = {};
+        layout = std::move(newLayout);
+        page = layout->pageLayout(layout->options().layout);
+        fit();
+        updateBars();
+    }
+
     ReportView &q;
     std::unique_ptr<paper::PaperLayout> layout;
     QPageLayout page = ReportPaperOptions().layout;
@@ -175,6 +185,7 @@ public:
     bool isFitted = true;
     int shownPage = 0;
     int shownPages = 0;
+    int asked = 0; ///< Number of the last report.
 };
 
 ReportView::ReportView(QWidget *parent)
@@ -227,12 +238,22 @@ QString ReportView::selectedText() const
 
 void ReportView::setReport(const QString &decoded, const ReportPaperOptions &options)
 {
-    d->selection = {};
-    d->layout = std::make_unique<paper::PaperLayout>(decoded, options);
-    d->page = d->layout->pageLayout(options.layout);
-    d->layout->layOut(d->page.paintRectPixels(paper::kDotsPerInch).size());
-    d->fit();
-    d->updateBars();
+    ++d->asked;
+    auto layout = std::make_unique<paper::PaperLayout>(decoded, options);
+    layout->layOutOnOwnSheets();
+    d->show(std::move(layout));
+}
+
+void ReportView::setReportSoon(const QString &decoded, const ReportPaperOptions &options)
+{
+    const int number = ++d->asked;
+    paper::LayoutDesk::instance().ask(*this, decoded, options,
+                                      [this, number](std::unique_ptr<paper::PaperLayout> layout) {
+                                          if (number != d->asked)
+                                              return;
+                                          d->show(std::move(layout));
+                                          Q_EMIT reportShown();
+                                      });
 }
 
 void ReportView::setZoom(double zoom)
