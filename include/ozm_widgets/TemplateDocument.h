@@ -59,6 +59,11 @@ public:
     /// HTML, or plain text, whose lines become paragraphs.
     void setSource(const QString &source);
     [[nodiscard]] QString source() const;
+    /// True while source() is known already: after prepareSource(), until the next edit.
+    [[nodiscard]] bool isSourceReady() const;
+    /// Does a part of the work of source(), for some milliseconds. For a window that asks for the source of a long template:
+    /// called by a timer until isSourceReady(), source() keeps nobody waiting.
+    void prepareSource();
     /// The source of what @p selection holds; of one line without the line's own tag.
     [[nodiscard]] QString source(const QTextCursor &selection) const;
 

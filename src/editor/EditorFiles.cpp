@@ -85,8 +85,12 @@ EditorFiles::EditorFiles(AbstractTemplateEditor *editor, const Template &shown)
     , m_file(std::make_unique<TemplateFile>())
 {
     m_storeTimer.setSingleShot(true);
-    m_storeTimer.setInterval(kStoreAfterMs);
-    connect(&m_storeTimer, &QTimer::timeout, this, [this] { storeNow(); });
+    connect(&m_storeTimer, &QTimer::timeout, this, [this] {
+        if (m_shown.prepare())
+            m_storeTimer.start(0);
+        else
+            storeNow();
+    });
 }
 
 EditorFiles::~EditorFiles() = default;
@@ -288,7 +292,7 @@ void EditorFiles::giveUp()
 void EditorFiles::storeSoon()
 {
     if (m_shown.isModified())
-        m_storeTimer.start();
+        m_storeTimer.start(kStoreAfterMs);
 }
 
 bool EditorFiles::storeNow()

@@ -24,6 +24,8 @@ class EditorFiles : public QObject
 public:
     struct Template
     {
+        /// Does a part of what content() takes; false when there is none left.
+        std::function<bool()> prepare;
         std::function<QString()> content;
         std::function<bool()> isModified;
         std::function<void(const QString &content)> show;

@@ -47,6 +47,15 @@ QString EditorSession::source() const
     return isEdited() ? documentSource() : m_source;
 }
 
+bool EditorSession::prepareSource() const
+{
+    TemplateDocument *rich = richDocument();
+    if (!rich || rich->isSourceReady())
+        return false;
+    rich->prepareSource();
+    return true;
+}
+
 QString EditorSession::documentSource() const
 {
     if (const TemplateDocument *rich = richDocument())

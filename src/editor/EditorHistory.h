@@ -30,6 +30,8 @@ public:
 
     /// To the letter what the session began with, as long as nothing of it is edited.
     [[nodiscard]] QString source() const;
+    /// Does a part of what source() takes; false when all is done, and source() takes no time.
+    bool prepareSource() const;
     /// As the document's positions count, which for a session that is not edited may be another.
     [[nodiscard]] QString documentSource() const;
     /// Too long for formatted text, which takes its time over each character.

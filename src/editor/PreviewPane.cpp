@@ -13,10 +13,12 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
+#include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +32,7 @@ constexpr int kDelayPerDuration = 4;
 constexpr int kFollowMs = 150;
 constexpr int kTroublesHeight = 130;
 constexpr int kAboveTroubles = 4;
+constexpr qsizetype kTroublesAtOnce = 100;
 
 constexpr int kOffsetRole = Qt::UserRole + 1;
 constexpr int kPartRole = Qt::UserRole + 2;
@@ -50,8 +53,10 @@ QToolButton *makeZoomButton(const char *name, const char *icon, const QString &t
 
 } // namespace
 
-PreviewPane::PreviewPane(const Decode &decode, const FindCaret &findCaret, QWidget *parent)
+PreviewPane::PreviewPane(const Prepare &prepare, const Decode &decode, const FindCaret &findCaret,
+                         QWidget *parent)
     : QWidget(parent)
+    , m_prepare(prepare)
     , m_decode(decode)
     , m_findCaret(findCaret)
     , m_row(new QComboBox(this))
@@ -62,6 +67,7 @@ PreviewPane::PreviewPane(const Decode &decode, const FindCaret &findCaret, QWidg
     , m_splitter(new BlackSplitter(Qt::Vertical, this))
     , m_below(new QWidget(this))
     , m_troubles(new QListWidget(m_below))
+    , m_delayMs(kShortestDelayMs)
 {
     m_row->setObjectName(u"previewRow"_s);
     m_row->setAccessibleName(tr("Data of the preview"));
@@ -99,13 +105,17 @@ PreviewPane::PreviewPane(const Decode &decode, const FindCaret &findCaret, QWidg
     layout->addWidget(m_splitter, 1);
 
     m_timer.setSingleShot(true);
-    m_timer.setInterval(kShortestDelayMs);
     m_followTimer.setSingleShot(true);
     m_followTimer.setInterval(kFollowMs);
-    connect(&m_timer, &QTimer::timeout, this, &PreviewPane::updateNow);
+    connect(&m_timer, &QTimer::timeout, this, &PreviewPane::goOn);
     connect(&m_followTimer, &QTimer::timeout, this, &PreviewPane::follow);
+    connect(m_pages, &ReportView::reportShown, this, &PreviewPane::showReport);
     connect(m_row, &QComboBox::currentIndexChanged, this, &PreviewPane::updateSoon);
     connect(m_troubles, &QListWidget::itemClicked, this, &PreviewPane::choose);
+    connect(m_troubles->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
+        if (value == m_troubles->verticalScrollBar()->maximum())
+            listMoreTroubles();
+    });
     connect(m_troubles, &QListWidget::itemActivated, this, &PreviewPane::choose);
 }
 
@@ -157,7 +167,7 @@ void PreviewPane::followSoon()
 void PreviewPane::follow()
 {
     // Until the report is made anew, it may show something else at the caret.
-    if (m_isStale)
+    if (m_isStale || !m_isLaidOut)
         return;
     const Caret caret = m_findCaret();
     m_pages->showPosition(int(placeInReport(caret.text, caret.position, m_pages->toPlainText())));
@@ -190,7 +200,7 @@ void PreviewPane::updateSoon()
     if (m_isPaused)
         m_count->setText(tr("The template is large: refresh the preview to see it."));
     else if (isVisible())
-        m_timer.start();
+        m_timer.start(m_delayMs);
 }
 
 void PreviewPane::setPaused(bool paused)
@@ -200,50 +210,95 @@ void PreviewPane::setPaused(bool paused)
         m_timer.stop();
 }
 
+// In steps, between which keys are answered.
+void PreviewPane::goOn()
+{
+    if (m_prepare())
+        m_timer.start(0);
+    else
+        updateNow();
+}
+
 void PreviewPane::updateNow()
 {
     m_timer.stop();
     QElapsedTimer clock;
     clock.start();
-    const Decoded decoded = m_decode();
-    m_content = decoded.content;
-    m_pages->setReport(decoded.report.text, decoded.paper);
-    listTroubles(decoded.report);
+    m_next = m_decode();
     m_isStale = false;
+    m_isLaidOut = false;
+    m_pages->setReportSoon(m_next.report.text, m_next.paper);
+    m_delayMs = qMax(kShortestDelayMs, int(clock.elapsed()) * kDelayPerDuration);
+}
+
+void PreviewPane::showReport()
+{
+    const Decoded shown = std::exchange(m_next, {});
+    m_content = shown.content;
+    m_isLaidOut = true;
+    listTroubles(shown.report);
     followSoon();
-    m_timer.setInterval(qMax(kShortestDelayMs, int(clock.elapsed()) * kDelayPerDuration));
 }
 
 void PreviewPane::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     if (m_isStale && !m_isPaused)
-        m_timer.start();
+        m_timer.start(m_delayMs);
 }
 
 void PreviewPane::listTroubles(const TemplateReport &report)
 {
+    m_report = report;
+    m_report.text.clear();
     m_troubles->clear();
-    for (const UnresolvedCode &code : report.unresolved)
-        addTrouble(u"dialog-warning"_s, tr("%1 has no value.").arg(code.code), code.position, code.code);
-    for (const FailedScript &script : report.failed) {
-        addTrouble(u"dialog-error"_s,
-                   tr("A script failed in its line %1: %2").arg(script.line).arg(script.message),
-                   script.position, script.code);
-    }
-    for (const BroughtInCode &code : report.broughtIn) {
-        const QString text = code.by.isEmpty()
-                                 ? tr("%1 came in with the result of a script.").arg(code.code)
-                                 : tr("%1 came in with the value of %2.").arg(code.code, code.by);
-        addTrouble(u"dialog-warning"_s, text, code.position, code.by);
-    }
-    for (const FaultyInstruction &instruction : report.faulty)
-        addTrouble(u"dialog-error"_s, instruction.message, instruction.position, instruction.instruction);
-    const int count = m_troubles->count();
+    listMoreTroubles();
+    const qsizetype count =
+        report.unresolved.size() + report.failed.size() + report.broughtIn.size() + report.faulty.size();
     m_count->setText(count == 0   ? tr("Everything was filled.")
                      : count == 1 ? tr("1 place could not be filled:")
                                   : tr("%1 places could not be filled:").arg(count));
     giveRoomToTroubles(count > 0);
+}
+
+// As many as somebody looks at: there can be thousands.
+void PreviewPane::listMoreTroubles()
+{
+    qsizetype skipped = m_troubles->count();
+    qsizetype room = kTroublesAtOnce;
+    const auto list = [this, &skipped, &room](const auto &kind) {
+        for (qsizetype index = skipped; index < kind.size() && room > 0; ++index, --room)
+            add(kind.at(index));
+        skipped = qMax<qsizetype>(0, skipped - kind.size());
+    };
+    list(m_report.unresolved);
+    list(m_report.failed);
+    list(m_report.broughtIn);
+    list(m_report.faulty);
+}
+
+void PreviewPane::add(const UnresolvedCode &code)
+{
+    addTrouble(u"dialog-warning"_s, tr("%1 has no value.").arg(code.code), code.position, code.code);
+}
+
+void PreviewPane::add(const FailedScript &script)
+{
+    addTrouble(u"dialog-error"_s,
+               tr("A script failed in its line %1: %2").arg(script.line).arg(script.message), script.position,
+               script.code);
+}
+
+void PreviewPane::add(const BroughtInCode &code)
+{
+    const QString text = code.by.isEmpty() ? tr("%1 came in with the result of a script.").arg(code.code)
+                                           : tr("%1 came in with the value of %2.").arg(code.code, code.by);
+    addTrouble(u"dialog-warning"_s, text, code.position, code.by);
+}
+
+void PreviewPane::add(const FaultyInstruction &instruction)
+{
+    addTrouble(u"dialog-error"_s, instruction.message, instruction.position, instruction.instruction);
 }
 
 void PreviewPane::giveRoomToTroubles(bool there)

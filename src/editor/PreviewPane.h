@@ -40,10 +40,12 @@ public:
         QString text;
         qsizetype position = 0;
     };
+    /// Does a part of what there is to do before a template is decoded; false when that is done.
+    using Prepare = std::function<bool()>;
     using Decode = std::function<Decoded()>;
     using FindCaret = std::function<Caret()>;
 
-    PreviewPane(const Decode &decode, const FindCaret &findCaret, QWidget *parent);
+    PreviewPane(const Prepare &prepare, const Decode &decode, const FindCaret &findCaret, QWidget *parent);
 
     /// @p names are of the rows; when there are several, all of them as a group can be chosen, too.
     void setRows(const QStringList &names);
@@ -69,14 +71,23 @@ private:
     [[nodiscard]] QWidget *makeZoomBar();
     void showZoom();
     void follow();
+    void goOn();
+    void showReport();
     void listTroubles(const TemplateReport &report);
+    void listMoreTroubles();
     void giveRoomToTroubles(bool there);
     void addTrouble(const QString &icon, const QString &text, qsizetype offset, const QString &part);
+    void add(const UnresolvedCode &code);
+    void add(const FailedScript &script);
+    void add(const BroughtInCode &code);
+    void add(const FaultyInstruction &instruction);
     void choose(const QListWidgetItem *item);
 
+    const Prepare m_prepare;
     const Decode m_decode;
     const FindCaret m_findCaret;
-    QString m_content;
+    QString m_content; ///< Of the report that is shown.
+    Decoded m_next;    ///< It is shown once it is laid out.
     QComboBox *m_row;
     ReportView *m_pages;
     QLabel *m_page;
@@ -85,9 +96,12 @@ private:
     QSplitter *m_splitter;
     QWidget *m_below;
     QListWidget *m_troubles;
+    TemplateReport m_report; ///< The one that is listed in m_troubles, without its text.
     QTimer m_timer;
+    int m_delayMs; ///< From an edit to the decoding.
     QTimer m_followTimer;
-    bool m_isStale = true;
+    bool m_isStale = true;    ///< The template was edited since it was decoded.
+    bool m_isLaidOut = false; ///< The report that was decoded last is shown.
     bool m_isPaused = false;
 };
 

@@ -74,7 +74,8 @@ AbstractTemplateEditor::Private::Private(AbstractTemplateEditor *editor)
     , m_format(new TextFormatting(m_views.rich()))
     , m_table(m_views.rich())
     , m_printing([editor] { return editor->paperOptions(); })
-    , m_files(editor, EditorFiles::Template{[this] { return content(); }, [this] { return isModified(); },
+    , m_files(editor, EditorFiles::Template{[this] { return m_history->session().prepareSource(); },
+                                            [this] { return content(); }, [this] { return isModified(); },
                                             [this](const QString &content) { show(content); },
                                             [this] {
                                                 m_history->stack().resetClean();
@@ -148,16 +149,17 @@ void AbstractTemplateEditor::Private::buildDocks()
     m_codePanel = new CodePanel(m_codes, qptr);
     m_scriptPane = new ScriptPane(
         m_codes, [this](const QString &content) { return decode(content); }, qptr);
-    m_preview = new PreviewPane(
-        [this] {
-            const QString source = content();
-            return PreviewPane::Decoded{source, decode(source), m_printing.options()};
-        },
-        [this] {
-            const QTextCursor caret = m_views.current().cursor();
-            return PreviewPane::Caret{caret.document()->toPlainText(), caret.position()};
-        },
-        qptr);
+    m_preview =
+        new PreviewPane([this] { return m_history->session().prepareSource(); },
+                        [this] {
+                            const QString source = content();
+                            return PreviewPane::Decoded{source, decode(source), m_printing.options()};
+                        },
+                        [this] {
+                            const QTextCursor caret = m_views.current().cursor();
+                            return PreviewPane::Caret{caret.document()->toPlainText(), caret.position()};
+                        },
+                        qptr);
     m_codeDock = addDock("codeDock", tr("Codes"), m_codePanel, Qt::LeftDockWidgetArea);
     m_scriptDock = addDock("scriptDock", tr("Script"), m_scriptPane, Qt::BottomDockWidgetArea);
     m_previewDock = addDock("previewDock", tr("Preview"), m_preview, Qt::RightDockWidgetArea);

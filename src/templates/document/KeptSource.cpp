@@ -6,6 +6,9 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextFrame>
+#include <QTextList>
+#include <QTextTable>
 
 #include <algorithm>
 #include <utility>
@@ -14,13 +17,35 @@ using namespace Qt::StringLiterals;
 
 namespace ozm::editor {
 
-KeptSource::KeptSource(const QString &source, const SplitTemplate &split, QTextDocument &document)
+namespace {
+
+/// True for an empty line that is there only because a table or the document begins or ends beside it, and which is never
+/// written.
+bool isBesideFrames(const QTextBlock &block)
+{
+    const QTextBlockFormat format = block.blockFormat();
+    if (block.length() > 1 || block.textList() || format.boolProperty(kWrittenLine) ||
+        format.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth))
+        return false;
+    const QTextFrame *frame = QTextCursor(block).currentFrame();
+    const auto isOther = [frame](const QTextBlock &beside) {
+        return !beside.isValid() || QTextCursor(beside).currentFrame() != frame;
+    };
+    return !qobject_cast<const QTextTable *>(frame) && isOther(block.previous()) && isOther(block.next());
+}
+
+} // namespace
+
+KeptSource::KeptSource(const QString &source, const SplitTemplate &split)
     : m_source(source)
     , m_around(split.around)
     , m_runs(split.runs)
     , m_sections(split.sections)
+{}
+
+void KeptSource::learn(QTextDocument &document, WrittenSource written)
 {
-    WrittenSource written = writeSource(document);
+    m_isLearned = true;
     m_fingerprint = qHash(written.text);
     joinSections(written);
     rememberOtherLines(written, document);
@@ -30,6 +55,14 @@ KeptSource::KeptSource(const QString &source, const SplitTemplate &split, QTextD
         return;
     for (const Section &section : *sections)
         m_fingerprints.append(fingerprint(written, section.items));
+}
+
+bool KeptSource::hasOtherLines(const QTextDocument &document)
+{
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        if (!block.blockFormat().hasProperty(kSourceRun) && !isBesideFrames(block))
+            return true;
+    return false;
 }
 
 // The reader may see one thing, or another order, where the source was taken for several.
@@ -115,11 +148,10 @@ int KeptSource::sectionOf(int run) const
     return section < m_sections.size() ? section : -1;
 }
 
-std::optional<QString> KeptSource::write(const QTextDocument &document) const
+std::optional<QString> KeptSource::write(const QTextDocument &document, const WrittenSource &written) const
 {
     if (m_source.isNull())
         return std::nullopt;
-    const WrittenSource written = writeSource(document);
     if (qHash(written.text) == m_fingerprint)
         return m_source;
     if (!m_isMapped)

@@ -30,11 +30,23 @@ class KeptSource
 {
 public:
     KeptSource() = default;
-    /// @p document has just been read from @p source, which was taken apart into @p split.
-    KeptSource(const QString &source, const SplitTemplate &split, QTextDocument &document);
+    /// @p split is @p source taken apart.
+    KeptSource(const QString &source, const SplitTemplate &split);
 
-    /// The source with the edits; nothing when the document has too little in common with it.
-    [[nodiscard]] std::optional<QString> write(const QTextDocument &document) const;
+    [[nodiscard]] const QString &source() const { return m_source; }
+
+    /// Finds out how @p document, which was read from the source and is as it was then, is @p written. May be left until
+    /// there are edits, unless hasOtherLines().
+    void learn(QTextDocument &document, WrittenSource written);
+    [[nodiscard]] bool isLearned() const { return m_isLearned; }
+    /// True when @p document, which was just read, has lines that come from none of the source: they are marked by learn(),
+    /// as new ones could not be told from them later.
+    [[nodiscard]] static bool hasOtherLines(const QTextDocument &document);
+
+    /// The source with the edits of @p document, which are in @p written; nothing when the document has too little in
+    /// common with it.
+    [[nodiscard]] std::optional<QString> write(const QTextDocument &document,
+                                               const WrittenSource &written) const;
 
 private:
     struct Section
@@ -68,7 +80,8 @@ private:
     QList<SourceSection> m_sections;
     QList<size_t> m_fingerprints; ///< Of the sections as they were read.
     size_t m_fingerprint = 0;     ///< Of the whole.
-    bool m_isMapped = false;      ///< Each line has its own run, and each item its section.
+    bool m_isLearned = false;
+    bool m_isMapped = false; ///< Each line has its own run, and each item its section.
 };
 
 } // namespace ozm::editor

@@ -10,6 +10,7 @@
 #include "templates/syntax/HtmlScanner.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QDeadlineTimer>
 #include <QImage>
 #include <QRegularExpression>
 #include <QTextBlock>
@@ -20,6 +21,8 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -31,12 +34,46 @@ using editor::TemplatePart;
 class TemplateDocument::Private
 {
 public:
+    /// The source of @p document, which is @p written.
+    QString sourceOf(const TemplateDocument &document, const editor::WrittenSource &written)
+    {
+        if (!kept.isLearned() && !kept.source().isNull())
+            learnAgain(document);
+        // A page that lost its last tag would be read as plain text.
+        if (const auto source = kept.write(document, written); source && isHtml(*source) == isReadAsHtml)
+            return *source;
+        return written.text;
+    }
+
+    [[nodiscard]] bool isAsRead(const TemplateDocument &document) const
+    {
+        return readRevision == document.revision() && !kept.source().isNull();
+    }
+
+    void forget()
+    {
+        writing.reset();
+        ready.reset();
+        readRevision = -1;
+    }
+
     editor::ChipPainter painter;
     editor::KeptSource kept;
-    bool isHtml = false; ///< Of the source that was read.
+    bool isReadAsHtml = false; ///< Of the source that was read.
+    int readRevision = -1;     ///< Of the document as it was read, while it is the same.
+    std::unique_ptr<editor::SourceWriting> writing;
+    bool isWritten = false; ///< To the end, by writing.
+    int revision = -1;      ///< That is being written, or ready.
+    std::optional<QString> ready;
+
+private:
+    /// For a document that was edited too soon.
+    void learnAgain(const TemplateDocument &document);
 };
 
 namespace {
+
+constexpr int kPrepareMs = 3;
 
 // Scripts and comments may have lines of their own, which are none of the text's.
 QStringList linesOf(const QString &text)
@@ -224,6 +261,17 @@ QImage missingImage()
 
 } // namespace
 
+void TemplateDocument::Private::learnAgain(const TemplateDocument &document)
+{
+    QTextDocument asRead;
+    asRead.setDefaultStyleSheet(document.defaultStyleSheet());
+    if (isReadAsHtml)
+        (void)editor::readSource(asRead, kept.source(), true);
+    else
+        read(asRead, kept.source());
+    kept.learn(asRead, editor::writeSource(asRead));
+}
+
 editor::SplitTemplate editor::readSource(QTextDocument &document, const QString &source, bool remember)
 {
     SplitTemplate split = splitTemplate(source);
@@ -245,6 +293,7 @@ TemplateDocument::TemplateDocument(QObject *parent)
     : QTextDocument(parent)
     , d(std::make_unique<Private>())
 {
+    connect(this, &QTextDocument::contentsChange, this, [this] { d->forget(); });
     documentLayout()->registerHandler(editor::kChipObject, &d->painter);
     new editor::VectorImages(*this);
 }
@@ -259,21 +308,51 @@ bool TemplateDocument::isHtml(const QString &source)
 void TemplateDocument::setSource(const QString &source)
 {
     editor::SplitTemplate split;
-    d->isHtml = isHtml(source);
-    if (d->isHtml)
+    d->isReadAsHtml = isHtml(source);
+    if (d->isReadAsHtml)
         split = editor::readSource(*this, source, true);
     else
         read(*this, source);
-    d->kept = editor::KeptSource(source, split, *this);
+    d->kept = editor::KeptSource(source, split);
+    if (editor::KeptSource::hasOtherLines(*this))
+        d->kept.learn(*this, editor::writeSource(*this));
+    d->forget();
+    d->readRevision = revision();
     setModified(false);
 }
 
 QString TemplateDocument::source() const
 {
-    // A page that lost its last tag would be read as plain text.
-    if (const auto kept = d->kept.write(*this); kept && isHtml(*kept) == d->isHtml)
-        return *kept;
-    return editor::writeSource(*this).text;
+    if (d->isAsRead(*this))
+        return d->kept.source();
+    if (d->ready && d->revision == revision())
+        return *d->ready;
+    return d->sourceOf(*this, editor::writeSource(*this));
+}
+
+bool TemplateDocument::isSourceReady() const
+{
+    return d->isAsRead(*this) ? d->kept.isLearned() : d->ready && d->revision == revision();
+}
+
+void TemplateDocument::prepareSource()
+{
+    if (isSourceReady())
+        return;
+    if (!d->writing || d->revision != revision()) {
+        d->writing = std::make_unique<editor::SourceWriting>(*this);
+        d->isWritten = false;
+        d->revision = revision();
+    }
+    if (!d->isWritten) {
+        d->isWritten = d->writing->goOn(QDeadlineTimer(kPrepareMs));
+        return;
+    }
+    const auto writing = std::exchange(d->writing, nullptr);
+    if (d->isAsRead(*this))
+        d->kept.learn(*this, writing->take());
+    else
+        d->ready = d->sourceOf(*this, writing->take());
 }
 
 QString TemplateDocument::source(const QTextCursor &selection) const

@@ -1,6 +1,7 @@
 #include "templates/document/TemplateSourceWriter.h"
 
 #include "templates/document/InlineHtml.h"
+#include "templates/document/LineStyle.h"
 #include "templates/document/TemplateChip.h"
 #include "templates/syntax/Codes.h"
 
@@ -21,50 +22,11 @@ namespace ozm::editor {
 
 namespace {
 
-/// The formats that the rich-text reader gives to a tag without attributes.
-struct TagDefaults
-{
-    QTextBlockFormat block;
-    QTextCharFormat text;
-};
-
-TagDefaults readDefaults(const QString &html)
-{
-    QTextDocument document;
-    document.setHtml(html);
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
-        if (block.text() == "x"_L1)
-            return {block.blockFormat(), block.begin().fragment().charFormat()};
-    return {};
-}
-
-const TagDefaults &headingDefaults(int level)
-{
-    static const auto table = [] {
-        std::array<TagDefaults, 6> headings;
-        for (size_t i = 0; i < headings.size(); ++i)
-            headings[i] = readDefaults(u"<div>a</div><h%1>x</h%1><div>b</div>"_s.arg(i + 1));
-        return headings;
-    }();
-    return table.at(size_t(qBound(1, level, 6) - 1));
-}
-
-const TagDefaults &paragraphDefaults()
-{
-    static const TagDefaults defaults = readDefaults(u"<div>a</div><p>x</p><div>b</div>"_s);
-    return defaults;
-}
-
 QTextCharFormat headerCellText()
 {
     QTextCharFormat format;
     format.setFontWeight(QFont::Bold);
     return format;
-}
-
-QString px(qreal value)
-{
-    return QString::number(value) + "px"_L1;
 }
 
 struct ListRow
@@ -89,13 +51,6 @@ const ListRow &listRow(const QTextListFormat &format)
 {
     const auto *found = std::ranges::find(kLists, format.style(), &ListRow::style);
     return found == kLists.end() ? kLists.front() : *found;
-}
-
-// Reading HTML folds blanks; where that would change the text the block says that they count.
-bool needsBlanksKept(const QString &text)
-{
-    return text.startsWith(u' ') || text.endsWith(u' ') || text.contains(u'\t') || text.contains("  "_L1) ||
-           text.contains(u" \u2028"_s) || text.contains(u"\u2028 "_s);
 }
 
 // These end a paragraph.
@@ -129,59 +84,28 @@ QString plainText(const QTextFragment &fragment)
     return fragment.text().replace(QChar::ObjectReplacementCharacter, QChar::ReplacementCharacter);
 }
 
-/// Formats that the surrounding cell already gives to its blocks.
-struct Surroundings
-{
-    QTextCharFormat text;
-    Qt::Alignment alignment = Qt::AlignLeft;
-    qreal leftMargin = 0;
-    qreal rightMargin = 0;
-    bool isColoured = false; ///< An item, which hands its colour down.
-};
+} // namespace
 
-QStringList blockDeclarations(const QTextBlock &block, const Surroundings &around)
-{
-    const QTextBlockFormat format = block.blockFormat();
-    QStringList css;
-    const Qt::Alignment alignment = format.alignment() & Qt::AlignHorizontal_Mask;
-    const bool isLeft = block.textList() && around.alignment != Qt::AlignLeft; // where it says nothing, too
-    if ((format.hasProperty(QTextFormat::BlockAlignment) || isLeft ? alignment : around.alignment) !=
-        around.alignment) {
-        css.append(alignment & Qt::AlignHCenter   ? u"text-align:center"_s
-                   : alignment & Qt::AlignRight   ? u"text-align:right"_s
-                   : alignment & Qt::AlignJustify ? u"text-align:justify"_s
-                                                  : u"text-align:left"_s);
-    }
-    const qreal left =
-        format.leftMargin() + 40.0 * (block.textList() ? 0 : format.indent()) - around.leftMargin;
-    if (left != 0)
-        css.append("margin-left:"_L1 + px(left));
-    if (format.rightMargin() != around.rightMargin)
-        css.append("margin-right:"_L1 + px(format.rightMargin() - around.rightMargin));
-    if (format.textIndent() != 0)
-        css.append("text-indent:"_L1 + px(format.textIndent()));
-    if (format.lineHeightType() == QTextBlockFormat::ProportionalHeight && format.lineHeight() != 100)
-        css.append(u"line-height:%1%"_s.arg(format.lineHeight()));
-    // The reader hands a cell's down to the lines in it.
-    if (format.background().style() == Qt::SolidPattern && format.background() != around.text.background())
-        css.append("background-color:"_L1 + cssColor(format.background().color()));
-    else if (around.isColoured && format.background().style() == Qt::NoBrush)
-        css.append("background-color:"_L1 + cssColor(Qt::transparent));
-    if (format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore)
-        css.append(u"page-break-before:always"_s);
-    if (format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysAfter)
-        css.append(u"page-break-after:always"_s);
-    if (needsBlanksKept(block.text()))
-        css.append(u"white-space:pre-wrap"_s);
-    return css;
-}
-
-class Writer
+class SourceWriting::Writer
 {
 public:
-    WrittenSource run(const QTextDocument &document)
+    explicit Writer(const QTextDocument &document)
+        : m_walk(document.rootFrame()->begin(), document.rootFrame()->end())
+    {}
+
+    bool goOn(const QDeadlineTimer &deadline)
     {
-        writeBlocks(document.rootFrame()->begin(), document.rootFrame()->end(), {});
+        while (m_walk.at != m_walk.end) {
+            writeNext(m_walk, {}, 0);
+            if (deadline.hasExpired())
+                break;
+        }
+        return m_walk.at == m_walk.end;
+    }
+
+    WrittenSource take()
+    {
+        closeLists(0);
         endItem();
         if (m_out.text.endsWith(u'\n')) {
             m_out.text.chop(1);
@@ -227,26 +151,44 @@ private:
         m_out.lines.last().end = m_out.text.size();
     }
 
-    void writeBlocks(QTextFrame::iterator at, const QTextFrame::iterator &end, const Surroundings &around)
+    /// The parts of a frame, and how far they are written.
+    struct Walk
+    {
+        Walk(const QTextFrame::iterator &first, const QTextFrame::iterator &last)
+            : at(first)
+            , end(last)
+        {}
+
+        QTextFrame::iterator at;
+        QTextFrame::iterator end;
+        bool afterFrame = true;
+    };
+
+    void writeBlocks(const QTextFrame::iterator &first, const QTextFrame::iterator &last,
+                     const Surroundings &around)
     {
         const qsizetype listsOutside = m_lists.size();
-        bool afterFrame = true;
-        while (at != end) {
-            QTextFrame *child = at.currentFrame();
-            const QTextBlock block = at.currentBlock();
-            ++at;
-            const bool beforeFrame = at == end || at.currentFrame();
-            if (child) {
-                closeLists(listsOutside);
-                beginItem();
-                writeFrame(child, around);
-            } else if (!(afterFrame && beforeFrame && isEmpty(block))) {
-                // An empty block alone between frames is there because a frame needs one at its edges.
-                writeBlock(block, around, listsOutside);
-            }
-            afterFrame = child;
-        }
+        Walk walk(first, last);
+        while (walk.at != walk.end)
+            writeNext(walk, around, listsOutside);
         closeLists(listsOutside);
+    }
+
+    void writeNext(Walk &walk, const Surroundings &around, qsizetype listsOutside)
+    {
+        QTextFrame *child = walk.at.currentFrame();
+        const QTextBlock block = walk.at.currentBlock();
+        ++walk.at;
+        const bool beforeFrame = walk.at == walk.end || walk.at.currentFrame();
+        if (child) {
+            closeLists(listsOutside);
+            beginItem();
+            writeFrame(child, around);
+        } else if (!(walk.afterFrame && beforeFrame && isEmpty(block))) {
+            // An empty block alone between frames is there because a frame needs one at its edges.
+            writeBlock(block, around, listsOutside);
+        }
+        walk.afterFrame = child;
     }
 
     static bool isEmpty(const QTextBlock &block)
@@ -583,6 +525,7 @@ private:
         return css;
     }
 
+    Walk m_walk;
     WrittenSource m_out;
     QSet<int> m_looseBrackets;
     QList<QTextList *> m_lists;
@@ -590,11 +533,27 @@ private:
     int m_depth = 0;                 ///< Of tables.
 };
 
-} // namespace
+SourceWriting::SourceWriting(const QTextDocument &document)
+    : m_writer(std::make_unique<Writer>(document))
+{}
+
+SourceWriting::~SourceWriting() = default;
+
+bool SourceWriting::goOn(const QDeadlineTimer &deadline)
+{
+    return m_writer->goOn(deadline);
+}
+
+WrittenSource SourceWriting::take()
+{
+    return m_writer->take();
+}
 
 WrittenSource writeSource(const QTextDocument &document)
 {
-    return Writer().run(document);
+    SourceWriting writing(document);
+    (void)writing.goOn(QDeadlineTimer(QDeadlineTimer::Forever));
+    return writing.take();
 }
 
 QTextBlockFormat headingBlock(int level)

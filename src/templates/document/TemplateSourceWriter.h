@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QList>
 #include <QString>
+
+#include <memory>
 
 class QTextBlockFormat;
 class QTextDocument;
@@ -55,6 +58,24 @@ struct WrittenSource
  * with codes, scripts and kept markup to the letter. What is written, read, and written again is the same.
  */
 [[nodiscard]] WrittenSource writeSource(const QTextDocument &document);
+
+/// writeSource() in pieces, for who has other things to do in between. No edit may come between them.
+class SourceWriting
+{
+public:
+    explicit SourceWriting(const QTextDocument &document);
+    ~SourceWriting();
+    Q_DISABLE_COPY_MOVE(SourceWriting)
+
+    /// Writes until @p deadline, but at least something; true when all is written.
+    [[nodiscard]] bool goOn(const QDeadlineTimer &deadline);
+    /// All of it, once.
+    [[nodiscard]] WrittenSource take();
+
+private:
+    class Writer;
+    const std::unique_ptr<Writer> m_writer;
+};
 
 /// The lines of a heading of @p level, from 1 to 6, where its tag says nothing of them.
 [[nodiscard]] QTextBlockFormat headingBlock(int level);
