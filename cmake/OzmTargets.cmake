@@ -170,7 +170,7 @@ function(ozm_add_plugin name)
 endfunction()
 
 # ozm_add_helper(<name> SOURCES <file>... LIBRARIES <target>...): a program that ozm_widgets starts, and finds below
-# its own folder as it does its plug-ins. It links Qt only.
+# its own folder as it does its plug-ins. It links Qt only, which may lie beside the library.
 function(ozm_add_helper name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
     ozm_folders_beside_library(build_folder install_folder)
@@ -181,6 +181,7 @@ function(ozm_add_helper name)
     set_target_properties(${name} PROPERTIES
         AUTOMOC ON
         MACOSX_BUNDLE OFF
-        RUNTIME_OUTPUT_DIRECTORY "${build_folder}/libexec")
+        RUNTIME_OUTPUT_DIRECTORY "${build_folder}/libexec"
+        INSTALL_RPATH "$<$<NOT:$<PLATFORM_ID:Windows,Darwin>>:$ORIGIN/../..>$<$<PLATFORM_ID:Darwin>:@loader_path/../..>")
     install(TARGETS ${name} RUNTIME DESTINATION ${install_folder}/libexec)
 endfunction()

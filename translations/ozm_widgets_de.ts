@@ -639,6 +639,117 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::TemplateDifference</name>
+    <message>
+        <source>Text added in %2: &quot;%1&quot;</source>
+        <translation>Text hinzugefügt in %2: „%1“</translation>
+    </message>
+    <message>
+        <source>Text removed from %2: &quot;%1&quot;</source>
+        <translation>Text entfernt aus %2: „%1“</translation>
+    </message>
+    <message>
+        <source>Text changed in %2: &quot;%1&quot; is now &quot;%3&quot;</source>
+        <translation>Text geändert in %2: „%1“ ist jetzt „%3“</translation>
+    </message>
+    <message>
+        <source>Added: %2, &quot;%1&quot;</source>
+        <translation>Hinzugefügt: %2, „%1“</translation>
+    </message>
+    <message>
+        <source>Removed: %2, &quot;%1&quot;</source>
+        <translation>Entfernt: %2, „%1“</translation>
+    </message>
+    <message>
+        <source>Code %1 added in %2</source>
+        <translation>Code %1 hinzugefügt in %2</translation>
+    </message>
+    <message>
+        <source>Code %1 removed from %2</source>
+        <translation>Code %1 entfernt aus %2</translation>
+    </message>
+    <message>
+        <source>Code %1 replaced by %3 in %2</source>
+        <translation>Code %1 ersetzt durch %3 in %2</translation>
+    </message>
+    <message>
+        <source>Script added in %2: %1</source>
+        <translation>Skript hinzugefügt in %2: %1</translation>
+    </message>
+    <message>
+        <source>Script removed from %2: %1</source>
+        <translation>Skript entfernt aus %2: %1</translation>
+    </message>
+    <message>
+        <source>Script changed in %2: %1 is now %3</source>
+        <translation>Skript geändert in %2: %1 ist jetzt %3</translation>
+    </message>
+    <message>
+        <source>Instruction &quot;%1&quot; added in %2</source>
+        <translation>Anweisung „%1“ hinzugefügt in %2</translation>
+    </message>
+    <message>
+        <source>Instruction &quot;%1&quot; removed from %2</source>
+        <translation>Anweisung „%1“ entfernt aus %2</translation>
+    </message>
+    <message>
+        <source>Instruction &quot;%1&quot; changed to &quot;%3&quot; in %2</source>
+        <translation>Anweisung „%1“ geändert in „%3“ in %2</translation>
+    </message>
+    <message>
+        <source>Image added in %2</source>
+        <translation>Bild hinzugefügt in %2</translation>
+    </message>
+    <message>
+        <source>Image removed from %2</source>
+        <translation>Bild entfernt aus %2</translation>
+    </message>
+    <message>
+        <source>Image replaced in %2</source>
+        <translation>Bild ersetzt in %2</translation>
+    </message>
+    <message>
+        <source>Markup added in %2: %1</source>
+        <translation>Auszeichnung hinzugefügt in %2: %1</translation>
+    </message>
+    <message>
+        <source>Markup removed from %2: %1</source>
+        <translation>Auszeichnung entfernt aus %2: %1</translation>
+    </message>
+    <message>
+        <source>Markup changed in %2: %1 is now %3</source>
+        <translation>Auszeichnung geändert in %2: %1 ist jetzt %3</translation>
+    </message>
+    <message>
+        <source>Formatting changed in %2: &quot;%1&quot;</source>
+        <translation>Formatierung geändert in %2: „%1“</translation>
+    </message>
+    <message>
+        <source>Only markup that formatted text does not show has changed.</source>
+        <translation>Nur Auszeichnung, die formatierter Text nicht zeigt, hat sich geändert.</translation>
+    </message>
+    <message>
+        <source>Settings of &quot;%1&quot; changed in %2</source>
+        <translation>Einstellungen von „%1“ geändert in %2</translation>
+    </message>
+    <message>
+        <source>image</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>row %1 of table %2</source>
+        <translation>Zeile %1 von Tabelle %2</translation>
+    </message>
+    <message>
+        <source>item %1 of list %2</source>
+        <translation>Punkt %1 von Liste %2</translation>
+    </message>
+    <message>
+        <source>paragraph %1</source>
+        <translation>Absatz %1</translation>
+    </message>
+</context>
+<context>
     <name>ozm::TemplateFile</name>
     <message>
         <source>&quot;%1&quot; cannot be read: %2</source>
@@ -777,6 +888,40 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     <message>
         <source>&amp;Width:</source>
         <translation>&amp;Breite:</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::ComparisonDialog</name>
+    <message>
+        <source>%1, version %2</source>
+        <translation>%1, Version %2</translation>
+    </message>
+    <message>
+        <source>Differences between templates</source>
+        <translation>Unterschiede zwischen Vorlagen</translation>
+    </message>
+    <message>
+        <source>The templates are the same.</source>
+        <translation>Die Vorlagen sind gleich.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n difference(s)</source>
+        <translation>
+            <numerusform>%n Unterschied</numerusform>
+            <numerusform>%n Unterschiede</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation>Unterschiede</translation>
+    </message>
+    <message>
+        <source>Before: %1</source>
+        <translation>Vorher: %1</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>Jetzt: %1</translation>
     </message>
 </context>
 <context>
@@ -1140,6 +1285,14 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
         <source>Column &amp;width…</source>
         <translation>Spaltenb&amp;reite…</translation>
     </message>
+    <message>
+        <source>Compar&amp;e with saved…</source>
+        <translation>Mit g&amp;espeicherter vergleichen…</translation>
+    </message>
+    <message>
+        <source>Compare wi&amp;th…</source>
+        <translation>Ver&amp;gleichen mit…</translation>
+    </message>
 </context>
 <context>
     <name>ozm::editor::EditorFiles</name>
@@ -1242,6 +1395,18 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     <message>
         <source>It takes the place of the template that is open in this window.</source>
         <translation>Sie tritt an die Stelle der Vorlage, die in diesem Fenster offen ist.</translation>
+    </message>
+    <message>
+        <source>Compare with template</source>
+        <translation>Mit Vorlage vergleichen</translation>
+    </message>
+    <message>
+        <source>this window</source>
+        <translation>dieses Fenster</translation>
+    </message>
+    <message>
+        <source>The template is too large to be compared.</source>
+        <translation>Die Vorlage ist zu groß, um verglichen zu werden.</translation>
     </message>
 </context>
 <context>

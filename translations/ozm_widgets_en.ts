@@ -12,6 +12,16 @@
     </message>
 </context>
 <context>
+    <name>ozm::editor::ComparisonDialog</name>
+    <message numerus="yes">
+        <source>%n difference(s)</source>
+        <translation>
+            <numerusform>%n difference</numerusform>
+            <numerusform>%n differences</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ozm::editor::TableEditing</name>
     <message numerus="yes">
         <source>Width of %n column(s)</source>

@@ -639,6 +639,117 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::TemplateDifference</name>
+    <message>
+        <source>Text added in %2: &quot;%1&quot;</source>
+        <translation>Texte ajouté dans %2 : « %1 »</translation>
+    </message>
+    <message>
+        <source>Text removed from %2: &quot;%1&quot;</source>
+        <translation>Texte supprimé de %2 : « %1 »</translation>
+    </message>
+    <message>
+        <source>Text changed in %2: &quot;%1&quot; is now &quot;%3&quot;</source>
+        <translation>Texte modifié dans %2 : « %1 » devient « %3 »</translation>
+    </message>
+    <message>
+        <source>Added: %2, &quot;%1&quot;</source>
+        <translation>Ajouté : %2, « %1 »</translation>
+    </message>
+    <message>
+        <source>Removed: %2, &quot;%1&quot;</source>
+        <translation>Supprimé : %2, « %1 »</translation>
+    </message>
+    <message>
+        <source>Code %1 added in %2</source>
+        <translation>Code %1 ajouté dans %2</translation>
+    </message>
+    <message>
+        <source>Code %1 removed from %2</source>
+        <translation>Code %1 supprimé de %2</translation>
+    </message>
+    <message>
+        <source>Code %1 replaced by %3 in %2</source>
+        <translation>Code %1 remplacé par %3 dans %2</translation>
+    </message>
+    <message>
+        <source>Script added in %2: %1</source>
+        <translation>Script ajouté dans %2 : %1</translation>
+    </message>
+    <message>
+        <source>Script removed from %2: %1</source>
+        <translation>Script supprimé de %2 : %1</translation>
+    </message>
+    <message>
+        <source>Script changed in %2: %1 is now %3</source>
+        <translation>Script modifié dans %2 : %1 devient %3</translation>
+    </message>
+    <message>
+        <source>Instruction &quot;%1&quot; added in %2</source>
+        <translation>Instruction « %1 » ajoutée dans %2</translation>
+    </message>
+    <message>
+        <source>Instruction &quot;%1&quot; removed from %2</source>
+        <translation>Instruction « %1 » supprimée de %2</translation>
+    </message>
+    <message>
+        <source>Instruction &quot;%1&quot; changed to &quot;%3&quot; in %2</source>
+        <translation>Instruction « %1 » changée en « %3 » dans %2</translation>
+    </message>
+    <message>
+        <source>Image added in %2</source>
+        <translation>Image ajoutée dans %2</translation>
+    </message>
+    <message>
+        <source>Image removed from %2</source>
+        <translation>Image supprimée de %2</translation>
+    </message>
+    <message>
+        <source>Image replaced in %2</source>
+        <translation>Image remplacée dans %2</translation>
+    </message>
+    <message>
+        <source>Markup added in %2: %1</source>
+        <translation>Balisage ajouté dans %2 : %1</translation>
+    </message>
+    <message>
+        <source>Markup removed from %2: %1</source>
+        <translation>Balisage supprimé de %2 : %1</translation>
+    </message>
+    <message>
+        <source>Markup changed in %2: %1 is now %3</source>
+        <translation>Balisage modifié dans %2 : %1 devient %3</translation>
+    </message>
+    <message>
+        <source>Formatting changed in %2: &quot;%1&quot;</source>
+        <translation>Mise en forme modifiée dans %2 : « %1 »</translation>
+    </message>
+    <message>
+        <source>Only markup that formatted text does not show has changed.</source>
+        <translation>Seul du balisage que le texte mis en forme ne montre pas a changé.</translation>
+    </message>
+    <message>
+        <source>Settings of &quot;%1&quot; changed in %2</source>
+        <translation>Réglages de « %1 » modifiés dans %2</translation>
+    </message>
+    <message>
+        <source>image</source>
+        <translation>image</translation>
+    </message>
+    <message>
+        <source>row %1 of table %2</source>
+        <translation>ligne %1 du tableau %2</translation>
+    </message>
+    <message>
+        <source>item %1 of list %2</source>
+        <translation>élément %1 de la liste %2</translation>
+    </message>
+    <message>
+        <source>paragraph %1</source>
+        <translation>paragraphe %1</translation>
+    </message>
+</context>
+<context>
     <name>ozm::TemplateFile</name>
     <message>
         <source>&quot;%1&quot; cannot be read: %2</source>
@@ -777,6 +888,40 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
     <message>
         <source>&amp;Width:</source>
         <translation>&amp;Largeur&#x202f;:</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::ComparisonDialog</name>
+    <message>
+        <source>%1, version %2</source>
+        <translation>%1, version %2</translation>
+    </message>
+    <message>
+        <source>Differences between templates</source>
+        <translation>Différences entre modèles</translation>
+    </message>
+    <message>
+        <source>The templates are the same.</source>
+        <translation>Les modèles sont identiques.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n difference(s)</source>
+        <translation>
+            <numerusform>%n différence</numerusform>
+            <numerusform>%n différences</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation>Différences</translation>
+    </message>
+    <message>
+        <source>Before: %1</source>
+        <translation>Avant : %1</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>Maintenant : %1</translation>
     </message>
 </context>
 <context>
@@ -1140,6 +1285,14 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
         <source>Column &amp;width…</source>
         <translation>Large&amp;ur de la colonne…</translation>
     </message>
+    <message>
+        <source>Compar&amp;e with saved…</source>
+        <translation>Comparer avec l’enre&amp;gistré…</translation>
+    </message>
+    <message>
+        <source>Compare wi&amp;th…</source>
+        <translation>&amp;Comparer avec…</translation>
+    </message>
 </context>
 <context>
     <name>ozm::editor::EditorFiles</name>
@@ -1242,6 +1395,18 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
     <message>
         <source>Rescued template</source>
         <translation>Modèle récupéré</translation>
+    </message>
+    <message>
+        <source>Compare with template</source>
+        <translation>Comparer avec un modèle</translation>
+    </message>
+    <message>
+        <source>this window</source>
+        <translation>cette fenêtre</translation>
+    </message>
+    <message>
+        <source>The template is too large to be compared.</source>
+        <translation>Le modèle est trop volumineux pour être comparé.</translation>
     </message>
 </context>
 <context>

@@ -115,6 +115,12 @@ constexpr std::array kActions{
     ActionRow{"saveAsAction", Menu::File, "document-save-as",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Save &as…"), "Ctrl+Shift+S",
               [](const Parts &p, bool) { p.files.askSaveAs(); }, None},
+    ActionRow{"compareSavedAction", Menu::File, "",
+              QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Compar&e with saved…"), "",
+              [](const Parts &p, bool) { p.files.compareWithSaved(); }, Starts},
+    ActionRow{"compareAction", Menu::File, "",
+              QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Compare wi&th…"), "",
+              [](const Parts &p, bool) { p.files.askCompare(); }, None},
     ActionRow{"pageSetupAction", Menu::File, "",
               QT_TRANSLATE_NOOP("ozm::editor::EditorActions", "Page set&up…"), "",
               [](const Parts &p, bool) {
@@ -514,6 +520,7 @@ void EditorActions::update()
         action("mergeCellsAction")->setEnabled(inTable && m_parts.table.canMerge());
         action("splitCellAction")->setEnabled(inTable && m_parts.table.canSplit());
     }
+    action("compareSavedAction")->setEnabled(!m_parts.files.path().isEmpty());
     check("richModeAction", rich);
     check("plainModeAction", !rich);
     check("headingRowsAction", inTable && m_parts.table.isInHeading());

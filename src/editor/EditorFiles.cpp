@@ -1,5 +1,8 @@
 #include "editor/EditorFiles.h"
 
+#include "editor/ComparisonDialog.h"
+#include "editor/EditorHistory.h"
+
 #include "support/Platform.h"
 #include <ozm_references/LocalResourceReference.h>
 #include <ozm_widgets/AbstractTemplateEditor.h>
@@ -134,6 +137,34 @@ void EditorFiles::askOpen()
         openChosen(path);
 }
 
+void EditorFiles::askCompare()
+{
+    const QString path = DefaultWidgetCreator::fileAccessor()->getOpenFileName(
+        m_editor, tr("Compare with template"), m_editor->storageDirectory(), openFilter(),
+        templateLocation());
+    if (!path.isEmpty())
+        compareWith(path);
+}
+
+void EditorFiles::compareWith(const QString &other)
+{
+    const auto loaded = read(other);
+    if (!loaded) {
+        tellNotOpened(other, loaded.error());
+        return;
+    }
+    if (qMax(loaded.value().content.size(), m_shown.content().size()) > EditorSession::kLargestRich) {
+        Q_EMIT told(tr("The template is too large to be compared."));
+        return;
+    }
+    const QString here =
+        path().isEmpty() || path() == other ? tr("this window") : QFileInfo(path()).fileName();
+    auto *dialog = new ComparisonDialog({QFileInfo(other).fileName(), loaded.value().content},
+                                        {here, m_shown.content()}, m_editor);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
 void EditorFiles::openChosen(const QString &path)
 {
     if (mayDiscard())
@@ -153,15 +184,19 @@ Result<TemplateFile::Loaded> EditorFiles::read(const QString &path)
     return answer == QMessageBox::Yes ? TemplateFile::read(path, TemplateFile::Page::AsText) : loaded;
 }
 
+void EditorFiles::tellNotOpened(const QString &path, const Error &error)
+{
+    // Said already, as the question.
+    if (error.errorCode() != ozm::codes::NotAllowed)
+        OZMStyle::critical(m_editor, Signal::FileNotReadable, tr("Template not opened"),
+                           QDir::toNativeSeparators(path), error);
+}
+
 bool EditorFiles::open(const QString &path)
 {
     const auto loaded = read(path);
     if (!loaded) {
-        // Said already, as the question.
-        if (loaded.error().errorCode() != ozm::codes::NotAllowed) {
-            OZMStyle::critical(m_editor, Signal::FileNotReadable, tr("Template not opened"),
-                               QDir::toNativeSeparators(path), loaded.error());
-        }
+        tellNotOpened(path, loaded.error());
         return false;
     }
     m_shown.show(loaded.value().content);

@@ -46,6 +46,9 @@ public:
     bool open(const QString &path);
     bool save();
     bool askSaveAs();
+    /// Shows how the template differs from its file, or from one that is asked for.
+    void compareWithSaved() { compareWith(path()); }
+    void askCompare();
     /// Asks what to do with changes; false when they are to be kept.
     [[nodiscard]] bool mayDiscard();
     /// The template that is shown now is in no file.
@@ -65,6 +68,8 @@ Q_SIGNALS:
 
 private:
     void openChosen(const QString &path);
+    void compareWith(const QString &path);
+    void tellNotOpened(const QString &path, const Error &error);
     [[nodiscard]] Result<TemplateFile::Loaded> read(const QString &path);
     bool saveTo(const IFileAccessor::DestinationFileLocation &location);
     [[nodiscard]] bool mayReplaceChanged();

@@ -1,13 +1,16 @@
 #include "editor/EditorFixture.h"
+#include "support/DialogDriver.h"
 #include "support/FullDisk.h"
 #include "support/StrictTest.h"
 
 #include <ozm_widgets/TemplateAutosave.h>
 #include <ozm_widgets/TemplateFile.h>
 
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTextBlock>
 #include <QTextEdit>
 
 #include <cstdlib>
@@ -84,6 +87,7 @@ private Q_SLOTS:
     void crashesLoseNothing();
     void largeTemplatesOpen();
     void markersAreNoHarm();
+    void differencesFromFilesAreShown();
 };
 
 void TestTemplateEditorFiles::closingAsks_data()
@@ -272,6 +276,32 @@ void TestTemplateEditorFiles::crashesLoseNothing()
         QCOMPARE(f.editor.isModified(), answer == QMessageBox::Yes);
         QCOMPARE(f.editor.filePath(), answer == QMessageBox::Yes ? u"/somewhere/t.ozt"_s : QString());
     }
+}
+
+void TestTemplateEditorFiles::differencesFromFilesAreShown()
+{
+    EditorFixture f;
+    QVERIFY(!f.child<QAction>("compareSavedAction")->isEnabled());
+    const QString path = f.path(u"t.ozt"_s);
+    write(path, "<ozm_template version=\"1.0\"><p>First.</p><p>Lot [Lot]</p></ozm_template>");
+    f.answerPath(path);
+    f.setContent(u"<p>First.</p><p>Lot</p>"_s);
+    QStringList told;
+    const auto look = [&told](QDialog *dialog) {
+        told.append(dialog->findChild<QListWidget *>(u"comparisonList"_s)->item(0)->text());
+        const auto *before = dialog->findChild<QTextEdit *>(u"comparisonBefore"_s);
+        told.append(before->textCursor().block().text().first(3));
+        told.append(QString::number(before->extraSelections().size()));
+        dialog->close();
+    };
+    DialogDriver dialogs({look, look});
+    f.trigger("compareAction");
+    QTRY_COMPARE(told, QStringList({u"Code [Lot] removed from paragraph 2"_s, u"Lot"_s, u"2"_s}));
+    QVERIFY(f.editor.openFile(path));
+    f.child<QTextEdit>("richView")->insertPlainText(u"Very "_s);
+    told.clear();
+    f.trigger("compareSavedAction");
+    QTRY_COMPARE(told, QStringList({u"Text added in paragraph 1: \"Very\""_s, u"Fir"_s, u"2"_s}));
 }
 
 void TestTemplateEditorFiles::largeTemplatesOpen()
