@@ -27,7 +27,7 @@ constexpr QColor kRemovedColor(255, 222, 220);
 constexpr QColor kAddedColor(214, 242, 214);
 constexpr QColor kChangedColor(255, 243, 196);
 
-QColor colorOf(Change change)
+QColor differenceColor(Change change)
 {
     switch (change) {
     case Change::Added:
@@ -153,7 +153,7 @@ void ComparisonDialog::mark()
                 continue;
             const QTextBlock line = m_documents[side].findBlock(position);
             const bool isInBoth = difference.positionBefore >= 0 && difference.positionAfter >= 0;
-            const QColor color = colorOf(isInBoth ? Change::Changed : difference.change);
+            const QColor color = differenceColor(isInBoth ? Change::Changed : difference.change);
             if (const QTextTable *table = QTextCursor(line).currentTable())
                 markCells(line, *table, difference.subject == TemplateDifference::Subject::Line, color);
             else

@@ -29,7 +29,7 @@ quint32 nextRealm()
     return ++realm;
 }
 
-QDeadlineTimer limit(std::chrono::milliseconds more)
+QDeadlineTimer timeWithin(std::chrono::milliseconds more)
 {
     const std::chrono::milliseconds deadline = TemplateEditorJSEngine::deadline();
     return deadline.count() > 0 ? QDeadlineTimer(deadline + more) : QDeadlineTimer(QDeadlineTimer::Forever);
@@ -117,7 +117,7 @@ void HelperScriptRealm::hold(Talk &talk)
 
 bool HelperScriptRealm::listen(ScriptHelper &helper, Talk &talk)
 {
-    QDeadlineTimer patience = limit(kTransferTime);
+    QDeadlineTimer patience = timeWithin(kTransferTime);
     while (const auto answer = helper.receive(patience)) {
         if (const auto *created = std::get_if<scriptprotocol::Created>(&*answer)) {
             talk.trouble = created->trouble;
@@ -125,7 +125,7 @@ bool HelperScriptRealm::listen(ScriptHelper &helper, Talk &talk)
                 return true;
         } else if (std::holds_alternative<scriptprotocol::Started>(*answer)) {
             talk.isStarted = true;
-            patience = limit(kGrace);
+            patience = timeWithin(kGrace);
         } else if (const auto *outcome = std::get_if<ScriptOutcome>(&*answer)) {
             talk.outcomes.append(*outcome);
         }

@@ -21,8 +21,8 @@ namespace ozm {
 namespace {
 
 // A machine that is busy starts a program in a second; one that takes longer has other troubles.
-constexpr std::chrono::milliseconds kStartTime = 10s;
-constexpr int kEndTimeMs = 5000;
+constexpr std::chrono::milliseconds kHelperStartTime = 10s;
+constexpr int kHelperEndTimeMs = 5000;
 
 } // namespace
 
@@ -58,7 +58,7 @@ Error ScriptHelper::start()
     m_process.start(program,
                     {scriptprotocol::kMemoryOption, QString::number(std::max<qint64>(0, wanted.memory))});
     Error error =
-        m_process.waitForStarted(int(kStartTime.count()))
+        m_process.waitForStarted(int(kHelperStartTime.count()))
             ? greet()
             : Error(codes::FileAccess, tr("The program \"%1\", which runs scripts, cannot be started: %2")
                                            .arg(QDir::toNativeSeparators(program), m_process.errorString()));
@@ -85,7 +85,7 @@ Error ScriptHelper::find(QString *program)
 Error ScriptHelper::greet()
 {
     const QString program = QDir::toNativeSeparators(m_process.program());
-    const auto greeting = nextFrame(QDeadlineTimer(kStartTime));
+    const auto greeting = nextFrame(QDeadlineTimer(kHelperStartTime));
     const auto version = greeting ? scriptprotocol::greetedVersion(*greeting) : std::nullopt;
     if (!version)
         return Error(codes::Failed,
@@ -103,7 +103,7 @@ void ScriptHelper::stop()
 {
     if (m_process.state() != QProcess::NotRunning) {
         m_process.kill();
-        m_process.waitForFinished(kEndTimeMs);
+        m_process.waitForFinished(kHelperEndTimeMs);
     }
     m_process.close();
     m_frames = {};
