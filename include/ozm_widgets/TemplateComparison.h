@@ -32,14 +32,15 @@ struct TemplateDifference
         Source,      ///< Markup that shows nowhere; told only where nothing else differs.
     };
 
-    Change change = Change::Changed;
-    Subject subject = Subject::Text;
-    QString before = {};     ///< As it was; empty for what was added.
-    QString after = {};      ///< As it is; empty for what was removed.
-    QString text = {};       ///< All of it in words, such as "Code [Mass] added in row 2 of table 1".
+    Change change = Change::Changed; ///< Added things are in the later state only.
+    Subject subject = Subject::Text; ///< The kind of thing.
+    QString before = {};             ///< As it was; empty for what was added.
+    QString after = {};              ///< As it is; empty for what was removed.
+    QString text = {};               ///< All of it in words, such as "Code [Mass] added in row 2 of table 1".
     int positionBefore = -1; ///< Of its line in a TemplateDocument of that state; -1 where it is not there.
     int positionAfter = -1;  ///< The same for the other state.
 
+    /// True when all that they tell is the same.
     friend bool operator==(const TemplateDifference &, const TemplateDifference &) = default;
 };
 
