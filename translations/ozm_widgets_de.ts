@@ -1293,6 +1293,10 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
         <source>Compare wi&amp;th…</source>
         <translation>Ver&amp;gleichen mit…</translation>
     </message>
+    <message>
+        <source>Paragraph st&amp;yle</source>
+        <translation>Ab&amp;satzstil</translation>
+    </message>
 </context>
 <context>
     <name>ozm::editor::EditorFiles</name>
@@ -1849,6 +1853,25 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     <message>
         <source>Beside the name of the document</source>
         <translation>Neben dem Namen des Dokuments</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::ParagraphStyles</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Table heading</source>
+        <translation>Tabellenkopf</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Beschriftung</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Anmerkung</translation>
     </message>
 </context>
 <context>

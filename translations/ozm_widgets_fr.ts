@@ -1293,6 +1293,10 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
         <source>Compare wi&amp;th…</source>
         <translation>&amp;Comparer avec…</translation>
     </message>
+    <message>
+        <source>Paragraph st&amp;yle</source>
+        <translation>St&amp;yle de paragraphe</translation>
+    </message>
 </context>
 <context>
     <name>ozm::editor::EditorFiles</name>
@@ -1849,6 +1853,25 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
     <message>
         <source>Beside the name of the document</source>
         <translation>À côté du nom du document</translation>
+    </message>
+</context>
+<context>
+    <name>ozm::editor::ParagraphStyles</name>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Table heading</source>
+        <translation>En-tête de tableau</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Légende</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
     </message>
 </context>
 <context>

@@ -28,9 +28,14 @@ struct ReportPaperOptions
     QPageLayout layout = QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
                                      QMarginsF(20, 16, 18, 14), QPageLayout::Millimeter);
     /// For elements and classes of the template, in the CSS that QTextDocument::setDefaultStyleSheet() reads. The
-    /// template's own styles stand above it.
+    /// template's own styles stand above it. Rules for the classes of paragraphStyleSheet() replace those there; any
+    /// other class with a rule of its own is offered by the template editor as a style of paragraphs, too.
     QString styleSheet = {};
 };
+
+/// The rules of the paragraph styles that the template editor offers, from title to note. Paper reads them before
+/// ReportPaperOptions::styleSheet; a report that is stored as a page carries them in the same order.
+[[nodiscard]] OZM_WIDGETS_EXPORT QString paragraphStyleSheet();
 
 /**
  * Brings a filled template onto paper, by a printer or as PDF, always in the same way.

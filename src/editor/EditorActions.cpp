@@ -445,6 +445,7 @@ void EditorActions::makeMenus()
     codes->setIcon(OZMStyle::icon(u"insert-code"_s));
     m_parts.window.findChild<QMenu *>(u"insertMenu"_s)->insertMenu(action("newScriptAction"), codes);
     connect(codes, &QMenu::aboutToShow, this, [this, codes] { fillCodeMenu(codes); });
+    addStyleMenu();
     for (QWidget *view : std::initializer_list<QWidget *>{m_parts.views.rich(), m_parts.views.plain()}) {
         view->setContextMenuPolicy(Qt::ActionsContextMenu);
         for (const ActionRow &row : kActions)
@@ -458,6 +459,20 @@ void EditorActions::addViewEntries(QMenu *menu)
     menu->addSeparator();
     for (const QDockWidget *dock : m_parts.docks)
         menu->addAction(dock->toggleViewAction());
+}
+
+/// Of the styles that have no action of their own.
+void EditorActions::addStyleMenu()
+{
+    m_styles = new QMenu(EditorActions::tr("Paragraph st&yle"), &m_parts.window);
+    m_styles->setObjectName(u"styleMenu"_s);
+    m_parts.window.findChild<QMenu *>(u"formatMenu"_s)->insertMenu(action("textAction"), m_styles);
+    connect(m_styles, &QMenu::aboutToShow, this, [this] {
+        m_styles->clear();
+        for (const ParagraphStyle &style : m_parts.format.styles())
+            m_styles->addAction(style.name, this,
+                                [this, name = style.className] { m_parts.format.setStyle(name); });
+    });
 }
 
 void EditorActions::fillCodeMenu(QMenu *menu)
@@ -526,6 +541,7 @@ void EditorActions::update()
     check("headingRowsAction", inTable && m_parts.table.isInHeading());
     auto *bar = m_parts.window.findChild<QToolBar *>(u"formatToolBar"_s);
     bar->setEnabled(rich && !m_parts.views.isReadOnly());
+    m_styles->setEnabled(bar->isEnabled());
     if (!rich)
         return;
     const QTextCharFormat format = m_parts.format.format();

@@ -68,10 +68,12 @@ private:
     void makeToolBars();
     void addViewEntries(QMenu *menu);
     void fillCodeMenu(QMenu *menu);
+    void addStyleMenu();
     void check(const char *name, bool on) const;
 
     const EditorParts m_parts;
     QHash<QByteArray, QAction *> m_actions;
+    QMenu *m_styles = nullptr;
 };
 
 } // namespace ozm::editor

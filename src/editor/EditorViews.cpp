@@ -3,6 +3,7 @@
 #include "editor/CodeEdit.h"
 #include "editor/CodeModel.h"
 #include "editor/EditorHistory.h"
+#include "editor/ParagraphLooks.h"
 #include "editor/RichTextView.h"
 #include "editor/SourceHighlighter.h"
 
@@ -60,6 +61,8 @@ void EditorViews::show(const EditorSession &session)
     TemplateDocument *formatted = session.richDocument();
     if (formatted)
         formatted->setDisplayNames(m_codes->displayNames());
+    if (formatted && !formatted->findChild<ParagraphLooks *>())
+        new ParagraphLooks(formatted, m_styleSheet);
     m_rich->showDocument(formatted);
     m_plain->showDocument(formatted ? nullptr : session.document());
     if (!formatted && !session.isLarge() && !session.document()->findChild<SourceHighlighter *>())
@@ -136,6 +139,8 @@ void EditorViews::refresh(const EditorSession &session)
 {
     if (TemplateDocument *formatted = session.richDocument()) {
         formatted->setDisplayNames(m_codes->displayNames());
+        if (auto *looks = formatted->findChild<ParagraphLooks *>())
+            looks->setStyleSheet(m_styleSheet);
         m_rich->viewport()->update();
     } else if (auto *highlighter = session.document()->findChild<SourceHighlighter *>()) {
         highlighter->rehighlight();

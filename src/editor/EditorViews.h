@@ -34,6 +34,8 @@ public:
     void showNothing();
     /// Shows what @p session holds anew, as codes may be called otherwise now.
     void refresh(const EditorSession &session);
+    /// That of paper, by which paragraphs of named styles are shown.
+    void setStyleSheet(const QString &styleSheet) { m_styleSheet = styleSheet; }
 
     /// Of both views; 1 is the usual size.
     [[nodiscard]] double zoom() const { return m_zoom; }
@@ -62,6 +64,7 @@ private:
     /// The resolution that the formatted text is laid out for; null for that of the screen.
     std::unique_ptr<QImage> m_device;
     QFont m_plainFont;
+    QString m_styleSheet;
     double m_zoom = 1;
     bool m_isReadOnly = false;
 };

@@ -7,9 +7,11 @@
 #include "editor/ForeignPage.h"
 #include "editor/TableEditing.h"
 #include "templates/document/InlineHtml.h"
+#include "templates/document/ParagraphClass.h"
 #include "templates/document/TemplateChip.h"
 #include "templates/document/TemplateParts.h"
 #include "templates/instructions/InstructionCaption.h"
+#include "templates/paper/ParagraphStyles.h"
 #include "templates/syntax/Codes.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -290,8 +292,11 @@ void RichTextView::keyPressEvent(QKeyEvent *event)
     if (!mayRemove(removedBy(*event)))
         return;
     const int headingLevel = textCursor().blockFormat().headingLevel();
+    const bool isBehindTitle = textCursor().atBlockEnd() &&
+                               event->matches(QKeySequence::InsertParagraphSeparator) &&
+                               paragraphClass(textCursor().block()) == QStringView(kTitleClass);
     QTextEdit::keyPressEvent(event);
-    if (headingLevel > 0 && textCursor().blockFormat().headingLevel() == 0)
+    if (isBehindTitle || (headingLevel > 0 && textCursor().blockFormat().headingLevel() == 0))
         leaveHeading();
     if (event->text() == "]"_L1)
         closeCode();
@@ -345,6 +350,7 @@ void RichTextView::leaveHeading()
     QTextBlockFormat text;
     text.setTopMargin(0);
     text.setBottomMargin(0);
+    text.setProperty(kParagraphClass, QString());
     cursor.joinPreviousEditBlock();
     cursor.mergeBlockFormat(text);
     cursor.endEditBlock();

@@ -302,6 +302,9 @@ void AbstractTemplateEditor::Private::refresh()
             parameters.insert(u'[' + column + u']', rows.constFirst()->getDataAt(column, nullptr, false));
     }
     m_codes->setCodes(qptr->shortCodes(), parameters);
+    const QString styleSheet = m_printing.options().styleSheet;
+    m_format->setStyleSheet(styleSheet);
+    m_views.setStyleSheet(styleSheet);
     m_views.refresh(m_history->session());
     m_preview->setRows(names);
     if (m_history->session().isLarge() && m_isShown)

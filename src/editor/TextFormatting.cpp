@@ -1,8 +1,9 @@
 #include "editor/TextFormatting.h"
 
 #include "editor/RichTextView.h"
+#include "templates/document/LineStyle.h"
+#include "templates/document/ParagraphClass.h"
 #include "templates/document/TemplateChip.h"
-#include "templates/document/TemplateSourceWriter.h"
 
 #include <QColorDialog>
 #include <QDoubleValidator>
@@ -11,6 +12,8 @@
 #include <QTextBlock>
 #include <QTextList>
 #include <QToolBar>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -37,14 +40,13 @@ Widget *named(Widget *widget, const char *name, const QString &text)
 TextFormatting::TextFormatting(RichTextView *view)
     : QObject(view)
     , m_view(view)
+    , m_styles(paragraphStyles({}))
 {}
 
 void TextFormatting::addChoices(QToolBar *bar)
 {
     m_paragraph = named(new QComboBox(bar), "paragraphChoice", tr("Kind of paragraph"));
-    m_paragraph->addItem(tr("Text"));
-    for (int level = 1; level <= kHeadings; ++level)
-        m_paragraph->addItem(tr("Heading %1").arg(level));
+    fillParagraphs();
     m_family = named(new QFontComboBox(bar), "fontChoice", tr("Font"));
     m_family->setMinimumContentsLength(10);
     m_family->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -56,7 +58,13 @@ void TextFormatting::addChoices(QToolBar *bar)
         m_size->addItem(QString::number(size));
     for (QWidget *choice : std::initializer_list<QWidget *>{m_paragraph, m_family, m_size})
         bar->addWidget(choice);
-    connect(m_paragraph, &QComboBox::activated, this, &TextFormatting::setHeading);
+    connect(m_paragraph, &QComboBox::activated, this, [this] {
+        const QVariant chosen = m_paragraph->currentData();
+        if (chosen.typeId() == QMetaType::Int)
+            setHeading(chosen.toInt());
+        else
+            setStyle(chosen.toString());
+    });
     connect(m_family, &QFontComboBox::textActivated, this, &TextFormatting::setFamily);
     connect(m_size, &QComboBox::textActivated, this, &TextFormatting::setSize);
     connect(m_view, &QTextEdit::currentCharFormatChanged, this, &TextFormatting::showChoices);
@@ -71,7 +79,36 @@ void TextFormatting::showChoices()
     const QSignalBlocker quietSize(m_size);
     m_family->setCurrentFont(font);
     m_size->setEditText(QString::number(font.pointSizeF() > 0 ? font.pointSizeF() : font.pixelSize()));
-    m_paragraph->setCurrentIndex(qMin(m_view->textCursor().blockFormat().headingLevel(), kHeadings));
+    const QTextBlock block = m_view->textCursor().block();
+    const int level = qMin(block.blockFormat().headingLevel(), kHeadings);
+    const QString name = level > 0 ? QString() : paragraphClass(block);
+    // A class that no style sheet knows is told by its name.
+    m_paragraph->setPlaceholderText(name);
+    m_paragraph->setCurrentIndex(m_paragraph->findData(name.isEmpty() ? QVariant(level) : QVariant(name)));
+}
+
+void TextFormatting::fillParagraphs()
+{
+    m_paragraph->clear();
+    m_paragraph->addItem(tr("Text"), 0);
+    const auto add = [this](const ParagraphStyle &style) {
+        m_paragraph->addItem(style.name, style.className);
+    };
+    if (!m_styles.isEmpty())
+        add(m_styles.constFirst());
+    for (int level = 1; level <= kHeadings; ++level)
+        m_paragraph->addItem(tr("Heading %1").arg(level), level);
+    for (const ParagraphStyle &style : m_styles.sliced(qMin(qsizetype(1), m_styles.size())))
+        add(style);
+}
+
+void TextFormatting::setStyleSheet(const QString &styleSheet)
+{
+    const QList<ParagraphStyle> styles = paragraphStyles(styleSheet);
+    if (std::exchange(m_styles, styles) == styles)
+        return;
+    fillParagraphs();
+    showChoices();
 }
 
 void TextFormatting::setBold(bool on)
@@ -220,20 +257,46 @@ void TextFormatting::indent(int by)
 
 void TextFormatting::setHeading(int level)
 {
+    setParagraph(level, {});
+}
+
+void TextFormatting::setStyle(const QString &className)
+{
+    setParagraph(0, className);
+}
+
+void TextFormatting::setParagraph(int level, const QString &className)
+{
     QTextCursor cursor = m_view->textCursor();
+    const int before = cursor.blockFormat().headingLevel();
+    const bool isPlain = before == 0 && paragraphClass(cursor.block()).isEmpty();
     QTextBlockFormat block;
     block.setHeadingLevel(level);
-    // Text that was a heading is text as it is typed; other text keeps its margins.
-    if (level > 0 || cursor.blockFormat().headingLevel() > 0) {
-        const QTextBlockFormat usual = level > 0 ? headingBlock(level) : QTextBlockFormat();
+    // Text that was something else is text as it is typed; other text keeps its margins.
+    if (level > 0 || !className.isEmpty() || !isPlain) {
+        const QTextBlockFormat usual = level > 0              ? headingDefaults(level).block
+                                       : !className.isEmpty() ? paragraphDefaults().block
+                                                              : QTextBlockFormat();
         block.setTopMargin(usual.topMargin());
         block.setBottomMargin(usual.bottomMargin());
     }
+    // A heading may have a class of its own.
+    if (level == 0 || before == 0)
+        block.setProperty(kParagraphClass, className);
+    cursor.beginEditBlock();
+    cursor.mergeBlockFormat(block);
+    if (level > 0 || before > 0)
+        mergeLook(cursor, level);
+    cursor.endEditBlock();
+    showChoices();
+    m_view->setFocus();
+}
+
+void TextFormatting::mergeLook(const QTextCursor &cursor, int level)
+{
     QTextCharFormat look;
     look.setFontWeight(level > 0 ? QFont::Bold : QFont::Normal);
     look.setProperty(QTextFormat::FontSizeAdjustment, level > 0 ? kLargestHeading + 1 - level : 0);
-    cursor.beginEditBlock();
-    cursor.mergeBlockFormat(block);
     QTextCursor line(cursor);
     line.setPosition(cursor.selectionStart());
     line.movePosition(QTextCursor::StartOfBlock);
@@ -241,10 +304,8 @@ void TextFormatting::setHeading(int level)
     line.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
     line.mergeCharFormat(look);
     line.mergeBlockCharFormat(look);
-    cursor.endEditBlock();
     if (!line.hasSelection())
         m_view->mergeFormat(look);
-    m_view->setFocus();
 }
 
 QTextCharFormat TextFormatting::format() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "templates/paper/ParagraphStyles.h"
+
 #include <QObject>
 #include <QTextCharFormat>
 #include <QTextListFormat>
@@ -7,6 +9,7 @@
 class QAction;
 class QComboBox;
 class QFontComboBox;
+class QTextCursor;
 class QToolBar;
 
 namespace ozm::editor {
@@ -39,6 +42,11 @@ public:
     void indent(int by);
     /// 0 for a paragraph, 1 to 6 for headings.
     void setHeading(int level);
+    /// Gives the paragraphs the style of the class @p className.
+    void setStyle(const QString &className);
+    /// Offers the classes of @p styleSheet, too.
+    void setStyleSheet(const QString &styleSheet);
+    [[nodiscard]] const QList<ParagraphStyle> &styles() const { return m_styles; }
 
     /// The format at the cursor.
     [[nodiscard]] QTextCharFormat format() const;
@@ -50,9 +58,13 @@ private:
     void setSize(const QString &points);
     void askColor(const QString &title, QTextFormat::Property property);
     void showChoices();
+    void fillParagraphs();
+    void setParagraph(int level, const QString &className);
+    void mergeLook(const QTextCursor &cursor, int level);
 
     RichTextView *m_view;
-    QComboBox *m_paragraph = nullptr;
+    QList<ParagraphStyle> m_styles;
+    QComboBox *m_paragraph = nullptr; ///< Its data: the level of a heading, or a class.
     QFontComboBox *m_family = nullptr;
     QComboBox *m_size = nullptr;
 };

@@ -144,7 +144,8 @@ QString TemplateGenerator::block(int depth)
     const QString style =
         oneOf({"", "", "", " align=\"center\"", " style=\"margin-left:40px\"", " style=\"text-align:right\"",
                " style=\"background-color:#ddeeff\"", " style=\"line-height:150%\"",
-               " style=\"margin-top:0px; margin-bottom:6px\""});
+               " style=\"margin-top:0px; margin-bottom:6px\"", " class=\"report-note\"",
+               " CLASS='lead  two' align=right", " class=report-title"});
     return u'<' + tag + style + u'>' + inlines(0) + "</"_L1 + tag + ">\n"_L1;
 }
 

@@ -317,6 +317,56 @@ private Q_SLOTS:
         QCOMPARE(f.content(), QString(source).replace(u'@', u" width=\"12.5%\""_s));
     }
 
+    // A style is the class of a paragraph: nothing else changes, in one step.
+    void stylesHaveNames_data()
+    {
+        QTest::addColumn<QString>("source"); // the caret is in "one"
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("style");
+        QTest::addColumn<QString>("written");
+        QTest::newRow("paragraph") << u"<p id=x>one <b>two</b></p>"_s << u"Text"_s << u"Note"_s
+                                   << u"<p class=\"report-note\" id=x>one <b>two</b></p>"_s;
+        QTest::newRow("of another style") << u"<p class='report-note'>one</p>\n<p>two</p>"_s << u"Note"_s
+                                          << u"Title"_s << u"<p class=\"report-title\">one</p>\n<p>two</p>"_s;
+        QTest::newRow("back to text")
+            << u"<p class=report-title>one</p>"_s << u"Title"_s << u"Text"_s << u"<div>one</div>"_s;
+        QTest::newRow("heading") << u"<h2>one</h2>"_s << u"Heading 2"_s << u"Caption"_s
+                                 << u"<p class=\"report-caption\">one</p>"_s;
+        QTest::newRow("to a heading")
+            << u"<p class=\"report-note\">one</p>"_s << u"Note"_s << u"Heading 1"_s << u"<h1>one</h1>"_s;
+        QTest::newRow("cell")
+            << u"<table class=list><tr><td width=40>one</td></tr></table>"_s << u"Text"_s
+            << u"Table heading"_s
+            << u"<table class=list><tr><td width=40><p class=\"report-table-heading\">one</p>"
+               "</td></tr></table>"_s;
+        QTest::newRow("item") << u"<ul><li>one</li></ul>"_s << u"Text"_s << u"Note"_s
+                              << u"<ul><li class=\"report-note\">one</li></ul>"_s;
+    }
+    void stylesHaveNames()
+    {
+        QFETCH(const QString, source);
+        QFETCH(const QString, style);
+        QFETCH(const QString, written);
+        EditorFixture f;
+        f.setContent(source);
+        auto *rich = f.child<QTextEdit>("richView");
+        auto *choice = f.child<QComboBox>("paragraphChoice");
+        rich->setTextCursor(rich->document()->find(u"one"_s));
+        QTEST(choice->currentText(), "before");
+        choice->setCurrentIndex(choice->findText(style));
+        Q_EMIT choice->activated(choice->currentIndex());
+        QCOMPARE(f.content(), written);
+        QCOMPARE(choice->currentText(), style);
+        for (const char *mode : {"plainModeAction", "richModeAction"})
+            f.trigger(mode);
+        QCOMPARE(f.content(), written);
+        rich->setTextCursor(rich->document()->find(u"one"_s));
+        QCOMPARE(choice->currentText(), style);
+        for (int step = 0; step < 3; ++step)
+            f.trigger("undoAction");
+        QCOMPARE(f.content(), source);
+    }
+
     void imagesAndLinksAreInserted()
     {
         EditorFixture f;

@@ -178,7 +178,7 @@ ozm::Result<ReportPages> fillReport(const QString &path, bool asGroup, const std
 QString reportHtml(const ReportPages &report)
 {
     QString html = u"<!DOCTYPE html><html><head><meta charset=\"utf-8\"><title>"_s + tr("Report") +
-                   u"</title><style>"_s + kStyle + u"</style></head><body>"_s;
+                   u"</title><style>"_s + ozm::paragraphStyleSheet() + kStyle + u"</style></head><body>"_s;
     for (qsizetype index = 0; index < report.pages.size(); ++index) {
         if (index > 0)
             html += u"<p style=\"page-break-before: always; margin: 0px;\"></p>"_s;

@@ -1,5 +1,7 @@
 #include "templates/document/InlineHtml.h"
 
+#include "templates/document/TemplateElements.h"
+
 #include <QBrush>
 #include <QColor>
 
@@ -181,6 +183,19 @@ QString imageTag(const QTextImageFormat &image)
     if (!title.isEmpty())
         tag += u" title=\""_s + title.toHtmlEscaped() + u'"';
     return tag + "/>"_L1;
+}
+
+QString spaceOf(const QString &written)
+{
+    if (!written.startsWith(u'&'))
+        return written;
+    const QString name = written.sliced(1).chopped(1);
+    const auto *row =
+        std::ranges::find_if(kSpaces, [&name](const SpaceRow &each) { return name == each.name; });
+    if (row != kSpaces.end())
+        return QString(QChar(row->character));
+    const bool isHex = name.at(1).toLower() == u'x';
+    return QString(QChar(isHex ? name.sliced(2).toUInt(nullptr, 16) : name.sliced(1).toUInt()));
 }
 
 } // namespace ozm::editor

@@ -9,6 +9,9 @@ namespace ozm::editor {
 /// Text as it stands in HTML; line separators become breaks, no-break spaces stay what they are.
 [[nodiscard]] QString escaped(const QString &text);
 
+/// The space that is @p written as itself, or by its name or number.
+[[nodiscard]] QString spaceOf(const QString &written);
+
 /// The tags that lead from the look of @p base to that of @p format, and back.
 struct InlineTags
 {

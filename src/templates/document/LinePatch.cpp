@@ -1,6 +1,7 @@
 #include "templates/document/LinePatch.h"
 
 #include "templates/document/InlineHtml.h"
+#include "templates/document/ParagraphClass.h"
 #include "templates/document/TemplateChip.h"
 #include "templates/syntax/HtmlScanner.h"
 
@@ -371,6 +372,8 @@ QString patchedTag(const QString &tag, const QString &before, const QString &now
         if (old.value(each.key()) != *each)
             changed.insert(each.key(), *each);
     QString result = withDeclarations(tag, changed);
+    if (classOf(before) != classOf(now))
+        result = withClass(result, classOf(now));
     if (tagName(before) != tagName(now))
         result.replace(1, tagName(tag).size(), tagName(now));
     return result;

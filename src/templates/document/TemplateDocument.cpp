@@ -2,6 +2,7 @@
 
 #include "templates/document/KeptSource.h"
 #include "templates/document/LetterSizes.h"
+#include "templates/document/ParagraphClass.h"
 #include "templates/document/TemplateChip.h"
 #include "templates/document/TemplateParts.h"
 #include "templates/document/TemplateSourceWriter.h"
@@ -126,6 +127,8 @@ void replaceMarker(const QTextCursor &found, const editor::SplitTemplate &split,
             line.setProperty(editor::kWrittenLine, true);
         else if (remember)
             line.setProperty(editor::kSourceRun, run);
+        if (run >= 0 && !split.runs.at(run).paragraphClass.isEmpty())
+            line.setProperty(editor::kParagraphClass, split.runs.at(run).paragraphClass);
         cursor.mergeBlockFormat(line);
         return;
     }

@@ -1,5 +1,7 @@
 #include "templates/document/TemplateParts.h"
 
+#include "templates/document/InlineHtml.h"
+#include "templates/document/ParagraphClass.h"
 #include "templates/document/StandingMarkup.h"
 #include "templates/document/TemplateElements.h"
 #include "templates/instructions/InstructionSyntax.h"
@@ -143,7 +145,7 @@ private:
         if (m_runIsOpen)
             m_result.runs.last().end = token.end;
         if (token.name == "hr"_L1 && opens)
-            m_result.runs.append({token.start, token.end, -1, {}, {}, true});
+            m_result.runs.append({token.start, token.end, -1, {}, {}, {}, true});
         if (isEmptyLine()) {
             beginRun(token.end);
             appendPart(PartKind::Markup, token.end, token.end);
@@ -288,6 +290,7 @@ private:
         for (const SourceRun &run : std::as_const(m_result.runs))
             for (const HtmlElement &element : run.outer)
                 ++held[element.start];
+        qsizetype before = 0;
         for (SourceRun &run : m_result.runs) {
             const HtmlElement inner = run.outer.value(0);
             const bool isHost = !run.isRule && held.value(inner.start) == 1 &&
@@ -295,6 +298,11 @@ private:
                                  inner.name == "td"_L1 || inner.name == "th"_L1);
             if (isHost)
                 run.host = run.outer.takeFirst();
+            // Of the lines of an item, the first is the item's own.
+            const bool isItem = inner.name == "li"_L1 && inner.start >= before;
+            if (isItem || contains(kLineElements, run.host.name))
+                run.paragraphClass = classOf(m_source.sliced(inner.start, inner.startTagEnd - inner.start));
+            before = run.start;
             run.outer.removeIf(
                 [](const HtmlElement &element) { return contains(kTableParts, element.name); });
         }
@@ -416,19 +424,6 @@ private:
         }
         m_result.html += plain.sliced(at).replace(u'<', "&lt;"_L1);
         m_result.runs.last().end = end;
-    }
-
-    static QString spaceOf(const QString &written)
-    {
-        if (!written.startsWith(u'&'))
-            return written;
-        const QString name = written.sliced(1).chopped(1);
-        const auto *row =
-            std::ranges::find_if(kSpaces, [&name](const SpaceRow &each) { return name == each.name; });
-        if (row != kSpaces.end())
-            return QString(QChar(row->character));
-        const bool isHex = name.at(1).toLower() == u'x';
-        return QString(QChar(isHex ? name.sliced(2).toUInt(nullptr, 16) : name.sliced(1).toUInt()));
     }
 
     void appendPart(PartKind kind, qsizetype start, qsizetype end)

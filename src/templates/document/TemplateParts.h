@@ -31,6 +31,7 @@ struct SourceRun
     HtmlElement host = {};
     /// The elements around it, from the innermost, that can go once they hold nothing.
     QList<HtmlElement> outer = {};
+    QString paragraphClass = {}; ///< The class of the element that holds this line.
     bool isRule = false;
     bool isBalanced = true; ///< It opens and closes the same inline elements.
 };

@@ -2,6 +2,7 @@
 
 #include "templates/document/InlineHtml.h"
 #include "templates/document/LineStyle.h"
+#include "templates/document/ParagraphClass.h"
 #include "templates/document/TemplateChip.h"
 #include "templates/syntax/Codes.h"
 
@@ -222,7 +223,7 @@ private:
                                   own.isColoured || format.background().style() != Qt::NoBrush};
             const QStringList css = blockDeclarations(block, own);
             beginLine(block);
-            add("<li"_L1 + styleAttribute(css) + u'>');
+            add("<li"_L1 + classAttribute(paragraphClass(block)) + styleAttribute(css) + u'>');
             beginInner();
             // The reader makes no line of an item in which a list comes first.
             if (block.length() <= 1 && isListBelow(block.next(), *list))
@@ -275,7 +276,7 @@ private:
         }
         const bool empty = block.length() <= 1;
         beginLine(block);
-        add(u'<' + tag + styleAttribute(css) + u'>');
+        add(u'<' + tag + classAttribute(paragraphClass(block)) + styleAttribute(css) + u'>');
         beginInner();
         if (empty)
             add(u"<br/>"_s);
@@ -466,9 +467,9 @@ private:
     static bool isPlain(const QTextBlock &block)
     {
         QTextBlockFormat rest = block.blockFormat();
-        return rest.headingLevel() == 0 && rest.topMargin() == 0 && rest.bottomMargin() == 0 &&
-               rest.leftMargin() == 0 && rest.rightMargin() == 0 && rest.textIndent() == 0 &&
-               rest.indent() == 0 && rest.background().style() == Qt::NoBrush &&
+        return paragraphClass(block).isEmpty() && rest.headingLevel() == 0 && rest.topMargin() == 0 &&
+               rest.bottomMargin() == 0 && rest.leftMargin() == 0 && rest.rightMargin() == 0 &&
+               rest.textIndent() == 0 && rest.indent() == 0 && rest.background().style() == Qt::NoBrush &&
                rest.pageBreakPolicy() == QTextFormat::PageBreak_Auto &&
                (rest.lineHeightType() == QTextBlockFormat::SingleHeight || rest.lineHeight() == 100);
     }
@@ -554,11 +555,6 @@ WrittenSource writeSource(const QTextDocument &document)
     SourceWriting writing(document);
     (void)writing.goOn(QDeadlineTimer(QDeadlineTimer::Forever));
     return writing.take();
-}
-
-QTextBlockFormat headingBlock(int level)
-{
-    return headingDefaults(level).block;
 }
 
 } // namespace ozm::editor

@@ -6,7 +6,6 @@
 
 #include <memory>
 
-class QTextBlockFormat;
 class QTextDocument;
 
 namespace ozm::editor {
@@ -76,8 +75,5 @@ private:
     class Writer;
     const std::unique_ptr<Writer> m_writer;
 };
-
-/// The lines of a heading of @p level, from 1 to 6, where its tag says nothing of them.
-[[nodiscard]] QTextBlockFormat headingBlock(int level);
 
 } // namespace ozm::editor

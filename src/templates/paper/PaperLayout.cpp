@@ -75,7 +75,7 @@ PaperLayout::PaperLayout(const QString &decoded, const ReportPaperOptions &optio
     m_document->setUndoRedoEnabled(false);
     m_document->setDocumentMargin(0);
     m_document->setDefaultFont(options.font);
-    m_document->setDefaultStyleSheet(options.styleSheet);
+    m_document->setDefaultStyleSheet(paragraphStyleSheet() + options.styleSheet);
     m_document->documentLayout()->setPaintDevice(const_cast<QImage *>(&m_device));
     if (TemplateDocument::isHtml(text))
         m_document->setHtml(text);

@@ -1,0 +1,74 @@
+#include "templates/paper/ParagraphStyles.h"
+
+#include "templates/document/LetterSizes.h"
+
+#include <ozm_widgets/ReportPaper.h>
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+#include <QTextBlock>
+#include <QTextDocument>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace ozm {
+
+namespace {
+
+struct StyleRow
+{
+    QStringView className;
+    const char *name;
+    QLatin1StringView rules;
+};
+
+// Of names that no template has for something else.
+constexpr std::array kStyles{
+    StyleRow{editor::kTitleClass, QT_TRANSLATE_NOOP("ozm::editor::ParagraphStyles", "Title"),
+             "font-size: 20pt; font-weight: bold; margin-top: 0px; margin-bottom: 10px;"_L1},
+    StyleRow{u"report-table-heading", QT_TRANSLATE_NOOP("ozm::editor::ParagraphStyles", "Table heading"),
+             "font-weight: bold; color: #24506f; margin-top: 0px; margin-bottom: 0px;"_L1},
+    StyleRow{u"report-caption", QT_TRANSLATE_NOOP("ozm::editor::ParagraphStyles", "Caption"),
+             "font-size: 8pt; font-style: italic; margin-top: 3px; margin-bottom: 10px;"_L1},
+    StyleRow{u"report-note", QT_TRANSLATE_NOOP("ozm::editor::ParagraphStyles", "Note"),
+             "font-size: 8pt; color: #51606d; margin-top: 4px; margin-bottom: 4px;"_L1},
+};
+
+} // namespace
+
+QString paragraphStyleSheet()
+{
+    QString sheet;
+    for (const StyleRow &style : kStyles)
+        sheet += u'.' + style.className.toString() + " { "_L1 + style.rules + " }\n"_L1;
+    return sheet;
+}
+
+QList<editor::ParagraphStyle> editor::paragraphStyles(const QString &styleSheet)
+{
+    QList<ParagraphStyle> styles;
+    for (const StyleRow &style : kStyles)
+        styles.append({style.className.toString(),
+                       QCoreApplication::translate("ozm::editor::ParagraphStyles", style.name)});
+    static const QRegularExpression rule(u"(?:^|[\\s,}])p?\\.([A-Za-z_][\\w-]*)(?=\\s*[,{])"_s);
+    for (auto rules = rule.globalMatch(styleSheet); rules.hasNext();) {
+        const QString name = rules.next().captured(1);
+        if (std::ranges::find(styles, name, &ParagraphStyle::className) == styles.end())
+            styles.append({name, name});
+    }
+    return styles;
+}
+
+QTextCharFormat editor::lookOfClass(const QString &className, const QString &styleSheet)
+{
+    QTextDocument document;
+    document.setDefaultStyleSheet(paragraphStyleSheet() + styleSheet);
+    document.setHtml(u"<p class=\"%1\">x</p>"_s.arg(className));
+    sizeLettersInPoints(document);
+    return document.begin().begin().fragment().charFormat();
+}
+
+} // namespace ozm
