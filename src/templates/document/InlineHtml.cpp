@@ -13,6 +13,9 @@ namespace ozm::editor {
 
 namespace {
 
+constexpr char16_t kPrivateUseFirst = 0xE000;
+constexpr char16_t kPrivateUseLast = 0xF8FF;
+
 // The rich-text reader's names for the sizes relative to the document's font, from -1 on.
 constexpr std::array kSizeNames{"small"_L1, "medium"_L1, "large"_L1, "x-large"_L1, "xx-large"_L1};
 
@@ -141,6 +144,14 @@ QString escaped(const QString &text)
         }
     }
     return html;
+}
+
+QChar characterNotIn(const QString &text)
+{
+    char16_t candidate = kPrivateUseFirst;
+    while (candidate < kPrivateUseLast && text.contains(QChar(candidate)))
+        ++candidate;
+    return QChar(candidate);
 }
 
 InlineTags inlineTags(const QTextCharFormat &format, const QTextCharFormat &base)

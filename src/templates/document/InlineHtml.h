@@ -12,6 +12,9 @@ namespace ozm::editor {
 /// The space that is @p written as itself, or by its name or number.
 [[nodiscard]] QString spaceOf(const QString &written);
 
+/// One for private use that @p text does not have.
+[[nodiscard]] QChar characterNotIn(const QString &text);
+
 /// The tags that lead from the look of @p base to that of @p format, and back.
 struct InlineTags
 {

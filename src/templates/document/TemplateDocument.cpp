@@ -1,5 +1,6 @@
 #include <ozm_widgets/TemplateDocument.h>
 
+#include "templates/document/InlineHtml.h"
 #include "templates/document/KeptSource.h"
 #include "templates/document/LetterSizes.h"
 #include "templates/document/ParagraphClass.h"
@@ -23,6 +24,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <ranges>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -113,13 +115,22 @@ QString linesAsParagraphs(const QString &text)
     return html;
 }
 
-void replaceMarker(const QTextCursor &found, const editor::SplitTemplate &split, bool remember)
+/// A marker in a document: what it stands for, and where.
+struct Marker
 {
-    QTextCursor cursor(found);
-    const QString marker = cursor.selectedText();
-    const qsizetype index = QStringView(marker).sliced(1, marker.size() - 2).toInt();
-    const TemplatePart &part = split.parts.at(index);
-    const int run = split.places.at(index).run;
+    int part;
+    int start;
+    int end;
+};
+
+/// Puts the part of @p marker in its place.
+void replaceMarker(QTextCursor &cursor, const Marker &marker, const editor::SplitTemplate &split,
+                   bool remember)
+{
+    const TemplatePart &part = split.parts.at(marker.part);
+    const int run = split.places.at(marker.part).run;
+    cursor.setPosition(marker.start);
+    cursor.setPosition(marker.end, QTextCursor::KeepAnchor);
     if (part.source.isEmpty()) {
         cursor.removeSelectedText();
         QTextBlockFormat line;
@@ -133,28 +144,84 @@ void replaceMarker(const QTextCursor &found, const editor::SplitTemplate &split,
         return;
     }
     const QTextCharFormat base = cursor.charFormat();
-    if (part.kind == PartKind::None) {
+    if (part.kind == PartKind::None)
         cursor.insertText(part.source, base);
-        return;
+    else if (marker.end == marker.start + 1 && split.chipMarker == QChar::ObjectReplacementCharacter)
+        cursor.setCharFormat(editor::chipFormat(part, base));
+    else
+        cursor.insertText(QString(QChar::ObjectReplacementCharacter), editor::chipFormat(part, base));
+}
+
+bool isMarker(QChar character, const editor::SplitTemplate &split)
+{
+    return character == split.textMarker || character == split.chipMarker;
+}
+
+/// The markers of @p document, which has read the split HTML; nothing unless it has them all, each at its turn.
+std::optional<QList<Marker>> markersInTurn(const QTextDocument &document, const editor::SplitTemplate &split)
+{
+    QList<Marker> markers;
+    const QString text = document.toRawText();
+    qsizetype inHtml = 0;
+    for (int at = 0; at < text.size(); ++at) {
+        if (!isMarker(text.at(at), split))
+            continue;
+        while (inHtml < split.html.size() && !isMarker(split.html.at(inHtml), split))
+            ++inHtml;
+        if (inHtml == split.html.size() || split.html.at(inHtml++) != text.at(at))
+            return std::nullopt;
+        markers.append({int(markers.size()), at, at + 1});
     }
-    cursor.insertText(QString(QChar::ObjectReplacementCharacter),
-                      editor::chipFormat(split.parts.at(index), base));
+    return markers.size() == split.parts.size() ? std::optional(markers) : std::nullopt;
+}
+
+/// The split HTML with a number at each marker, between it and @p end.
+QString withNumbers(const editor::SplitTemplate &split, QChar end)
+{
+    QString html;
+    int number = 0;
+    for (const QChar character : split.html) {
+        if (isMarker(character, split))
+            html += split.textMarker + QString::number(number++) + end;
+        else
+            html += character;
+    }
+    return html;
+}
+
+QList<Marker> numberedMarkers(const QTextDocument &document, const editor::SplitTemplate &split, QChar end)
+{
+    QList<Marker> markers;
+    const QString text = document.toRawText();
+    for (qsizetype last = text.indexOf(end); last >= 0; last = text.indexOf(end, last + 1)) {
+        const qsizetype first = text.lastIndexOf(split.textMarker, last);
+        const int part = first < 0 ? -1 : QStringView(text).sliced(first + 1, last - first - 1).toInt();
+        if (part >= 0 && part < split.parts.size())
+            markers.append({part, int(first), int(last) + 1});
+    }
+    return markers;
+}
+
+/// Reads the HTML of @p split; gives the character behind numbered markers, or null where they are in turn.
+QChar readHtml(QTextDocument &document, const editor::SplitTemplate &split)
+{
+    document.setHtml(split.html);
+    if (markersInTurn(document, split))
+        return {};
+    // The reader left some of them out, or moved them: with a number, each can be told.
+    const QChar end = editor::characterNotIn(split.html);
+    document.setHtml(withNumbers(split, end));
+    return end;
 }
 
 // From the end on, so that positions found before stay true.
-void replaceMarkers(QTextDocument &document, const editor::SplitTemplate &split, bool remember)
+void replaceMarkers(QTextDocument &document, const QList<Marker> &markers, const editor::SplitTemplate &split,
+                    bool remember)
 {
-    const QString text = document.toRawText();
     QTextCursor edit(&document);
     edit.beginEditBlock();
-    qsizetype end = text.lastIndexOf(split.markerEnd);
-    while (end >= 0 && !split.parts.isEmpty()) {
-        const qsizetype start = text.lastIndexOf(split.markerStart, end);
-        edit.setPosition(int(start));
-        edit.setPosition(int(end) + 1, QTextCursor::KeepAnchor);
-        replaceMarker(edit, split, remember);
-        end = start > 0 ? text.lastIndexOf(split.markerEnd, start - 1) : -1;
-    }
+    for (const Marker &marker : std::ranges::reverse_view(markers))
+        replaceMarker(edit, marker, split, remember);
     edit.endEditBlock();
 }
 
@@ -281,11 +348,12 @@ editor::SplitTemplate editor::readSource(QTextDocument &document, const QString 
     const bool undo = document.isUndoRedoEnabled();
     document.setUndoRedoEnabled(false);
     const LayoutPause pause(document);
-    document.setHtml(split.html);
+    const QChar end = readHtml(document, split);
     if (split.html.contains("font"_L1))
         sizeLettersInPoints(document);
     removeLinesAfterTables(document);
-    replaceMarkers(document, split, remember);
+    const auto inTurn = end.isNull() ? markersInTurn(document, split) : std::nullopt;
+    replaceMarkers(document, inTurn ? *inTurn : numberedMarkers(document, split, end), split, remember);
     if (remember)
         rememberRules(document, split);
     document.setUndoRedoEnabled(undo);
@@ -448,6 +516,8 @@ qsizetype TemplateDocument::offsetOf(int position) const
 
 void TemplateDocument::setDisplayNames(const QHash<QString, QString> &names)
 {
+    if (names == d->painter.displayNames)
+        return;
     d->painter.displayNames = names;
     markContentsDirty(0, characterCount());
 }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QLatin1StringView>
+#include <QStringView>
 
+#include <algorithm>
 #include <array>
 
 /// The elements of HTML by what the reader of rich text makes of them.
@@ -44,5 +46,16 @@ struct SpaceRow
 inline constexpr std::array kSpaces{SpaceRow{"ensp"_L1, 0x2002},   SpaceRow{"emsp"_L1, 0x2003},
                                     SpaceRow{"numsp"_L1, 0x2007},  SpaceRow{"puncsp"_L1, 0x2008},
                                     SpaceRow{"thinsp"_L1, 0x2009}, SpaceRow{"hairsp"_L1, 0x200A}};
+
+// The reader folds these; it would fold others, too, which are parts of their own so that they stay.
+inline bool isBlank(QChar c)
+{
+    return QStringView(u" \t\n\r\u2028\u2029").contains(c);
+}
+
+inline bool isBlankText(QStringView text)
+{
+    return std::ranges::all_of(text, isBlank);
+}
 
 } // namespace ozm::editor

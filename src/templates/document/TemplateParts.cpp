@@ -23,9 +23,6 @@ namespace ozm::editor {
 
 namespace {
 
-constexpr char16_t kPrivateUseFirst = 0xE000;
-constexpr char16_t kPrivateUseLast = 0xF8FF;
-
 // Elements around a line that are looked at; more of them would be no template that somebody wrote.
 constexpr qsizetype kDeepest = 30;
 
@@ -33,17 +30,6 @@ template <typename Table>
 bool contains(const Table &table, const QString &name)
 {
     return std::any_of(table.begin(), table.end(), [&](QLatin1StringView row) { return name == row; });
-}
-
-// The reader folds these; it would fold others, too, which are parts of their own so that they stay.
-bool isBlank(QChar c)
-{
-    return QStringView(u" \t\n\r\u2028\u2029").contains(c);
-}
-
-bool isBlankText(QStringView text)
-{
-    return std::ranges::all_of(text, isBlank);
 }
 
 struct Range
@@ -89,14 +75,13 @@ public:
 private:
     void chooseMarkers()
     {
-        char16_t candidate = kPrivateUseFirst;
-        const auto next = [&] {
-            while (candidate < kPrivateUseLast && m_source.contains(QChar(candidate)))
-                ++candidate;
-            return QChar(candidate++);
-        };
-        m_result.markerStart = next();
-        m_result.markerEnd = next();
+        m_result.textMarker = characterNotIn(m_source);
+        // The very character of a chip, unless there are others of them: an image is one in the document.
+        const bool hasObjects =
+            m_source.contains(QChar::ObjectReplacementCharacter) ||
+            std::ranges::any_of(m_tokens, [](const HtmlToken &token) { return token.name == "img"_L1; });
+        m_result.chipMarker = hasObjects ? characterNotIn(m_source + m_result.textMarker)
+                                         : QChar(QChar::ObjectReplacementCharacter);
     }
 
     void append(const HtmlToken &token)
@@ -189,7 +174,8 @@ private:
 
     void addPart(const TemplatePart &part, const PartPlace &place)
     {
-        m_result.html += m_result.markerStart + QString::number(m_result.parts.size()) + m_result.markerEnd;
+        const bool isText = part.kind == PartKind::None || part.source.isEmpty();
+        m_result.html += isText ? m_result.textMarker : m_result.chipMarker;
         m_result.parts.append(part);
         m_result.places.append(place);
     }
@@ -268,11 +254,15 @@ private:
                 ++at;
         }
         const QStringView trimmed = QStringView(m_source).sliced(at, end - at);
+        if (!trimmed.contains(u'[')) {
+            appendPlain(at, end);
+            return;
+        }
         const qsizetype offset = at;
         auto codes = syntax::codePattern().globalMatch(trimmed);
         while (codes.hasNext()) {
             const QRegularExpressionMatch code = codes.next();
-            if (code.capturedView().contains(halfTag()))
+            if (code.capturedView().contains(u'<') && code.capturedView().contains(halfTag()))
                 continue;
             appendPlain(at, offset + code.capturedStart());
             at = offset + code.capturedEnd();
@@ -305,7 +295,10 @@ private:
             before = run.start;
             run.outer.removeIf(
                 [](const HtmlElement &element) { return contains(kTableParts, element.name); });
+            run.outer.squeeze();
         }
+        m_result.runs.squeeze();
+        m_result.sections.squeeze();
     }
 
     void findHost(SourceRun &run)
@@ -403,17 +396,23 @@ private:
     {
         if (start == end)
             return;
-        const QString plain = m_source.sliced(start, end - start);
-        if (!m_runIsOpen && !isLineOfBlanks(m_index) && isBlankText(plain)) {
-            m_result.html += plain;
+        const QStringView plainText = QStringView(m_source).sliced(start, end - start);
+        if (!m_runIsOpen && !isLineOfBlanks(m_index) && isBlankText(plainText)) {
+            m_result.html += plainText;
             return;
         }
         beginRun(start);
+        m_result.runs.last().end = end;
+        if (std::ranges::none_of(plainText, isRare)) {
+            m_result.html += plainText;
+            return;
+        }
         // The reader takes all of these for blanks, and several for one.
         static const QRegularExpression wide(
             uR"([\x{0B}\x{0C}\x{85}\x{1680}\x{2000}-\x{200A}\x{202F}\x{205F}\x{3000}])"
             uR"(|&(?:thinsp|ensp|emsp|hairsp|numsp|puncsp);|&#(?:819[2-9]|820[0-2]|8239|8287|12288);)"
             uR"(|&#[xX](?:200[0-9aA]|202[fF]|205[fF]|3000);)"_s);
+        const QString plain = plainText.toString();
         qsizetype at = 0;
         for (auto spaces = wide.globalMatch(plain); spaces.hasNext();) {
             const QRegularExpressionMatch space = spaces.next();
@@ -423,8 +422,10 @@ private:
                     {start + space.capturedStart(), start + space.capturedEnd()});
         }
         m_result.html += plain.sliced(at).replace(u'<', "&lt;"_L1);
-        m_result.runs.last().end = end;
     }
+
+    // Most text has nothing of the kind, which is seen at once.
+    static bool isRare(QChar c) { return c == u'<' || c == u'&' || c == u'\v' || c == u'\f' || c >= u'\x85'; }
 
     void appendPart(PartKind kind, qsizetype start, qsizetype end)
     {

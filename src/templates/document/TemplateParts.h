@@ -47,7 +47,8 @@ struct SourceSection
 
 /**
  * A template's source taken apart for a rich-text document: HTML that such a document understands, in which
- * a marker stands for each part that it would drop or split. An empty part is a line without text.
+ * one character, a marker, stands for each part that it would drop or split: one for text, another for the rest. An empty
+ * part is a line without text.
  *
  * Parts are codes, scripts, and markup that rich text has no form for: comments, style sheets, form
  * controls, and whole tables or lists in which a script or code stands where only rows, cells or
@@ -62,8 +63,8 @@ struct SplitTemplate
     QList<SourceRun> runs;
     QList<SourceSection> sections; ///< Cover the source without a gap.
     QString around;                ///< The start tags of the page and its body.
-    QChar markerStart;
-    QChar markerEnd;
+    QChar textMarker;
+    QChar chipMarker;
 };
 
 [[nodiscard]] SplitTemplate splitTemplate(const QString &source);

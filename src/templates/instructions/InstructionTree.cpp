@@ -338,6 +338,23 @@ private:
     InstructionTree m_tree;
 };
 
+bool hasTags(const QString &source, const QList<HtmlToken> &tokens)
+{
+    using Kind = HtmlTokenKind;
+    // A code with a format does not make a plain text a page.
+    bool isInFormat = false;
+    return std::any_of(tokens.begin(), tokens.end(), [&](const HtmlToken &token) {
+        if (token.kind == Kind::StartTag &&
+            isFormatTag(QStringView(source).sliced(token.start, token.end - token.start))) {
+            isInFormat = true;
+            return false;
+        }
+        if (isInFormat && token.kind == Kind::EndTag)
+            return std::exchange(isInFormat, false) && token.name != "span"_L1;
+        return token.kind == Kind::StartTag || token.kind == Kind::EndTag || token.kind == Kind::RawElement;
+    });
+}
+
 } // namespace
 
 InstructionTree instructionsOf(const QString &content)
@@ -365,20 +382,10 @@ std::optional<Page> pageOf(const QString &content)
 
 bool isHtml(const QString &source)
 {
-    using Kind = HtmlTokenKind;
-    const QList<HtmlToken> tokens = editor::scanHtml(source);
-    // A code with a format does not make a plain text a page.
-    bool isInFormat = false;
-    return std::any_of(tokens.begin(), tokens.end(), [&](const HtmlToken &token) {
-        if (token.kind == Kind::StartTag &&
-            isFormatTag(QStringView(source).sliced(token.start, token.end - token.start))) {
-            isInFormat = true;
-            return false;
-        }
-        if (isInFormat && token.kind == Kind::EndTag)
-            return std::exchange(isInFormat, false) && token.name != "span"_L1;
-        return token.kind == Kind::StartTag || token.kind == Kind::EndTag || token.kind == Kind::RawElement;
-    });
+    // Most pages show at once that they are one.
+    constexpr qsizetype kFirst = 16;
+    return hasTags(source, editor::scanHtmlStart(source, kFirst)) ||
+           hasTags(source, editor::scanHtml(source));
 }
 
 QString rowWithText(const QString &content, const SourceRange &range, const QString &text)

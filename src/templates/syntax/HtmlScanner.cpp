@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -51,9 +52,9 @@ public:
         : m_source(source)
     {}
 
-    QList<HtmlToken> run()
+    QList<HtmlToken> run(qsizetype most = std::numeric_limits<qsizetype>::max())
     {
-        while (m_at < m_source.size()) {
+        while (m_at < m_source.size() && m_tokens.size() < most) {
             const qsizetype next = m_source.indexOf(u'<', m_at);
             if (next < 0)
                 break;
@@ -61,7 +62,8 @@ public:
             if (!takeMarkup())
                 ++m_at;
         }
-        flushText(m_source.size());
+        if (m_tokens.size() < most)
+            flushText(m_source.size());
         return m_tokens;
     }
 
@@ -235,6 +237,11 @@ private:
 QList<HtmlToken> scanHtml(const QString &source)
 {
     return Scanner(source).run();
+}
+
+QList<HtmlToken> scanHtmlStart(const QString &source, qsizetype count)
+{
+    return Scanner(source).run(count);
 }
 
 QString missingEnd(const QString &source, const HtmlToken &token)

@@ -34,6 +34,8 @@ struct HtmlToken
  * a "<" before a digit or a blank among it, and what is not closed ends with the source.
  */
 [[nodiscard]] QList<HtmlToken> scanHtml(const QString &source);
+/// The first @p count of them, and some more.
+[[nodiscard]] QList<HtmlToken> scanHtmlStart(const QString &source, qsizetype count);
 
 /// The end that @p token lacks when the source ended in it; without, it would swallow the text behind it.
 [[nodiscard]] QString missingEnd(const QString &source, const HtmlToken &token);
