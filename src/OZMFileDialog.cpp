@@ -211,7 +211,7 @@ QFileDialog *toolkitDialog(QWidget *parent, const Question &question, const QStr
 /// The name in the box of a FileDialog may lack its extension.
 QStringList picksOf(const QFileDialog &dialog)
 {
-    const QStringList paths = dialog.selectedFiles();
+    QStringList paths = dialog.selectedFiles();
     if (dialog.acceptMode() != QFileDialog::AcceptSave || paths.isEmpty())
         return paths;
     return {FileDialog::fileNameWithExtension(paths.constFirst(), dialog.selectedNameFilter())};
