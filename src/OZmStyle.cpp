@@ -74,8 +74,10 @@ public:
         if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange && !m_busy) {
             m_busy = true;
             followWithToolTips();
+            // Never to none in between: after that the toolkit keeps docks that are gone, and the next sheet that
+            // anyone sets ends the program.
             const QString current = qApp->styleSheet();
-            qApp->setStyleSheet({});
+            qApp->setStyleSheet(current + u' ');
             qApp->setStyleSheet(current);
             m_busy = false;
         }
