@@ -968,6 +968,25 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::editor::ContentsDialog</name>
+    <message>
+        <source>Table of contents</source>
+        <translation>Inhaltsverzeichnis</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titel:</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <source>&amp;Levels of headings:</source>
+        <translation>&amp;Ebenen der Überschriften:</translation>
+    </message>
+</context>
+<context>
     <name>ozm::editor::EditorActions</name>
     <message>
         <source>&amp;File</source>
@@ -1297,6 +1316,10 @@ Den angegebenen Ordner können Sie trotzdem öffnen.</translation>
         <source>Paragraph st&amp;yle</source>
         <translation>Ab&amp;satzstil</translation>
     </message>
+    <message>
+        <source>Ta&amp;ble of contents…</source>
+        <translation>I&amp;nhaltsverzeichnis…</translation>
+    </message>
 </context>
 <context>
     <name>ozm::editor::EditorFiles</name>
@@ -1433,6 +1456,10 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     <message>
         <source>The section has a text for no rows already.</source>
         <translation>Der Abschnitt hat schon einen Text für den Fall, dass es keine Zeilen gibt.</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
     </message>
 </context>
 <context>
@@ -2332,6 +2359,10 @@ Den ganzen Text öffnen, wie er dasteht?</translation>
     <message>
         <source>The section cannot be followed for its other part.</source>
         <translation>Der Abschnitt kann wegen seines anderen Teils nicht befolgt werden.</translation>
+    </message>
+    <message>
+        <source>Table of contents</source>
+        <translation>Inhaltsverzeichnis</translation>
     </message>
 </context>
 <context>

@@ -968,6 +968,25 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
     </message>
 </context>
 <context>
+    <name>ozm::editor::ContentsDialog</name>
+    <message>
+        <source>Table of contents</source>
+        <translation>Table des matières</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titre&#x202f;:</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>&amp;Levels of headings:</source>
+        <translation>&amp;Niveaux de titres&#x202f;:</translation>
+    </message>
+</context>
+<context>
     <name>ozm::editor::EditorActions</name>
     <message>
         <source>&amp;File</source>
@@ -1297,6 +1316,10 @@ Vous pouvez tout de même ouvrir le dossier indiqué.</translation>
         <source>Paragraph st&amp;yle</source>
         <translation>St&amp;yle de paragraphe</translation>
     </message>
+    <message>
+        <source>Ta&amp;ble of contents…</source>
+        <translation>Ta&amp;ble des matières…</translation>
+    </message>
 </context>
 <context>
     <name>ozm::editor::EditorFiles</name>
@@ -1433,6 +1456,10 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
     <message>
         <source>The section has a text for no rows already.</source>
         <translation>La section a déjà un texte pour le cas où il n’y a aucune ligne.</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
     </message>
 </context>
 <context>
@@ -2332,6 +2359,10 @@ Ouvrir tout son texte tel quel&#x202f;?</translation>
     <message>
         <source>The section cannot be followed for its other part.</source>
         <translation>La section ne peut pas être appliquée à cause de son autre partie.</translation>
+    </message>
+    <message>
+        <source>Table of contents</source>
+        <translation>Table des matières</translation>
     </message>
 </context>
 <context>

@@ -18,6 +18,7 @@ namespace {
 
 using instructions::CodeFormat;
 using instructions::Condition;
+using instructions::Contents;
 using instructions::Else;
 using instructions::End;
 using instructions::Extent;
@@ -89,6 +90,15 @@ void EditorInstructions::askPage()
     ask(*page, !present || !std::holds_alternative<Page>(*present));
 }
 
+void EditorInstructions::askContents()
+{
+    const auto present = atCursor();
+    if (const auto *contents = present ? std::get_if<Contents>(&*present) : nullptr)
+        ask(*contents, false);
+    else
+        ask(Contents{Contents().levels, tr("Contents")}, true);
+}
+
 bool EditorInstructions::editAtCursor()
 {
     auto present = atCursor();
@@ -110,6 +120,8 @@ bool EditorInstructions::editAtCursor()
         ask(*format, false);
     else if (const auto *page = std::get_if<Page>(&*present))
         ask(*page, false);
+    else if (const auto *contents = std::get_if<Contents>(&*present))
+        ask(*contents, false);
     return true;
 }
 
@@ -217,6 +229,17 @@ void EditorInstructions::ask(const Page &page, bool isNew)
         m_views.current().insertFirstLine(sourceOf(dialog.page()));
     else
         write(dialog.page(), Extent::Row, isNew);
+}
+
+void EditorInstructions::ask(const Contents &contents, bool isNew)
+{
+    ContentsDialog dialog(contents, choices(isNew), m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    if (isNew)
+        m_views.current().insertLine(sourceOf(dialog.contents()));
+    else
+        write(dialog.contents(), Extent::Row, isNew);
 }
 
 void EditorInstructions::write(const Instruction &instruction, Extent extent, bool isNew)

@@ -35,6 +35,7 @@ public:
     void askCondition();
     void askFormat();
     void askPage();
+    void askContents();
     /// Gives the section around the cursor its other part, or goes to that.
     void addOtherPart();
     /// False when there is no instruction at the cursor.
@@ -50,6 +51,7 @@ private:
     void ask(const instructions::Condition &condition, bool isNew);
     void ask(const instructions::CodeFormat &format, bool isNew);
     void ask(const instructions::Page &page, bool isNew);
+    void ask(const instructions::Contents &contents, bool isNew);
     void write(const instructions::Instruction &instruction, instructions::Extent extent, bool isNew);
     [[nodiscard]] std::optional<SectionPlaces> section() const;
     [[nodiscard]] QTextCursor cursorAt(int position) const;

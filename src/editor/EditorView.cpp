@@ -189,6 +189,11 @@ void FormattedView::insertFirstLine(const QString &source)
     m_view->insertFirstLine(source);
 }
 
+void FormattedView::insertLine(const QString &source)
+{
+    m_view->insertOwnLine(source);
+}
+
 QList<InstructionMark> FormattedView::instructionMarks() const
 {
     const TemplateDocument *document = m_view->templateDocument();
@@ -338,6 +343,14 @@ void SourceView::insertFirstLine(const QString &source)
 {
     QTextCursor start(m_view->document());
     start.insertText(source + u'\n');
+}
+
+void SourceView::insertLine(const QString &source)
+{
+    QTextCursor place = cursor();
+    place.movePosition(QTextCursor::EndOfBlock);
+    place.insertText((place.block().text().trimmed().isEmpty() ? QString() : QString(u'\n')) + source);
+    setCursor(place);
 }
 
 QList<InstructionMark> SourceView::instructionMarks() const

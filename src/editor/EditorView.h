@@ -53,6 +53,8 @@ public:
     virtual void enclose(const QString &begin, const QString &end) = 0;
     /// Puts @p source into a line of its own at the beginning; the cursor stays at its place.
     virtual void insertFirstLine(const QString &source) = 0;
+    /// Puts @p source into a line of its own, below that of the cursor unless that one is empty.
+    virtual void insertLine(const QString &source) = 0;
     /// The instructions in comments, in their order.
     [[nodiscard]] virtual QList<InstructionMark> instructionMarks() const = 0;
     /// Begins the other part of the section that @p end ends with @p source, right before that, and puts the cursor
@@ -91,6 +93,7 @@ public:
     void setPartSource(const QTextCursor &part, const QString &source) override;
     void enclose(const QString &begin, const QString &end) override;
     void insertFirstLine(const QString &source) override;
+    void insertLine(const QString &source) override;
     [[nodiscard]] QList<InstructionMark> instructionMarks() const override;
     void insertOtherPart(const InstructionMark &end, const QString &source) override;
     [[nodiscard]] bool isInRow() const override;
@@ -127,6 +130,7 @@ public:
     void setPartSource(const QTextCursor &part, const QString &source) override;
     void enclose(const QString &begin, const QString &end) override;
     void insertFirstLine(const QString &source) override;
+    void insertLine(const QString &source) override;
     [[nodiscard]] QList<InstructionMark> instructionMarks() const override;
     void insertOtherPart(const InstructionMark &end, const QString &source) override;
     [[nodiscard]] bool isInRow() const override;

@@ -23,6 +23,7 @@ namespace ozm::editor {
 namespace {
 
 using instructions::Condition;
+using instructions::Contents;
 using instructions::Extent;
 using instructions::Page;
 using instructions::Repeat;
@@ -283,6 +284,23 @@ Page PageDialog::page() const
             m_footer->text(),
             m_name->text(),
             m_version->text()};
+}
+
+ContentsDialog::ContentsDialog(const Contents &contents, const InstructionChoices &choices, QWidget *parent)
+    : InstructionDialog("contentsDialog", tr("Table of contents"), choices, parent)
+    , m_levels(new QSpinBox(this))
+{
+    m_title = addLine("contentsTitle", tr("&Title:"), contents.title, tr("None"));
+    m_title->setMinimumWidth(kFieldWidth);
+    named(m_levels, "contentsLevels")->setRange(1, instructions::kMostLevels);
+    m_levels->setValue(contents.levels);
+    form()->addRow(tr("&Levels of headings:"), m_levels);
+    addButtons();
+}
+
+Contents ContentsDialog::contents() const
+{
+    return {m_levels->value(), m_title->text()};
 }
 
 } // namespace ozm::editor

@@ -132,4 +132,20 @@ private:
     QLineEdit *m_version;
 };
 
+/// Asks which headings a table of contents has.
+class ContentsDialog : public InstructionDialog
+{
+    Q_OBJECT
+
+public:
+    ContentsDialog(const instructions::Contents &contents, const InstructionChoices &choices,
+                   QWidget *parent);
+
+    [[nodiscard]] instructions::Contents contents() const;
+
+private:
+    QLineEdit *m_title;
+    QSpinBox *m_levels;
+};
+
 } // namespace ozm::editor

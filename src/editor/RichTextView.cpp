@@ -197,6 +197,17 @@ void RichTextView::insertFirstLine(const QString &source)
     cursor.endEditBlock();
 }
 
+void RichTextView::insertOwnLine(const QString &source)
+{
+    if (isReadOnly())
+        return;
+    QTextCursor cursor = textCursor();
+    cursor.beginEditBlock();
+    insertLine(document()->findBlock(cursor.selectionEnd()), true, source);
+    cursor.endEditBlock();
+    ensureCursorVisible();
+}
+
 void RichTextView::enclose(const QString &begin, const QString &end)
 {
     if (isReadOnly())

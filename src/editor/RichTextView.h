@@ -44,6 +44,8 @@ public:
     /// Puts @p source before the chip at @p position and the cursor behind it; into a line of its own, with an empty
     /// one behind it for the cursor, where the chip has its own, too.
     void insertOtherPart(int position, const QString &source);
+    /// Puts @p source into a line of its own, below that of the cursor unless that one is empty.
+    void insertOwnLine(const QString &source);
     /// Puts @p source into a line of its own before all others.
     void insertFirstLine(const QString &source);
     /// Merges, as chips would not outlive a format that is set.

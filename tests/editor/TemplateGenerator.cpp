@@ -153,7 +153,8 @@ QStringList TemplateGenerator::blocks()
 {
     QStringList all;
     if (chance(10))
-        all += u"<!--ozm:page size=\"A5\" header=\"Lot [Name]\"-->\n"_s;
+        all += oneOf({"<!--ozm:page size=\"A5\" header=\"Lot [Name]\"-->\n",
+                      "<div><!--ozm:contents levels=\"2\" title=\"Of [Name]\"--></div>\n"});
     for (int i = below(8) + 1; i > 0; --i) {
         const bool isSection = chance(15);
         if (isSection)
@@ -161,7 +162,7 @@ QStringList TemplateGenerator::blocks()
                           "<p><!--ozm:if code=\"Mass\" is=\"above\" value=\"1\"--></p>\n"});
         all += block(0);
         if (isSection)
-            all += u"<!--ozm:end-->\n"_s;
+            all += oneOf({"<!--ozm:end-->\n", "<p><!--ozm:else--></p>\n<p>none</p><!--ozm:end-->\n"});
     }
     return all;
 }

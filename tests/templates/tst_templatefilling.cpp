@@ -196,6 +196,8 @@ private Q_SLOTS:
         format("count of values", u"number\" data-total=\"count\" data-of=\"Ions\""_s, u"Mass"_s, u"2"_s);
         format("sum of nothing", u"number\" data-total=\"sum\" data-of=\"None\" data-empty=\"-\""_s,
                u"Mass"_s, u"-"_s);
+        add("contents", u"<p><!--ozm:contents title='No. [Charge] [User]'--></p>\n<b>x</b>"_s,
+            u"<!--ozm:contents levels=\"3\" title=\"No. 2 A &amp; &lt;b&gt;\"--><b>x</b>"_s);
         add("page set-up",
             u"<p><!--ozm:page size='A5' margins='10 20 30 40' header='No. [Charge] [User]'--></p><b>x</b>"_s,
             u"<!--ozm:page size=\"A5\" margins=\"10 20 30 40\" header=\"No. 2 A &amp; &lt;b&gt;\"--><b>x</b>"_s);
@@ -236,8 +238,9 @@ private Q_SLOTS:
             u"<ul><li><!--ozm:repeat-row of=\"Ions\"--><!--ozm:repeat-row sort=\"a\"--></li></ul>"_s,
             u"<!--ozm:repeat-row sort=\"a\"-->"_s);
         add("in two elements", u"<p>a"_s + begin + u"b</p><p>c"_s + end + u"d</p>"_s, begin + u'|' + end);
-        for (const auto &page : {u"<!--ozm:page size=\"A9\"-->"_s, u"<!--ozm:page margins=\"1 2 3\"-->"_s,
-                                 u"<!--ozm:page margins=\"1 2 3 -4\"-->"_s})
+        for (const auto &page :
+             {u"<!--ozm:contents levels=\"7\"-->"_s, u"<!--ozm:page size=\"A9\"-->"_s,
+              u"<!--ozm:page margins=\"1 2 3\"-->"_s, u"<!--ozm:page margins=\"1 2 3 -4\"-->"_s})
             add(qPrintable(page), page, page);
         add("no section to have another part", u"a<!--ozm:else-->"_s, u"<!--ozm:else-->"_s);
         add("three parts", begin + u"a<!--ozm:else-->b<!--ozm:else-->c"_s + end,
@@ -358,6 +361,13 @@ private Q_SLOTS:
             << u"<table><tr><td>%1end</td></tr></table>"_s.arg(u"l<br/>"_s.repeated(40))
             << QStringList{u"l l"_s, u"l l"_s, u"l end"_s};
         QTest::newRow("few lines") << lines + u"<p>1<br/>2<br/>3</p>"_s << QStringList{u"l l"_s, u"1 3"_s};
+        const QString contents = u"<p><!--ozm:contents levels=\"2\" title=\"C\"--></p>"_s;
+        QTest::newRow("contents") << contents + u"<h1 style=\"page-break-before:always\">H</h1><h3>x</h3>"
+                                                "<h2 style=\"page-break-before:always\">I</h2><p>end</p>"_s
+                                  << QStringList{u"C 3"_s, u"H x"_s, u"I end"_s};
+        QTest::newRow("contents of several pages")
+            << contents + u"<h1>H</h1>"_s.repeated(30) + u"<h2>I</h2><p>end</p>"_s
+            << QStringList{u"C 5"_s, u"H 8"_s, u"H H"_s, u"H H"_s, u"H H"_s, u"H H"_s, u"H H"_s, u"I end"_s};
         QTest::newRow("letters in pixels")
             << u"<p style=\"font-size:200px\">l</p><p style=\"font-size:150pt\">m</p>"_s
             << QStringList{u"l l"_s, u"m m"_s};

@@ -77,6 +77,7 @@ struct Captioner
     {
         return page.size.isEmpty() ? Texts::tr("Page set-up") : Texts::tr("Page set-up, %1").arg(page.size);
     }
+    QString operator()(const Contents & /*contents*/) const { return Texts::tr("Table of contents"); }
     QString operator()(const CodeFormat &format) const
     {
         if (format.total != Total::None)

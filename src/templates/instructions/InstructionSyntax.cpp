@@ -24,6 +24,7 @@ constexpr auto kCondition = "if"_L1;
 constexpr auto kElse = "else"_L1;
 constexpr auto kEnd = "end"_L1;
 constexpr auto kPage = "page"_L1;
+constexpr auto kContents = "contents"_L1;
 constexpr auto kRowSuffix = "-row"_L1;
 
 template <typename Value>
@@ -272,6 +273,14 @@ Reading readPage(Attributes &attributes)
     return reading(attributes, page);
 }
 
+Reading readContents(Attributes &attributes)
+{
+    Contents contents{attributes.number("levels"_L1, kMostLevels, Contents().levels),
+                      attributes.text("title"_L1)};
+    contents.levels = std::max(1, contents.levels);
+    return reading(attributes, contents);
+}
+
 QString nameWith(QLatin1StringView name, Extent extent)
 {
     return extent == Extent::Row ? name + kRowSuffix : QString(name);
@@ -316,6 +325,11 @@ struct Writer
                                   writtenUnless({}, "footer"_L1, page.footer) +
                                   writtenUnless({}, "name"_L1, page.name) +
                                   writtenUnless({}, "version"_L1, page.version));
+    }
+    QString operator()(const Contents &contents) const
+    {
+        return comment(kContents, written("levels"_L1, QString::number(contents.levels)) +
+                                      writtenUnless({}, "title"_L1, contents.title));
     }
     QString operator()(const CodeFormat &format) const
     {
@@ -372,6 +386,8 @@ Reading readComment(const QString &comment)
     }
     if (name == kPage)
         return readPage(attributes);
+    if (name == kContents)
+        return readContents(attributes);
     if (name == kElse)
         return reading(attributes, Else());
     if (name == kEnd)

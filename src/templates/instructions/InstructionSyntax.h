@@ -141,7 +141,16 @@ struct Page
     bool operator==(const Page &) const = default;
 };
 
-using Instruction = std::variant<Repeat, Condition, End, CodeFormat, Page, Else>;
+/// Stands for the headings of the report with the numbers of their pages.
+struct Contents
+{
+    int levels = 3;     ///< Headings of these, from 1 on.
+    QString title = {}; ///< With codes; above the list.
+
+    bool operator==(const Contents &) const = default;
+};
+
+using Instruction = std::variant<Repeat, Condition, End, CodeFormat, Page, Else, Contents>;
 
 /// An instruction, or the reason why a text that looks like one is none.
 struct Reading
@@ -154,6 +163,7 @@ struct Reading
 inline constexpr int kMostDigits = 15;
 inline constexpr int kMostPixels = 10000;
 inline constexpr int kMostMargin = 100;
+inline constexpr int kMostLevels = 6;
 inline constexpr int kMostSortKeys = 3;
 inline constexpr std::array kPageSizes{"A3"_L1, "A4"_L1, "A5"_L1, "Letter"_L1, "Legal"_L1};
 

@@ -108,6 +108,8 @@ private:
             takeElse(index, mark);
         } else if (std::holds_alternative<Page>(*reading.instruction)) {
             takePage(index, mark, *reading.instruction);
+        } else if (std::holds_alternative<Contents>(*reading.instruction)) {
+            takeLine(index, mark, *reading.instruction);
         } else if (extentOf(*reading.instruction) == Extent::Row) {
             takeRow(index, mark, *reading.instruction);
         } else {
@@ -182,7 +184,12 @@ private:
             fail(mark, Texts::tr("The pages are set up already."));
             return;
         }
-        m_tree.parts.append({page, lineOf(index).range, mark});
+        takeLine(index, mark, page);
+    }
+
+    void takeLine(qsizetype index, const SourceRange &mark, const Instruction &instruction)
+    {
+        m_tree.parts.append({instruction, lineOf(index).range, mark});
         m_lines.emplaceBack();
     }
 

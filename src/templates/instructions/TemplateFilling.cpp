@@ -237,6 +237,8 @@ private:
             return repeated(*repeat, part, scope);
         if (const auto *page = std::get_if<Page>(&part.instruction))
             return pageText(*page, part, scope);
+        if (const auto *contents = std::get_if<Contents>(&part.instruction))
+            return instructions::sourceOf(Contents{contents->levels, lineText(contents->title, part, scope)});
         return formattedCode(std::get<CodeFormat>(part.instruction), part, scope);
     }
 

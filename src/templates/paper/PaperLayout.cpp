@@ -26,6 +26,7 @@ constexpr double kMmPerInch = 25.4;
 constexpr double kPointsPerInch = 72;
 constexpr double kEdgePoints = 7;
 constexpr double kTouch = 1;
+constexpr int kMostPasses = 4;
 // The lines of most tables; half of one stands on either side of where it is.
 constexpr double kBorder = kDotsPerInch / editor::kPixelsPerInch;
 constexpr QColor kEdgeColor(0x51, 0x60, 0x6d);
@@ -81,6 +82,8 @@ PaperLayout::PaperLayout(const QString &decoded, const ReportPaperOptions &optio
         m_document->setHtml(text);
     else
         m_document->setPlainText(text);
+    if (asksForContents(text) && TemplateDocument::isHtml(text))
+        m_contents.emplace(text, *m_document);
     editor::sizeLettersInPoints(*m_document);
 }
 
@@ -112,7 +115,21 @@ void PaperLayout::layOut(const QSizeF &sheet)
         return;
     m_sheet = sheet;
     m_document->setTextWidth(sheet.width());
-    m_pages = cutIntoPages(*m_document, sheet.height() - kEdgeMm * kDotsPerInch / kMmPerInch - top());
+    cut();
+    // Numbers could have moved what they tell the pages of.
+    const auto pageOf = [this](const Heading &heading) { return pageAt(topOf(heading)) + 1; };
+    for (int pass = 0; m_contents && pass < kMostPasses && m_contents->setNumbers(pageOf); ++pass)
+        cut();
+}
+
+void PaperLayout::cut()
+{
+    m_pages = cutIntoPages(*m_document, m_sheet.height() - kEdgeMm * kDotsPerInch / kMmPerInch - top());
+}
+
+double PaperLayout::topOf(const Heading &heading) const
+{
+    return m_document->documentLayout()->blockBoundingRect(heading.block).top();
 }
 
 void PaperLayout::layOutOnOwnSheets()
@@ -192,16 +209,11 @@ QList<Bookmark> PaperLayout::headings(const QPageLayout &sheets) const
     const double sheetHeight = sheets.fullRect(QPageLayout::Point).height();
     const double margin = sheets.paintRectPixels(kDotsPerInch).top();
     QList<Bookmark> headings;
-    for (QTextBlock block = m_document->begin(); block.isValid(); block = block.next()) {
-        if (block.blockFormat().headingLevel() <= 0)
-            continue;
-        const QString text = block.text().remove(QChar::ObjectReplacementCharacter).simplified();
-        if (text.isEmpty())
-            continue;
-        const double y = m_document->documentLayout()->blockBoundingRect(block).top();
+    for (const Heading &heading : headingsOf(*m_document)) {
+        const double y = topOf(heading);
         const int sheet = pageAt(y);
-        headings.append({text, block.blockFormat().headingLevel(), sheet,
-                         (margin + toPage(sheet, {0, y}).y()) * points, sheetHeight});
+        headings.append(
+            {heading.text, heading.level, sheet, (margin + toPage(sheet, {0, y}).y()) * points, sheetHeight});
     }
     return headings;
 }

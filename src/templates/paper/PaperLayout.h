@@ -1,6 +1,7 @@
 #pragma once
 
 #include "templates/instructions/InstructionSyntax.h"
+#include "templates/paper/ContentsList.h"
 #include "templates/paper/PageBreaks.h"
 #include "templates/paper/PdfUpdate.h"
 
@@ -72,11 +73,14 @@ private:
     void drawSlice(QPainter &painter, const Slice &slice, const Slice &withBorders, double at,
                    const Selections &selections) const;
     [[nodiscard]] double top() const;
+    void cut();
+    [[nodiscard]] double topOf(const Heading &heading) const;
 
     ReportPaperOptions m_options;
     std::optional<instructions::Page> m_page;
     const QImage m_device;
     const std::unique_ptr<TemplateDocument> m_document;
+    std::optional<ContentsList> m_contents;
     QSizeF m_sheet;
     QList<PageSlices> m_pages;
 };

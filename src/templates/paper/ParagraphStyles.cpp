@@ -37,6 +37,17 @@ constexpr std::array kStyles{
              "font-size: 8pt; color: #51606d; margin-top: 4px; margin-bottom: 4px;"_L1},
 };
 
+// Paragraphs that nobody writes: those of a table of contents. The layout takes their left margins for dots of paper.
+constexpr auto kContentsRules =
+    ".report-contents-title { font-weight: bold; margin-top: 0px; margin-bottom: 4px; }\n"
+    ".report-contents-1 { font-weight: bold; margin: 0px; }\n"
+    ".report-contents-2 { margin-top: 0px; margin-bottom: 0px; margin-left: 50px; }\n"
+    ".report-contents-3 { margin-top: 0px; margin-bottom: 0px; margin-left: 100px; }\n"
+    ".report-contents-4 { margin-top: 0px; margin-bottom: 0px; margin-left: 150px; }\n"
+    ".report-contents-5 { margin-top: 0px; margin-bottom: 0px; margin-left: 200px; }\n"
+    ".report-contents-6 { margin-top: 0px; margin-bottom: 0px; margin-left: 250px; }\n"
+    ".report-contents-page { margin: 0px; }\n"_L1;
+
 } // namespace
 
 QString paragraphStyleSheet()
@@ -44,7 +55,7 @@ QString paragraphStyleSheet()
     QString sheet;
     for (const StyleRow &style : kStyles)
         sheet += u'.' + style.className.toString() + " { "_L1 + style.rules + " }\n"_L1;
-    return sheet;
+    return sheet + kContentsRules;
 }
 
 QList<editor::ParagraphStyle> editor::paragraphStyles(const QString &styleSheet)
