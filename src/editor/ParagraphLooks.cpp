@@ -10,9 +10,28 @@
 namespace ozm::editor {
 
 ParagraphLooks::ParagraphLooks(QTextDocument *document, const QString &styleSheet)
-    : QSyntaxHighlighter(document)
+    : QSyntaxHighlighter(static_cast<QObject *>(document))
+    , m_text(*document)
     , m_styleSheet(styleSheet)
-{}
+{
+    connect(document, &QTextDocument::contentsChange, this,
+            [this](int position, int /*removed*/, int added) { beginIfStyled(position, added); });
+    beginIfStyled(0, document->characterCount());
+}
+
+void ParagraphLooks::beginIfStyled(int position, int length)
+{
+    if (document())
+        return;
+    for (QTextBlock block = m_text.findBlock(position);
+         block.isValid() && block.position() <= position + length; block = block.next()) {
+        if (paragraphClass(block).isEmpty())
+            continue;
+        setDocument(&m_text);
+        rehighlight();
+        return;
+    }
+}
 
 void ParagraphLooks::setStyleSheet(const QString &styleSheet)
 {

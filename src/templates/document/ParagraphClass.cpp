@@ -27,6 +27,9 @@ QString paragraphClass(const QTextBlock &block)
 
 QString classOf(const QString &tag)
 {
+    // Most tags have none, which is seen at once.
+    if (!tag.contains("class"_L1, Qt::CaseInsensitive))
+        return {};
     static const QRegularExpression names(u"^[A-Za-z_][\\w-]*(?: [A-Za-z_][\\w-]*)*$"_s);
     const QRegularExpressionMatch match = classPattern().match(tag);
     const QString name = (match.captured(1) + match.captured(2) + match.captured(3)).simplified();

@@ -161,6 +161,7 @@ bool isMarker(QChar character, const editor::SplitTemplate &split)
 std::optional<QList<Marker>> markersInTurn(const QTextDocument &document, const editor::SplitTemplate &split)
 {
     QList<Marker> markers;
+    markers.reserve(split.parts.size());
     const QString text = document.toRawText();
     qsizetype inHtml = 0;
     for (int at = 0; at < text.size(); ++at) {
