@@ -266,6 +266,10 @@
         <source>Batch summary</source>
         <translation>Serienübersicht</translation>
     </message>
+    <message>
+        <source>Sequence coverage</source>
+        <translation>Sequenzabdeckung</translation>
+    </message>
 </context>
 <context>
     <name>workbench::AddSampleDialog</name>
@@ -1218,6 +1222,10 @@ Open a CSV file, find MS data, drop data here, or add a sample.</source>
     <message>
         <source>In a part that repeats</source>
         <translation>In einem wiederholten Teil</translation>
+    </message>
+    <message>
+        <source>In a part that repeats for the ions or the coverage of one sample</source>
+        <translation>In einem Teil, der sich für die Ionen oder die Abdeckung einer Probe wiederholt</translation>
     </message>
 </context>
 <context>

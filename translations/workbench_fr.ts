@@ -266,6 +266,10 @@
         <source>Batch summary</source>
         <translation>Synthèse de lot</translation>
     </message>
+    <message>
+        <source>Sequence coverage</source>
+        <translation>Couverture de la séquence</translation>
+    </message>
 </context>
 <context>
     <name>workbench::AddSampleDialog</name>
@@ -1218,6 +1222,10 @@ Ouvrez un fichier CSV, recherchez des données MS, déposez des données ici ou 
     <message>
         <source>In a part that repeats</source>
         <translation>Dans une partie répétée</translation>
+    </message>
+    <message>
+        <source>In a part that repeats for the ions or the coverage of one sample</source>
+        <translation>Dans une partie répétée pour les ions ou la couverture d’un échantillon</translation>
     </message>
 </context>
 <context>

@@ -83,6 +83,24 @@ private Q_SLOTS:
             QVERIFY2(shown.contains(each), qPrintable(each + u" in "_s + shown));
     }
 
+    void sequencesAreCovered()
+    {
+        const QString peptide = u"EVQLVESGGGLVQPGGSLR"_s;
+        std::vector<RowNode> rows{sample(u"P"_s, peptide + u"LSCAASGFTFSSYAM"_s + peptide.first(6), 2, 4000),
+                                  sample(u"A"_s, peptide, 2, 1881.0), sample(u"B"_s, u"EVQLVE"_s, 1, 0),
+                                  sample(u"C"_s, u"WWW"_s, 1, 1)};
+        const auto filled = fillReport(reportTemplates().at(3).path, false, rows, {});
+        QVERIFY(filled);
+        QCOMPARE(filled.value().pages.size(), 4);
+        ReportPages first{{filled.value().pages.constFirst()}, {}};
+        const QString shown = text(first).simplified();
+        for (const QString &each : {u"62.5 %"_s, u"by 3 peptides"_s,
+                                    u"A 1 19 EVQLVESGGGLVQPGGSLR 1881.0000 +"_s, u"B 35 40 EVQLVE"_s})
+            QVERIFY2(shown.contains(each), qPrintable(each + u" in "_s + shown));
+        QCOMPARE(filled.value().pages.constFirst().html.count(u"#cfe3f4"_s), 25);
+        QVERIFY(filled.value().pages.constLast().html.contains(u"None of the samples"_s));
+    }
+
     void troublesAreTold()
     {
         QTemporaryFile file;

@@ -101,6 +101,7 @@ const QList<ReportTemplate> &reportTemplates()
         {tr("Sample certificate"), u":/reports/sample-certificate.html"_s, false},
         {tr("Sample list"), u":/reports/peptide-table.html"_s, true},
         {tr("Batch summary"), u":/reports/batch-summary.html"_s, true},
+        {tr("Sequence coverage"), u":/reports/sequence-coverage.html"_s, false},
     };
     return templates;
 }

@@ -25,6 +25,14 @@ std::unique_ptr<RowNode> ionOf(double mass, int charge)
     return ion;
 }
 
+QList<RowNode *> pointersTo(const std::vector<std::unique_ptr<RowNode>> &rows)
+{
+    QList<RowNode *> pointers;
+    for (const auto &row : rows)
+        pointers.append(row.get());
+    return pointers;
+}
+
 } // namespace
 
 int highestCharge(int charge)
@@ -51,10 +59,11 @@ QMap<QString, QList<RowNode *>> ReportLists::about(const RowNode *sample)
     const int charge = sample ? sample->getDataAt(kCharge).toInt() : 0;
     for (int each = 1; mass > 0 && each <= highestCharge(charge); ++each)
         m_ions.push_back(ionOf(mass, each));
-    QList<RowNode *> ions;
-    for (const auto &ion : m_ions)
-        ions.append(ion.get());
-    return {{u"Samples"_s, m_samples}, {u"ChargeStates"_s, ions}};
+    m_coverage = sample ? coverageOf(*sample, m_samples) : SequenceCoverage();
+    return {{u"Samples"_s, m_samples},
+            {u"ChargeStates"_s, pointersTo(m_ions)},
+            {u"Peptides"_s, pointersTo(m_coverage.peptides)},
+            {u"Blocks"_s, pointersTo(m_coverage.blocks)}};
 }
 
 } // namespace workbench

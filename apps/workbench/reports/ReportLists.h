@@ -1,5 +1,7 @@
 #pragma once
 
+#include "reports/SequenceCoverage.h"
+
 #include <ozm_common_core_mini/RowNode.h>
 
 #include <QList>
@@ -17,8 +19,9 @@ namespace workbench {
 [[nodiscard]] double mzOf(double mass, int charge);
 
 /**
- * Rows that a part of a report can repeat for: "Samples", all samples of the report, and "ChargeStates", the ions of
- * the one sample that a page is about, each with its charge and m/z.
+ * Rows that a part of a report can repeat for: "Samples", all samples of the report; "ChargeStates", the ions of the one
+ * sample that a page is about, each with its charge and m/z; "Peptides" and "Blocks", the coverage of its sequence by
+ * the other samples.
  */
 class ReportLists
 {
@@ -32,6 +35,7 @@ public:
 private:
     QList<RowNode *> m_samples;
     std::vector<std::unique_ptr<RowNode>> m_ions;
+    SequenceCoverage m_coverage;
 };
 
 } // namespace workbench

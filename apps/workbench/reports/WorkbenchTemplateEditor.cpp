@@ -33,7 +33,9 @@ struct MadeUpSample
 constexpr std::array kMadeUpSamples{
     MadeUpSample{"HC-T01"_L1, "EVQLVESGGGLVQPGGSLR"_L1, 2, 1880.9956, "Made-up sample"_L1},
     MadeUpSample{"HC-T02"_L1, "LSCAASGFTFSSYAMSWVR"_L1, 2, 2069.9339, ""_L1},
-    MadeUpSample{"HC-T03"_L1, "QAPGK"_L1, 1, 499.2754, "Made-up sample with a remark"_L1}};
+    MadeUpSample{"HC-T03"_L1, "QAPGK"_L1, 1, 499.2754, "Made-up sample with a remark"_L1},
+    MadeUpSample{"HC"_L1, "EVQLVESGGGLVQPGGSLRLSCAASGFTFSSYAMSWVRQAPGKGLEWVSAISGSGGSTYYADSVKGR"_L1, 7,
+                 6842.3497, ""_L1}};
 
 std::vector<RowNode> orMadeUp(std::vector<RowNode> rows)
 {
@@ -112,6 +114,11 @@ QList<ShortCode> WorkbenchTemplateEditor::shortCodes() const
     codes.append(
         {u"[RowNumber]"_s, tr("Number of the row"), tr("In a part that repeats, counted from 1"), {}});
     codes.append({u"[RowCount]"_s, tr("Number of all rows"), tr("In a part that repeats"), {}});
+    for (const QString &column : {kPrecursorMz, kStartPoint, kEndPoint, kCalcMr, u"Covered"_s, u"Coverage"_s})
+        codes.append({u'[' + column + u']',
+                      ColumnFriendlyName::friendlyName(column),
+                      tr("In a part that repeats for the ions or the coverage of one sample"),
+                      {}});
     return codes + extraDataShortCodes({ReportContext::staticMetaObject});
 }
 
