@@ -368,6 +368,9 @@ private Q_SLOTS:
         QTest::newRow("contents of several pages")
             << contents + u"<h1>H</h1>"_s.repeated(30) + u"<h2>I</h2><p>end</p>"_s
             << QStringList{u"C 5"_s, u"H 8"_s, u"H H"_s, u"H H"_s, u"H H"_s, u"H H"_s, u"H H"_s, u"I end"_s};
+        QTest::newRow("image by its width")
+            << u"<p><img width=40 src=\"data:image/svg+xml,<svg width='400' height='900'/>\"/></p><p>end</p>"_s
+            << QStringList{u"end end"_s};
         QTest::newRow("letters in pixels")
             << u"<p style=\"font-size:200px\">l</p><p style=\"font-size:150pt\">m</p>"_s
             << QStringList{u"l l"_s, u"m m"_s};

@@ -59,7 +59,19 @@ VectorImages::~VectorImages() = default;
 
 QSizeF VectorImages::intrinsicSize(QTextDocument *document, int position, const QTextFormat &format)
 {
-    return m_usual->intrinsicSize(document, position, format);
+    const QSizeF size = m_usual->intrinsicSize(document, position, format);
+    QTextImageFormat own = format.toImageFormat();
+    const bool hasWidth = own.width() > 0;
+    if (hasWidth == (own.height() > 0))
+        return size;
+    // Beside the GUI thread, the toolkit would leave the other length as that of the image.
+    own.clearProperty(QTextFormat::ImageWidth);
+    own.clearProperty(QTextFormat::ImageHeight);
+    const QSizeF whole = m_usual->intrinsicSize(document, position, own);
+    if (whole.isEmpty())
+        return size;
+    return hasWidth ? QSizeF(size.width(), size.width() * whole.height() / whole.width())
+                    : QSizeF(size.height() * whole.width() / whole.height(), size.height());
 }
 
 void VectorImages::drawObject(QPainter *painter, const QRectF &area, QTextDocument *document, int position,
