@@ -24,7 +24,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <ranges>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -221,8 +220,8 @@ void replaceMarkers(QTextDocument &document, const QList<Marker> &markers, const
 {
     QTextCursor edit(&document);
     edit.beginEditBlock();
-    for (const Marker &marker : std::ranges::reverse_view(markers))
-        replaceMarker(edit, marker, split, remember);
+    std::for_each(markers.crbegin(), markers.crend(),
+                  [&](const Marker &marker) { replaceMarker(edit, marker, split, remember); });
     edit.endEditBlock();
 }
 
