@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QStyleOption>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace ozm {
@@ -21,6 +23,9 @@ constexpr int kTextMargin = 4;
 constexpr qreal kRoundLine = 1.5;
 // A little more than Fusion has, for an icon that is sharp.
 constexpr int kExtensionExtent = 16;
+
+// An application has a few: of itself, of tool tips, of menus, of what is marked as wrong.
+constexpr std::size_t kMostPalettes = 16;
 
 // Of the font that the sizes of the toolkit are made for, in pixels.
 constexpr int kUsualTextHeight = 15;
@@ -83,6 +88,45 @@ QString isolated(const QString &text, Qt::LayoutDirection direction)
 
 } // namespace
 
+/// Puts the known palette of the same colours into an option, and the option's own back at the end.
+class ContrastStyle::LentPalette
+{
+public:
+    LentPalette(const ContrastStyle &style, const QStyleOption *option)
+        // A copy would need to know which of the many options it is.
+        : m_option(const_cast<QStyleOption *>(option)) // NOLINT(cppcoreguidelines-pro-type-const-cast)
+    {
+        if (!m_option)
+            return;
+        m_own = m_option->palette;
+        m_option->palette = style.known(m_own);
+        m_option->palette.setCurrentColorGroup(m_own.currentColorGroup());
+    }
+    ~LentPalette()
+    {
+        if (m_option)
+            m_option->palette = m_own;
+    }
+    Q_DISABLE_COPY_MOVE(LentPalette)
+
+private:
+    QStyleOption *const m_option;
+    QPalette m_own;
+};
+
+const QPalette &ContrastStyle::known(const QPalette &palette) const
+{
+    const auto found = std::find(m_palettes.rbegin(), m_palettes.rend(), palette);
+    if (found == m_palettes.rend()) {
+        if (m_palettes.size() == kMostPalettes)
+            m_palettes.erase(m_palettes.begin());
+        m_palettes.push_back(palette);
+    } else if (found != m_palettes.rbegin()) {
+        std::rotate(std::prev(found.base()), found.base(), m_palettes.end());
+    }
+    return m_palettes.back();
+}
+
 ContrastStyle::ContrastStyle()
     : QProxyStyle(u"fusion"_s)
 {}
@@ -109,6 +153,7 @@ int ContrastStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, c
 void ContrastStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                                 const QWidget *widget) const
 {
+    const LentPalette lent(*this, option);
     if (const auto *item = qstyleoption_cast<const QStyleOptionViewItem *>(option)) {
         QStyleOptionViewItem ordered = *item;
         ordered.text = isolated(item->text, item->direction);
@@ -148,9 +193,17 @@ void ContrastStyle::drawButtonText(const QStyleOptionButton &button, QPainter *p
     painter->restore();
 }
 
+void ContrastStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                       QPainter *painter, const QWidget *widget) const
+{
+    const LentPalette lent(*this, option);
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
 void ContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                                   const QWidget *widget) const
 {
+    const LentPalette lent(*this, option);
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool isIndicator = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
     const bool isField = element == PE_PanelButtonCommand || element == PE_FrameLineEdit;

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QPalette>
 #include <QProxyStyle>
+
+#include <vector>
 
 class QStyleOptionButton;
 class QStyleOptionComboBox;
@@ -13,6 +16,10 @@ namespace ozm {
  * whatever the direction of the language around it. Icons and marks grow with large letters.
  *
  * Fusion derives the outlines from the colour of the window by a fixed step, which is next to nothing on dark.
+ *
+ * Palettes of equal colours are drawn with as one. Fusion keeps what it has drawn under the number of the palette, which
+ * each copy that is changed has for itself: after a change of colours, and under a style sheet, that is each widget. It
+ * would be drawn anew, and the toolkit never forgets the name of what it drew.
  */
 class ContrastStyle : public QProxyStyle
 {
@@ -29,10 +36,17 @@ public:
                      const QWidget *widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget) const override;
 
 private:
+    class LentPalette;
+
+    [[nodiscard]] const QPalette &known(const QPalette &palette) const;
     void drawComboText(const QStyleOptionComboBox &combo, QPainter *painter, const QWidget *widget) const;
     void drawButtonText(const QStyleOptionButton &button, QPainter *painter, const QWidget *widget) const;
+
+    mutable std::vector<QPalette> m_palettes; ///< All different; the one asked for last at the end.
 };
 
 } // namespace ozm
