@@ -5,6 +5,7 @@
 #include <ozm_common_widgets/WidgetCreatorBase.h>
 
 #include <QApplication>
+#include <QPixmapCache>
 
 #include <cstdio>
 #include <cstdlib>
@@ -27,6 +28,20 @@ void say(const QString &text)
 {
     std::printf("%s\n", qUtf8Printable(text));
     std::fflush(stdout);
+}
+
+/// Has the toolkit let go of what it keeps for widgets that are gone, which is not the workbench's to free: drawn
+/// pixmaps up to a limit, and, as long as there is one style sheet, an empty rule for the list and the line of each
+/// combo box and for the line of each spin box.
+void emptyCachesOfToolkit()
+{
+    // Not clear(), which keeps the names of all pixmaps for ever.
+    const int limit = QPixmapCache::cacheLimit();
+    QPixmapCache::setCacheLimit(0);
+    QPixmapCache::setCacheLimit(limit);
+    // A sheet that differs, be it by a blank, has all rules looked up again.
+    const QString sheet = qApp->styleSheet();
+    qApp->setStyleSheet(sheet.endsWith(u' ') ? sheet.chopped(1) : sheet + u' ');
 }
 
 } // namespace
@@ -74,8 +89,10 @@ void Soak::step()
         return;
     }
     if (!m_session) {
-        if (m_actions > 0)
+        if (m_actions > 0) {
+            emptyCachesOfToolkit();
             m_meter.take(reading(true));
+        }
         if (isOver || !m_wrong.isEmpty())
             return finish();
         begin();
