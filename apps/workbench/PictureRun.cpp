@@ -15,6 +15,7 @@
 #include <ozm_common_core_mini/ColumnNames.h>
 #include <ozm_widgets/FileCrawlerDialog.h>
 #include <ozm_widgets/OZMStyle.h>
+#include <ozm_widgets/ReportView.h>
 #include <ozm_widgets/WholeFile.h>
 
 #include <QAction>
@@ -128,6 +129,15 @@ constexpr std::array<PictureRow, PictureCount> kPictures{{
     {"style", "Style", "Every icon and every kind of message, in light and in dark."},
 }};
 
+/// Their pages are laid out beside the event loop.
+bool areReportsShown(const QWidget &window)
+{
+    const auto views = window.findChildren<ozm::ReportView *>();
+    return std::all_of(views.begin(), views.end(), [](const ozm::ReportView *view) {
+        return !view->isVisible() || view->pageCount() > 0;
+    });
+}
+
 /// All pictures of one scheme: a function for each window.
 class Photographer
 {
@@ -153,6 +163,7 @@ private:
     {
         window.show();
         waitFor(kSettleMs);
+        waitUntil([&window] { return areReportsShown(window); });
         const QString path =
             m_out.filePath(QString::fromLatin1(kPictures.at(picture).name) + m_suffix + u".png"_s);
         if (!packed(window.grab().toImage()).save(path, "PNG", 0) && !m_error.hasError())
