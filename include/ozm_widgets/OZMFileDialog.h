@@ -71,7 +71,7 @@ public:
     /// A question for ask(): what is asked for, and how its dialog begins.
     struct Question
     {
-        /// What is asked for.
+        /// The four questions.
         enum class Kind
         {
             OpenFile,  ///< One file.

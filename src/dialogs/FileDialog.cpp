@@ -116,7 +116,7 @@ QString FileDialog::getExistingDirectory(QWidget *parent, const QString &caption
 void FileDialog::showEvent(QShowEvent *event)
 {
     RestrictedFileDialog::showEvent(event);
-    // What it says depends on what the dialog was set up to ask meanwhile.
+    // Only now is it known what the dialog asks for.
     updateNotice();
 }
 

@@ -26,7 +26,7 @@ public:
     [[nodiscard]] bool isServed() const override { return m_isServed; }
 
 private:
-    /// What is asked of the process, and what it answers.
+    /// A question to the process, and its answer.
     struct Talk
     {
         QByteArray request = {}; ///< Empty when only the realm is to be made.
