@@ -305,7 +305,7 @@ void RichTextView::keyPressEvent(QKeyEvent *event)
     const int headingLevel = textCursor().blockFormat().headingLevel();
     const bool isBehindTitle = textCursor().atBlockEnd() &&
                                event->matches(QKeySequence::InsertParagraphSeparator) &&
-                               paragraphClass(textCursor().block()) == QStringView(kTitleClass);
+                               paragraphClass(textCursor().block()) == kTitleClass;
     QTextEdit::keyPressEvent(event);
     if (isBehindTitle || (headingLevel > 0 && textCursor().blockFormat().headingLevel() == 0))
         leaveHeading();

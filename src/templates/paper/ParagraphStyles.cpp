@@ -20,7 +20,7 @@ namespace {
 
 struct StyleRow
 {
-    QStringView className;
+    QLatin1StringView className;
     const char *name;
     QLatin1StringView rules;
 };
@@ -29,11 +29,11 @@ struct StyleRow
 constexpr std::array kStyles{
     StyleRow{editor::kTitleClass, QT_TRANSLATE_NOOP("ozm::editor::ParagraphStyles", "Title"),
              "font-size: 20pt; font-weight: bold; margin-top: 0px; margin-bottom: 10px;"_L1},
-    StyleRow{u"report-table-heading", QT_TRANSLATE_NOOP("ozm::editor::ParagraphStyles", "Table heading"),
+    StyleRow{"report-table-heading"_L1, QT_TRANSLATE_NOOP("ozm::editor::ParagraphStyles", "Table heading"),
              "font-weight: bold; color: #24506f; margin-top: 0px; margin-bottom: 0px;"_L1},
-    StyleRow{u"report-caption", QT_TRANSLATE_NOOP("ozm::editor::ParagraphStyles", "Caption"),
+    StyleRow{"report-caption"_L1, QT_TRANSLATE_NOOP("ozm::editor::ParagraphStyles", "Caption"),
              "font-size: 8pt; font-style: italic; margin-top: 3px; margin-bottom: 10px;"_L1},
-    StyleRow{u"report-note", QT_TRANSLATE_NOOP("ozm::editor::ParagraphStyles", "Note"),
+    StyleRow{"report-note"_L1, QT_TRANSLATE_NOOP("ozm::editor::ParagraphStyles", "Note"),
              "font-size: 8pt; color: #51606d; margin-top: 4px; margin-bottom: 4px;"_L1},
 };
 
@@ -54,7 +54,7 @@ QString paragraphStyleSheet()
 {
     QString sheet;
     for (const StyleRow &style : kStyles)
-        sheet += u'.' + style.className.toString() + " { "_L1 + style.rules + " }\n"_L1;
+        sheet += u'.' + style.className + " { "_L1 + style.rules + " }\n"_L1;
     return sheet + kContentsRules;
 }
 

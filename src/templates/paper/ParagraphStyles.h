@@ -17,7 +17,7 @@ struct ParagraphStyle
 };
 
 /// Text that is typed behind a paragraph of this class is plain text, as it is behind a heading.
-inline constexpr char16_t kTitleClass[] = u"report-title";
+inline constexpr QLatin1StringView kTitleClass("report-title");
 
 /// The styles of the library, and the classes that @p styleSheet has rules for.
 [[nodiscard]] QList<ParagraphStyle> paragraphStyles(const QString &styleSheet);
