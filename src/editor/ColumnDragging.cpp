@@ -33,8 +33,7 @@ QString toldLength(const QTextLength &length)
 } // namespace
 
 ColumnDragging::ColumnDragging(RichTextView *view)
-    : QObject(view)
-    , m_view(view)
+    : m_view(view)
     , m_line(new QRubberBand(QRubberBand::Line, view->viewport()))
 {
     m_line->setObjectName(QStringLiteral("columnLine"));

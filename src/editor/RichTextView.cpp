@@ -99,8 +99,10 @@ RichTextView::RichTextView(CodeModel *codes, QWidget *parent)
     setAcceptRichText(true);
     setPaperColors(this);
     setDocument(m_nothing);
-    new ColumnDragging(this);
+    m_columns = std::make_unique<ColumnDragging>(this);
 }
+
+RichTextView::~RichTextView() = default;
 
 void RichTextView::showDocument(TemplateDocument *document)
 {

@@ -4,10 +4,13 @@
 
 #include <QTextEdit>
 
+#include <memory>
+
 namespace ozm::editor {
 
 class CodeCompleter;
 class CodeModel;
+class ColumnDragging;
 
 /// Paper is white, whatever the desktop is.
 void setPaperColors(QWidget *widget);
@@ -23,6 +26,7 @@ class RichTextView : public QTextEdit
 
 public:
     RichTextView(CodeModel *codes, QWidget *parent);
+    ~RichTextView() override;
 
     /// Null shows nothing.
     void showDocument(TemplateDocument *document);
@@ -82,6 +86,7 @@ private:
     CodeModel *m_codes;
     CodeCompleter *m_completer;
     TemplateDocument *m_nothing;
+    std::unique_ptr<ColumnDragging> m_columns; ///< Goes before what it watches.
 };
 
 } // namespace ozm::editor
