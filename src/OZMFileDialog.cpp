@@ -17,6 +17,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <algorithm>
+#include <array>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -140,39 +142,31 @@ QString proposedPath(const QString &dir, const QString &fileName,
 using Question = OZMFileDialog::Question;
 using Kind = Question::Kind;
 
-bool opensFiles(Kind kind)
+struct KindRow
 {
-    return kind == Kind::OpenFile || kind == Kind::OpenFiles;
+    Kind kind;
+    QFileDialog::FileMode mode;
+    bool opensFiles;
+};
+
+constexpr std::array kKindRows{
+    KindRow{Kind::OpenFile, QFileDialog::ExistingFile, true},
+    KindRow{Kind::OpenFiles, QFileDialog::ExistingFiles, true},
+    KindRow{Kind::Folder, QFileDialog::Directory, false},
+    KindRow{Kind::SaveFile, QFileDialog::AnyFile, false},
+};
+
+const KindRow &rowOf(Kind kind)
+{
+    return *std::ranges::find(kKindRows, kind, &KindRow::kind);
 }
 
 /// The automation store's key for a kind of question; empty where it answers none.
 QString automationKey(Kind kind)
 {
-    switch (kind) {
-    case Kind::OpenFile:
+    if (kind == Kind::OpenFile)
         return AUTOMATION_OZMFILEDIALOG_OPEN_FILE_NAME_KEY;
-    case Kind::SaveFile:
-        return AUTOMATION_OZMFILEDIALOG_SAVE_FILE_NAME_KEY;
-    case Kind::OpenFiles:
-    case Kind::Folder:
-        break;
-    }
-    return {};
-}
-
-QFileDialog::FileMode fileMode(Kind kind)
-{
-    switch (kind) {
-    case Kind::OpenFile:
-        return QFileDialog::ExistingFile;
-    case Kind::OpenFiles:
-        return QFileDialog::ExistingFiles;
-    case Kind::Folder:
-        return QFileDialog::Directory;
-    case Kind::SaveFile:
-        break;
-    }
-    return QFileDialog::AnyFile;
+    return kind == Kind::SaveFile ? AUTOMATION_OZMFILEDIALOG_SAVE_FILE_NAME_KEY : QString();
 }
 
 /// Gives bare names the extension of the filter, as FileDialog does.
@@ -190,7 +184,7 @@ QFileDialog *systemDialog(QWidget *parent, const Question &question, const QStri
     // A plain one: the toolkit draws derived dialogs itself.
     auto *dialog = new QFileDialog(parent, question.caption, start, question.filter.toFilterString());
     dialog->setSupportedSchemes({u"file"_s});
-    dialog->setFileMode(fileMode(question.kind));
+    dialog->setFileMode(rowOf(question.kind).mode);
     if (question.kind == Kind::SaveFile) {
         dialog->setAcceptMode(QFileDialog::AcceptSave);
         addExtensions(dialog);
@@ -387,7 +381,7 @@ void OZMFileDialog::ask(QWidget *parent, const Question &question, QObject *cont
     }
     QString start = question.dir;
     QString remembered;
-    if (opensFiles(question.kind))
+    if (rowOf(question.kind).opensFiles)
         _setDir(start, remembered, question.dirLocation);
     else
         start = proposedPath(start, question.kind == Kind::SaveFile ? question.fileName : QString(),
@@ -398,7 +392,7 @@ void OZMFileDialog::ask(QWidget *parent, const Question &question, QObject *cont
     const auto finish = [question, remembered, owner, context, answered](const QStringList &picks) {
         tellLater(context, answered, answerTo(question, picks, remembered, owner));
     };
-    if (opensFiles(question.kind) && question.filter.containsType(msFileType())) {
+    if (rowOf(question.kind).opensFiles && question.filter.containsType(msFileType())) {
         SpectrumFileDialog::openSpectrumFileList(parent, question.caption, start,
                                                  question.filter.toFilterString(), context, finish);
         return;
