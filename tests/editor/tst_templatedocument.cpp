@@ -495,6 +495,18 @@ void TestTemplateDocument::selectionsBecomeSource_data()
     QTest::addColumn<QString>("selected");
 
     QTest::newRow("within a line") << u"<p>ab<b>[Name]c</b>d</p>"_s << 1 << 4 << u"b<b>[Name]c</b>"_s;
+    QTest::newRow("signs that HTML escapes")
+        << u"<p>aR&amp;D &lt;</p>"_s << 1 << 6 << u"<span>R&amp;D &lt;</span>"_s;
+    QTest::newRow("blanks at the edges")
+        << u"<p>a <b>b</b> c</p>"_s << 1 << 4 << u"<span style=\"white-space:pre-wrap\"> <b>b</b> </span>"_s;
+    QTest::newRow("thin space") << u"<p>1\u2009000</p>"_s << 1 << 2
+                                << u"<span style=\"white-space:pre-wrap\">\u2009</span>"_s;
+    QTest::newRow("beginning of a heading") << u"<h2 class=\"x\" id=y>ab</h2>"_s << 0 << 1
+                                            << u"<span style=\"font-size:x-large\"><b>a</b></span>"_s;
+    QTest::newRow("all of a paragraph") << u"<p class=\"x\" id=y>a b</p>"_s << 0 << 3 << u"a b"_s;
+    QTest::newRow("part of an item") << u"<p>x</p><ul class=k><li>abc</li></ul>"_s << 3 << 4 << u"b"_s;
+    QTest::newRow("items") << u"<ul class=k><li>abc</li><li>de</li></ul>"_s << 1 << 5
+                           << u"<ul>\n<li>bc</li>\n<li>d</li>\n</ul>"_s;
     QTest::newRow("one chip") << u"<p>a<script>x</script></p>"_s << 1 << 2 << u"<script>x</script>"_s;
     QTest::newRow("lines") << u"<p>a[A]</p><p>[B]c</p>"_s << 1 << 4 << u"<p>[A]</p>\n<p>[B]</p>"_s;
     QTest::newRow("nothing") << u"<p>a[A]</p>"_s << 1 << 1 << QString();

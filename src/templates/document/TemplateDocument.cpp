@@ -3,7 +3,9 @@
 #include "templates/document/InlineHtml.h"
 #include "templates/document/KeptSource.h"
 #include "templates/document/LetterSizes.h"
+#include "templates/document/LineStyle.h"
 #include "templates/document/ParagraphClass.h"
+#include "templates/document/SelectedSource.h"
 #include "templates/document/TemplateChip.h"
 #include "templates/document/TemplateParts.h"
 #include "templates/document/TemplateSourceWriter.h"
@@ -14,6 +16,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QDeadlineTimer>
 #include <QImage>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -245,15 +248,8 @@ void removeLinesAfterTables(QTextDocument &document)
 {
     QList<QTextCursor> lines;
     collectLinesAfterTables(document.rootFrame(), lines);
-    for (QTextCursor &line : lines) {
-        const QTextBlock next = line.block().next();
-        const QTextBlockFormat format = next.blockFormat();
-        QTextList *list = next.textList();
-        line.deleteChar();
-        line.setBlockFormat(format);
-        if (list)
-            list->add(line.block());
-    }
+    for (QTextCursor &line : lines)
+        editor::removeEmptyLine(line);
 }
 
 // A rule has no text in which a mark could stand.
@@ -318,6 +314,28 @@ private:
     QTextDocument &m_document;
     const QSizeF m_pageSize;
 };
+
+/// Makes the items between @p first and @p last, which came into @p list as one of the same kind, items of it.
+void joinList(QTextList *list, const QTextBlock &first, const QTextBlock &last)
+{
+    for (QTextBlock block = first; list && block.isValid() && block.position() <= last.position();
+         block = block.next()) {
+        const QTextList *own = block.textList();
+        if (own && own != list && own->format().style() == list->format().style() &&
+            own->format().indent() == list->format().indent())
+            list->add(block);
+    }
+}
+
+/// True where nothing says which kind of line @p line is.
+bool isPartOfLine(const QTextBlock &line)
+{
+    const QTextBlockFormat format = line.blockFormat();
+    return !line.textList() && format.headingLevel() == 0 && format.topMargin() == 0 &&
+           format.bottomMargin() == 0 && editor::paragraphClass(line).isEmpty() &&
+           std::ranges::all_of(editor::blockDeclarations(line, {}),
+                               [](const QString &each) { return each.startsWith("white-space"_L1); });
+}
 
 QImage missingImage()
 {
@@ -428,21 +446,7 @@ void TemplateDocument::prepareSource()
 
 QString TemplateDocument::source(const QTextCursor &selection) const
 {
-    QTextDocument part;
-    QTextCursor cursor(&part);
-    cursor.insertFragment(selection.selection());
-    if (part.blockCount() > 1 || part.begin().textList()) {
-        QTextBlockFormat first = selection.document()->findBlock(selection.selectionStart()).blockFormat();
-        // A list of the other document is not one of this.
-        const QTextList *list = part.begin().textList();
-        first.setObjectIndex(list ? part.begin().blockFormat().objectIndex() : -1);
-        QTextCursor(&part).setBlockFormat(first);
-        return editor::writeSource(part).text;
-    }
-    cursor.setBlockFormat({});
-    const QString line = editor::writeSource(part).text;
-    const qsizetype start = line.indexOf(u'>') + 1;
-    return line.sliced(start, qMax(qsizetype(0), line.lastIndexOf(u'<') - start));
+    return editor::selectedSource(selection);
 }
 
 void TemplateDocument::insertSource(QTextCursor &cursor, const QString &source)
@@ -454,15 +458,24 @@ void TemplateDocument::insertSource(QTextCursor &cursor, const QString &source)
     if (!isChip) {
         QTextDocument parsed;
         read(parsed, source);
+        cursor.removeSelectedText();
+        const QTextBlockFormat line = cursor.blockFormat();
         const bool isEmptyLine = cursor.block().length() <= 1;
         const int start = cursor.position();
+        // The list goes when its last item does.
+        const QPointer<QTextList> list(cursor.currentList());
         cursor.insertFragment(QTextDocumentFragment(&parsed));
-        // A fragment leaves the line that it comes into as it is, and none of a rule.
+        joinList(list, findBlock(start), cursor.block());
         const QTextBlockFormat first = parsed.begin().blockFormat();
+        const bool isOneLine = parsed.blockCount() == 1 && parsed.begin().length() > 1;
+        // A fragment leaves an empty line that it comes into as it is, and none of a rule.
         if (isEmptyLine && parsed.begin().length() <= 1 &&
             (first.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth) ||
              first.hasProperty(editor::kWrittenLine)))
             QTextCursor(findBlock(start)).setBlockFormat(first);
+        // A part of a line has no looks of a line, but would take those of the line that it comes into the beginning of.
+        else if (isOneLine && (!isEmptyLine || isPartOfLine(parsed.begin())))
+            QTextCursor(findBlock(start)).setBlockFormat(line);
     } else {
         cursor.insertText(QString(QChar::ObjectReplacementCharacter), editor::chipFormat(part, around));
     }
