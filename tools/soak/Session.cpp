@@ -21,6 +21,8 @@
 #include <QThread>
 #include <QtTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace soak {
@@ -130,19 +132,28 @@ const std::vector<Session::Action> &Session::actions()
     return all;
 }
 
-QString Session::choose()
+QString Session::choose(const QString &only)
 {
+    const auto weightOf = [&only](const Action &action) {
+        return only.isEmpty() || only == QLatin1StringView(action.name) ? action.weight : 0;
+    };
     int sum = 0;
     for (const Action &each : actions())
-        sum += each.weight;
+        sum += weightOf(each);
     int left = below(sum);
     for (const Action &each : actions()) {
         m_next = &each;
-        left -= each.weight;
+        left -= weightOf(each);
         if (left < 0)
             break;
     }
     return QString::fromLatin1(m_next->name);
+}
+
+bool Session::has(const QString &action)
+{
+    return std::ranges::any_of(
+        actions(), [&action](const Action &each) { return action == QLatin1StringView(each.name); });
 }
 
 void Session::act()

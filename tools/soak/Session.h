@@ -42,8 +42,9 @@ public:
     [[nodiscard]] const ozm::Error &error() const { return m_error; }
     [[nodiscard]] qint64 entries() const;
 
-    /// Chooses what to do next, and returns its name.
-    [[nodiscard]] QString choose();
+    /// Chooses what to do next, @p only this if it is not empty, and returns its name.
+    [[nodiscard]] QString choose(const QString &only);
+    [[nodiscard]] static bool has(const QString &action);
     void act();
     /// Empty, or what is wrong: undoing and redoing all gives other samples, or the trail is damaged.
     [[nodiscard]] QString check();

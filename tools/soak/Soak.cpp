@@ -1,11 +1,11 @@
 #include "Soak.h"
 
 #include "Files.h"
+#include "Toolkit.h"
 
 #include <ozm_common_widgets/WidgetCreatorBase.h>
 
 #include <QApplication>
-#include <QPixmapCache>
 
 #include <cstdio>
 #include <cstdlib>
@@ -28,20 +28,6 @@ void say(const QString &text)
 {
     std::printf("%s\n", qUtf8Printable(text));
     std::fflush(stdout);
-}
-
-/// Has the toolkit let go of what it keeps for widgets that are gone, which is not the workbench's to free: drawn
-/// pixmaps up to a limit, and, as long as there is one style sheet, an empty rule for the list and the line of each
-/// combo box and for the line of each spin box.
-void emptyCachesOfToolkit()
-{
-    // Not clear(), which keeps the names of all pixmaps for ever.
-    const int limit = QPixmapCache::cacheLimit();
-    QPixmapCache::setCacheLimit(0);
-    QPixmapCache::setCacheLimit(limit);
-    // A sheet that differs, be it by a blank, has all rules looked up again.
-    const QString sheet = qApp->styleSheet();
-    qApp->setStyleSheet(sheet.endsWith(u' ') ? sheet.chopped(1) : sheet + u' ');
 }
 
 } // namespace
@@ -67,6 +53,7 @@ void Soak::start()
     say(u"seed %1, %2 minutes, from session %3"_s.arg(m_options.seed)
             .arg(m_options.minutes)
             .arg(m_number + 1));
+    useCache(m_options.pixmaps);
     // There is none between sessions.
     QApplication::setQuitOnLastWindowClosed(false);
     m_clock.start();
@@ -90,7 +77,7 @@ void Soak::step()
     }
     if (!m_session) {
         if (m_actions > 0) {
-            emptyCachesOfToolkit();
+            emptyToolkitCaches();
             m_meter.take(reading(true));
         }
         if (isOver || !m_wrong.isEmpty())
@@ -99,16 +86,17 @@ void Soak::step()
     } else if (isOver || m_inSession >= kActionsOfSession) {
         end();
     } else {
-        m_doing = m_session->choose();
+        // Not right after an action, whose windows go at the event loop's next turn.
+        if (m_clock.elapsed() - m_lastReading >= kReadingMs) {
+            m_lastReading = m_clock.elapsed();
+            m_meter.take(reading(false));
+        }
+        m_doing = m_session->choose(m_options.only);
         if (m_options.isVerbose)
             say(u"session %1, action %2: %3"_s.arg(m_number).arg(m_inSession + 1).arg(m_doing));
         m_session->act();
         ++m_actions;
         ++m_inSession;
-        if (m_clock.elapsed() - m_lastReading >= kReadingMs) {
-            m_lastReading = m_clock.elapsed();
-            m_meter.take(reading(false));
-        }
     }
     m_next.start(0);
 }

@@ -3,6 +3,7 @@
 #include "Dialogs.h"
 #include "Meter.h"
 #include "Session.h"
+#include "Toolkit.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -18,6 +19,8 @@ struct Options
     double minutes = 60;
     int firstSession = 1;
     bool isVerbose = false; ///< Each action is named before it is done.
+    QString only;           ///< The one action that is done, or empty for all.
+    PixmapCache pixmaps = PixmapCache::Off;
     QString csv;
 };
 

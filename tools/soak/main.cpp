@@ -1,4 +1,5 @@
-// Random use of the workbench, for as long as one likes: soak [--minutes N] [--seed N] [--session N] [--csv FILE].
+// Random use of the workbench, for as long as one likes: soak [--minutes N] [--seed N] [--session N] [--csv FILE]
+// [--only ACTION] [--pixmap-cache].
 // A fault in session N of a seed comes again with the same seed and --session N, and --verbose names each action.
 
 #include "Soak.h"
@@ -51,6 +52,8 @@ int main(int argc, char **argv)
     parser.addOptions({{u"minutes"_s, u"How long it runs."_s, u"number"_s, u"60"_s},
                        {u"seed"_s, u"Decides on all that is done."_s, u"number"_s, u"1"_s},
                        {u"session"_s, u"Begins with this session."_s, u"number"_s, u"1"_s},
+                       {u"only"_s, u"Does this action alone, to see how much it needs."_s, u"action"_s},
+                       {u"pixmap-cache"_s, u"Leaves the toolkit's cache of pixmaps on, whose names grow."_s},
                        {u"csv"_s, u"Where the readings go."_s, u"file"_s},
                        {u"verbose"_s, u"Names each action."_s}});
     parser.process(application);
@@ -59,11 +62,20 @@ int main(int argc, char **argv)
                                 .minutes = parser.value(u"minutes"_s).toDouble(&ok[1]),
                                 .firstSession = parser.value(u"session"_s).toInt(&ok[2]),
                                 .isVerbose = parser.isSet(u"verbose"_s),
+                                .only = parser.value(u"only"_s),
+                                .pixmaps = parser.isSet(u"pixmap-cache"_s) ? soak::PixmapCache::On
+                                                                           : soak::PixmapCache::Off,
                                 .csv = parser.value(u"csv"_s)};
     if (!ok[0] || !ok[1] || !ok[2]) {
         std::fputs("soak: --minutes, --seed and --session need numbers.\n", stderr);
         return kWrongUsage;
     }
+    if (!options.only.isEmpty() && !soak::Session::has(options.only)) {
+        std::fputs("soak: --only needs the name of an action, which --verbose shows.\n", stderr);
+        return kWrongUsage;
+    }
+    for (const QString &line : soak::toolkitLosses())
+        std::puts(qUtf8Printable(line));
     OZMStyle::apply();
     ozm::OzmCoreApplication::start();
     soak::Soak run(options);
