@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QTextDocument>
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -26,7 +27,8 @@ constexpr int kSourceProperty = QTextFormat::UserProperty + 2;
 constexpr int kLongestLabel = 32;
 constexpr qreal kSideMargin = 4.0;
 constexpr qreal kGapToText = 1.0;
-constexpr qreal kCornerRadius = 3.0;
+// Of all chips: more are made anew.
+constexpr int kMostFaces = 512;
 
 // Objects have no descent of their own: only at the bottom of the line, their text is level with the text
 // around them.
@@ -68,9 +70,9 @@ QColor mixed(const QColor &a, const QColor &b, qreal share)
                             part(a.blueF(), b.blueF()));
 }
 
-QFont chipFont(QTextDocument *document, const QTextFormat &format)
+QFont chipFont(const QTextDocument &document, const QTextFormat &format)
 {
-    QFont font = format.toCharFormat().font().resolve(document->defaultFont());
+    QFont font = format.toCharFormat().font().resolve(document.defaultFont());
     const int size = kUsualSize + format.intProperty(QTextFormat::FontSizeAdjustment);
     if (size != kUsualSize && font.pointSizeF() > 0)
         font.setPointSizeF(font.pointSizeF() * kSizes.at(size_t(qBound(0, size, int(kSizes.size()) - 1))));
@@ -78,9 +80,9 @@ QFont chipFont(QTextDocument *document, const QTextFormat &format)
 }
 
 /// Of the zoom: how many dots of the layout's device a pixel has.
-double chipScale(QTextDocument *document)
+double chipScale(const QTextDocument &document)
 {
-    const QPaintDevice *device = document->documentLayout()->paintDevice();
+    const QPaintDevice *device = document.documentLayout()->paintDevice();
     return device ? device->logicalDpiY() / kPixelsPerInch : 1;
 }
 
@@ -139,7 +141,7 @@ QTextCharFormat withoutChip(QTextCharFormat format)
 
 bool ChipPainter::isKnown(const QString &code) const
 {
-    return displayNames.isEmpty() || displayNames.contains(code);
+    return m_displayNames.isEmpty() || m_displayNames.contains(code);
 }
 
 QString ChipPainter::label(const TemplatePart &part) const
@@ -149,19 +151,18 @@ QString ChipPainter::label(const TemplatePart &part) const
         if (const auto instruction = instructions::readInstruction(part.source))
             return instructions::captionOf(*instruction);
     if (part.kind == PartKind::Code)
-        return displayNames.value(part.source, part.source.sliced(1, part.source.size() - 2));
+        return m_displayNames.value(part.source, part.source.sliced(1, part.source.size() - 2));
     return sign + firstLine(part.kind == PartKind::Script ? syntax::codeOf(part.source) : part.source);
 }
 
-QSizeF ChipPainter::intrinsicSize(QTextDocument *document, int, const QTextFormat &format)
+void ChipPainter::setDisplayNames(const QHash<QString, QString> &names)
 {
-    const QFontMetricsF metrics(chipFont(document, format));
-    const qreal width = metrics.horizontalAdvance(label(chipPart(format)));
-    return QSizeF(width + 2 * (kSideMargin + kGapToText), metrics.height()) * chipScale(document);
+    m_displayNames = names;
+    m_faces.clear();
+    m_faceCount = 0;
 }
 
-void ChipPainter::drawObject(QPainter *painter, const QRectF &rect, QTextDocument *document, int,
-                             const QTextFormat &format)
+ChipPainter::Face ChipPainter::makeFace(const QTextDocument &document, const QTextFormat &format) const
 {
     const TemplatePart part = chipPart(format);
     const QString code = codeOf(part);
@@ -175,20 +176,56 @@ void ChipPainter::drawObject(QPainter *painter, const QRectF &rect, QTextDocumen
                                                                                : look.background().color();
     const QColor text = isSelected || look.foreground().style() == Qt::NoBrush ? QColor(Qt::black)
                                                                                : look.foreground().color();
+    const QFont font = chipFont(document, format);
+    const QFontMetricsF metrics(font);
+    const QString label = this->label(part);
+    const qreal width = metrics.horizontalAdvance(label);
+    return {format,
+            font,
+            QSizeF(width + 2 * (kSideMargin + kGapToText), metrics.height()),
+            QPen(mixed(text, tint, 0.6), 1, known ? Qt::SolidLine : Qt::DashLine),
+            mixed(base, tint, 0.15),
+            mixed(text, tint, 0.3),
+            ChipLabel(label)};
+}
 
+ChipPainter::Face &ChipPainter::faceOf(const QTextDocument &document, const QTextFormat &format)
+{
+    const QFont font = document.defaultFont();
+    if (m_faceCount >= kMostFaces || m_defaultFont != font) {
+        m_faces.clear();
+        m_faceCount = 0;
+    }
+    m_defaultFont = font;
+    std::vector<Face> &faces = m_faces[format.stringProperty(kSourceProperty)];
+    const auto known = std::ranges::find(faces, format, &Face::format);
+    if (known != faces.end())
+        return *known;
+    ++m_faceCount;
+    return faces.emplace_back(makeFace(document, format));
+}
+
+QSizeF ChipPainter::intrinsicSize(QTextDocument *document, int, const QTextFormat &format)
+{
+    return faceOf(*document, format).size * chipScale(*document);
+}
+
+void ChipPainter::drawObject(QPainter *painter, const QRectF &rect, QTextDocument *document, int,
+                             const QTextFormat &format)
+{
+    Face &face = faceOf(*document, format);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    const double scale = chipScale(document);
+    const double scale = chipScale(*document);
     painter->translate(rect.topLeft());
     painter->scale(scale, scale);
-    const QRectF outline =
-        QRectF(QPointF(), rect.size() / scale).adjusted(kGapToText, 0.5, -kGapToText, -0.5);
-    painter->setPen(QPen(mixed(text, tint, 0.6), 1, known ? Qt::SolidLine : Qt::DashLine));
-    painter->setBrush(mixed(base, tint, 0.15));
-    painter->drawRoundedRect(outline, kCornerRadius, kCornerRadius);
-    painter->setPen(mixed(text, tint, 0.3));
-    painter->setFont(chipFont(document, format));
-    painter->drawText(outline, Qt::AlignCenter | Qt::TextSingleLine | Qt::TextForceLeftToRight, label(part));
+    const QRectF frame = QRectF(QPointF(), rect.size() / scale).adjusted(kGapToText, 0.5, -kGapToText, -0.5);
+    painter->setPen(face.frame);
+    painter->setBrush(face.fill);
+    m_frames.draw(*painter, frame);
+    painter->setPen(face.text);
+    painter->setFont(face.font);
+    face.label.draw(*painter, frame);
     painter->restore();
 }
 

@@ -1,11 +1,16 @@
 #pragma once
 
+#include "templates/document/ChipPictures.h"
 #include "templates/document/TemplateParts.h"
 
 #include <QHash>
 #include <QObject>
+#include <QPen>
 #include <QTextCharFormat>
 #include <QTextObjectInterface>
+
+#include <unordered_map>
+#include <vector>
 
 namespace ozm::editor {
 
@@ -50,7 +55,30 @@ public:
     [[nodiscard]] QString label(const TemplatePart &part) const;
 
     /// Display names by code; while there is none at all, no code counts as unknown.
-    QHash<QString, QString> displayNames;
+    [[nodiscard]] const QHash<QString, QString> &displayNames() const { return m_displayNames; }
+    void setDisplayNames(const QHash<QString, QString> &names);
+
+private:
+    /// How chips of one format look. Each key has all of them on the screen measured and drawn again.
+    struct Face
+    {
+        QTextFormat format;
+        QFont font;
+        QSizeF size; ///< Unscaled.
+        QPen frame;
+        QColor fill;
+        QColor text;
+        ChipLabel label;
+    };
+
+    [[nodiscard]] Face makeFace(const QTextDocument &document, const QTextFormat &format) const;
+    [[nodiscard]] Face &faceOf(const QTextDocument &document, const QTextFormat &format);
+
+    QHash<QString, QString> m_displayNames;
+    std::unordered_map<QString, std::vector<Face>> m_faces; ///< By the source of the part.
+    int m_faceCount = 0;
+    QFont m_defaultFont; ///< Of the document, for which the faces are.
+    ChipFrames m_frames;
 };
 
 } // namespace ozm::editor

@@ -529,9 +529,9 @@ qsizetype TemplateDocument::offsetOf(int position) const
 
 void TemplateDocument::setDisplayNames(const QHash<QString, QString> &names)
 {
-    if (names == d->painter.displayNames)
+    if (names == d->painter.displayNames())
         return;
-    d->painter.displayNames = names;
+    d->painter.setDisplayNames(names);
     markContentsDirty(0, characterCount());
 }
 
