@@ -240,12 +240,29 @@ void script_bare(benchmark::State &state)
         benchmark::DoNotOptimize(engine.evaluate(kCode).toString());
 }
 
+const QString kWithVariable = u"var n = 6; n * 7"_s;
+
+void script_variable(benchmark::State &state)
+{
+    TemplateEditorJSCodeReader reader;
+    const QString text = u"<script>"_s + kWithVariable + u"</script>"_s;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(reader.readAsString(text, {}));
+}
+
+void script_variable_bare(benchmark::State &state)
+{
+    QJSEngine engine;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(engine.evaluate(kWithVariable).toString());
+}
+
 /// One that may leave something behind, and so has an engine of its own.
 void script_uncontained(benchmark::State &state)
 {
     TemplateEditorJSCodeReader reader;
     for (auto _ : state)
-        benchmark::DoNotOptimize(reader.readAsString(u"<script>var n = 6; n * 7</script>"_s, {}));
+        benchmark::DoNotOptimize(reader.readAsString(u"<script>this.n = 6; this.n * 7</script>"_s, {}));
 }
 
 /// A decoding of a hundred pieces, in this program or in the helper process.
@@ -292,6 +309,8 @@ BENCHMARK(short_over_rows)->Unit(benchmark::kMillisecond);
 BENCHMARK(short_by_hand)->Unit(benchmark::kMillisecond);
 BENCHMARK(script_piece);
 BENCHMARK(script_bare);
+BENCHMARK(script_variable);
+BENCHMARK(script_variable_bare);
 BENCHMARK(script_uncontained);
 BENCHMARK(script_hundred)->Arg(0)->Arg(1)->UseRealTime();
 BENCHMARK(several_rows)->RangeMultiplier(10)->Range(100, 100000)->Unit(benchmark::kMillisecond);

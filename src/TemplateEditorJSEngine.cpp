@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QMutex>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <atomic>
@@ -142,6 +143,15 @@ QList<ozm::BroughtInCode> inResults(const ozm::TemplateText &parsed,
     return codes;
 }
 
+QSet<QString> namesIn(const QString &code)
+{
+    static const QRegularExpression name(u"[\\w$]+"_s);
+    QSet<QString> names;
+    for (const QRegularExpressionMatch &match : name.globalMatch(code))
+        names.insert(match.captured());
+    return names;
+}
+
 QString defaultLibraryPath()
 {
     return QCoreApplication::applicationDirPath() + u"/templateEditorJSLib/TemplateEditorJSUtils.js"_s;
@@ -155,6 +165,7 @@ void TemplateEditorJSEnginePrivate::initJSEngine(const QString &path)
     const bool read = reader.readJSFile();
     if (read)
         m_library = {path, reader.fileContent()};
+    m_libraryNames = namesIn(m_library.content);
     QString trouble;
     m_realm = ozm::ScriptRealm::create(m_library, &trouble);
     m_valid = read && trouble.isNull() && m_realm->isServed();
@@ -286,13 +297,19 @@ TemplateEditorJSCodeReader::Private::runPieces(const ozm::TemplateText &parsed,
                                                const QMap<QString, QVariant> &parameters)
 {
     std::unique_ptr<ozm::ScriptRealm> own;
-    if (!parsed.isContained() || !std::ranges::all_of(parameters, isPlain))
+    if (!parsed.isContained() || engine.d->doesLibraryName(parsed.variables()) ||
+        !std::ranges::all_of(parameters, isPlain))
         own = engine.d->freshRealm();
     ozm::ScriptRealm &realm = own ? *own : engine.d->realm();
 
     QList<ozm::ScriptTask> tasks;
-    for (const ozm::ScriptPiece &piece : parsed.pieces())
+    for (const ozm::ScriptPiece &piece : parsed.pieces()) {
         tasks.prepend({piece.code, piece.mayChangeParameters});
+        if (!own) {
+            tasks.front().function = piece.function;
+            tasks.front().leavesVariables = piece.leavesVariables;
+        }
+    }
     QList<ozm::ScriptOutcome> outcomes = realm.run(tasks, parameters);
     std::ranges::reverse(outcomes);
     return outcomes;

@@ -18,9 +18,15 @@ public:
     /// The engine's own, where scripts run now.
     [[nodiscard]] ozm::ScriptRealm &realm();
     [[nodiscard]] bool isValid() const { return m_valid; }
+    /// True when the library has a name like one of these variables of scripts, which it might then ask for.
+    [[nodiscard]] bool doesLibraryName(const QSet<QString> &variables) const
+    {
+        return m_libraryNames.intersects(variables);
+    }
 
 private:
     ozm::ScriptLibrary m_library;
+    QSet<QString> m_libraryNames;
     TemplateEditorJSEngine::ScriptPlace m_place = TemplateEditorJSEngine::scriptPlace();
     std::unique_ptr<ozm::ScriptRealm> m_realm;
     bool m_valid = false;

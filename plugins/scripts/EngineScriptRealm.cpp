@@ -23,6 +23,7 @@ const QString kPrepare =
     u"(function (toText, apply, isArray) {"
     "  'use strict';"
     "  const deepest = 500, longest = 1e7;"
+    "  const thrown = {};"
     "  let around = null;"
     "  function within(list, write) {"
     "    let depth = 0;"
@@ -44,6 +45,11 @@ const QString kPrepare =
     "      { value: guarded[name], writable: true, enumerable: false, configurable: true });"
     "  return {"
     "    forget: function () { around = null },"
+    "    thrown: thrown,"
+    "    call: function (piece) {"
+    "      try { return piece() }"
+    "      catch (error) { return thrown }"
+    "    },"
     "    toText: function (value) {"
     "      try { return { text: toText(value) } }"
     "      catch (error) { return { error: error } }"
@@ -68,17 +74,23 @@ int lineOf(const QJSValue &result, const QStringList &stack)
     return stack.isEmpty() ? 1 : qMax(1, stack.constLast().section(u':', 1, 1).toInt());
 }
 
+// More than the pieces of the templates that are decoded by turns.
+constexpr qsizetype kMostFunctions = 1000;
+
 // A deadline that is made for short scripts leaves no time to read a library on a busy machine.
 constexpr std::chrono::milliseconds kLibraryTime{1000};
 
 } // namespace
 
 EngineScriptRealm::EngineScriptRealm(const ScriptLibrary &library, ScriptRulesNow rules, QString *trouble)
-    : m_rules(rules)
+    : m_library(library)
+    , m_rules(rules)
 {
     const QJSValue own = m_engine.evaluate(kPrepare, kOwnScript);
     m_toText = own.property(u"toText"_s);
     m_forgetLists = own.property(u"forget"_s);
+    m_call = own.property(u"call"_s);
+    m_thrown = own.property(u"thrown"_s);
     if (library.content.isEmpty())
         return;
     if (const auto failure = load(library); failure && trouble)
@@ -126,21 +138,62 @@ void EngineScriptRealm::run(const QList<ScriptTask> &tasks, const QMap<QString, 
         watch(rules.deadline);
     QJSValue global = m_engine.globalObject();
     QJSValue shared;
-    for (const ScriptTask &task : tasks) {
-        if (isLate()) {
-            ended({task.code, true, 1, kLate});
-            continue;
-        }
+    const auto handOut = [this, &global, &shared, &parameters, &rules](const ScriptTask &task) {
         QJSValue handed = shared;
         if (task.mayChangeParameters || shared.isUndefined())
             handed = m_objects.handOut(m_engine, parameters, rules.readOnlyObjects);
         if (!task.mayChangeParameters)
             shared = handed;
         global.setProperty(kParameters, handed);
-        const ScriptOutcome outcome = evaluate(task.code);
+    };
+    for (const ScriptTask &task : tasks) {
+        if (isLate()) {
+            ended({task.code, true, 1, kLate});
+            continue;
+        }
+        handOut(task);
+        std::optional<ScriptOutcome> outcome = call(task);
+        if (!outcome && task.leavesVariables) {
+            outcome = evaluateApart(task, parameters);
+        } else if (!outcome) {
+            if (!task.function.isEmpty())
+                handOut(task);
+            outcome = evaluate(task.code);
+        }
         global.deleteProperty(kParameters);
-        ended(outcome);
+        ended(*outcome);
     }
+    if (m_depth == 1)
+        m_apart.reset();
+}
+
+std::optional<ScriptOutcome> EngineScriptRealm::call(const ScriptTask &task)
+{
+    if (task.function.isEmpty())
+        return std::nullopt;
+    QJSValue function = m_functions.value(task.function);
+    if (!function.isCallable()) {
+        function = m_engine.evaluate(task.function);
+        if (!function.isCallable())
+            return std::nullopt;
+        if (m_functions.size() >= kMostFunctions)
+            m_functions.clear();
+        m_functions.insert(task.function, function);
+    }
+    const QJSValue result = m_call.call({function});
+    if (isLate())
+        return ScriptOutcome{task.code, true, lineOf(result, {}), kLate};
+    if (result.isError() || (result.isObject() && result.strictlyEquals(m_thrown)))
+        return std::nullopt;
+    return textOf(task.code, result);
+}
+
+ScriptOutcome EngineScriptRealm::evaluateApart(const ScriptTask &task,
+                                               const QMap<QString, QVariant> &parameters)
+{
+    if (!m_apart)
+        m_apart = std::make_unique<EngineScriptRealm>(m_library, m_rules, nullptr);
+    return m_apart->run({{task.code}}, parameters).constFirst();
 }
 
 ScriptOutcome EngineScriptRealm::evaluate(const QString &code)
@@ -151,6 +204,11 @@ ScriptOutcome EngineScriptRealm::evaluate(const QString &code)
         return {code, true, lineOf(result, stack), kLate};
     if (result.isError() || !stack.isEmpty())
         return {code, true, lineOf(result, stack), messageOf(result)};
+    return textOf(code, result);
+}
+
+ScriptOutcome EngineScriptRealm::textOf(const QString &code, const QJSValue &result)
+{
     if (!result.isObject())
         return {result.toString()};
     const QJSValue text = m_toText.call({result});

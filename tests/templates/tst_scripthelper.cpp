@@ -184,7 +184,7 @@ private Q_SLOTS:
             << QByteArray("text") << u"\"%1\", which runs scripts, cannot be started"_s;
         QTest::newRow("of another version")
             << QByteArray("#!/bin/sh\nprintf '\\0\\0\\0\\010ozmS\\0\\0\\0\\143'; read line\n")
-            << u"\"%1\", which runs scripts, is of another version: 99 instead of 1."_s;
+            << u"\"%1\", which runs scripts, is of another version: 99 instead of 2."_s;
         QTest::newRow("another program")
             << QByteArray("#!/bin/sh\nyes") << u"\"%1\" was started to run scripts, and does not answer."_s;
         QTest::newRow("ends at once")

@@ -8,6 +8,9 @@ using namespace ozm;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QString code = fuzz::textOf(data, size);
-    fuzz::require(isContainedScript(code) == isContainedScript(code), "a script is judged by its text alone");
+    const ScriptReading read = readScript(code);
+    fuzz::require(read.function == readScript(code).function, "a script is judged by its text alone");
+    fuzz::require(!read.isContained || read.variables.isEmpty() || !read.function.isEmpty(),
+                  "variables are kept in a function");
     return 0;
 }

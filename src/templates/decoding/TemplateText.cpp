@@ -20,14 +20,7 @@ constexpr qsizetype kCachedCharacters = 8'000'000;
 // The cost of an entry beside its text, so that many small entries are bounded, too.
 constexpr qsizetype kEntryCost = 200;
 
-ScriptPiece scriptPiece(const QString &text, qsizetype start, qsizetype length)
-{
-    const QString code = text.sliced(start, length);
-    const bool contained = isContainedScript(code);
-    const bool mayChange =
-        !contained || code.contains("inputParameters"_L1) || code.contains("templateEditorCore"_L1);
-    return {static_cast<qint32>(start), code, contained, mayChange};
-}
+const QString kLibraryName = u"templateEditorCore"_s;
 
 /// @p text in a buffer that lives as long as it is wanted: one from QString::fromRawData() is somebody else's.
 QString owned(const QString &text)
@@ -35,23 +28,44 @@ QString owned(const QString &text)
     return text.data_ptr().isMutable() ? text : QString(text.constData(), text.size());
 }
 
-QList<ScriptPiece> scriptPieces(const QString &text)
+bool areVariablesOwn(const QList<ScriptReading> &readings)
 {
-    QList<ScriptPiece> pieces;
-    for (const syntax::ScriptRange &range : syntax::scriptPieces(text))
-        pieces.append(scriptPiece(text, range.start, range.end - range.start));
-    return pieces;
+    QHash<QString, int> uses;
+    for (const ScriptReading &reading : readings)
+        for (const QString &name : reading.names)
+            ++uses[name];
+    return std::ranges::all_of(readings, [&uses](const ScriptReading &reading) {
+        return std::ranges::all_of(reading.variables,
+                                   [&uses](const QString &name) { return uses.value(name) == 1; });
+    });
 }
 
 } // namespace
 
 TemplateText::TemplateText(const QString &text)
     : m_text(text)
-    , m_pieces(scriptPieces(text))
-    , m_contained(std::ranges::all_of(m_pieces, &ScriptPiece::contained))
     , m_marks(syntax::marked(text))
 {
+    collectPieces();
     collectNames();
+}
+
+void TemplateText::collectPieces()
+{
+    QList<ScriptReading> readings;
+    for (const syntax::ScriptRange &range : syntax::scriptPieces(m_text)) {
+        const QString code = m_text.sliced(range.start, range.end - range.start);
+        const ScriptReading read = readScript(code);
+        const bool callsLibrary = read.names.contains(kLibraryName);
+        const bool mayChange = !read.isContained || callsLibrary || read.names.contains(u"inputParameters"_s);
+        m_pieces.append(
+            {static_cast<qint32>(range.start), code, mayChange, read.function, !read.variables.isEmpty()});
+        m_contained = m_contained && read.isContained;
+        if (callsLibrary)
+            m_variables.unite(read.variables);
+        readings.append(read);
+    }
+    m_contained = m_contained && areVariablesOwn(readings);
 }
 
 void TemplateText::collectNames()
@@ -81,7 +95,7 @@ qsizetype TemplateText::cost() const
         for (const QString &name : *names)
             characters += name.size() + 20;
     for (const ScriptPiece &piece : m_pieces)
-        characters += piece.code.size() + 20;
+        characters += piece.code.size() + piece.function.size() + 20;
     return characters;
 }
 

@@ -4,6 +4,7 @@
 
 #include <QCache>
 #include <QList>
+#include <QSet>
 #include <QString>
 
 #include <memory>
@@ -14,8 +15,9 @@ struct ScriptPiece
 {
     qint32 start; ///< In the template, just after the tag.
     QString code;
-    bool contained;           ///< Leaves nothing behind in the engine: see isContainedScript().
     bool mayChangeParameters; ///< False only when it is certain that it does not.
+    QString function;         ///< See ScriptReading.
+    bool leavesVariables;
 };
 
 /// A template parsed as far as that is possible without data.
@@ -26,8 +28,10 @@ public:
 
     [[nodiscard]] const QString &text() const { return m_text; }
     [[nodiscard]] const QList<ScriptPiece> &pieces() const { return m_pieces; }
-    /// True when no piece leaves anything behind.
+    /// True when no piece leaves anything behind in the engine, or sees what another has left.
     [[nodiscard]] bool isContained() const { return m_contained; }
+    /// The global variables of the pieces that call the library: it might ask for them.
+    [[nodiscard]] const QSet<QString> &variables() const { return m_variables; }
     [[nodiscard]] const syntax::MarkedText &marks() const { return m_marks; }
 
     /// The different names that getCodes() finds, in order of their first appearance.
@@ -39,11 +43,13 @@ public:
     [[nodiscard]] qsizetype cost() const;
 
 private:
+    void collectPieces();
     void collectNames();
 
     QString m_text;
     QList<ScriptPiece> m_pieces;
     bool m_contained = true;
+    QSet<QString> m_variables;
     syntax::MarkedText m_marks;
     QList<QString> m_names;
     QList<int> m_sequence;

@@ -30,12 +30,6 @@ constexpr std::array kBeforeExpression{
 // With these, a closing parenthesis may stand before a regular expression.
 constexpr std::array kWithParentheses{"if"_L1, "while"_L1, "for"_L1, "with"_L1};
 
-bool isLineEnd(QChar character)
-{
-    return character == u'\n' || character == u'\r' || character == QChar::LineSeparator ||
-           character == QChar::ParagraphSeparator;
-}
-
 bool isDigit(QChar character)
 {
     return character >= u'0' && character <= u'9';
@@ -84,10 +78,10 @@ private:
     {
         while (m_at < m_code.size() && m_sure) {
             const QChar character = m_code[m_at];
-            if (character == u' ' || character == u'\t' || isLineEnd(character))
+            if (character == u' ' || character == u'\t' || isScriptLineEnd(character))
                 ++m_at;
             else if (follows("//"_L1))
-                m_at = std::find_if(m_code.begin() + m_at, m_code.end(), isLineEnd) - m_code.begin();
+                m_at = std::find_if(m_code.begin() + m_at, m_code.end(), &isScriptLineEnd) - m_code.begin();
             else if (follows("/*"_L1))
                 skipComment();
             else
@@ -154,7 +148,7 @@ private:
     void takeText(QChar quote)
     {
         qsizetype end = m_at + 1;
-        while (end < m_code.size() && m_code[end] != quote && !isLineEnd(m_code[end]))
+        while (end < m_code.size() && m_code[end] != quote && !isScriptLineEnd(m_code[end]))
             end += m_code[end] == u'\\' ? 2 : 1;
         m_sure = at(end) == quote && end < m_code.size();
         add(Kind::Text, std::min(end + 1, m_code.size()));
@@ -190,6 +184,10 @@ private:
     {
         const auto found =
             std::ranges::find_if(kOperators, [this](QLatin1StringView each) { return follows(each); });
+        if (m_code[m_at] == u'/' && isBeforeExpression()) {
+            takeRegularExpression();
+            return;
+        }
         m_sure = found != kOperators.end() && (m_code[m_at] != u'/' || isDivision());
         if (!m_sure)
             return;
@@ -200,13 +198,50 @@ private:
         add(Kind::Operator, m_at + found->size());
     }
 
+    void takeRegularExpression()
+    {
+        qsizetype end = m_at + 1;
+        for (bool isInClass = false; end < m_code.size() && (m_code[end] != u'/' || isInClass); ++end) {
+            if (isScriptLineEnd(m_code[end]))
+                break;
+            if (m_code[end] == u'[' || m_code[end] == u']')
+                isInClass = m_code[end] == u'[';
+            else if (m_code[end] == u'\\' && !isScriptLineEnd(at(end + 1)))
+                ++end;
+        }
+        m_sure = at(end) == u'/';
+        do
+            ++end;
+        while (isNameStart(at(end)) || isDigit(at(end)));
+        add(Kind::Text, std::min(end, m_code.size()));
+    }
+
+    /// True when what stands before cannot be divided.
+    [[nodiscard]] bool isBeforeExpression() const
+    {
+        if (m_tokens.empty())
+            return true;
+        const ScriptToken &before = m_tokens.back();
+        if (before.kind == Kind::Name)
+            return isKeywordBeforeExpression();
+        return before.kind == Kind::Operator && !(before == u")") && !(before == u"]") && !(before == u"}") &&
+               !(before == u"++") && !(before == u"--");
+    }
+
+    [[nodiscard]] bool isKeywordBeforeExpression() const
+    {
+        const bool isMember =
+            m_tokens.size() > 1 && (m_tokens.end()[-2] == u"." || m_tokens.end()[-2] == u"?.");
+        return !isMember && isOneOf(m_tokens.back().text, kBeforeExpression);
+    }
+
     [[nodiscard]] bool isDivision() const
     {
         if (m_tokens.empty())
             return false;
         const ScriptToken &before = m_tokens.back();
         if (before.kind == Kind::Name)
-            return !isOneOf(before.text, kBeforeExpression);
+            return !isKeywordBeforeExpression();
         if (before == u")") {
             return std::ranges::none_of(
                 m_tokens, [](const ScriptToken &token) { return isOneOf(token.text, kWithParentheses); });

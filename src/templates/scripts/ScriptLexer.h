@@ -14,13 +14,20 @@ template <typename List>
     return std::ranges::any_of(list, [text](QLatin1StringView each) { return text == each; });
 }
 
+/// True for what ends a line of a script.
+[[nodiscard]] inline bool isScriptLineEnd(QChar character)
+{
+    return character == u'\n' || character == u'\r' || character == QChar::LineSeparator ||
+           character == QChar::ParagraphSeparator;
+}
+
 struct ScriptToken
 {
     enum class Kind
     {
         Name, ///< An identifier or a keyword.
         Number,
-        Text,     ///< A string literal with its quotes, or a part of a template literal.
+        Text, ///< A string literal with its quotes, a regular expression, or a part of a template literal.
         Operator, ///< Brackets and separators, too.
     };
 
@@ -31,8 +38,8 @@ struct ScriptToken
 };
 
 /**
- * The tokens of a script; nothing when it cannot be taken apart beyond doubt: anything that may be a regular
- * expression, an escape outside of texts, a character beyond ASCII there, or a text without an end.
+ * The tokens of a script; nothing when it cannot be taken apart beyond doubt: a slash that may divide or begin a
+ * regular expression, an escape outside of texts, a character beyond ASCII there, or a text without an end.
  *
  * The views are of @p code. The parts of a template literal stand as texts around "${" and "}".
  */

@@ -44,7 +44,7 @@ QDataStream &operator>>(QDataStream &stream, Message &message)
 namespace scriptprotocol {
 
 // Goes up with every change of a message.
-constexpr quint32 kVersion = 1;
+constexpr quint32 kVersion = 2;
 
 // A length beyond this one does not come from a process that keeps to the rules.
 constexpr quint32 kLongestFrame = 1U << 30U;

@@ -19,8 +19,15 @@ struct ScriptTask
     QString code;
     /// False only when it is certain that the piece cannot change its parameters: others then get the same.
     bool mayChangeParameters = true;
+    /// An expression for a function that does the same, without the global variables; empty without one. Of a piece
+    /// that leaves nothing else behind.
+    QString function = {};
+    bool leavesVariables = false; ///< It does without the function.
 
-    static auto fields(auto &self) { return std::tie(self.code, self.mayChangeParameters); }
+    static auto fields(auto &self)
+    {
+        return std::tie(self.code, self.mayChangeParameters, self.function, self.leavesVariables);
+    }
 };
 
 /// The outcome of a piece of script. A failed one has its code as its text.
@@ -109,6 +116,6 @@ public:
 
 } // namespace ozm
 
-#define OZM_SCRIPT_ENGINE_IID "ozm_widgets.ScriptEngineInterface/4"
+#define OZM_SCRIPT_ENGINE_IID "ozm_widgets.ScriptEngineInterface/5"
 Q_DECLARE_INTERFACE(ozm::ScriptEngineInterface, OZM_SCRIPT_ENGINE_IID)
 Q_DECLARE_METATYPE(ozm::WithheldValue)
