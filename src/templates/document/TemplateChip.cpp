@@ -155,11 +155,26 @@ QString ChipPainter::label(const TemplatePart &part) const
     return sign + firstLine(part.kind == PartKind::Script ? syntax::codeOf(part.source) : part.source);
 }
 
-void ChipPainter::setDisplayNames(const QHash<QString, QString> &names)
+bool ChipPainter::setDisplayNames(const QHash<QString, QString> &names, const QTextDocument &document)
 {
+    QList<std::pair<TemplatePart, QString>> labels;
+    QList<std::pair<QString, bool>> known;
+    for (const QTextFormat &format : document.allFormats()) {
+        const TemplatePart part = chipPart(format);
+        if (part.kind == PartKind::None)
+            continue;
+        labels.append({part, label(part)});
+        const QString code = codeOf(part);
+        known.append({code, isKnown(code)});
+    }
     m_displayNames = names;
     m_faces.clear();
     m_faceCount = 0;
+    const auto isOther = [this](const auto &before) { return label(before.first) != before.second; };
+    const auto isKnownOtherwise = [this](const auto &before) {
+        return !before.first.isEmpty() && isKnown(before.first) != before.second;
+    };
+    return std::ranges::any_of(labels, isOther) || std::ranges::any_of(known, isKnownOtherwise);
 }
 
 ChipPainter::Face ChipPainter::makeFace(const QTextDocument &document, const QTextFormat &format) const

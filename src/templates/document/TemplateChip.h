@@ -56,7 +56,8 @@ public:
 
     /// Display names by code; while there is none at all, no code counts as unknown.
     [[nodiscard]] const QHash<QString, QString> &displayNames() const { return m_displayNames; }
-    void setDisplayNames(const QHash<QString, QString> &names);
+    /// True when a chip of @p document is another one now.
+    bool setDisplayNames(const QHash<QString, QString> &names, const QTextDocument &document);
 
 private:
     /// How chips of one format look. Each key has all of them on the screen measured and drawn again.

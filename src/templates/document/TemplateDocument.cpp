@@ -125,14 +125,45 @@ struct Marker
     int end;
 };
 
+/// The formats of chips, of which most are alike. Documents find a format faster that they know already.
+class ChipFormats
+{
+public:
+    const QTextCharFormat &formatOf(const TemplatePart &part, const QTextCharFormat &base)
+    {
+        QList<Made> &made = m_made[part.source];
+        for (const Made &each : std::as_const(made))
+            if (each.base == base && each.kind == part.kind)
+                return each.format;
+        return made.emplaceBack(Made{base, part.kind, editor::chipFormat(part, base)}).format;
+    }
+
+private:
+    struct Made
+    {
+        QTextCharFormat base;
+        PartKind kind;
+        QTextCharFormat format;
+    };
+
+    QHash<QString, QList<Made>> m_made;
+};
+
 /// Puts the part of @p marker in its place.
 void replaceMarker(QTextCursor &cursor, const Marker &marker, const editor::SplitTemplate &split,
-                   bool remember)
+                   bool remember, ChipFormats &formats)
 {
     const TemplatePart &part = split.parts.at(marker.part);
     const int run = split.places.at(marker.part).run;
-    cursor.setPosition(marker.start);
-    cursor.setPosition(marker.end, QTextCursor::KeepAnchor);
+    const bool isOneCharacter = marker.end == marker.start + 1;
+    if (part.source.isEmpty() && isOneCharacter) {
+        // Without a selection, whose ends the toolkit looks up in all tables.
+        cursor.setPosition(marker.end);
+        cursor.deletePreviousChar();
+    } else {
+        cursor.setPosition(marker.start);
+        cursor.setPosition(marker.end, QTextCursor::KeepAnchor);
+    }
     if (part.source.isEmpty()) {
         cursor.removeSelectedText();
         QTextBlockFormat line;
@@ -148,10 +179,10 @@ void replaceMarker(QTextCursor &cursor, const Marker &marker, const editor::Spli
     const QTextCharFormat base = cursor.charFormat();
     if (part.kind == PartKind::None)
         cursor.insertText(part.source, base);
-    else if (marker.end == marker.start + 1 && split.chipMarker == QChar::ObjectReplacementCharacter)
-        cursor.setCharFormat(editor::chipFormat(part, base));
+    else if (isOneCharacter && split.chipMarker == QChar::ObjectReplacementCharacter)
+        cursor.setCharFormat(formats.formatOf(part, base));
     else
-        cursor.insertText(QString(QChar::ObjectReplacementCharacter), editor::chipFormat(part, base));
+        cursor.insertText(QString(QChar::ObjectReplacementCharacter), formats.formatOf(part, base));
 }
 
 bool isMarker(QChar character, const editor::SplitTemplate &split)
@@ -205,26 +236,15 @@ QList<Marker> numberedMarkers(const QTextDocument &document, const editor::Split
     return markers;
 }
 
-/// Reads the HTML of @p split; gives the character behind numbered markers, or null where they are in turn.
-QChar readHtml(QTextDocument &document, const editor::SplitTemplate &split)
-{
-    document.setHtml(split.html);
-    if (markersInTurn(document, split))
-        return {};
-    // The reader left some of them out, or moved them: with a number, each can be told.
-    const QChar end = editor::characterNotIn(split.html);
-    document.setHtml(withNumbers(split, end));
-    return end;
-}
-
 // From the end on, so that positions found before stay true.
 void replaceMarkers(QTextDocument &document, const QList<Marker> &markers, const editor::SplitTemplate &split,
                     bool remember)
 {
     QTextCursor edit(&document);
+    ChipFormats formats;
     edit.beginEditBlock();
     std::for_each(markers.crbegin(), markers.crend(),
-                  [&](const Marker &marker) { replaceMarker(edit, marker, split, remember); });
+                  [&](const Marker &marker) { replaceMarker(edit, marker, split, remember, formats); });
     edit.endEditBlock();
 }
 
@@ -250,6 +270,26 @@ void removeLinesAfterTables(QTextDocument &document)
     collectLinesAfterTables(document.rootFrame(), lines);
     for (QTextCursor &line : lines)
         editor::removeEmptyLine(line);
+}
+
+void readHtml(QTextDocument &document, const QString &html)
+{
+    document.setHtml(html);
+    if (html.contains(u"font"_s))
+        editor::sizeLettersInPoints(document);
+    removeLinesAfterTables(document);
+}
+
+/// Reads the HTML of @p split, and finds its markers.
+QList<Marker> readMarkers(QTextDocument &document, const editor::SplitTemplate &split)
+{
+    readHtml(document, split.html);
+    if (const auto inTurn = markersInTurn(document, split))
+        return *inTurn;
+    // The reader left some of them out, or moved them: with a number, each can be told.
+    const QChar end = editor::characterNotIn(split.html);
+    readHtml(document, withNumbers(split, end));
+    return numberedMarkers(document, split, end);
 }
 
 // A rule has no text in which a mark could stand.
@@ -366,12 +406,7 @@ editor::SplitTemplate editor::readSource(QTextDocument &document, const QString 
     const bool undo = document.isUndoRedoEnabled();
     document.setUndoRedoEnabled(false);
     const LayoutPause pause(document);
-    const QChar end = readHtml(document, split);
-    if (split.html.contains("font"_L1))
-        sizeLettersInPoints(document);
-    removeLinesAfterTables(document);
-    const auto inTurn = end.isNull() ? markersInTurn(document, split) : std::nullopt;
-    replaceMarkers(document, inTurn ? *inTurn : numberedMarkers(document, split, end), split, remember);
+    replaceMarkers(document, readMarkers(document, split), split, remember);
     if (remember)
         rememberRules(document, split);
     document.setUndoRedoEnabled(undo);
@@ -531,8 +566,8 @@ void TemplateDocument::setDisplayNames(const QHash<QString, QString> &names)
 {
     if (names == d->painter.displayNames())
         return;
-    d->painter.setDisplayNames(names);
-    markContentsDirty(0, characterCount());
+    if (d->painter.setDisplayNames(names, *this))
+        markContentsDirty(0, characterCount());
 }
 
 bool TemplateDocument::isKnownCode(const QString &code) const

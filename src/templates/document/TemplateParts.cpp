@@ -518,7 +518,7 @@ private:
 
     static bool hasCode(QStringView tag, const QString &allowedAttributes)
     {
-        if (!tag.contains(syntax::codePattern()))
+        if (!tag.contains(u'[') || !tag.contains(syntax::codePattern()))
             return syntax::hasScript(tag);
         if (allowedAttributes.isEmpty())
             return true;
