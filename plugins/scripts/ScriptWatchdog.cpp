@@ -2,16 +2,19 @@
 
 #include <QDeadlineTimer>
 #include <QJSEngine>
-#include <QMutex>
 #include <QThread>
-#include <QWaitCondition>
 
 #include <algorithm>
+#include <condition_variable>
+#include <mutex>
 #include <vector>
 
 namespace ozm {
 
 namespace {
+
+// The end of time, added to now, is in the past on some systems.
+constexpr std::chrono::nanoseconds kLongestSleep = std::chrono::hours(24);
 
 class Watchdog
 {
@@ -25,15 +28,15 @@ public:
 
     void watch(QJSEngine &engine, QDeadlineTimer deadline)
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard lock(m_mutex);
         m_watched.push_back({&engine, deadline});
         if (deadline < m_wakeUp)
-            m_sooner.wakeOne();
+            m_sooner.notify_one();
     }
 
     void release(QJSEngine &engine)
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard lock(m_mutex);
         const auto latest =
             std::ranges::find(m_watched.rbegin(), m_watched.rend(), &engine, &Watched::engine);
         m_watched.erase(std::next(latest).base());
@@ -55,10 +58,13 @@ private:
 
     [[noreturn]] void run()
     {
-        const QMutexLocker lock(&m_mutex);
+        std::unique_lock lock(m_mutex);
         while (true) {
             interruptTheLate();
-            m_sooner.wait(&m_mutex, m_wakeUp);
+            if (m_wakeUp.isForever())
+                m_sooner.wait(lock);
+            else
+                m_sooner.wait_for(lock, std::min(m_wakeUp.remainingTimeAsDuration(), kLongestSleep));
         }
     }
 
@@ -74,8 +80,9 @@ private:
         }
     }
 
-    QMutex m_mutex;
-    QWaitCondition m_sooner;
+    // The standard library's, as the thread sanitizer knows nothing of Qt's.
+    std::mutex m_mutex;
+    std::condition_variable m_sooner;
     QDeadlineTimer m_wakeUp{QDeadlineTimer::Forever};
     std::vector<Watched> m_watched;
 };

@@ -98,8 +98,18 @@ private:
         const QMutexLocker lock(&m_mutex);
         if (m_owner && round == m_round)
             QMetaObject::invokeMethod(
-                m_owner, [owner = m_owner, round, sample] { owner->take(round, sample); },
+                m_owner, [desk = shared_from_this(), round, sample] { desk->deliver(round, sample); },
                 Qt::QueuedConnection);
+    }
+
+    /// In the thread of the owner.
+    void deliver(int round, const MsSample &sample)
+    {
+        QMutexLocker lock(&m_mutex);
+        MsDataLook *const owner = m_owner;
+        lock.unlock();
+        if (owner)
+            owner->take(round, sample);
     }
 
     QMutex m_mutex;

@@ -7,6 +7,7 @@
 #include <QThread>
 
 #include <atomic>
+#include <mutex>
 
 using namespace Qt::StringLiterals;
 
@@ -46,7 +47,14 @@ public:
         template <typename Call>
         void inOwnersThread(Call call)
         {
-            QMetaObject::invokeMethod(m_search.qptr, std::move(call), Qt::QueuedConnection);
+            const std::lock_guard lock(m_search.handover);
+            QMetaObject::invokeMethod(
+                m_search.qptr,
+                [search = &m_search, call = std::move(call)] {
+                    std::unique_lock(search->handover).unlock();
+                    call();
+                },
+                Qt::QueuedConnection);
         }
 
         Private &m_search;
@@ -60,6 +68,8 @@ public:
     MsDataSearch *const qptr;
     std::unique_ptr<QThread> thread;
     std::atomic<bool> isCanceled = false;
+    // Qt hands over in order by itself, which the thread sanitizer does not see.
+    std::mutex handover;
 };
 
 void MsDataSearch::Private::Courier::run(const QString &folder, const MsDataSearchOptions &options)
