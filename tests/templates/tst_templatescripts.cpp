@@ -458,6 +458,7 @@ private Q_SLOTS:
         const QString path =
             QCoreApplication::applicationDirPath() + u"/templateEditorJSLib/TemplateEditorJSUtils.js"_s;
         const SiteLibrary site(path, "({ name: () => inputParameters['[Name]'],"
+                                     "   seen: () => typeof site, "
                                      "   spoil: () => inputParameters['[Name]'] = 'x' })");
         const QString name = piece(u"templateEditorCore.name()"_s);
         for (const Place place : kPlaces) {
@@ -465,6 +466,11 @@ private Q_SLOTS:
             TemplateEditorJSCodeReader reader;
             QCOMPARE(reader.readAsString(name + piece(u"templateEditorCore.spoil()"_s) + name, kValues),
                      piece(u"T12"_s) + piece(u"x"_s) + piece(u"T12"_s));
+            const QString global = piece(u"var site = 1; site"_s);
+            QCOMPARE(reader.readAsString(piece(u"templateEditorCore.seen()"_s) + global, {}),
+                     piece(u"number"_s) + piece(u"1"_s));
+            QCOMPARE(reader.readAsString(piece(u"[1].map(site => 2) + typeof site"_s) + global, {}),
+                     piece(u"2number"_s) + piece(u"1"_s));
         }
     }
 

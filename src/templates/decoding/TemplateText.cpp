@@ -21,6 +21,7 @@ constexpr qsizetype kCachedCharacters = 8'000'000;
 constexpr qsizetype kEntryCost = 200;
 
 const QString kLibraryName = u"templateEditorCore"_s;
+const QString kParametersName = u"inputParameters"_s;
 
 /// @p text in a buffer that lives as long as it is wanted: one from QString::fromRawData() is somebody else's.
 QString owned(const QString &text)
@@ -53,18 +54,21 @@ TemplateText::TemplateText(const QString &text)
 void TemplateText::collectPieces()
 {
     QList<ScriptReading> readings;
+    bool callLibrary = false;
     for (const syntax::ScriptRange &range : syntax::scriptPieces(m_text)) {
         const QString code = m_text.sliced(range.start, range.end - range.start);
         const ScriptReading read = readScript(code);
         const bool callsLibrary = read.names.contains(kLibraryName);
-        const bool mayChange = !read.isContained || callsLibrary || read.names.contains(u"inputParameters"_s);
+        const bool mayChange = !read.isContained || callsLibrary || read.names.contains(kParametersName);
         m_pieces.append(
             {static_cast<qint32>(range.start), code, mayChange, read.function, !read.variables.isEmpty()});
         m_contained = m_contained && read.isContained;
-        if (callsLibrary)
-            m_variables.unite(read.variables);
+        m_variables.unite(read.variables);
+        callLibrary = callLibrary || callsLibrary;
         readings.append(read);
     }
+    if (!callLibrary)
+        m_variables.clear();
     m_contained = m_contained && areVariablesOwn(readings);
 }
 

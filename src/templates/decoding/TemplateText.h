@@ -30,7 +30,7 @@ public:
     [[nodiscard]] const QList<ScriptPiece> &pieces() const { return m_pieces; }
     /// True when no piece leaves anything behind in the engine, or sees what another has left.
     [[nodiscard]] bool isContained() const { return m_contained; }
-    /// The global variables of the pieces that call the library: it might ask for them.
+    /// The global variables of the pieces, when one of them calls the library: it might ask for them.
     [[nodiscard]] const QSet<QString> &variables() const { return m_variables; }
     [[nodiscard]] const syntax::MarkedText &marks() const { return m_marks; }
 
