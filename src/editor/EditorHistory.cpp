@@ -1,6 +1,9 @@
 #include "editor/EditorHistory.h"
 
 #include <QPlainTextDocumentLayout>
+#include <QRegularExpression>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -25,6 +28,43 @@ std::unique_ptr<QTextDocument> makeDocument(EditorSession::Mode mode, const QStr
     document->setPlainText(source);
     document->setModified(false);
     return document;
+}
+
+/// The places in @p source where lines end, as the toolkit parts them.
+QList<QStringView> lineEndsIn(const QString &source)
+{
+    static const QRegularExpression end(u"\r\n|[\n\r\u2029]"_s);
+    QList<QStringView> ends;
+    for (auto all = end.globalMatch(source); all.hasNext();)
+        ends.append(all.next().capturedView());
+    return ends;
+}
+
+/// The lines of @p source without their ends.
+QStringList linesIn(QString source)
+{
+    source.replace("\r\n"_L1, "\n"_L1).replace(u'\r', u'\n').replace(QChar::ParagraphSeparator, u'\n');
+    return source.split(u'\n');
+}
+
+/// @p text, which @p source was edited to, with the line ends of it: the toolkit has the same for all.
+QString withLineEndsOf(const QString &source, const QString &text)
+{
+    const QList<QStringView> ends = lineEndsIn(source);
+    if (ends.isEmpty())
+        return text;
+    const QStringList before = linesIn(source);
+    const QStringList now = text.split(u'\n');
+    const auto firstChanged = std::ranges::mismatch(before, now).in1 - before.cbegin();
+    const qsizetype more = now.size() - before.size();
+    QString result = now.constFirst();
+    for (qsizetype line = 1; line < now.size(); ++line) {
+        // Behind the first change, lines are counted from the end.
+        const qsizetype end = line <= firstChanged || more == 0 ? line - 1 : line - 1 - more;
+        result += ends.at(qBound(qsizetype(0), end, ends.size() - 1));
+        result += now.at(line);
+    }
+    return result;
 }
 
 } // namespace
@@ -62,7 +102,8 @@ QString EditorSession::documentSource() const
         return rich->source();
     // The toolkit's own text would have blanks for no-break spaces.
     QString text = m_document->toRawText();
-    return text.replace(QChar::ParagraphSeparator, u'\n');
+    text.replace(QChar::ParagraphSeparator, u'\n');
+    return m_source.contains(u'\r') ? withLineEndsOf(m_source, text) : text;
 }
 
 /// One step of the history of a session's document, which has done it already when this is made.

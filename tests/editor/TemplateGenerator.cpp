@@ -1,5 +1,7 @@
 #include "editor/TemplateGenerator.h"
 
+#include <QRegularExpression>
+
 using namespace Qt::StringLiterals;
 
 QString TemplateGenerator::oneOf(std::initializer_list<const char *> choices)
@@ -9,8 +11,10 @@ QString TemplateGenerator::oneOf(std::initializer_list<const char *> choices)
 
 QString TemplateGenerator::word()
 {
-    return oneOf({"mass", "5 &lt; 7", "a  b", "&nbsp;x", "µm", "peptide", "R&amp;D", "10 %1", "«ß»", " and ",
-                  "[", "]", "x < 3", "𝛼-helix", "tab\tbed", "&eacute;", "m/z"});
+    return oneOf({"mass",      "5 &lt; 7",      "a  b",  "&nbsp;x",    "µm",         "peptide",    "R&amp;D",
+                  "10 %1",     "«ß»",           " and ", "[",          "]",          "x < 3",      "𝛼-helix",
+                  "tab\tbed",  "&eacute;",      "m/z",   "1\u2009000", "2&thinsp;m", "3&#8239;Da", "]] --",
+                  "&lt;b&gt;", "two\r\n  lines"});
 }
 
 QString TemplateGenerator::code()
@@ -80,6 +84,7 @@ QString TemplateGenerator::list(int depth)
         html += "<li>"_L1 + oneOf({"", "", "", "<!--ozm:repeat-row of=\"Ions\"-->"}) + inlines(depth) +
                 (depth < 3 && chance(25) ? list(depth + 1) : QString());
         html += chance(70) ? u"</li>\n"_s : u"\n"_s;
+        html += chance(10) ? oneOf({"<li></li>", "<li>\n", "<li class=k> </li>\r\n"}) : QString();
     }
     return html + (chance(5) ? script() : QString()) + "</"_L1 + tag + ">\n"_L1;
 }
@@ -87,9 +92,10 @@ QString TemplateGenerator::list(int depth)
 QString TemplateGenerator::table(int depth)
 {
     const int columns = below(3) + 1;
-    QString html =
-        u"<table%1>"_s.arg(oneOf({"", " border=\"1\"", " width=\"100%\" cellpadding=\"4\" cellspacing=\"0\"",
-                                  " style=\"border-collapse:collapse\" border=2", " align=\"center\""}));
+    QString html = u"<table%1>"_s.arg(
+        oneOf({"", " border=\"1\"", " width=\"100%\" cellpadding=\"4\" cellspacing=\"0\"",
+               " style=\"border-collapse:collapse\" border=2", " align=\"center\"",
+               " class=k style=\"border:3px dotted #c00; float:right; page-break-before:always\""}));
     if (chance(10))
         html += u"<caption>Table [Name]</caption>"_s;
     if (chance(30)) {
@@ -105,7 +111,12 @@ QString TemplateGenerator::table(int depth)
         } else {
             for (int c = 0; c < columns; ++c) {
                 html += u"<td%1>"_s.arg(oneOf({"", " align=\"right\"", " valign=\"top\"",
-                                               " style=\"color:[Colour]\"", " width=\"30%\"", "", "", ""}));
+                                               " style=\"color:[Colour]\"", " width=\"30%\"", "", "",
+                                               " style='border-left:1px solid red; padding:7px' class=y"}));
+                if (chance(8)) {
+                    html += u"</td>"_s;
+                    continue;
+                }
                 html += depth < 2 && chance(15) ? block(depth + 2) : inlines(2);
                 html += chance(85) ? u"</td>"_s : QString();
             }
@@ -117,12 +128,32 @@ QString TemplateGenerator::table(int depth)
 
 QString TemplateGenerator::hostile()
 {
-    return oneOf(
-        {"<!-- a [comment] <script>no</script> -->", "</div></p>", "<b><p>crossed</b> [Name]</p>",
-         "<unknown [Name]>x</unknown>", "<style>p { color: red }</style>", "<svg><text>[Name]</text></svg>",
-         "<p style=\"color:[Colour]\">coloured</p>", "<input value=\"[Name]\">", "<", "&;", "<3", "</script>",
-         "<script type=\"text/x\">kept</script>", "<p>\xEE\x80\x80private</p>", "<![CDATA[ x ]]>",
-         "<pre>one\n  two [Name]\n</pre>", "<div class=a\">odd quote</div>", "<table></table>", "<ul></ul>"});
+    return oneOf({"<!-- a [comment] <script>no</script> -->",
+                  "</div></p>",
+                  "<b><p>crossed</b> [Name]</p>",
+                  "<unknown [Name]>x</unknown>",
+                  "<style>p { color: red }</style>",
+                  "<svg><text>[Name]</text></svg>",
+                  "<p style=\"color:[Colour]\">coloured</p>",
+                  "<input value=\"[Name]\">",
+                  "<",
+                  "&;",
+                  "<3",
+                  "</script>",
+                  "<script type=\"text/x\">kept</script>",
+                  "<p>\xEE\x80\x80private</p>",
+                  "<![CDATA[ x ]]>",
+                  "<pre>one\n  two [Name]\n</pre>",
+                  "<div class=a\">odd quote</div>",
+                  "<table></table>",
+                  "<ul></ul>",
+                  "<p>open<p id=z>again [Name]",
+                  "<div class=a>text<p>line</p><p class=b>line [Name]</p>rest</div>",
+                  "<center>in the middle</center>",
+                  "<font color=red>[Name]</font> loose",
+                  "<dl><dt>term<dd>[Name]</dl>",
+                  "<p style='border:1px solid'>b</p>",
+                  "<h2 style='page-break-before:always' id=q>new page</h2>"});
 }
 
 QString TemplateGenerator::block(int depth)
@@ -149,7 +180,7 @@ QString TemplateGenerator::block(int depth)
     return u'<' + tag + style + u'>' + inlines(0) + "</"_L1 + tag + ">\n"_L1;
 }
 
-QStringList TemplateGenerator::blocks()
+QStringList TemplateGenerator::blocksWithLines()
 {
     QStringList all;
     if (chance(10))
@@ -164,6 +195,14 @@ QStringList TemplateGenerator::blocks()
         if (isSection)
             all += oneOf({"<!--ozm:end-->\n", "<p><!--ozm:else--></p>\n<p>none</p><!--ozm:end-->\n"});
     }
+    return all;
+}
+
+QStringList TemplateGenerator::blocks()
+{
+    QStringList all = blocksWithLines();
+    if (chance(15))
+        all.replaceInStrings(QRegularExpression(u"\r?\n"_s), u"\r\n"_s);
     return all;
 }
 

@@ -21,6 +21,7 @@ private:
     bool chance(int percent) { return below(100) < percent; }
     QString oneOf(std::initializer_list<const char *> choices);
 
+    QStringList blocksWithLines();
     QString word();
     QString code();
     QString script();

@@ -38,6 +38,7 @@ bool isBesideFrames(const QTextBlock &block)
 
 KeptSource::KeptSource(const QString &source, const SplitTemplate &split)
     : m_source(source)
+    , m_endsWithReturns(source.contains(u'\r') && source.count("\r\n"_L1) == source.count(u'\n'))
     , m_around(split.around)
     , m_runs(split.runs)
     , m_sections(split.sections)
@@ -101,7 +102,7 @@ void KeptSource::joinSections(const WrittenSource &written)
         }
         // Other lines come from something that stands between.
         if (std::exchange(hasOthers, false))
-            join(qMax(0, last), from - 1);
+            join(qMax(0, last), from);
         join(from, qMax(to, last));
         last = qMax(to, last);
     }
@@ -272,7 +273,7 @@ QString KeptSource::sectionText(int index) const
 
 QString KeptSource::withLineEnds(QString text) const
 {
-    return m_source.contains("\r\n"_L1) ? text.replace("\r\n"_L1, "\n"_L1).replace(u'\n', "\r\n"_L1) : text;
+    return m_endsWithReturns ? text.replace("\r\n"_L1, "\n"_L1).replace(u'\n', "\r\n"_L1) : text;
 }
 
 QString KeptSource::newItem(const WrittenSource &written, const WrittenItem &item) const

@@ -75,6 +75,7 @@ private:
                                  const WrittenSource &written, bool anew) const;
 
     QString m_source;
+    bool m_endsWithReturns = false; ///< Each line does. Of a mixture, parts that are kept have others.
     QString m_around;
     QList<SourceRun> m_runs;
     QList<SourceSection> m_sections;

@@ -132,9 +132,12 @@ private:
         m_linesBefore.fill(-1, m_section.runs);
         for (qsizetype index = 0; index < m_beforeWritten.lines.size(); ++index) {
             const int run = m_beforeWritten.lines.at(index).run;
-            if (run < 0 || run >= m_section.runs || m_linesBefore.at(run) >= 0)
+            if (run < 0)
+                m_others.append(innerOf(m_beforeWritten, m_beforeWritten.lines.at(index)).toString());
+            else if (run >= m_section.runs || m_linesBefore.at(run) >= 0)
                 return false;
-            m_linesBefore[run] = int(index);
+            else
+                m_linesBefore[run] = int(index);
         }
         return !m_linesBefore.contains(-1);
     }
@@ -150,9 +153,14 @@ private:
                 if (step.line >= 0)
                     collectLine(step.line);
         QList<int> ahead;
+        QStringList others;
         int last = -1;
         for (const WrittenItem *item : m_items) {
             for (const WrittenItem::Step &step : item->steps) {
+                if (step.line >= 0 && m_written.lines.at(step.line).run <= kOtherLine) {
+                    others.append(innerOf(m_written, m_written.lines.at(step.line)).toString());
+                    continue;
+                }
                 if (step.line < 0) {
                     last = -1;
                     if (!ahead.isEmpty())
@@ -168,7 +176,7 @@ private:
                 }
             }
         }
-        return ahead.isEmpty();
+        return ahead.isEmpty() && others == m_others;
     }
 
     void collectLine(int index)
@@ -331,16 +339,26 @@ private:
     [[nodiscard]] QString innerNow(int run, const QString &openBefore, const QString &openNow) const
     {
         const WrittenLine &now = m_written.lines.at(m_linesNow.at(run));
-        const bool keepsBlanks = openNow.contains("white-space"_L1) || openBefore.contains("white-space"_L1);
-        if (!keepsBlanks) {
-            const int position = m_beforeWritten.lines.at(m_linesBefore.at(run)).position;
-            const auto patched =
-                patchedLine(sourceOf(sourceRun(run)), objectsOf(run), m_before.findBlock(position),
-                            m_document.findBlock(now.position));
-            if (patched)
-                return *patched;
-        }
-        return innerOf(m_written, now).toString();
+        const int position = m_beforeWritten.lines.at(m_linesBefore.at(run)).position;
+        Blanks blanks = Blanks::Fold;
+        if (keepsBlanks(sourceRun(run)))
+            blanks = Blanks::Count;
+        else if (openNow.contains("white-space"_L1) && !openBefore.contains("white-space"_L1))
+            blanks = Blanks::CountFromNow;
+        const auto patched =
+            patchedLine(sourceOf(sourceRun(run)), objectsOf(run), m_before.findBlock(position),
+                        m_document.findBlock(now.position), blanks);
+        return patched ? *patched : innerOf(m_written, now).toString();
+    }
+
+    [[nodiscard]] bool keepsBlanks(const SourceRun &source) const
+    {
+        const auto keeps = [this](const HtmlElement &element) {
+            return element.name == "pre"_L1 ||
+                   slice(m_kept.m_source, element.start, element.startTagEnd).contains("white-space"_L1);
+        };
+        return (!source.host.name.isEmpty() && keeps(source.host)) ||
+               std::ranges::any_of(source.outer, keeps);
     }
 
     [[nodiscard]] QList<LineObject> objectsOf(int run) const
@@ -444,6 +462,7 @@ private:
     QTextDocument m_before;
     SplitTemplate m_split;
     WrittenSource m_beforeWritten;
+    QStringList m_others;      ///< Lines that the reader makes beside those of the source.
     QList<int> m_linesBefore;  ///< By run.
     QList<int> m_linesNow;     ///< By run; -1 where the line is gone.
     QList<QList<int>> m_more;  ///< By run: new lines behind it.

@@ -24,6 +24,8 @@ namespace {
 // Beyond this many characters on both sides, an edit is taken for one.
 constexpr qsizetype kComparedPairs = 1'000'000;
 
+constexpr qsizetype kLongestEntity = 40;
+
 /// A character of a line: its source, and the tags that make its format.
 struct Cell
 {
@@ -58,12 +60,13 @@ struct SourceRange
     qsizetype end;
 };
 
-/// Where the characters of a line are in its source. Blanks are folded as the reader does it.
+/// Where the characters of a line are in its source. Blanks are folded as the reader does it, unless they count.
 class CharacterMap
 {
 public:
-    CharacterMap(const QString &run, const QList<LineObject> &objects)
+    CharacterMap(const QString &run, const QList<LineObject> &objects, bool folds)
         : m_run(run)
+        , m_folds(folds)
     {
         qsizetype at = 0;
         for (const LineObject &object : objects) {
@@ -75,20 +78,24 @@ public:
     }
 
     /// Nothing unless the characters are those of @p text, less the blanks that the reader leaves out.
-    [[nodiscard]] std::optional<QList<SourceRange>> of(const QString &text) const
+    [[nodiscard]] std::optional<QList<SourceRange>> of(const QString &text)
     {
         QList<SourceRange> ranges;
         qsizetype at = 0;
         for (const QChar character : text) {
-            while (at < m_text.size() && m_text.at(at) == u' ' && character != u' ')
-                ++at;
+            for (; at < m_text.size() && m_text.at(at) == u' ' && character != u' '; ++at)
+                m_dropped.append(m_ranges.at(at));
             if (at == m_text.size() || m_text.at(at) != character)
                 return std::nullopt;
             ranges.append(m_ranges.at(at++));
         }
+        m_dropped += m_ranges.sliced(at);
         const bool isAll = QStringView(m_text).sliced(at).trimmed().isEmpty();
         return isAll ? std::optional(ranges) : std::nullopt;
     }
+
+    /// Blanks in the source that are none of the text's, once that is known.
+    [[nodiscard]] const QList<SourceRange> &dropped() const { return m_dropped; }
 
 private:
     void add(QChar character, qsizetype start, qsizetype end)
@@ -104,35 +111,27 @@ private:
             if (token.kind == HtmlTokenKind::Text)
                 takePlain(range.start, range.end);
             else if (token.kind == HtmlTokenKind::StartTag && token.name == "br"_L1)
-                takeBreak(range);
+                add(QChar::LineSeparator, range.start, range.end);
             else if (token.kind == HtmlTokenKind::StartTag && token.name == "img"_L1)
                 add(QChar::ObjectReplacementCharacter, range.start, range.end);
         }
-    }
-
-    void takeBreak(const SourceRange &token)
-    {
-        if (m_text.endsWith(u' ')) {
-            m_text.chop(1);
-            m_ranges.removeLast();
-        }
-        add(QChar::LineSeparator, token.start, token.end);
     }
 
     void takePlain(qsizetype at, qsizetype end)
     {
         while (at < end) {
             const QChar c = m_run.at(at);
-            const bool folds = c == u' ' || c == u'\n' || c == u'\r' || c == u'\t';
-            if (folds && !m_text.isEmpty() && !m_text.endsWith(u' ') &&
-                !m_text.endsWith(QChar::LineSeparator))
+            const bool folds = m_folds && (c == u' ' || c == u'\n' || c == u'\r' || c == u'\t');
+            if (folds && !m_text.endsWith(u' '))
                 add(u' ', at, at + 1);
-            else if (folds && m_text.endsWith(u' '))
+            else if (folds && m_ranges.last().end == at)
                 m_ranges.last().end = at + 1;
             else if (c == u'&')
                 at = takeEntity(at, end) - 1;
             else if (!folds)
-                add(c, at, at + 1);
+                add(c == u'\n' ? QChar(QChar::LineSeparator) : c, at, at + 1);
+            else
+                m_dropped.append({at, at + 1});
             ++at;
         }
     }
@@ -143,9 +142,16 @@ private:
         const auto match = entity.match(m_run, at);
         const QString text =
             match.hasMatch() && match.capturedEnd() <= end ? entityText(match.captured()) : QString();
-        const qsizetype after = text.size() == 1 ? match.capturedEnd() : at + 1;
-        add(text.size() == 1 ? text.front() : QChar(u'&'), at, after);
-        return after;
+        const bool isNone = text.isEmpty() || (text.size() > 1 && text.startsWith(u'&'));
+        if (isNone) {
+            add(u'&', at, at + 1);
+            return at + 1;
+        }
+        add(text.front(), at, match.capturedEnd());
+        // The other half of a pair has no place of its own.
+        for (const QChar more : QStringView(text).sliced(1))
+            add(more, match.capturedEnd(), match.capturedEnd());
+        return match.capturedEnd();
     }
 
     static QString entityText(const QString &entity)
@@ -158,8 +164,10 @@ private:
     }
 
     const QString &m_run;
+    const bool m_folds;
     QString m_text;
     QList<SourceRange> m_ranges;
+    QList<SourceRange> m_dropped;
 };
 
 struct Change
@@ -236,8 +244,8 @@ struct Insertion
 
 /// The cells that @p change puts in: beside a character of their own format, or in tags of their own where none
 /// are open.
-std::optional<Insertion> insertionOf(const Change &change, const QList<Cell> &before, const QList<Cell> &now,
-                                     const QList<SourceRange> &places, qsizetype end)
+Insertion insertionOf(const Change &change, const QList<Cell> &before, const QList<Cell> &now,
+                      const QList<SourceRange> &places, qsizetype end)
 {
     const QList<Cell> put = now.sliced(change.first, change.last - change.first);
     const auto joined = [&put](bool tagged) {
@@ -267,7 +275,52 @@ std::optional<Insertion> insertionOf(const Change &change, const QList<Cell> &be
         return Insertion{places.at(change.from).start, joined(true)};
     if (!isAfter || !isBefore)
         return Insertion{isAfter ? end : 0, joined(true)};
-    return std::nullopt;
+    // Within the tags of another format, which those of the own one may add to.
+    return Insertion{places.at(change.from - 1).end, joined(true)};
+}
+
+/// A part of the source that gives way to a text.
+struct Edit
+{
+    qsizetype start;
+    qsizetype end;
+    QString text;
+};
+
+QString edited(QString source, QList<Edit> edits)
+{
+    // From the last one on, so that the places of those before hold.
+    std::ranges::stable_sort(edits, std::ranges::greater(),
+                             [](const Edit &each) { return std::pair(each.start, each.end); });
+    for (qsizetype index = 0; index < edits.size(); ++index) {
+        const Edit &each = edits.at(index);
+        // The first edit of a place counts.
+        if (index == 0 || each.end == each.start || edits.at(index - 1).start != each.start)
+            source.replace(each.start, each.end - each.start, each.text);
+    }
+    return source;
+}
+
+/// A "<" or "&" at @p place is text by what comes behind it, and must be so with @p behind.
+void escapeSign(const QString &run, const SourceRange &place, const QString &behind, QList<Edit> &edits)
+{
+    static const QRegularExpression markup(u"^(?:<[a-zA-Z/!?]|&#?[a-zA-Z0-9]{1,30};)"_s);
+    const QChar sign = place.end == place.start + 1 ? run.at(place.start) : QChar();
+    if ((sign == u'<' || sign == u'&') && markup.match(sign + behind).hasMatch())
+        edits.append({place.start, place.end, escaped(sign)});
+}
+
+/// For a line whose blanks begin to count: each that it shows is one in its source.
+void unfold(const QString &run, const QString &text, const QList<SourceRange> &places,
+            const QList<SourceRange> &dropped, QList<Edit> &edits)
+{
+    for (qsizetype index = 0; index < text.size(); ++index) {
+        const SourceRange &place = places.at(index);
+        if (text.at(index) == u' ' && run.at(place.start) != u'&')
+            edits.append({place.start, place.end, u" "_s});
+    }
+    for (const SourceRange &place : dropped)
+        edits.append({place.start, place.end, {}});
 }
 
 QMap<QString, QString> declarationsOf(const QString &tag)
@@ -313,35 +366,35 @@ QString tagName(QStringView tag)
 }
 
 std::optional<QString> patchedLine(const QString &run, const QList<LineObject> &objects,
-                                   const QTextBlock &before, const QTextBlock &now)
+                                   const QTextBlock &before, const QTextBlock &now, Blanks blanks)
 {
-    const auto places = CharacterMap(run, objects).of(before.text());
+    CharacterMap map(run, objects, blanks != Blanks::Count);
+    const auto places = map.of(before.text());
     const QList<Cell> cellsBefore = cellsOf(before);
     const QList<Cell> cellsNow = cellsOf(now);
     if (!places || cellsBefore.size() != places->size())
         return std::nullopt;
-    const QList<Change> changes = changesBetween(cellsBefore, cellsNow);
-    QString result = run;
-    // From the last one on, so that the places of those before hold.
-    for (qsizetype at = changes.size(); at-- > 0;) {
-        const Change &change = changes.at(at);
-        const auto insertion = insertionOf(change, cellsBefore, cellsNow, *places, run.size());
-        if (!insertion)
-            return std::nullopt;
-        bool isPut = false;
-        const auto put = [&] {
-            if (!std::exchange(isPut, true))
-                result.insert(insertion->place, insertion->source);
-        };
-        for (qsizetype index = change.to - 1; index >= change.from; --index) {
-            const SourceRange &range = places->at(index);
-            if (insertion->place >= range.end)
-                put();
-            result.remove(range.start, range.end - range.start);
+    QList<Edit> edits;
+    for (const Change &change : changesBetween(cellsBefore, cellsNow)) {
+        for (qsizetype index = change.from; index < change.to; ++index)
+            edits.append({places->at(index).start, places->at(index).end, {}});
+        const Insertion insertion = insertionOf(change, cellsBefore, cellsNow, *places, run.size());
+        edits.append({insertion.place, insertion.place, insertion.source});
+        // Blanks behind a blank would be seen behind anything else.
+        const qsizetype start = insertion.source.isEmpty() ? places->at(change.from).start : insertion.place;
+        for (const SourceRange &blank : map.dropped())
+            if (blank.start >= start && change.to < places->size() &&
+                blank.end <= places->at(change.to).start)
+                edits.append({blank.start, blank.end, {}});
+        if (change.from > 0) {
+            const qsizetype rest = places->at(qMax(change.from, change.to) - 1).end;
+            escapeSign(run, places->at(change.from - 1),
+                       insertion.source + run.sliced(rest, qMin(kLongestEntity, run.size() - rest)), edits);
         }
-        put();
     }
-    return result;
+    if (blanks == Blanks::CountFromNow)
+        unfold(run, before.text(), *places, map.dropped(), edits);
+    return edited(run, edits);
 }
 
 QString withoutWidth(QString tag)

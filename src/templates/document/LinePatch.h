@@ -17,13 +17,21 @@ struct LineObject
     QChar character;
 };
 
+/// How the blanks in the source of a line are read.
+enum class Blanks
+{
+    Fold,         ///< Several are one.
+    Count,        ///< Each is one.
+    CountFromNow, ///< Several were one, each is one in the line as it is.
+};
+
 /**
  * The source @p run of the line @p before, changed to that of the line @p now: only the characters that were
- * taken out or put in, so that the tags between the others stay as they are. Nothing when that cannot be told,
- * as where text of another format was put in.
+ * taken out or put in, so that the tags between the others stay as they are. Nothing when that cannot be told.
  */
 [[nodiscard]] std::optional<QString> patchedLine(const QString &run, const QList<LineObject> &objects,
-                                                 const QTextBlock &before, const QTextBlock &now);
+                                                 const QTextBlock &before, const QTextBlock &now,
+                                                 Blanks blanks);
 
 /// @p tag, the start tag of a line's element, changed as the tag that the line is written with changed from
 /// @p before to @p now. Nothing when the elements do not match.

@@ -126,12 +126,15 @@ private:
         } else if (!m_runIsOpen && m_pending < 0) {
             m_pending = token.start;
         }
-        m_result.html += text(token);
+        const bool opensEmptyLine = isEmptyLine();
+        // The reader would leave out the mark in a line that the toolkit has written as empty.
+        m_result.html += opensEmptyLine ? text(token).toString().remove("-qt-paragraph-type:empty"_L1)
+                                        : text(token).toString();
         if (m_runIsOpen)
             m_result.runs.last().end = token.end;
         if (token.name == "hr"_L1 && opens)
             m_result.runs.append({token.start, token.end, -1, {}, {}, {}, true});
-        if (isEmptyLine()) {
+        if (opensEmptyLine) {
             beginRun(token.end);
             appendPart(PartKind::Markup, token.end, token.end);
             m_result.runs.last().end = m_tokens.at(++m_index).end;
