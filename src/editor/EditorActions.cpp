@@ -27,7 +27,9 @@
 #include <QMimeData>
 #include <QToolBar>
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -413,6 +415,7 @@ void EditorActions::makeActions()
     for (const ActionRow &row : kActions) {
         QAction *action = makeAction(row, &m_parts.window);
         m_actions.insert(row.name, action);
+        m_inOrder.push_back(action);
         connect(action, &QAction::triggered, this, [this, run = row.run](bool checked) {
             run(m_parts, checked);
             update();
@@ -501,7 +504,7 @@ void EditorActions::makeToolBars()
     QToolBar *bar = m_parts.window.addToolBar(EditorActions::tr("Template"));
     bar->setObjectName(u"mainToolBar"_s);
     m_parts.window.addToolBarBreak();
-    QToolBar *format = m_parts.window.addToolBar(EditorActions::tr("Format"));
+    QToolBar *format = m_formatBar = m_parts.window.addToolBar(EditorActions::tr("Format"));
     format->setObjectName(u"formatToolBar"_s);
     m_parts.format.addChoices(format);
     for (const ActionRow &row : kActions) {
@@ -528,23 +531,27 @@ void EditorActions::update()
 {
     const bool rich = m_parts.history.session().mode() == AbstractTemplateEditor::Mode::Rich;
     const bool inTable = rich && m_parts.table.isInTable();
-    for (const ActionRow &row : kActions) {
-        action(row.name)->setEnabled((!(row.flags & Edits) || !m_parts.views.isReadOnly()) &&
-                                     (!(row.flags & Rich) || rich) && (!(row.flags & InTable) || inTable));
+    const std::array possible{
+        std::pair{"undoAction"_L1, m_parts.history.stack().canUndo()},
+        std::pair{"redoAction"_L1, m_parts.history.stack().canRedo()},
+        std::pair{"mergeCellsAction"_L1, inTable && m_parts.table.canMerge()},
+        std::pair{"splitCellAction"_L1, inTable && m_parts.table.canSplit()},
+        std::pair{"compareSavedAction"_L1, !m_parts.files.path().isEmpty()},
+    };
+    // Once each: buttons of actions that are switched off and on again are painted, too.
+    for (size_t index = 0; index < kActions.size(); ++index) {
+        const ActionRow &row = kActions.at(index);
+        const auto own = std::ranges::find(possible, QLatin1StringView(row.name),
+                                           [](const auto &pair) { return pair.first; });
+        m_inOrder.at(index)->setEnabled(
+            (!(row.flags & Edits) || !m_parts.views.isReadOnly()) && (!(row.flags & Rich) || rich) &&
+            (!(row.flags & InTable) || inTable) && (own == possible.end() || own->second));
     }
-    if (!m_parts.views.isReadOnly()) {
-        action("undoAction")->setEnabled(m_parts.history.stack().canUndo());
-        action("redoAction")->setEnabled(m_parts.history.stack().canRedo());
-        action("mergeCellsAction")->setEnabled(inTable && m_parts.table.canMerge());
-        action("splitCellAction")->setEnabled(inTable && m_parts.table.canSplit());
-    }
-    action("compareSavedAction")->setEnabled(!m_parts.files.path().isEmpty());
     check("richModeAction", rich);
     check("plainModeAction", !rich);
     check("headingRowsAction", inTable && m_parts.table.isInHeading());
-    auto *bar = m_parts.window.findChild<QToolBar *>(u"formatToolBar"_s);
-    bar->setEnabled(rich && !m_parts.views.isReadOnly());
-    m_styles->setEnabled(bar->isEnabled());
+    m_formatBar->setEnabled(rich && !m_parts.views.isReadOnly());
+    m_styles->setEnabled(m_formatBar->isEnabled());
     if (!rich)
         return;
     const QTextCharFormat format = m_parts.format.format();

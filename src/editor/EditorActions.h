@@ -7,10 +7,12 @@
 
 #include <array>
 #include <functional>
+#include <vector>
 
 class QAction;
 class QDockWidget;
 class QMenu;
+class QToolBar;
 
 namespace ozm::editor {
 
@@ -73,7 +75,9 @@ private:
 
     const EditorParts m_parts;
     QHash<QByteArray, QAction *> m_actions;
+    std::vector<QAction *> m_inOrder; ///< Of their table.
     QMenu *m_styles = nullptr;
+    QToolBar *m_formatBar = nullptr;
 };
 
 } // namespace ozm::editor
