@@ -30,8 +30,13 @@
         return text(unit) === "" ? formatted : formatted + " " + unit;
     }
 
+    // Nothing has no sign.
+    function withoutSignOfZero(formatted) {
+        return /^-[0.]+(e|$)/.test(formatted) ? formatted.slice(1) : formatted;
+    }
+
     function fixed(value, digits) {
-        return digits === undefined ? String(value) : value.toFixed(digits);
+        return withoutSignOfZero(digits === undefined ? String(value) : value.toFixed(digits));
     }
 
     function number(value, digits, unit) {
@@ -48,7 +53,7 @@
         // The engine writes numbers from 1e21 on with an exponent.
         if (!/^-?\d+$/.test(parts[0]))
             return text(value);
-        for (var at = parts[0].length - 3; at > (parsed < 0 ? 1 : 0); at -= 3)
+        for (var at = parts[0].length - 3; at > (parts[0][0] === "-" ? 1 : 0); at -= 3)
             parts[0] = parts[0].slice(0, at) + between + parts[0].slice(at);
         return parts.join(".");
     }
@@ -76,22 +81,21 @@
     function mz(neutral, charge, digits) {
         var z = toNumber(charge);
         var value = (toNumber(neutral) + z * PROTON_DA) / Math.abs(z);
-        return isFinite(value) ? value.toFixed(digits === undefined ? 4 : digits) : "";
+        return isFinite(value) ? fixed(value, digits === undefined ? 4 : digits) : "";
     }
 
     function neutralMass(measured, charge, digits) {
         var z = toNumber(charge);
         var value = toNumber(measured) * Math.abs(z) - z * PROTON_DA;
-        return isFinite(value) && z !== 0 ? value.toFixed(digits === undefined ? 4 : digits) : "";
+        return isFinite(value) && z !== 0 ? fixed(value, digits === undefined ? 4 : digits) : "";
     }
 
     function ppm(measured, expected, digits) {
         var value = (toNumber(measured) / toNumber(expected) - 1) * 1e6;
         if (!isFinite(value))
             return "";
-        var formatted = value.toFixed(digits === undefined ? 1 : digits);
-        // Nothing is neither above nor below.
-        return Number(formatted) === 0 ? formatted.replace("-", "") : (value > 0 ? "+" : "") + formatted;
+        var formatted = fixed(value, digits === undefined ? 1 : digits);
+        return Number(formatted) !== 0 && value > 0 ? "+" + formatted : formatted;
     }
 
     function twoDigits(value) {
@@ -121,6 +125,9 @@
                    hour: Number(found[4] || 0), minute: Number(found[5] || 0), second: Number(found[6] || 0) };
         if (at.month < 1 || at.month > 12 || at.day < 1 || at.day > daysIn(at.year, at.month) ||
             at.hour > 23 || at.minute > 59 || at.second > 59)
+            return null;
+        // Zones are at most 14 hours from that of Greenwich.
+        if (found[7] && found[7] !== "Z" && (Number(found[7].slice(1, 3)) > 14 || Number(found[7].slice(-2)) > 59))
             return null;
         return found[7] ? partsOf(momentOf(at, found[7])) : at;
     }
@@ -184,10 +191,8 @@
     }
 
     function compare(left, right) {
-        if (left instanceof Date && right instanceof Date)
-            return left.getTime() - right.getTime() || 0;
-        var a = toNumber(left);
-        var b = toNumber(right);
+        var a = left instanceof Date ? left.getTime() : toNumber(left);
+        var b = right instanceof Date ? right.getTime() : toNumber(right);
         var numbers = !isNaN(a) && !isNaN(b);
         // Numbers stand before texts.
         return numbers ? (a < b ? -1 : a > b ? 1 : 0)
@@ -205,7 +210,7 @@
     }
 
     function unique(items) {
-        return list(items).filter(function (item, place, all) { return all.indexOf(item) === place; });
+        return Array.from(new Set(list(items)));
     }
 
     // Brackets, too: a code in a value would be filled like those of the template.
@@ -216,7 +221,7 @@
     }
 
     function cells(tag, values, align) {
-        return values.map(function (value, column) {
+        return list(values).map(function (value, column) {
             var side = align === undefined ? undefined : align[column];
             return "<" + tag + (side ? " align=\"" + escapeHtml(side) + "\"" : "") + ">" +
                 escapeHtml(value) + "</" + tag + ">";
@@ -225,7 +230,7 @@
 
     function table(rows, headers, align) {
         var head = headers === undefined ? "" : "<thead><tr>" + cells("th", headers, align) + "</tr></thead>";
-        var body = rows.map(function (row) { return "<tr>" + cells("td", row, align) + "</tr>"; }).join("");
+        var body = list(rows).map(function (row) { return "<tr>" + cells("td", row, align) + "</tr>"; }).join("");
         return "<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\" width=\"100%\">" + head + "<tbody>" +
             body + "</tbody></table>";
     }

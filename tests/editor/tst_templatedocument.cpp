@@ -163,7 +163,9 @@ public:
             copyOverItself(document, cursor);
             break;
         case Kind::Paste:
-            document.insertSource(cursor, TemplateGenerator(m_random.generate()).blocks().first());
+            // A heading cell hands its looks down to what stands in it.
+            if (!cursor.currentTable())
+                document.insertSource(cursor, TemplateGenerator(m_random.generate()).blocks().first());
         }
         return kind;
     }
