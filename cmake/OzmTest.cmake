@@ -1,8 +1,7 @@
 # ozm_add_test(<name> SOURCES <cpp>... [LIBRARIES <target>...] [LABELS <label>...])
 #
 # A Qt Test program, run without a screen. What it may not do (warn unexpectedly, leave state behind) is
-# settled in tests/support. The thread sanitizer takes the process for a child once Qt has begun one, which shares its
-# memory until it runs its own program.
+# settled in tests/support.
 function(ozm_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES;LABELS")
     add_executable(${name} ${arg_SOURCES})
@@ -13,5 +12,5 @@ function(ozm_add_test name)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         LABELS "${arg_LABELS}"
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;ASAN_OPTIONS=detect_leaks=1;UBSAN_OPTIONS=print_stacktrace=1;TSAN_OPTIONS=die_after_fork=0:suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp")
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;ASAN_OPTIONS=detect_leaks=1;UBSAN_OPTIONS=print_stacktrace=1")
 endfunction()
