@@ -7,7 +7,6 @@
 #include <QLocale>
 #include <QMouseEvent>
 #include <QRubberBand>
-#include <QScrollBar>
 #include <QTextBlock>
 #include <QToolTip>
 
@@ -147,19 +146,14 @@ void ColumnDragging::showShape(bool isAtBorder)
         m_view->viewport()->setCursor(isAtBorder ? Qt::SplitHCursor : Qt::IBeamCursor);
 }
 
-QPointF ColumnDragging::scrolled() const
-{
-    return {double(m_view->horizontalScrollBar()->value()), double(m_view->verticalScrollBar()->value())};
-}
-
 QPointF ColumnDragging::toDocument(const QPoint &point) const
 {
-    return point + scrolled();
+    return point + m_view->scrolled();
 }
 
 QPoint ColumnDragging::toView(const QPointF &place) const
 {
-    return (place - scrolled()).toPoint();
+    return (place - m_view->scrolled()).toPoint();
 }
 
 } // namespace ozm::editor

@@ -30,7 +30,6 @@ private:
     void showLine(const QPoint &point);
     void end(bool keep);
     void showShape(bool isAtBorder);
-    [[nodiscard]] QPointF scrolled() const;
     [[nodiscard]] QPointF toDocument(const QPoint &point) const;
     [[nodiscard]] QPoint toView(const QPointF &place) const;
     [[nodiscard]] QString toldWidths() const;

@@ -391,10 +391,16 @@ void RichTextView::replace(QTextCursor cursor, const QString &code)
     setTextCursor(cursor);
 }
 
+QPointF RichTextView::scrolled() const
+{
+    const QScrollBar &across = *horizontalScrollBar();
+    const int left = isRightToLeft() ? across.maximum() - across.value() : across.value();
+    return {double(left), double(verticalScrollBar()->value())};
+}
+
 int RichTextView::chipAtPoint(const QPoint &point) const
 {
-    const QPointF inDocument(point.x() + horizontalScrollBar()->value(),
-                             point.y() + verticalScrollBar()->value());
+    const QPointF inDocument = point + scrolled();
     const int hit = document()->documentLayout()->hitTest(inDocument, Qt::ExactHit);
     // The nearest gap between characters was hit, on either side of the chip.
     for (const int position : {hit, hit - 1}) {

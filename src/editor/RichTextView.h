@@ -31,6 +31,8 @@ public:
     /// Null shows nothing.
     void showDocument(TemplateDocument *document);
     [[nodiscard]] TemplateDocument *templateDocument() const;
+    /// How far the document is scrolled to the left and up; in windows from right to left, bars count from the right.
+    [[nodiscard]] QPointF scrolled() const;
 
     /// All of these replace the selection; a code in it that may not go keeps them from it.
     void insertSource(const QString &source);

@@ -315,6 +315,14 @@ private Q_SLOTS:
         }});
         f.trigger("columnWidthAction");
         QCOMPARE(f.content(), QString(source).replace(u'@', u" width=\"12.5%\""_s));
+        // In a window from right to left, bars count from the right.
+        f.setContent(u"<table border=1 width=3000><tr><td>left</td><td>right</td></tr></table>"_s);
+        rich->setLayoutDirection(Qt::RightToLeft);
+        QTextCursor text = rich->document()->find(u"right"_s);
+        text.setPosition(text.selectionStart());
+        rich->setTextCursor(text);
+        QTest::mouseMove(area, rich->cursorRect(text).center() - QPoint(3, 0));
+        QCOMPARE(area->cursor().shape(), Qt::SplitHCursor);
     }
 
     // A style is the class of a paragraph: nothing else changes, in one step.
