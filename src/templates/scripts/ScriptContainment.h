@@ -5,7 +5,7 @@
 
 namespace ozm {
 
-/// What reading a script tells of it.
+/// The outcome of reading a script.
 struct ScriptReading
 {
     /// True when it is sure to leave nothing behind in the engine that runs it, whatever the values it is given, and

@@ -23,7 +23,7 @@ constexpr std::array kStatements{
 constexpr std::array kBinary{"in"_L1, "instanceof"_L1, "of"_L1};
 // Behind these the expression is still to come.
 constexpr std::array kPrefixes{"typeof"_L1, "void"_L1, "new"_L1, "delete"_L1, "await"_L1, "yield"_L1};
-// What stands behind their parentheses belongs to them.
+// The statement behind their parentheses belongs to them.
 constexpr std::array kWithHead{"if"_L1, "for"_L1, "while"_L1, "with"_L1, "switch"_L1, "catch"_L1};
 
 class StatementReading
