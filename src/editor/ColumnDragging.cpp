@@ -111,8 +111,12 @@ bool ColumnDragging::begin(const QPoint &point)
 
 void ColumnDragging::showLine(const QPoint &point)
 {
-    const double least = m_edges.at.at(m_column - 1) + kLeastColumn;
-    const double most = m_edges.at.at(m_column + 1) - kLeastColumn;
+    const auto leastOf = [this](int column) {
+        const double least = std::max(kLeastColumn, m_edges.least.at(column));
+        return m_edges.between + std::min(least, m_edges.width(column));
+    };
+    const double least = m_edges.at.at(m_column - 1) + leastOf(m_column - 1);
+    const double most = m_edges.at.at(m_column + 1) - leastOf(m_column);
     m_x = std::clamp(toDocument(point).x() - m_grip, least, std::max(least, most));
     const QAbstractTextDocumentLayout &layout = *m_view->document()->documentLayout();
     const double top = layout.blockBoundingRect(m_table->firstCursorPosition().block()).top();
@@ -137,7 +141,7 @@ void ColumnDragging::end(bool keep)
     QToolTip::hideText();
     const bool isMoved = qRound(m_x) != qRound(m_edges.at.at(m_column));
     if (keep && isMoved)
-        setColumnLengths(*table, withBorderAt(columnLengths(*table, m_edges), m_edges, m_column, m_x));
+        moveBorder(*table, m_edges, m_column, m_x);
 }
 
 void ColumnDragging::showShape(bool isAtBorder)

@@ -26,22 +26,31 @@ struct ColumnBorder
 /// The columns of a table as they are laid out.
 struct ColumnEdges
 {
-    QList<double> at;   ///< From left to right, in the document: one more than there are columns.
-    double between = 0; ///< Borders and spacing of each column, which its width does not count.
+    QList<double> at;    ///< From left to right, in the document: one more than there are columns.
+    QList<double> least; ///< The widths of the columns below which their texts keep them from going.
+    double between = 0;  ///< Borders and spacing of each column, which its width does not count.
+    double whole = 0;    ///< The width that shares are taken from.
 
     [[nodiscard]] bool isEmpty() const { return at.isEmpty(); }
     [[nodiscard]] double width(qsizetype column) const { return at.at(column + 1) - at.at(column) - between; }
+    /// In percent.
+    [[nodiscard]] double share(qsizetype column) const;
 };
 
 /// Empty for a table in which each row has cells that span columns.
 [[nodiscard]] ColumnEdges columnEdges(const QTextTable &table);
 
-/// The widths that all columns have now, each in its unit; as a share of the table or of its place where it has none.
+/// The widths that all columns are laid out with, each in its unit; as a share of the table or of its place where it has
+/// none.
 [[nodiscard]] QList<QTextLength> columnLengths(const QTextTable &table, const ColumnEdges &edges);
 
 /// @p lengths with the border before @p column moved to @p x. Both columns beside it together keep their width.
 [[nodiscard]] QList<QTextLength> withBorderAt(QList<QTextLength> lengths, ColumnEdges edges, int column,
                                               double x);
+
+/// Moves the border before @p column to @p x, in one step of the history; @p edges are those of now. Widths keep their
+/// units, unless the layout gives other widths for them.
+void moveBorder(QTextTable &table, const ColumnEdges &edges, int column, double x);
 
 /// In one step of the history.
 void setColumnLengths(QTextTable &table, const QList<QTextLength> &lengths);

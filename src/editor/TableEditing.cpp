@@ -299,8 +299,7 @@ void TableEditing::askColumnWidth()
     lengths.resize(cells.table->columns());
     const QTextLength now = lengths.at(cells.column);
     const ColumnEdges edges = columnEdges(*cells.table);
-    const double share = edges.isEmpty() ? kAllColumns / cells.table->columns()
-                                         : columnLengths(*cells.table, edges).at(cells.column).rawValue();
+    const double share = edges.isEmpty() ? kAllColumns / cells.table->columns() : edges.share(cells.column);
     ColumnWidthDialog dialog(now, share, m_view->window());
     dialog.setWindowTitle(cells.columns > 1 ? tr("Width of %n column(s)", nullptr, cells.columns)
                                             : tr("Width of column %1").arg(cells.column + 1));

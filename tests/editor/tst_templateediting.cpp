@@ -315,6 +315,29 @@ private Q_SLOTS:
         }});
         f.trigger("columnWidthAction");
         QCOMPARE(f.content(), QString(source).replace(u'@', u" width=\"12.5%\""_s));
+        // Whatever a table asks for, the border stays where it was left, and the table is as wide as before.
+        for (
+            const QString &page :
+            {u"<table border=1 width=\"50%\" style='margin-left:80px'><tr><td>l</td><td>right</td></tr></table>"_s,
+             u"<blockquote><table border=1 width=300><tr><td width=\"80%\">l</td><td width=\"60%\">right</table>"_s,
+             u"<table border=1 width=\"80%\"><tr><td>l</td><td>right</td><td width=90>r</td></tr></table>"_s,
+             u"<table width=\"50%\"><tr><td>l<table border=1><tr><td width=60>l</td><td width=\"50%\">right</table>"_s,
+             u"<table border=4 style='border-collapse:collapse'><tr><td width=\"60%\">l</td><td>right</table>"_s}) {
+            f.setContent(page);
+            const auto width = [&] {
+                QTextTable *table = rich->document()->find(u"right"_s).currentTable();
+                return rich->document()->documentLayout()->frameBoundingRect(table).width();
+            };
+            const int from = border().x();
+            const double wide = width();
+            drag(-20, false);
+            const QString moved = f.content();
+            for (int read = 0; read < 2; ++read) {
+                QVERIFY2(qAbs(border().x() - from + 20) <= 2, qPrintable(moved));
+                QVERIFY2(qAbs(width() - wide) <= 2, qPrintable(moved));
+                f.setContent(moved);
+            }
+        }
         // In a window from right to left, bars count from the right.
         f.setContent(u"<table border=1 width=3000><tr><td>left</td><td>right</td></tr></table>"_s);
         rich->setLayoutDirection(Qt::RightToLeft);
