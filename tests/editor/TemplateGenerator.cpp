@@ -101,7 +101,7 @@ QString TemplateGenerator::table(int depth)
     if (chance(30)) {
         html += "<thead><tr>"_L1;
         for (int c = 0; c < columns; ++c)
-            html += "<th>"_L1 + inlines(3) + "</th>"_L1;
+            html += "<th>"_L1 + (depth < 2 && chance(15) ? block(depth + 1) : inlines(3)) + "</th>"_L1;
         html += "</tr></thead>"_L1;
     }
     for (int r = below(3) + 1; r > 0; --r) {

@@ -163,9 +163,7 @@ public:
             copyOverItself(document, cursor);
             break;
         case Kind::Paste:
-            // A heading cell hands its looks down to what stands in it.
-            if (!cursor.currentTable())
-                document.insertSource(cursor, TemplateGenerator(m_random.generate()).blocks().first());
+            document.insertSource(cursor, TemplateGenerator(m_random.generate()).blocks().first());
         }
         return kind;
     }
@@ -319,6 +317,9 @@ void TestTemplateDocument::keepsSource_data()
                                     << u"<p><a href=\"http://x.org/[Name]\">b</a></p>"_s;
     QTest::newRow("nested list") << u"<ul><li>a<ol><li>b</li></ol></li><li>c</li></ul>"_s
                                  << u"<ul>\n<li>a<ol>\n<li>b</li>\n</ol>\n</li>\n<li>c</li>\n</ul>"_s;
+    QTest::newRow("class of an empty item above a list")
+        << u"<ul><li><div class=k><br></div><ol><li>b"_s
+        << u"<ul>\n<li><div class=\"k\"><br/></div><ol>\n<li>b</li>\n</ol>\n</li>\n</ul>"_s;
     QTest::newRow("page around it")
         << u"<!DOCTYPE html><html><head><title>t</title></head><body><p>x</p></body></html>"_s
         << u"<p>x</p>"_s;
@@ -355,6 +356,13 @@ void TestTemplateDocument::keepsSource_data()
         << u"<td style=\"vertical-align:top\"><thead><x><td>"_s
         << table.arg(u"<td style=\"vertical-align:top\">"_s +
                      table.arg(u"<td style=\"vertical-align:baseline\"></td>"_s) + u"\n</td>"_s);
+    const QString heading = u"<table border=\"0\" cellspacing=\"2\" cellpadding=\"0\">\n<thead><tr><th>"
+                            "<table border=\"0\" cellspacing=\"2\" cellpadding=\"0\" align=\"%1\">\n"
+                            "<tr><td>%2</td></tr>\n</table>\n</th></tr></thead>\n</table>"_s;
+    const QString boldCell = heading.arg(u"center"_s, u"1"_s);
+    const QString plainCell = heading.arg(u"left"_s, u"<span style=\"font-weight:400\">1</span>"_s);
+    QTest::newRow("table as bold as the heading cell around") << boldCell << boldCell;
+    QTest::newRow("plain table in a heading cell") << plainCell << plainCell;
     QTest::newRow("cell in a heading") << u"<h4><td>1"_s
                                        << table.arg(u"<td><h4 style=\"margin-top:0px;margin-bottom:0px\">"
                                                     "<span style=\"font-weight:400\">1</span></h4>\n</td>"_s);

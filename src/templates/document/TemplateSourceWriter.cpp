@@ -201,7 +201,7 @@ private:
     void writeFrame(QTextFrame *frame, const Surroundings &around)
     {
         if (auto *table = qobject_cast<QTextTable *>(frame))
-            writeTable(*table);
+            writeTable(*table, around);
         else
             writeBlocks(frame->begin(), frame->end(), around);
     }
@@ -222,12 +222,14 @@ private:
                                   format.leftMargin(), format.rightMargin(),
                                   own.isColoured || format.background().style() != Qt::NoBrush};
             const QStringList css = blockDeclarations(block, own);
-            beginLine(block);
-            add("<li"_L1 + classAttribute(paragraphClass(block)) + styleAttribute(css) + u'>');
-            beginInner();
             // The reader makes no line of an item in which a list comes first.
-            if (block.length() <= 1 && isListBelow(block.next(), *list))
-                add(u"<div><br/></div>"_s);
+            const bool hasLine = block.length() <= 1 && isListBelow(block.next(), *list);
+            const QString itsClass = classAttribute(paragraphClass(block));
+            beginLine(block);
+            add("<li"_L1 + (hasLine ? QString() : itsClass) + styleAttribute(css) + u'>');
+            beginInner();
+            if (hasLine)
+                add("<div"_L1 + itsClass + "><br/></div>"_L1);
             writeText(block, around.text);
             endInner();
             return;
@@ -397,7 +399,7 @@ private:
                                                              : QString();
     }
 
-    void writeTable(QTextTable &table)
+    void writeTable(QTextTable &table, const Surroundings &around)
     {
         const QTextTableFormat format = table.format();
         QStringList css;
@@ -411,18 +413,22 @@ private:
                 QString::number(format.border()), QString::number(format.cellSpacing()),
                 QString::number(format.cellPadding())) +
             widthAttribute(format.width()) +
-            (alignment & Qt::AlignHCenter ? u" align=\"center\""_s
-             : alignment & Qt::AlignRight ? u" align=\"right\""_s
-                                          : QString()) +
+            (alignment & Qt::AlignHCenter          ? u" align=\"center\""_s
+             : alignment & Qt::AlignRight          ? u" align=\"right\""_s
+             : around.alignment & Qt::AlignHCenter ? u" align=\"left\""_s
+                                                   : QString()) +
             styleAttribute(css) + ">\n"_L1);
         addStructure(m_out.text.sliced(start));
         ++m_depth;
-        writeRows(table);
+        // Letters look as around the table, on the colour of their own cell.
+        QTextCharFormat text = around.text;
+        text.clearBackground();
+        writeRows(table, text);
         --m_depth;
         add(u"</table>\n"_s);
     }
 
-    void writeRows(QTextTable &table)
+    void writeRows(QTextTable &table, const QTextCharFormat &text)
     {
         const int headers = qMin(table.format().headerRowCount(), table.rows());
         for (int row = 0; row < table.rows(); ++row) {
@@ -431,19 +437,20 @@ private:
             for (int column = 0; column < table.columns(); ++column) {
                 const QTextTableCell cell = table.cellAt(row, column);
                 if (cell.row() == row && cell.column() == column)
-                    writeCell(table, cell, row < headers);
+                    writeCell(table, cell, row < headers, text);
             }
             add(row + 1 == headers ? u"</tr></thead>\n"_s : u"</tr>\n"_s);
         }
     }
 
-    void writeCell(const QTextTable &table, const QTextTableCell &cell, bool header)
+    void writeCell(const QTextTable &table, const QTextTableCell &cell, bool header,
+                   const QTextCharFormat &text)
     {
         const QString tag = header ? u"th"_s : u"td"_s;
         add(u'<' + tag + cellAttributes(table, cell));
         addStructure(u'<' + tag + cellAttributes(table, cell) +
                      styleAttribute(cellDeclarations(table, cell)));
-        Surroundings around;
+        Surroundings around{text};
         if (header)
             around = {headerCellText(), Qt::AlignHCenter};
         around.text = withBackground(around.text, cell.format());
