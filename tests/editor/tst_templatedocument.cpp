@@ -318,8 +318,8 @@ void TestTemplateDocument::keepsSource_data()
     QTest::newRow("nested list") << u"<ul><li>a<ol><li>b</li></ol></li><li>c</li></ul>"_s
                                  << u"<ul>\n<li>a<ol>\n<li>b</li>\n</ol>\n</li>\n<li>c</li>\n</ul>"_s;
     QTest::newRow("class of an empty item above a list")
-        << u"<ul><li><div class=k><br></div><ol><li>b"_s
-        << u"<ul>\n<li><div class=\"k\"><br/></div><ol>\n<li>b</li>\n</ol>\n</li>\n</ul>"_s;
+        << u"<p>a</p><ul><li><div class=k><br></div><ol><li>b"_s
+        << u"<p>a</p>\n<ul>\n<li><div class=\"k\"><br/></div><ol>\n<li>b</li>\n</ol>\n</li>\n</ul>"_s;
     QTest::newRow("page around it")
         << u"<!DOCTYPE html><html><head><title>t</title></head><body><p>x</p></body></html>"_s
         << u"<p>x</p>"_s;
