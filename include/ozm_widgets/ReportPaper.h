@@ -66,7 +66,7 @@ public:
     /// report has.
     int print(QPagedPaintDevice &device) const;
 
-    /// With the headings as bookmarks. Replaces the file at @p path only when all of it is written; code 4 otherwise.
+    /// With the headings as bookmarks, to which the entries of tables of contents lead. Replaces the file at @p path only when all of it is written; code 4 otherwise.
     [[nodiscard]] Error writePdf(const QString &path) const;
 
 private:

@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/StrictTest.h"
 
 #include <ozm_common_core_mini/ColumnNames.h>
@@ -387,13 +388,30 @@ private Q_SLOTS:
         reader.start(u"pdftotext"_s, {u"-layout"_s, folder.filePath(u"p.pdf"_s), u"-"_s});
         QVERIFY(reader.waitForFinished());
         QStringList pages;
-        const QStringList read = QString::fromUtf8(reader.readAllStandardOutput()).split(u'\f');
+        const QString text = QString::fromUtf8(reader.readAllStandardOutput());
+        const QStringList read = text.split(u'\f');
         for (const QString &page : read) {
             const QStringList words = page.section(u"Page "_s, 0, 0).simplified().split(u' ');
             if (!words.constFirst().isEmpty())
                 pages.append(words.constFirst() + u' ' + words.constLast());
         }
         QTEST(pages, "pages");
+        // Entries of contents lead to the pages that they name.
+        const auto found = [](const char *pattern, const QString &in) {
+            const QRegularExpression each(QString::fromLatin1(pattern),
+                                          QRegularExpression::DotMatchesEverythingOption |
+                                              QRegularExpression::MultilineOption);
+            QStringList all;
+            for (auto match = each.globalMatch(in); match.hasNext();)
+                all.append(match.next().captured(1));
+            return all;
+        };
+        const QString pdf = QString::fromLatin1(ozm::test::readFile(folder.filePath(u"p.pdf"_s)));
+        const QStringList sheets = found("(\\d+) 0 R", found("/Kids\\s*\\[(.*?)\\]", pdf).value(0));
+        QStringList targets;
+        for (const QString &sheet : found("/Subtype /Link.*?/Dest \\[(\\d+)", pdf))
+            targets.append(QString::number(sheets.indexOf(sheet) + 1));
+        QCOMPARE(targets, found("[HI] {3,}(\\d+)$", text));
         // The same pages as on the screen.
         ozm::ReportView view;
         view.setReport(html, options);

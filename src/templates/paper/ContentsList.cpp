@@ -2,7 +2,9 @@
 
 #include "templates/instructions/InstructionTree.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QTextDocument>
+#include <QTextTable>
 
 #include <algorithm>
 
@@ -97,6 +99,21 @@ ContentsList::ContentsList(const QString &decoded, QTextDocument &document)
         found.removeSelectedText();
         m_numbers.append({found.block().text().toInt(), found});
     }
+}
+
+QList<ContentsList::Entry> ContentsList::entries() const
+{
+    const QAbstractTextDocumentLayout &layout = *m_document.documentLayout();
+    QList<Entry> entries;
+    for (const Number &number : m_numbers) {
+        const QTextTable *table = number.place.currentTable();
+        const int row = table ? table->cellAt(number.place).row() : 0;
+        QRectF area = layout.blockBoundingRect(number.place.block());
+        for (int column = 0; table && column < table->columns(); ++column)
+            area |= layout.blockBoundingRect(table->cellAt(row, column).firstCursorPosition().block());
+        entries.append({number.heading, area});
+    }
+    return entries;
 }
 
 bool ContentsList::setNumbers(const std::function<int(const Heading &heading)> &pageOf)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QRectF>
 #include <QString>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -34,6 +35,14 @@ class ContentsList
 public:
     /// Reads @p decoded into @p document, which holds it without its lists.
     ContentsList(const QString &decoded, QTextDocument &document);
+
+    /// The place of a heading in a list.
+    struct Entry
+    {
+        int heading; ///< Index in headingsOf() of the document.
+        QRectF area; ///< In the document.
+    };
+    [[nodiscard]] QList<Entry> entries() const;
 
     /// Writes the numbers that @p pageOf gives for headings. True when one of them changed.
     bool setNumbers(const std::function<int(const Heading &heading)> &pageOf);

@@ -218,6 +218,20 @@ QList<Bookmark> PaperLayout::headings(const QPageLayout &sheets) const
     return headings;
 }
 
+QList<PdfLink> PaperLayout::links(const QPageLayout &sheets, const QList<Bookmark> &headings) const
+{
+    constexpr double points = kPointsPerInch / kDotsPerInch;
+    const QPointF margin = sheets.paintRectPixels(kDotsPerInch).topLeft();
+    QList<PdfLink> links;
+    for (const ContentsList::Entry &entry :
+         m_contents ? m_contents->entries() : QList<ContentsList::Entry>()) {
+        const int sheet = pageAt(entry.area.top());
+        const QPointF corner = (margin + toPage(sheet, entry.area.topLeft())) * points;
+        links.append({sheet, {corner, entry.area.size() * points}, headings.at(entry.heading)});
+    }
+    return links;
+}
+
 int PaperLayout::pageAt(double y) const
 {
     const auto after =

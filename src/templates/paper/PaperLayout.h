@@ -58,6 +58,9 @@ public:
     /// The headings, for sheets of @p sheets.
     [[nodiscard]] QList<Bookmark> headings(const QPageLayout &sheets) const;
 
+    /// The areas of the lists of headings that lead to @p headings, for sheets of @p sheets.
+    [[nodiscard]] QList<PdfLink> links(const QPageLayout &sheets, const QList<Bookmark> &headings) const;
+
     /// The page on which the height @p y of the document is.
     [[nodiscard]] int pageAt(double y) const;
     /// Where @p point of a page is in the document, and the other way round.

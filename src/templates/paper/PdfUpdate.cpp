@@ -48,8 +48,8 @@ public:
 
     [[nodiscard]] int count() const { return int(m_table.size() / kTableRow); }
 
-    /// The dictionary of an object; empty where there is none.
-    [[nodiscard]] QByteArray dictionary(int number) const
+    /// The lines of an object; empty where there is none.
+    [[nodiscard]] QByteArray object(int number) const
     {
         bool ok = number > 0 && number < count();
         const qint64 place = ok ? m_table.mid(number * kTableRow, 10).toLongLong(&ok) : 0;
@@ -59,10 +59,17 @@ public:
         while (!m_pdf.atEnd()) {
             const QByteArray line = m_pdf.readLine();
             if (line.startsWith("endobj"))
-                return text.contains(">>") ? text : QByteArray();
+                return text;
             text += line;
         }
         return {};
+    }
+
+    /// An object that is a dictionary, or nothing.
+    [[nodiscard]] QByteArray dictionary(int number) const
+    {
+        const QByteArray text = object(number);
+        return text.contains(">>") ? text : QByteArray();
     }
 
     qint64 tableStart = -1;
@@ -131,6 +138,12 @@ QByteArray withEntries(const QByteArray &dictionary, const QByteArray &entries)
     return result.insert(result.lastIndexOf(">>"), entries);
 }
 
+QByteArray destination(const Bookmark &place, const QList<int> &sheets)
+{
+    return "/Dest [" + QByteArray::number(sheets.at(place.sheet)) + " 0 R /XYZ null " +
+           QByteArray::number(place.sheetHeight - place.distance, 'f', 2) + " null]\n";
+}
+
 /// Objects to be written, by their numbers.
 using NewObjects = QMap<int, QByteArray>;
 
@@ -157,12 +170,40 @@ void addBookmarks(const QList<Bookmark> &bookmarks, const QList<int> &sheets, in
             text += "/Count " + QByteArray::number(isRoot ? own.children : -own.children) + '\n';
         if (!isRoot) {
             const Bookmark &bookmark = bookmarks.at(index);
-            text += "/Title " + pdfText(bookmark.text) + "\n/Dest [" +
-                    QByteArray::number(sheets.at(bookmark.sheet)) + " 0 R /XYZ null " +
-                    QByteArray::number(bookmark.sheetHeight - bookmark.distance, 'f', 2) + " null]\n";
+            text += "/Title " + pdfText(bookmark.text) + '\n' + destination(bookmark, sheets);
         }
         objects.insert(number(index), text + ">>\n");
     }
+}
+
+QByteArray linkText(const PdfLink &link, const QList<int> &sheets)
+{
+    QByteArray area;
+    const double height = link.to.sheetHeight;
+    for (const double edge :
+         {link.area.left(), height - link.area.bottom(), link.area.right(), height - link.area.top()})
+        area += QByteArray::number(edge, 'f', 2) + ' ';
+    // The flag lets it be printed, as archives of documents demand.
+    return "<<\n/Type /Annot\n/Subtype /Link\n/F 4\n/Border [0 0 0]\n/Rect [" + area + "]\n/Contents " +
+           pdfText(link.to.text) + '\n' + destination(link.to, sheets) + ">>\n";
+}
+
+/// False where a sheet has no list that they could come into.
+bool addLinks(const QList<PdfLink> &links, const QList<int> &sheets, const PdfObjects &present,
+              int firstNumber, NewObjects &objects)
+{
+    for (qsizetype index = 0; index < links.size(); ++index) {
+        const PdfLink &link = links.at(index);
+        const int number = firstNumber + int(index);
+        const int list = reference(present.dictionary(sheets.at(link.sheet)), u"Annots"_s);
+        QByteArray text = objects.value(list, present.object(list));
+        const qsizetype end = text.lastIndexOf(']');
+        if (end < 0)
+            return false;
+        objects.insert(list, text.insert(end, ' ' + QByteArray::number(number) + " 0 R"));
+        objects.insert(number, linkText(link, sheets));
+    }
+    return true;
 }
 
 QByteArray remarksText(const PdfRemarks &remarks)
@@ -195,7 +236,7 @@ QByteArray written(const NewObjects &objects, qint64 start, const QByteArray &tr
 } // namespace
 
 std::optional<QByteArray> pdfUpdate(QIODevice &pdf, const QList<Bookmark> &bookmarks,
-                                    const PdfRemarks &remarks)
+                                    const QList<PdfLink> &links, const PdfRemarks &remarks)
 {
     const PdfObjects present(pdf);
     const int root = reference(present.trailer, u"Root"_s);
@@ -203,9 +244,11 @@ std::optional<QByteArray> pdfUpdate(QIODevice &pdf, const QList<Bookmark> &bookm
     const QByteArray catalog = present.dictionary(root);
     const QByteArray about = present.dictionary(info);
     const QList<int> sheets = sheetsIn(present.dictionary(reference(catalog, u"Pages"_s)));
+    const auto isSheet = [&sheets](int sheet) { return sheet >= 0 && sheet < sheets.size(); };
     const bool isKnown = !catalog.isEmpty() && !about.isEmpty() && !catalog.contains("/Outlines") &&
-                         std::ranges::all_of(bookmarks, [&sheets](const Bookmark &bookmark) {
-                             return bookmark.sheet >= 0 && bookmark.sheet < sheets.size();
+                         std::ranges::all_of(bookmarks, isSheet, &Bookmark::sheet) &&
+                         std::ranges::all_of(links, [&isSheet](const PdfLink &link) {
+                             return isSheet(link.sheet) && isSheet(link.to.sheet);
                          });
     const qsizetype end = present.trailer.lastIndexOf(">>");
     const qsizetype begin = present.trailer.indexOf("<<");
@@ -221,6 +264,9 @@ std::optional<QByteArray> pdfUpdate(QIODevice &pdf, const QList<Bookmark> &bookm
         objects.insert(root, withEntries(catalog, "/PageMode /UseOutlines\n/Outlines " +
                                                       QByteArray::number(size - 1) + " 0 R\n"));
     }
+    if (!addLinks(links, sheets, present, size, objects))
+        return std::nullopt;
+    size += int(links.size());
     static const QRegularExpression count(u"/Size\\s+\\d+"_s);
     const QString kept = QString::fromLatin1(present.trailer.sliced(begin, end - begin))
                              .replace(count, u"/Size %1"_s.arg(size));

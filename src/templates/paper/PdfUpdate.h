@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QRectF>
 #include <QString>
 #include <QStringList>
 
@@ -21,6 +22,14 @@ struct Bookmark
     double sheetHeight = 0;
 };
 
+/// An area of a sheet that leads to a place in the same PDF.
+struct PdfLink
+{
+    int sheet = 0; ///< Counted from 0.
+    QRectF area;   ///< In points from the upper left corner of the sheet, as high as that of the place.
+    Bookmark to;
+};
+
 /// The facts that a PDF carries about itself beside its title.
 struct PdfRemarks
 {
@@ -30,10 +39,10 @@ struct PdfRemarks
 };
 
 /**
- * The bytes that, behind those of a PDF made by QPdfWriter, give it bookmarks and remarks: the writer itself knows
- * neither. Nothing where the PDF is not built as the writer builds it.
+ * The bytes that, behind those of a PDF made by QPdfWriter, give it bookmarks, links and remarks: the writer itself
+ * knows none of them. Nothing where the PDF is not built as the writer builds it.
  */
 [[nodiscard]] std::optional<QByteArray> pdfUpdate(QIODevice &pdf, const QList<Bookmark> &bookmarks,
-                                                  const PdfRemarks &remarks);
+                                                  const QList<PdfLink> &links, const PdfRemarks &remarks);
 
 } // namespace ozm::paper

@@ -88,6 +88,15 @@ public:
         }
     }
 
+    void addLinks(const QList<paper::PdfLink> &added)
+    {
+        for (paper::PdfLink link : added) {
+            link.sheet += sheets;
+            link.to.sheet += sheets;
+            links.append(link);
+        }
+    }
+
     Error close()
     {
         // The rest of the PDF is written only now.
@@ -95,7 +104,7 @@ public:
         if (!pages.flush() || pages.error() != QFileDevice::NoError)
             return cannotWrite(pages.errorString());
         const auto update =
-            paper::pdfUpdate(pages, bookmarks, {options.author, options.subject, options.keywords});
+            paper::pdfUpdate(pages, bookmarks, links, {options.author, options.subject, options.keywords});
         if (!update)
             return cannotWrite(
                 bookText(QT_TRANSLATE_NOOP("ozm::ReportBook", "Bookmarks cannot be added to it.")));
@@ -112,6 +121,7 @@ public:
     std::unique_ptr<QPdfWriter> writer;
     QPainter painter;
     QList<paper::Bookmark> bookmarks;
+    QList<paper::PdfLink> links;
     int sheets = 0;
     bool isFinished = false;
     Error error;
@@ -142,6 +152,7 @@ Error ReportBook::add(const ReportPaper &report, const QString &bookmark)
     }
     const ReportPaper::Private::Drawn drawn = report.d->draw(d->painter, *d->writer);
     d->addBookmarks(drawn.headings, bookmark);
+    d->addLinks(drawn.links);
     d->sheets += drawn.sheets;
     return d->pages.error() == QFileDevice::NoError ? Error() : d->cannotWrite(d->pages.errorString());
 }

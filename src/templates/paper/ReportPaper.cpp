@@ -34,7 +34,8 @@ ReportPaper::Private::Drawn ReportPaper::Private::draw(QPainter &painter, QPaged
         layout.draw(painter, sheet);
     }
     painter.restore();
-    return {layout.pageCount(), layout.headings(device.pageLayout())};
+    const QList<paper::Bookmark> headings = layout.headings(device.pageLayout());
+    return {layout.pageCount(), headings, layout.links(device.pageLayout(), headings)};
 }
 
 ReportPaper::ReportPaper(const QString &decoded, const ReportPaperOptions &options)

@@ -20,6 +20,7 @@ public:
     {
         int sheets = 0;
         QList<paper::Bookmark> headings; ///< With sheets counted from the first one of the report.
+        QList<paper::PdfLink> links;     ///< To the headings, with sheets counted as theirs.
     };
 
     Private(const QString &decoded, const ReportPaperOptions &given)
