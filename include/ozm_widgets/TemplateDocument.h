@@ -59,6 +59,8 @@ public:
     /// HTML, or plain text, whose lines become paragraphs.
     void setSource(const QString &source);
     [[nodiscard]] QString source() const;
+    /// To the letter as setSource() got it, whatever was edited since.
+    [[nodiscard]] QString originalSource() const;
     /// True while source() is known already: after prepareSource(), until the next edit.
     [[nodiscard]] bool isSourceReady() const;
     /// Does a part of the work of source(), for some milliseconds. For a window that asks for the source of a long template:

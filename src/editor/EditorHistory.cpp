@@ -71,7 +71,8 @@ QString withLineEndsOf(const QString &source, const QString &text)
 
 EditorSession::EditorSession(Mode mode, const QString &source)
     : m_mode(mode)
-    , m_source(source)
+    , m_isLarge(source.size() > kLargestRich)
+    , m_plainSource(mode == Mode::Rich ? QString() : source)
     , m_document(makeDocument(mode, source))
 {}
 
@@ -84,7 +85,10 @@ TemplateDocument *EditorSession::richDocument() const
 
 QString EditorSession::source() const
 {
-    return isEdited() ? documentSource() : m_source;
+    if (isEdited())
+        return documentSource();
+    const TemplateDocument *rich = richDocument();
+    return rich ? rich->originalSource() : m_plainSource;
 }
 
 bool EditorSession::prepareSource() const
@@ -103,7 +107,7 @@ QString EditorSession::documentSource() const
     // The toolkit's own text would have blanks for no-break spaces.
     QString text = m_document->toRawText();
     text.replace(QChar::ParagraphSeparator, u'\n');
-    return m_source.contains(u'\r') ? withLineEndsOf(m_source, text) : text;
+    return m_plainSource.contains(u'\r') ? withLineEndsOf(m_plainSource, text) : text;
 }
 
 /// One step of the history of a session's document, which has done it already when this is made.

@@ -35,12 +35,13 @@ public:
     /// As the document's positions count, which for a session that is not edited may be another.
     [[nodiscard]] QString documentSource() const;
     /// Too long for formatted text, which takes its time over each character.
-    [[nodiscard]] bool isLarge() const { return m_source.size() > kLargestRich; }
+    [[nodiscard]] bool isLarge() const { return m_isLarge; }
     [[nodiscard]] bool isEdited() const { return m_document->availableUndoSteps() > 0; }
 
 private:
     const Mode m_mode;
-    const QString m_source;
+    const bool m_isLarge;
+    const QString m_plainSource; ///< Rich documents keep their own.
     std::unique_ptr<QTextDocument> m_document;
 };
 

@@ -426,6 +426,8 @@ void TestTemplateDocument::oneLetterChangesNothingElse_data()
         << u"<!DOCTYPE html>\n<html><head><title>t</title><meta charset=x></head>"
            "<body onload=\"[Code]\" style=\"font-family:Arial\"><p>here|</p></body></html>\n"_s;
     QTest::newRow("thin spaces") << u"<p>1\u2009000 &thinsp;2&#8239;m here|</p><p>3\u202F000</p>"_s;
+    QTest::newRow("byte order marks") << u"<p>\u03B1 here|</p>\uFEFF<p>\uFEFF\U0001D6FC</p>"_s;
+    QTest::newRow("half a character") << QString(u"<p>here|</p>\n<p id=a>\u03B1%1"_s).arg(QChar(0xD835));
     QTest::newRow("line ends") << u"<p>a\r\nb here|</p>\r\n\r\n<p>\r\n  b</p>\r\n"_s;
     QTest::newRow("comments and form") << u"<!-- a --><p>here|<!-- b --></p><form><input value=[A]></form>"_s;
     QTest::newRow("empty paragraphs")
@@ -451,6 +453,7 @@ void TestTemplateDocument::oneLetterChangesNothingElse()
     source.remove(u'|');
     ozm::TemplateDocument document;
     document.setSource(source);
+    QCOMPARE(document.source(), source);
     QTextCursor cursor = document.find(u"here"_s);
     cursor.setPosition(cursor.selectionEnd());
     cursor.insertText(u"X"_s);

@@ -37,12 +37,23 @@ bool isBesideFrames(const QTextBlock &block)
 } // namespace
 
 KeptSource::KeptSource(const QString &source, const SplitTemplate &split)
-    : m_source(source)
+    : m_text(source)
+    , m_hasSource(!source.isNull())
     , m_endsWithReturns(source.contains(u'\r') && source.count("\r\n"_L1) == source.count(u'\n'))
     , m_around(split.around)
-    , m_runs(split.runs)
-    , m_sections(split.sections)
-{}
+    , m_runs(int(split.runs.size()))
+{
+    m_sections.reserve(split.sections.size());
+    for (const SourceSection &section : split.sections) {
+        const SourceRun *last =
+            section.runs > 0 ? &split.runs.at(section.firstRun + section.runs - 1) : nullptr;
+        m_sections.append(
+            {m_text.size(), section.firstRun, last && last->outer.isEmpty() && last->host.name.isEmpty()});
+        m_text.append(slice(source, section.start, section.end));
+    }
+    if (m_sections.isEmpty())
+        m_text.append(source);
+}
 
 void KeptSource::learn(QTextDocument &document, WrittenSource written)
 {
@@ -80,11 +91,12 @@ void KeptSource::joinSections(const WrittenSource &written)
     for (const WrittenLine &line : written.lines)
         found.insert(line.run);
     int before = 0;
-    for (int run = 0; run < m_runs.size(); ++run) {
+    for (int run = 0; run < m_runs; ++run) {
         // The reader took it into the line before.
+        const int section = sectionOf(run);
         if (!found.contains(run))
-            join(before, m_runs.at(run).section);
-        before = m_runs.at(run).section;
+            join(before, section);
+        before = section;
     }
     bool hasOthers = false;
     int last = -1;
@@ -108,20 +120,14 @@ void KeptSource::joinSections(const WrittenSource &written)
     }
     if (hasOthers)
         join(qMax(0, last), int(first.size()) - 1);
-    QList<SourceSection> joined;
-    QList<int> place;
+    QList<KeptSection> joined;
     for (int index = 0; index < first.size(); ++index) {
-        const SourceSection &section = m_sections.at(index);
-        if (first.at(index) == index) {
-            joined.append(section);
-        } else {
-            joined.last().end = section.end;
-            joined.last().runs += section.runs;
-        }
-        place.append(int(joined.size()) - 1);
+        if (first.at(index) == index)
+            joined.append(m_sections.at(index));
+        else if (runsOf(index) > 0)
+            joined.last().endsOutside = m_sections.at(index).endsOutside;
     }
-    for (SourceRun &run : m_runs)
-        run.section = place.at(run.section);
+    joined.squeeze();
     m_sections = joined;
 }
 
@@ -145,16 +151,20 @@ void KeptSource::rememberOtherLines(WrittenSource &written, QTextDocument &docum
 
 int KeptSource::sectionOf(int run) const
 {
-    const int section = run >= 0 && run < m_runs.size() ? m_runs.at(run).section : kOtherLine - run;
-    return section < m_sections.size() ? section : -1;
+    if (run < 0 || run >= m_runs) {
+        const int section = kOtherLine - run;
+        return section < m_sections.size() ? section : -1;
+    }
+    const auto behind = std::ranges::upper_bound(m_sections, run, {}, &KeptSection::firstRun);
+    return int(behind - m_sections.cbegin()) - 1;
 }
 
 std::optional<QString> KeptSource::write(const QTextDocument &document, const WrittenSource &written) const
 {
-    if (m_source.isNull())
+    if (!m_hasSource)
         return std::nullopt;
     if (qHash(written.text) == m_fingerprint)
-        return m_source;
+        return source();
     if (!m_isMapped)
         return std::nullopt;
     const auto sections = sectionsOf(written);
@@ -197,15 +207,12 @@ QList<bool> KeptSource::changedSections(const QList<Section> &sections, const Wr
         return changed;
     // Texts outside of any element run together once the element between them is gone.
     const auto isOutside = [&](int index) {
-        const SourceSection &section = m_sections.at(index);
-        return !sections.at(index).items.isEmpty() &&
-               m_runs.at(section.firstRun + section.runs - 1).outer.isEmpty() &&
-               m_runs.at(section.firstRun + section.runs - 1).host.name.isEmpty();
+        return !sections.at(index).items.isEmpty() && m_sections.at(index).endsOutside;
     };
     QList<bool> all = changed;
     int last = -1;
     for (int index = 0; index < changed.size(); ++index) {
-        if (m_sections.at(index).runs == 0)
+        if (runsOf(index) == 0)
             continue;
         if (last >= 0 && changed.at(index) && isOutside(last))
             all[last] = true;
@@ -267,8 +274,14 @@ size_t KeptSource::fingerprint(const WrittenSource &written, const QList<const W
 
 QString KeptSource::sectionText(int index) const
 {
-    const SourceSection &section = m_sections.at(index);
-    return slice(m_source, section.start, section.end).toString();
+    const bool isLast = index + 1 == m_sections.size();
+    return m_text.sliced(m_sections.at(index).start, isLast ? m_text.size() : m_sections.at(index + 1).start);
+}
+
+int KeptSource::runsOf(int index) const
+{
+    const bool isLast = index + 1 == m_sections.size();
+    return (isLast ? m_runs : m_sections.at(index + 1).firstRun) - m_sections.at(index).firstRun;
 }
 
 QString KeptSource::withLineEnds(QString text) const

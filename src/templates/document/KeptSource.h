@@ -1,5 +1,6 @@
 #pragma once
 
+#include "templates/document/PackedText.h"
 #include "templates/document/TemplateParts.h"
 #include "templates/document/TemplateSourceWriter.h"
 
@@ -25,6 +26,9 @@ SplitTemplate readSource(QTextDocument &document, const QString &source, bool re
  * not written anew. Sections that nobody touched stay as they are, to the letter; in the others, the edited
  * lines are replaced, in tags that stay. Whatever comes out is read once more: where it is not the document,
  * the section is written anew after all.
+ *
+ * Of a source only its text and its sections are kept: where lines begin in one, and in which elements they stand, is found
+ * again once it is edited.
  */
 class KeptSource
 {
@@ -33,7 +37,8 @@ public:
     /// @p split is @p source taken apart.
     KeptSource(const QString &source, const SplitTemplate &split);
 
-    [[nodiscard]] const QString &source() const { return m_source; }
+    [[nodiscard]] bool hasSource() const { return m_hasSource; }
+    [[nodiscard]] QString source() const { return m_text.sliced(0, m_text.size()); }
 
     /// Finds out how @p document, which was read from the source and is as it was then, is @p written. May be left until
     /// there are edits, unless hasOtherLines().
@@ -49,6 +54,12 @@ public:
                                                const WrittenSource &written) const;
 
 private:
+    struct KeptSection
+    {
+        qsizetype start = 0; ///< In the packed text.
+        int firstRun = 0;
+        bool endsOutside = false; ///< Its last line stands in no element.
+    };
     struct Section
     {
         QList<const WrittenItem *> items; ///< Those with lines of the section.
@@ -66,6 +77,7 @@ private:
     [[nodiscard]] size_t fingerprint(const WrittenSource &written,
                                      const QList<const WrittenItem *> &items) const;
     [[nodiscard]] QString sectionText(int index) const;
+    [[nodiscard]] int runsOf(int index) const;
     [[nodiscard]] QString withLineEnds(QString text) const;
     /// New lines behind those of the source that they were parted from.
     [[nodiscard]] QString newItem(const WrittenSource &written, const WrittenItem &item) const;
@@ -74,11 +86,12 @@ private:
     [[nodiscard]] QString joined(const QList<Section> &sections, const QTextDocument &document,
                                  const WrittenSource &written, bool anew) const;
 
-    QString m_source;
+    PackedText m_text;
+    bool m_hasSource = false;
     bool m_endsWithReturns = false; ///< Each line does. Of a mixture, parts that are kept have others.
     QString m_around;
-    QList<SourceRun> m_runs;
-    QList<SourceSection> m_sections;
+    QList<KeptSection> m_sections;
+    int m_runs = 0;
     QList<size_t> m_fingerprints; ///< Of the sections as they were read.
     size_t m_fingerprint = 0;     ///< Of the whole.
     bool m_isLearned = false;

@@ -89,8 +89,9 @@ public:
     Patch(const KeptSource &kept, int index, const QTextDocument &document, const WrittenSource &written,
           const Section &section)
         : m_kept(kept)
-        , m_section(kept.m_sections.at(index))
-        , m_text(kept.sectionText(index))
+        , m_firstRun(kept.m_sections.at(index).firstRun)
+        , m_runs(kept.runsOf(index))
+        , m_text(kept.m_around + kept.sectionText(index))
         , m_document(document)
         , m_written(written)
         , m_items(section.items)
@@ -98,11 +99,11 @@ public:
 
     std::optional<QString> run()
     {
-        m_split = readSource(m_before, m_kept.m_around + m_text, true);
+        m_split = readSource(m_before, m_text, true);
         m_beforeWritten = writeSource(m_before);
-        if (m_split.runs.size() != m_section.runs || !collectBefore() || !collectNow() || !isSameSkeleton())
+        if (m_split.runs.size() != m_runs || !collectBefore() || !collectNow() || !isSameSkeleton())
             return std::nullopt;
-        for (int run = 0; run < m_section.runs; ++run)
+        for (int run = 0; run < m_runs; ++run)
             if (!patchRun(run))
                 return std::nullopt;
         return applied();
@@ -122,19 +123,14 @@ private:
         QString text;
     };
 
-    [[nodiscard]] const SourceRun &sourceRun(int run) const
-    {
-        return m_kept.m_runs.at(m_section.firstRun + run);
-    }
-
     bool collectBefore()
     {
-        m_linesBefore.fill(-1, m_section.runs);
+        m_linesBefore.fill(-1, m_runs);
         for (qsizetype index = 0; index < m_beforeWritten.lines.size(); ++index) {
             const int run = m_beforeWritten.lines.at(index).run;
             if (run < 0)
                 m_others.append(innerOf(m_beforeWritten, m_beforeWritten.lines.at(index)).toString());
-            else if (run >= m_section.runs || m_linesBefore.at(run) >= 0)
+            else if (run >= m_runs || m_linesBefore.at(run) >= 0)
                 return false;
             else
                 m_linesBefore[run] = int(index);
@@ -145,9 +141,9 @@ private:
     // Of several lines that were one before, the one that is as it was is that line.
     bool collectNow()
     {
-        m_linesNow.fill(-1, m_section.runs);
-        m_more.fill({}, m_section.runs);
-        m_ahead.fill({}, m_section.runs);
+        m_linesNow.fill(-1, m_runs);
+        m_more.fill({}, m_runs);
+        m_ahead.fill({}, m_runs);
         for (const WrittenItem *item : m_items)
             for (const WrittenItem::Step &step : item->steps)
                 if (step.line >= 0)
@@ -167,8 +163,8 @@ private:
                         return false;
                     continue;
                 }
-                const int run = m_written.lines.at(step.line).run - m_section.firstRun;
-                if (run >= 0 && run < m_section.runs && m_linesNow.at(run) == step.line) {
+                const int run = m_written.lines.at(step.line).run - m_firstRun;
+                if (run >= 0 && run < m_runs && m_linesNow.at(run) == step.line) {
                     last = run;
                     m_ahead[run] = std::exchange(ahead, {});
                 } else {
@@ -182,8 +178,8 @@ private:
     void collectLine(int index)
     {
         const WrittenLine &line = m_written.lines.at(index);
-        const int run = line.run - m_section.firstRun;
-        if (line.run < 0 || run < 0 || run >= m_section.runs)
+        const int run = line.run - m_firstRun;
+        if (line.run < 0 || run < 0 || run >= m_runs)
             return;
         const bool isAsBefore = innerOf(m_written, line) ==
                                 innerOf(m_beforeWritten, m_beforeWritten.lines.at(m_linesBefore.at(run)));
@@ -197,12 +193,12 @@ private:
         QSet<int> runsBefore;
         QSet<int> linesNow;
         QSet<int> linesBefore;
-        for (int run = 0; run < m_section.runs; ++run) {
+        for (int run = 0; run < m_runs; ++run) {
             linesBefore.insert(m_linesBefore.at(run));
             if (m_linesNow.at(run) < 0)
                 continue;
             runsBefore.insert(run);
-            runsNow.insert(run + m_section.firstRun);
+            runsNow.insert(run + m_firstRun);
             linesNow.insert(m_linesNow.at(run));
         }
         QList<const WrittenItem *> itemsBefore;
@@ -214,7 +210,7 @@ private:
             bool isRun = false;
             const int run = step.toInt(&isRun);
             if (isRun)
-                step = QString::number(run - m_section.firstRun);
+                step = QString::number(run - m_firstRun);
         }
         return now == before || patchWidths(before, now);
     }
@@ -252,15 +248,14 @@ private:
     /// True in a part of the section that is shown as a whole.
     [[nodiscard]] bool isInPart(qsizetype position) const
     {
-        const qsizetype place = m_kept.m_around.size() + position;
-        return std::ranges::any_of(m_split.places, [place](const PartPlace &part) {
-            return part.start <= place && place < part.end;
+        return std::ranges::any_of(m_split.places, [position](const PartPlace &part) {
+            return part.start <= position && position < part.end;
         });
     }
 
     bool patchRun(int run)
     {
-        const SourceRun &source = sourceRun(run);
+        const SourceRun &source = m_split.runs.at(run);
         if (m_linesNow.at(run) < 0) {
             removeRun(run);
             return true;
@@ -310,7 +305,7 @@ private:
     bool patchHost(const SourceRun &source, const QString &before, const QString &now)
     {
         const qsizetype tag = source.host.start;
-        const QString text = slice(m_kept.m_source, tag, source.host.startTagEnd).toString();
+        const QString text = slice(m_text, tag, source.host.startTagEnd).toString();
         const QString shared = isCell(source) ? u'<' + source.host.name : QString();
         replace(tag, source.host.startTagEnd, patchedTag(text, shared + before, shared + now));
         if (isCell(source))
@@ -324,7 +319,7 @@ private:
     /// Where the end tag of @p host begins; -1 when it has none.
     [[nodiscard]] qsizetype closeStart(const HtmlElement &host) const
     {
-        const QStringView text = slice(m_kept.m_source, host.startTagEnd, host.end);
+        const QStringView text = slice(m_text, host.startTagEnd, host.end);
         const qsizetype close = text.lastIndexOf(u"</");
         const bool isOwn = close >= 0 && text.sliced(close + 2).startsWith(host.name, Qt::CaseInsensitive) &&
                            text.endsWith(u'>');
@@ -333,7 +328,7 @@ private:
 
     [[nodiscard]] QString sourceOf(const SourceRun &source) const
     {
-        return slice(m_kept.m_source, source.start, source.end).toString();
+        return slice(m_text, source.start, source.end).toString();
     }
 
     [[nodiscard]] QString innerNow(int run, const QString &openBefore, const QString &openNow) const
@@ -341,12 +336,12 @@ private:
         const WrittenLine &now = m_written.lines.at(m_linesNow.at(run));
         const int position = m_beforeWritten.lines.at(m_linesBefore.at(run)).position;
         Blanks blanks = Blanks::Fold;
-        if (keepsBlanks(sourceRun(run)))
+        if (keepsBlanks(m_split.runs.at(run)))
             blanks = Blanks::Count;
         else if (openNow.contains("white-space"_L1) && !openBefore.contains("white-space"_L1))
             blanks = Blanks::CountFromNow;
         const auto patched =
-            patchedLine(sourceOf(sourceRun(run)), objectsOf(run), m_before.findBlock(position),
+            patchedLine(sourceOf(m_split.runs.at(run)), objectsOf(run), m_before.findBlock(position),
                         m_document.findBlock(now.position), blanks);
         return patched ? *patched : innerOf(m_written, now).toString();
     }
@@ -355,7 +350,7 @@ private:
     {
         const auto keeps = [this](const HtmlElement &element) {
             return element.name == "pre"_L1 ||
-                   slice(m_kept.m_source, element.start, element.startTagEnd).contains("white-space"_L1);
+                   slice(m_text, element.start, element.startTagEnd).contains("white-space"_L1);
         };
         return (!source.host.name.isEmpty() && keeps(source.host)) ||
                std::ranges::any_of(source.outer, keeps);
@@ -386,9 +381,9 @@ private:
     // A line that was parted from another is of the same kind, with all that the source says about it.
     [[nodiscard]] QString partedLines(int run, const QList<int> &lines) const
     {
-        const SourceRun &source = sourceRun(run);
+        const SourceRun &source = m_split.runs.at(run);
         const QString before = openOf(m_beforeWritten, m_beforeWritten.lines.at(m_linesBefore.at(run)));
-        const QString tag = slice(m_kept.m_source, source.host.start, source.host.startTagEnd).toString();
+        const QString tag = slice(m_text, source.host.start, source.host.startTagEnd).toString();
         QStringList parted;
         for (const int index : lines) {
             const WrittenLine &line = m_written.lines.at(index);
@@ -400,7 +395,7 @@ private:
 
     void removeRun(int run)
     {
-        const SourceRun &source = sourceRun(run);
+        const SourceRun &source = m_split.runs.at(run);
         SourceRange range{source.start, source.end};
         if (hasOwnTag(source))
             range = {source.host.start, source.host.end};
@@ -418,16 +413,16 @@ private:
 
     [[nodiscard]] bool isEmptied(const HtmlElement &element) const
     {
-        for (int run = 0; run < m_section.runs; ++run)
-            if (m_linesNow.at(run) >= 0 && sourceRun(run).start >= element.start &&
-                sourceRun(run).end <= element.end)
+        for (int run = 0; run < m_runs; ++run)
+            if (m_linesNow.at(run) >= 0 && m_split.runs.at(run).start >= element.start &&
+                m_split.runs.at(run).end <= element.end)
                 return false;
         return true;
     }
 
     void replace(qsizetype start, qsizetype end, const QString &text)
     {
-        m_replacements.append({start - m_section.start, end - m_section.start, text});
+        m_replacements.append({start, end, text});
     }
 
     std::optional<QString> applied()
@@ -435,7 +430,7 @@ private:
         m_replacements += m_widths;
         std::ranges::stable_sort(m_replacements, {}, &Replacement::start);
         QString result;
-        qsizetype at = 0;
+        qsizetype at = m_kept.m_around.size();
         for (const Replacement &each : std::as_const(m_replacements)) {
             // Two that are in one another's way.
             if (each.start < at)
@@ -454,8 +449,9 @@ private:
     };
 
     const KeptSource &m_kept;
-    const SourceSection &m_section;
-    const QString m_text;
+    const int m_firstRun;
+    const int m_runs;
+    const QString m_text; ///< Of the section, behind the tags around it.
     const QTextDocument &m_document;
     const WrittenSource &m_written;
     const QList<const WrittenItem *> &m_items;

@@ -42,7 +42,7 @@ public:
     /// The source of @p document, which is @p written.
     QString sourceOf(const TemplateDocument &document, const editor::WrittenSource &written)
     {
-        if (!kept.isLearned() && !kept.source().isNull())
+        if (!kept.isLearned() && kept.hasSource())
             learnAgain(document);
         // A page that lost its last tag would be read as plain text.
         if (const auto source = kept.write(document, written); source && isHtml(*source) == isReadAsHtml)
@@ -52,7 +52,7 @@ public:
 
     [[nodiscard]] bool isAsRead(const TemplateDocument &document) const
     {
-        return readRevision == document.revision() && !kept.source().isNull();
+        return readRevision == document.revision() && kept.hasSource();
     }
 
     void forget()
@@ -452,6 +452,11 @@ QString TemplateDocument::source() const
     if (d->ready && d->revision == revision())
         return *d->ready;
     return d->sourceOf(*this, editor::writeSource(*this));
+}
+
+QString TemplateDocument::originalSource() const
+{
+    return d->kept.source();
 }
 
 bool TemplateDocument::isSourceReady() const
