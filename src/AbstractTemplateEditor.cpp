@@ -117,10 +117,20 @@ void AbstractTemplateEditor::closeEvent(QCloseEvent *event)
         d->files().giveUp();
 }
 
+void AbstractTemplateEditor::setVisible(bool visible)
+{
+    // Before the text is laid out, as the names of codes are in its lines.
+    if (visible)
+        d->fill();
+    QMainWindow::setVisible(visible);
+}
+
 void AbstractTemplateEditor::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
-    if (!d->showFirstTime())
+    // A window within another one is shown with it.
+    d->fill();
+    if (!d->isFirstShowing())
         return;
     // Once the window is on screen, so that the questions come up over it.
     QTimer::singleShot(0, this, [this] { d->files().offerRescued(); });
@@ -129,6 +139,8 @@ void AbstractTemplateEditor::showEvent(QShowEvent *event)
 void AbstractTemplateEditor::changeEvent(QEvent *event)
 {
     QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        d->retranslate();
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         QTimer::singleShot(0, this, [this] { d->files().checkDisk(); });
 }

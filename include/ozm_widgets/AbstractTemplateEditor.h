@@ -65,7 +65,8 @@ public:
     explicit AbstractTemplateEditor(QWidget *parent = nullptr);
     ~AbstractTemplateEditor() override;
 
-    // The application answers these. They are asked when the window is shown, and by refresh().
+    // The application answers these. They are asked when the window is shown, when the language of the application
+    // changes, and by refresh().
 
     /// The codes that are offered. Others are marked as unknown, unless there are none at all.
     [[nodiscard]] virtual QList<ShortCode> shortCodes() const = 0;
@@ -109,6 +110,8 @@ public:
     void setReadOnly(bool readOnly);
     /// Asks again for codes, rows and extra data.
     void refresh();
+
+    void setVisible(bool visible) override;
 
     // Decoding, with no window.
 

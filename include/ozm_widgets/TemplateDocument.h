@@ -83,7 +83,7 @@ public:
     [[nodiscard]] qsizetype offsetOf(int position) const;
 
     /// Sets the names that chips show for codes, by code with brackets. Others are marked as unknown, unless the
-    /// table is empty.
+    /// table is empty. Captions of instructions are those of the application's present language from then on.
     void setDisplayNames(const QHash<QString, QString> &names);
     /// True when @p code is one of those offered, or when none are.
     [[nodiscard]] bool isKnownCode(const QString &code) const;

@@ -22,6 +22,7 @@ namespace ozm::editor {
 namespace {
 
 constexpr std::array kViewZooms{0.5, 0.67, 0.8, 0.9, 1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0};
+constexpr QSize kUnplaced(640, 480);
 constexpr double kInchesPerMeter = 1000 / 25.4;
 
 } // namespace
@@ -37,6 +38,8 @@ EditorViews::EditorViews(CodeModel *codes, QWidget *window)
 {
     m_stack->setObjectName(u"views"_s);
     m_rich->setObjectName(u"richView"_s);
+    // Until it has its place: in a low one, any text would be laid out beside a scroll bar first.
+    m_rich->resize(kUnplaced);
     m_rich->setAccessibleName(tr("Formatted template"));
     m_plain->setObjectName(u"plainView"_s);
     m_plain->setAccessibleName(tr("Source of the template"));
@@ -64,12 +67,20 @@ void EditorViews::show(const EditorSession &session)
     if (formatted && !formatted->findChild<ParagraphLooks *>())
         new ParagraphLooks(formatted, m_styleSheet);
     m_rich->showDocument(formatted);
+    layOutOnceShown();
     m_plain->showDocument(formatted ? nullptr : session.document());
     if (!formatted && !session.isLarge() && !session.document()->findChild<SourceHighlighter *>())
         new SourceHighlighter(session.document(), m_codes, SourceHighlighter::Language::Template);
     applyZoom();
     m_stack->setCurrentWidget(formatted ? static_cast<QWidget *>(m_rich) : m_plain);
     current().widget()->setFocus();
+}
+
+void EditorViews::layOutOnceShown()
+{
+    // The view lays it out when it is given its size, which is where it is shown.
+    if (m_rich->viewport()->testAttribute(Qt::WA_PendingResizeEvent))
+        m_rich->document()->setPageSize({0, 0});
 }
 
 void EditorViews::setZoom(double zoom)

@@ -54,6 +54,7 @@ protected:
 
 private:
     void applyZoom();
+    void layOutOnceShown();
 
     CodeModel *m_codes;
     QStackedWidget *m_stack;

@@ -24,8 +24,6 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include <utility>
-
 using namespace Qt::StringLiterals;
 using namespace ozm::editor;
 
@@ -307,16 +305,20 @@ void AbstractTemplateEditor::Private::refresh()
     m_views.setStyleSheet(styleSheet);
     m_views.refresh(m_history->session());
     m_preview->setRows(names);
-    if (m_history->session().isLarge() && m_isShown)
+    if (m_history->session().isLarge() && m_isFilled)
         m_preview->updateNow();
 }
 
-bool AbstractTemplateEditor::Private::showFirstTime()
+void AbstractTemplateEditor::Private::fill()
 {
-    if (std::exchange(m_isShown, true))
-        return false;
-    refresh();
-    return true;
+    if (!std::exchange(m_isFilled, true))
+        refresh();
+}
+
+void AbstractTemplateEditor::Private::retranslate()
+{
+    if (m_isFilled)
+        refresh();
 }
 
 const RowNode *AbstractTemplateEditor::Private::previewRow() const

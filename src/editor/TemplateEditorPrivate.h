@@ -16,6 +16,7 @@
 #include <QCoreApplication>
 
 #include <memory>
+#include <utility>
 
 namespace ozm::editor {
 class CodePanel;
@@ -45,8 +46,12 @@ public:
     void setMode(Mode newMode);
     void setReadOnly(bool on);
     void refresh();
-    /// Fills the window with data; false when that was done before.
-    bool showFirstTime();
+    /// Fills the window with data, unless that was done before.
+    void fill();
+    /// True once.
+    [[nodiscard]] bool isFirstShowing() { return !std::exchange(m_wasShown, true); }
+    /// Shows the instructions and codes of the template in the language of now.
+    void retranslate();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -93,7 +98,8 @@ private:
     QDockWidget *m_codeDock = nullptr;
     QDockWidget *m_scriptDock = nullptr;
     QDockWidget *m_previewDock = nullptr;
-    bool m_isShown = false;
+    bool m_isFilled = false;
+    bool m_wasShown = false;
     bool m_wasModified = false; ///< As it was told last.
     QString m_toldPath;
 };

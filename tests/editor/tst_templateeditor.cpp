@@ -131,6 +131,7 @@ private Q_SLOTS:
     void undoAfterSavingIsAChange();
     void scriptsAreEditedInPlace();
     void readOnlyChangesNothing();
+    void codesAreAskedForBeforeTheLayout();
     void everythingHasAName();
 };
 
@@ -392,6 +393,25 @@ void TestTemplateEditor::readOnlyChangesNothing()
         QCOMPARE(f.content(), u"<p>a[Lot]<script>1</script></p>"_s);
     }
     QVERIFY(!f.editor.isModified());
+}
+
+// Names of codes are in the lines: known later, they would have all of them laid out once more.
+void TestTemplateEditor::codesAreAskedForBeforeTheLayout()
+{
+    struct Asked : SampleTemplateEditor
+    {
+        [[nodiscard]] QList<ShortCode> shortCodes() const override
+        {
+            places.append(findChild<QTextEdit *>(u"richView"_s)->document()->pageSize());
+            return SampleTemplateEditor::shortCodes();
+        }
+        mutable QList<QSizeF> places;
+    } editor;
+    QVERIFY(editor.setSourceText(EditorFixture::wrapped(u"<p>[Sample]</p>"_s)));
+    editor.show();
+    QCOMPARE(editor.places, QList<QSizeF>{QSizeF(0, 0)});
+    const auto *view = editor.findChild<QTextEdit *>(u"richView"_s);
+    QCOMPARE(view->document()->pageSize().width(), view->viewport()->width());
 }
 
 void TestTemplateEditor::everythingHasAName()

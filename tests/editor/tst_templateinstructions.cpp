@@ -11,6 +11,7 @@
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QTextEdit>
+#include <QTranslator>
 
 using namespace Qt::StringLiterals;
 using namespace ozm::test;
@@ -35,6 +36,16 @@ void choose(QDialog *dialog, const char *name, const QString &text)
         box->setCurrentIndex(box->findText(text));
     QCOMPARE(box->currentText(), text);
 }
+
+class LongCaptions : public QTranslator
+{
+public:
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return QString::fromUtf8(text) + u" in some other language"_s;
+    }
+};
 
 const QString kContent =
     u"<p class=\"lead\">Sample [Sample]</p>\n"
@@ -158,6 +169,21 @@ private Q_SLOTS:
         QTRY_VERIFY(preview->toPlainText().contains(u"changed"_s));
         // The list is not there: this is told, and leads to its place.
         QVERIFY(fixture.child<QLabel>("previewCount")->text().contains(u"1 place"_s));
+        // On screen, they follow the language of the application, in documents of the history, too.
+        const auto width = [view] {
+            QTextCursor chip = view->document()->find(QString(QChar::ObjectReplacementCharacter));
+            chip.clearSelection();
+            return view->cursorRect(chip).left();
+        };
+        const int usual = width();
+        LongCaptions longer;
+        QCoreApplication::installTranslator(&longer);
+        QTRY_COMPARE_GT(width(), usual + 50);
+        fixture.trigger("plainModeAction");
+        QCoreApplication::removeTranslator(&longer);
+        QCoreApplication::processEvents();
+        fixture.trigger("undoAction");
+        QTRY_COMPARE(width(), usual);
     }
 
     // A selection that begins in a table is about the whole of it: half a table is no section.

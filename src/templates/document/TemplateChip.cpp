@@ -157,6 +157,14 @@ QString ChipPainter::label(const TemplatePart &part) const
 
 bool ChipPainter::setDisplayNames(const QHash<QString, QString> &names, const QTextDocument &document)
 {
+    // Captions of instructions are in the language that was the application's when they were made.
+    const bool isTranslated = std::ranges::any_of(m_faces, [this](const auto &faces) {
+        return std::ranges::any_of(faces.second, [this](const Face &face) {
+            return face.label.text() != label(chipPart(face.format));
+        });
+    });
+    if (names == m_displayNames && !isTranslated)
+        return false;
     QList<std::pair<TemplatePart, QString>> labels;
     QList<std::pair<QString, bool>> known;
     for (const QTextFormat &format : document.allFormats()) {
@@ -174,7 +182,8 @@ bool ChipPainter::setDisplayNames(const QHash<QString, QString> &names, const QT
     const auto isKnownOtherwise = [this](const auto &before) {
         return !before.first.isEmpty() && isKnown(before.first) != before.second;
     };
-    return std::ranges::any_of(labels, isOther) || std::ranges::any_of(known, isKnownOtherwise);
+    return isTranslated || std::ranges::any_of(labels, isOther) ||
+           std::ranges::any_of(known, isKnownOtherwise);
 }
 
 ChipPainter::Face ChipPainter::makeFace(const QTextDocument &document, const QTextFormat &format) const

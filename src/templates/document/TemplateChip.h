@@ -54,9 +54,8 @@ public:
     [[nodiscard]] bool isKnown(const QString &code) const;
     [[nodiscard]] QString label(const TemplatePart &part) const;
 
-    /// Display names by code; while there is none at all, no code counts as unknown.
-    [[nodiscard]] const QHash<QString, QString> &displayNames() const { return m_displayNames; }
-    /// True when a chip of @p document is another one now.
+    /// @p names are by code; while there is none at all, no code counts as unknown. Captions of instructions get the
+    /// language of the application. True when a chip of @p document is another one now.
     bool setDisplayNames(const QHash<QString, QString> &names, const QTextDocument &document);
 
 private:

@@ -569,8 +569,6 @@ qsizetype TemplateDocument::offsetOf(int position) const
 
 void TemplateDocument::setDisplayNames(const QHash<QString, QString> &names)
 {
-    if (names == d->painter.displayNames())
-        return;
     if (d->painter.setDisplayNames(names, *this))
         markContentsDirty(0, characterCount());
 }
