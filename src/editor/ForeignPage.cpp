@@ -142,6 +142,9 @@ private:
     void cleanFragments()
     {
         for (QTextBlock block = m_page.lastBlock(); block.isValid(); block = block.previous()) {
+            // The toolkit reads an empty line as one with a break.
+            if (block.text() == QChar::LineSeparator)
+                QTextCursor(block).deleteChar();
             // Fragments are not what they were once one of them is changed.
             QList<Fragment> fragments;
             for (auto at = block.begin(); !at.atEnd(); ++at)

@@ -189,7 +189,7 @@ public:
 
     void count(Kind kind, qsizetype changedParts, const QString &before, const QString &after)
     {
-        if (kind == Kind::Paste)
+        if (kind == Kind::Paste || kind == Kind::Copy)
             return;
         ++m_all;
         // Parts outside of any element make one line, and run together once the element between them goes.
@@ -236,10 +236,15 @@ private:
     void copyOverItself(ozm::TemplateDocument &document, QTextCursor &cursor)
     {
         const QTextBlock block = cursor.block();
-        const int to = block.position() + m_random.bounded(block.length());
+        const bool isInLine = m_random.bounded(2) == 0;
+        const int to = isInLine ? block.position() + m_random.bounded(block.length())
+                                : m_random.bounded(document.characterCount());
+        const QTextFrame *frame = cursor.currentFrame();
         if (document.characterAt(to).isLowSurrogate())
             return;
         cursor.setPosition(to, QTextCursor::KeepAnchor);
+        if (cursor.currentFrame() != frame || cursor.hasComplexSelection())
+            return;
         const QString before = document.toRawText();
         document.insertSource(cursor, document.source(cursor));
         QCOMPARE(document.toRawText(), before);
@@ -557,6 +562,17 @@ void TestTemplateDocument::selectionsBecomeSource_data()
     QTest::newRow("one chip") << u"<p>a<script>x</script></p>"_s << 1 << 2 << u"<script>x</script>"_s;
     QTest::newRow("lines") << u"<p>a[A]</p><p>[B]c</p>"_s << 1 << 4 << u"<p>[A]</p>\n<p>[B]</p>"_s;
     QTest::newRow("nothing") << u"<p>a[A]</p>"_s << 1 << 1 << QString();
+    QTest::newRow("break by itself") << u"<p>a</p><br><p>b</p>"_s << 0 << 4
+                                     << u"<p>a</p>\n<div><span><br/></span></div>\n<p><br/></p>"_s;
+    QTest::newRow("whole item into a paragraph")
+        << u"<p>x</p><ul><li>ab</li></ul><p>xy</p>"_s << 2 << 6 << u"<ul>\n<li>ab</li>\n</ul>\n<p>x</p>"_s;
+    QTest::newRow("item behind a table")
+        << u"<table><tr><td>a</td></tr></table><ul><li>b</li><li>c</li></ul>"_s << 3 << 5
+        << u"<ul>\n<li>b</li>\n<li></li>\n</ul>"_s;
+    QTest::newRow("table into the line behind it")
+        << u"<h2>a</h2><table><tr><td>b</td></tr></table><p>c</p>"_s << 1 << 4
+        << u"<table border=\"0\" cellspacing=\"2\" cellpadding=\"0\">\n<tr><td>b</td></tr>\n"
+           "</table>\n<p><br/></p>"_s;
     QTest::newRow("from a list into a paragraph")
         << u"<ul><li>ab</li></ul><p>xy</p>"_s << 2 << 3 << u"<p><br/></p>\n<p><br/></p>"_s;
     QTest::newRow("from a list into a rule")

@@ -1,5 +1,6 @@
 #include "templates/document/SelectedSource.h"
 
+#include "templates/document/TemplateChip.h"
 #include "templates/document/TemplateSourceWriter.h"
 #include "templates/instructions/InstructionTree.h"
 
@@ -8,6 +9,7 @@
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 #include <QTextList>
+#include <QTextTable>
 
 using namespace Qt::StringLiterals;
 
@@ -25,6 +27,23 @@ QString readableByItself(const QString &line, bool keepsBlanks)
     if (!keepsBlanks && !isBlank)
         return isHtml ? line : "<span>"_L1 + line + "</span>"_L1;
     return "<span style=\"white-space:pre-wrap\">"_L1 + line + "</span>"_L1;
+}
+
+/// Gives the last line of @p part, which stands behind a table and would not be written, the looks of @p line.
+void finishBehindTable(QTextDocument &part, const QTextBlock &line)
+{
+    QTextCursor last(part.lastBlock());
+    const QTextBlock before = last.block().previous();
+    const bool isBehindTable = before.isValid() && QTextCursor(before).currentTable();
+    // The line behind a table at the end of a document is there for nothing else.
+    if (!isBehindTable || last.block().length() > 1 || line.length() <= 1)
+        return;
+    QTextBlockFormat format = line.blockFormat();
+    format.setObjectIndex(-1);
+    format.setProperty(kWrittenLine, true);
+    last.setBlockFormat(format);
+    if (const QTextList *list = line.textList())
+        last.createList(list->format());
 }
 
 /// The text of @p line that is in @p selection, with its formats.
@@ -47,7 +66,9 @@ void removeEmptyLine(QTextCursor &line)
     const QTextBlock next = line.block().next();
     const QTextBlockFormat format = next.blockFormat();
     QTextList *list = next.textList();
-    line.deleteChar();
+    // As a selection: the end of a line that comes from behind a table cannot be deleted as a character.
+    line.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
+    line.removeSelectedText();
     line.setBlockFormat(format);
     if (list)
         list->add(line.block());
@@ -71,6 +92,7 @@ QString selectedSource(const QTextCursor &selection)
         const QTextList *list = part.begin().textList();
         format.setObjectIndex(list ? part.begin().blockFormat().objectIndex() : -1);
         QTextCursor(&part).setBlockFormat(format);
+        finishBehindTable(part, selection.document()->findBlock(selection.selectionEnd()));
         return writeSource(part).text;
     }
     copyText(first, selection, cursor);

@@ -1,9 +1,9 @@
 #include <ozm_widgets/TemplateDocument.h>
 
 #include "templates/document/InlineHtml.h"
+#include "templates/document/InsertedLines.h"
 #include "templates/document/KeptSource.h"
 #include "templates/document/LetterSizes.h"
-#include "templates/document/LineStyle.h"
 #include "templates/document/ParagraphClass.h"
 #include "templates/document/SelectedSource.h"
 #include "templates/document/TemplateChip.h"
@@ -16,13 +16,11 @@
 #include <QAbstractTextDocumentLayout>
 #include <QDeadlineTimer>
 #include <QImage>
-#include <QPointer>
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextCursor>
-#include <QTextDocumentFragment>
 #include <QTextFrame>
-#include <QTextList>
+#include <QTextTable>
 #include <QUrl>
 
 #include <algorithm>
@@ -248,6 +246,12 @@ void replaceMarkers(QTextDocument &document, const QList<Marker> &markers, const
     edit.endEditBlock();
 }
 
+bool isSameCell(const QTextFrame *frame, const QTextBlock &a, const QTextBlock &b)
+{
+    const auto *table = qobject_cast<const QTextTable *>(frame);
+    return !table || table->cellAt(a.position()) == table->cellAt(b.position());
+}
+
 void collectLinesAfterTables(QTextFrame *frame, QList<QTextCursor> &lines)
 {
     for (auto at = frame->begin(); at != frame->end();) {
@@ -258,7 +262,8 @@ void collectLinesAfterTables(QTextFrame *frame, QList<QTextCursor> &lines)
         collectLinesAfterTables(child, lines);
         auto next = at;
         ++next;
-        if (at.currentBlock().isValid() && at.currentBlock().length() <= 1 && next.currentBlock().isValid())
+        if (at.currentBlock().isValid() && at.currentBlock().length() <= 1 && next.currentBlock().isValid() &&
+            isSameCell(frame, at.currentBlock(), next.currentBlock()))
             lines.append(QTextCursor(at.currentBlock()));
     }
 }
@@ -354,28 +359,6 @@ private:
     QTextDocument &m_document;
     const QSizeF m_pageSize;
 };
-
-/// Makes the items between @p first and @p last, which came into @p list as one of the same kind, items of it.
-void joinList(QTextList *list, const QTextBlock &first, const QTextBlock &last)
-{
-    for (QTextBlock block = first; list && block.isValid() && block.position() <= last.position();
-         block = block.next()) {
-        const QTextList *own = block.textList();
-        if (own && own != list && own->format().style() == list->format().style() &&
-            own->format().indent() == list->format().indent())
-            list->add(block);
-    }
-}
-
-/// True where nothing says which kind of line @p line is.
-bool isPartOfLine(const QTextBlock &line)
-{
-    const QTextBlockFormat format = line.blockFormat();
-    return !line.textList() && format.headingLevel() == 0 && format.topMargin() == 0 &&
-           format.bottomMargin() == 0 && editor::paragraphClass(line).isEmpty() &&
-           std::ranges::all_of(editor::blockDeclarations(line, {}),
-                               [](const QString &each) { return each.startsWith("white-space"_L1); });
-}
 
 QImage missingImage()
 {
@@ -499,23 +482,7 @@ void TemplateDocument::insertSource(QTextCursor &cursor, const QString &source)
         QTextDocument parsed;
         read(parsed, source);
         cursor.removeSelectedText();
-        const QTextBlockFormat line = cursor.blockFormat();
-        const bool isEmptyLine = cursor.block().length() <= 1;
-        const int start = cursor.position();
-        // The list goes when its last item does.
-        const QPointer<QTextList> list(cursor.currentList());
-        cursor.insertFragment(QTextDocumentFragment(&parsed));
-        joinList(list, findBlock(start), cursor.block());
-        const QTextBlockFormat first = parsed.begin().blockFormat();
-        const bool isOneLine = parsed.blockCount() == 1 && parsed.begin().length() > 1;
-        // A fragment leaves an empty line that it comes into as it is, and none of a rule.
-        if (isEmptyLine && parsed.begin().length() <= 1 &&
-            (first.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth) ||
-             first.hasProperty(editor::kWrittenLine)))
-            QTextCursor(findBlock(start)).setBlockFormat(first);
-        // A part of a line has no looks of a line, but would take those of the line that it comes into the beginning of.
-        else if (isOneLine && (!isEmptyLine || isPartOfLine(parsed.begin())))
-            QTextCursor(findBlock(start)).setBlockFormat(line);
+        editor::insertLines(cursor, parsed);
     } else {
         cursor.insertText(QString(QChar::ObjectReplacementCharacter), editor::chipFormat(part, around));
     }

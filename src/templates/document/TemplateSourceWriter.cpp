@@ -280,12 +280,16 @@ private:
         beginLine(block);
         add(u'<' + tag + classAttribute(paragraphClass(block)) + styleAttribute(css) + u'>');
         beginInner();
-        if (empty)
-            add(u"<br/>"_s);
+        // A break by itself would be read as an empty line.
+        const bool isBreak = block.text() == QChar::LineSeparator;
+        if (empty || isBreak)
+            add(isBreak ? u"<span>"_s : u"<br/>"_s);
         QTextCharFormat base = around.text;
         if (level > 0)
             base.merge(defaults.text);
         writeText(block, base);
+        if (isBreak)
+            add(u"</span>"_s);
         endInner();
         add("</"_L1 + tag + ">\n"_L1);
         m_out.lines.last().end = m_out.text.size();
