@@ -95,9 +95,11 @@ QString itemToString(const QVariant &value, int decimals)
         return itemsToString(value.value<VariantItems>().toList(), decimals);
     if (value.typeId() == QMetaType::QVariantList || value.typeId() == QMetaType::QStringList)
         return itemsToString(value.toList(), decimals);
+    if (decimals == kAsIs)
+        return value.toString();
     bool isNumber = false;
     const double number = value.toDouble(&isNumber);
-    return decimals != kAsIs && isNumber ? QString::number(number, 'f', decimals) : value.toString();
+    return isNumber ? QString::number(number, 'f', decimals) : value.toString();
 }
 
 QString itemsToString(const QVariantList &items, int decimals)

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -33,29 +34,30 @@ void appendItems(QVariantList &all, const QVariant &value)
     }
 }
 
-/// The values of a column below @p group, lists taken apart; what reads as nothing is left out.
-QVariantList valuesBelow(const RowNode &group, int column, const Description &description)
+/// The values of a column below a group, lists taken apart; what reads as nothing is left out.
+struct ValuesBelow
 {
-    QVariantList all;
-    for (int index = 0; index < group.childCount(); ++index)
-        appendItems(all, group.child(index)->getDataAt(column));
-    all.removeIf([&](const QVariant &value) { return description.valueToString(value).isEmpty(); });
-    return all;
-}
-
-/// Those that read differently, the first of each.
-QVariantList differentValues(const QVariantList &all, const Description &description)
-{
-    QVariantList different;
-    QSet<QString> seen;
-    for (const QVariant &value : all) {
-        const qsizetype known = seen.size();
-        seen.insert(description.valueToString(value));
-        if (seen.size() > known)
-            different.append(value);
+    ValuesBelow(const RowNode &group, int column, const Description &description)
+    {
+        QVariantList items;
+        for (int index = 0; index < group.childCount(); ++index)
+            appendItems(items, group.child(index)->getDataAt(column));
+        QSet<QString> seen;
+        for (const QVariant &value : std::as_const(items)) {
+            const QString text = description.valueToString(value);
+            if (text.isEmpty())
+                continue;
+            all.append(value);
+            const qsizetype known = seen.size();
+            seen.insert(text);
+            if (seen.size() > known)
+                different.append(value);
+        }
     }
-    return different;
-}
+
+    QVariantList all;
+    QVariantList different; ///< Those that read differently, the first of each.
+};
 
 std::optional<std::vector<double>> numbers(const QVariantList &values)
 {
@@ -97,9 +99,9 @@ QVariant range(const QVariantList &values, const std::vector<double> &all, const
     return (*least == *most ? first : first + u" – "_s + last) + behind;
 }
 
-QVariant summaryOf(const QVariantList &all, const Description &description)
+QVariant summaryOf(const ValuesBelow &values, const Description &description)
 {
-    const QVariantList different = differentValues(all, description);
+    const auto &[all, different] = values;
     if (description.summary == Summary::Count)
         return different.isEmpty() ? QVariant() : QVariant(different.size());
     if (different.isEmpty())
@@ -142,7 +144,7 @@ void GroupSummary::update(RowNode *root) const
             continue;
         for (auto column = m_columns.cbegin(); column != m_columns.cend(); ++column) {
             if (const int index = group->columnIndex(column.key()); index >= 0)
-                group->setDataAt(index, summaryOf(valuesBelow(*group, index, *column), *column));
+                group->setDataAt(index, summaryOf({*group, index, *column}, *column));
         }
     }
 }
