@@ -6,6 +6,7 @@
 
 #include <ozm_widgets/OZMStyle.h>
 #include <ozm_widgets/OzmCoreApplication.h>
+#include <ozm_widgets/ReportView.h>
 
 #include <QAction>
 #include <QApplication>
@@ -21,6 +22,8 @@
 #include <QTimer>
 #include <QTreeView>
 #include <QtTest>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using namespace workbench;
@@ -59,6 +62,15 @@ struct Gallery
     void take(QWidget &window, const QString &name) const
     {
         QTest::qWait(500);
+        // Their pages are laid out in another thread.
+        const auto pages = window.findChildren<ozm::ReportView *>();
+        const bool isShown = QTest::qWaitFor([&pages] {
+            return std::ranges::none_of(pages, [](const ozm::ReportView *each) {
+                return each->isVisible() && each->pageCount() == 0;
+            });
+        });
+        if (!isShown)
+            qWarning() << name << "was taken without its preview";
         // Small, as one of them is in the documentation.
         const QImage picture = window.grab().toImage().convertToFormat(QImage::Format_RGB888);
         picture.save(folder + u'/' + name + suffix + u".png"_s, "PNG", 0);
