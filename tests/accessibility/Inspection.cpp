@@ -19,6 +19,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QShortcut>
+#include <QStatusBar>
 #include <QTabBar>
 #include <QTableView>
 #include <QToolBar>
@@ -339,6 +340,22 @@ int spareRoom(const QWidget &widget)
     return 0;
 }
 
+/// Texts that stand beside each other without a gap that grows with their letters read as one.
+void inspectStatus(const QWidget &window, QStringList &findings)
+{
+    for (const auto *bar : window.findChildren<QStatusBar *>()) {
+        const auto texts = bar->findChildren<QLabel *>(Qt::FindDirectChildrenOnly);
+        for (const QLabel *one : texts)
+            for (const QLabel *other : texts) {
+                const int gap = other->geometry().left() + other->contentsRect().left() -
+                                one->geometry().left() - one->contentsRect().right();
+                const bool isBehind = other->x() > one->x() && one->isVisible() && other->isVisible();
+                if (isBehind && gap < one->fontMetrics().horizontalAdvance(u"xx"_s))
+                    findings += u"%1 stands too close to %2"_s.arg(told(*one), told(*other));
+            }
+    }
+}
+
 void inspectRoom(const QWidget &window, QStringList &findings)
 {
     for (const auto *widget : window.findChildren<QWidget *>()) {
@@ -377,6 +394,7 @@ Inspection inspect(QWidget &window)
     inspectHeaders(window, found.findings);
     inspectPixels(window, found);
     inspectRoom(window, found.findings);
+    inspectStatus(window, found.findings);
     found.findings.removeDuplicates();
     return found;
 }

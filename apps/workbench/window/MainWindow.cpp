@@ -55,6 +55,33 @@ constexpr int kDetailsWidth = 240;
 constexpr int kLeastTableWidth = 240;
 constexpr int kStatusMs = 15000;
 
+/// A text of the status bar. The toolkit leaves the same few pixels between such texts, however large letters are.
+class StatusText : public QLabel
+{
+public:
+    StatusText(const QString &name, const QString &text, QWidget *parent)
+        : QLabel(text, parent)
+    {
+        setObjectName(name);
+        keepApart();
+    }
+
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        QLabel::changeEvent(event);
+        if (event->type() == QEvent::FontChange)
+            keepApart();
+    }
+
+private:
+    void keepApart()
+    {
+        const int room = fontMetrics().horizontalAdvance(u'x');
+        setContentsMargins(room, 0, room, 0);
+    }
+};
+
 QLabel *emptyPage(QWidget *parent)
 {
     auto *page = new QLabel(
@@ -189,10 +216,9 @@ void MainWindow::selectSample(const QString &subjectKey)
 
 void MainWindow::createStatusBar(const QString &trailPath)
 {
-    m_count = new QLabel(this);
-    m_count->setObjectName(u"sampleCount"_s);
-    auto *trail = new QLabel(tr("Recorded in %1").arg(QFileInfo(trailPath).fileName()), this);
-    trail->setObjectName(u"trailFile"_s);
+    m_count = new StatusText(u"sampleCount"_s, {}, this);
+    auto *trail =
+        new StatusText(u"trailFile"_s, tr("Recorded in %1").arg(QFileInfo(trailPath).fileName()), this);
     trail->setToolTip(QDir::toNativeSeparators(trailPath));
     statusBar()->setObjectName(u"statusBar"_s);
     statusBar()->addPermanentWidget(m_import->progress());
