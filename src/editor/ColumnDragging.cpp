@@ -104,6 +104,12 @@ bool ColumnDragging::begin(const QPoint &point)
     m_column = border->column;
     m_x = m_edges.at.at(m_column);
     m_grip = place.x() - m_x;
+    const auto leastOf = [this](int column) {
+        const double least = std::max(kLeastColumn, leastColumnWidth(*m_table, column));
+        return m_edges.between + std::min(least, m_edges.width(column));
+    };
+    m_leastX = m_edges.at.at(m_column - 1) + leastOf(m_column - 1);
+    m_mostX = std::max(m_leastX, m_edges.at.at(m_column + 1) - leastOf(m_column));
     m_view->setFocus();
     showLine(point);
     return true;
@@ -111,13 +117,7 @@ bool ColumnDragging::begin(const QPoint &point)
 
 void ColumnDragging::showLine(const QPoint &point)
 {
-    const auto leastOf = [this](int column) {
-        const double least = std::max(kLeastColumn, m_edges.least.at(column));
-        return m_edges.between + std::min(least, m_edges.width(column));
-    };
-    const double least = m_edges.at.at(m_column - 1) + leastOf(m_column - 1);
-    const double most = m_edges.at.at(m_column + 1) - leastOf(m_column);
-    m_x = std::clamp(toDocument(point).x() - m_grip, least, std::max(least, most));
+    m_x = std::clamp(toDocument(point).x() - m_grip, m_leastX, m_mostX);
     const QAbstractTextDocumentLayout &layout = *m_view->document()->documentLayout();
     const double top = layout.blockBoundingRect(m_table->firstCursorPosition().block()).top();
     const QPoint start = toView({m_x, top});

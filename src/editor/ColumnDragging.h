@@ -41,6 +41,8 @@ private:
     ColumnEdges m_edges;
     double m_grip = 0; ///< From the border to the mouse, where it was pressed.
     double m_x = 0;    ///< Of the border, in the document.
+    double m_leastX = 0;
+    double m_mostX = 0;
     bool m_isAtBorder = false;
 };
 

@@ -141,28 +141,12 @@ double leastWidthOf(const QTextDocument &document, QTextFrame::iterator begin, Q
     return least;
 }
 
-/// Of all that stands in the cells of @p column.
-double leastContentOf(const QTextTable &table, int column)
-{
-    double least = 0;
-    for (int row = 0; row < table.rows(); ++row) {
-        const QTextTableCell cell = table.cellAt(row, column);
-        const double padding = paddingOf(table, cell, QTextFormat::TableCellLeftPadding) +
-                               paddingOf(table, cell, QTextFormat::TableCellRightPadding) +
-                               2 * collapsedBorderOf(table, cell);
-        if (cell.columnSpan() == 1)
-            least = std::max(least, leastWidthOf(*table.document(), cell.begin(), cell.end()) +
-                                        padding * unitOf(*table.document()));
-    }
-    return least;
-}
-
 double leastWidthOf(const QTextTable &table, int column)
 {
     const QTextLength length = table.format().columnWidthConstraints().value(column);
     const bool isFixed = length.type() == QTextLength::FixedLength;
     return std::max(isFixed ? length.rawValue() * unitOf(*table.document()) : 0,
-                    leastContentOf(table, column));
+                    leastColumnWidth(table, column));
 }
 
 bool hasPlainRow(const QTextTable &table, int row)
@@ -214,15 +198,28 @@ ColumnEdges columnEdges(const QTextTable &table)
     for (int row = 0; row < table.rows(); ++row) {
         if (!hasPlainRow(table, row))
             continue;
-        ColumnEdges edges{{}, {}, betweenOf(table), std::max(1.0, wholeOf(table))};
-        for (int column = 0; column < table.columns(); ++column) {
+        ColumnEdges edges{{}, betweenOf(table), std::max(1.0, wholeOf(table))};
+        for (int column = 0; column < table.columns(); ++column)
             edges.at.append(edgeOf(table, table.cellAt(row, column)));
-            edges.least.append(leastContentOf(table, column));
-        }
         edges.at.append(edges.at.constFirst() + widthOf(table) - outsideOf(table));
         return std::ranges::is_sorted(edges.at) ? edges : ColumnEdges();
     }
     return {};
+}
+
+double leastColumnWidth(const QTextTable &table, int column)
+{
+    double least = 0;
+    for (int row = 0; row < table.rows(); ++row) {
+        const QTextTableCell cell = table.cellAt(row, column);
+        const double padding = paddingOf(table, cell, QTextFormat::TableCellLeftPadding) +
+                               paddingOf(table, cell, QTextFormat::TableCellRightPadding) +
+                               2 * collapsedBorderOf(table, cell);
+        if (cell.columnSpan() == 1)
+            least = std::max(least, leastWidthOf(*table.document(), cell.begin(), cell.end()) +
+                                        padding * unitOf(*table.document()));
+    }
+    return least;
 }
 
 QList<QTextLength> columnLengths(const QTextTable &table, const ColumnEdges &edges)

@@ -26,10 +26,9 @@ struct ColumnBorder
 /// The columns of a table as they are laid out.
 struct ColumnEdges
 {
-    QList<double> at;    ///< From left to right, in the document: one more than there are columns.
-    QList<double> least; ///< The widths of the columns below which their texts keep them from going.
-    double between = 0;  ///< Borders and spacing of each column, which its width does not count.
-    double whole = 0;    ///< The width that shares are taken from.
+    QList<double> at;   ///< From left to right, in the document: one more than there are columns.
+    double between = 0; ///< Borders and spacing of each column, which its width does not count.
+    double whole = 0;   ///< The width that shares are taken from.
 
     [[nodiscard]] bool isEmpty() const { return at.isEmpty(); }
     [[nodiscard]] double width(qsizetype column) const { return at.at(column + 1) - at.at(column) - between; }
@@ -39,6 +38,9 @@ struct ColumnEdges
 
 /// Empty for a table in which each row has cells that span columns.
 [[nodiscard]] ColumnEdges columnEdges(const QTextTable &table);
+
+/// The width below which the texts in @p column keep it from going.
+[[nodiscard]] double leastColumnWidth(const QTextTable &table, int column);
 
 /// The widths that all columns are laid out with, each in its unit; as a share of the table or of its place where it has
 /// none.
