@@ -121,7 +121,8 @@ void ColumnDragging::showLine(const QPoint &point)
     const QAbstractTextDocumentLayout &layout = *m_view->document()->documentLayout();
     const double top = layout.blockBoundingRect(m_table->firstCursorPosition().block()).top();
     const QPoint start = toView({m_x, top});
-    const int height = int(layout.frameBoundingRect(m_table).height());
+    const double spaces = m_table->format().topMargin() + m_table->format().bottomMargin();
+    const int height = int(layout.frameBoundingRect(m_table).height() - spaces);
     m_line->setGeometry(QRect(start.x() - kLineWidth / 2, start.y(), kLineWidth, height)
                             .intersected(m_view->viewport()->rect()));
     m_line->show();

@@ -3,6 +3,7 @@
 #include "editor/ColumnWidthDialog.h"
 #include "editor/ColumnWidths.h"
 #include "editor/RichTextView.h"
+#include "templates/document/TableSpaces.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -163,6 +164,7 @@ void TableEditing::insert(int rows, int columns, bool hasHeading)
     QTextTable *table = insertTableAt(cursor, rows, columns, format);
     if (hasHeading)
         showAsHeading(*table, 0, true);
+    spaceTables(*m_view->document());
     cursor.endEditBlock();
     m_view->setTextCursor(table->cellAt(0, 0).firstCursorPosition());
 }

@@ -3,6 +3,7 @@
 #include "editor/RichTextView.h"
 #include "templates/document/LineStyle.h"
 #include "templates/document/ParagraphClass.h"
+#include "templates/document/TableSpaces.h"
 #include "templates/document/TemplateChip.h"
 
 #include <QColorDialog>
@@ -287,6 +288,7 @@ void TextFormatting::setParagraph(int level, const QString &className)
     cursor.mergeBlockFormat(block);
     if (level > 0 || before > 0)
         mergeLook(cursor, level);
+    spaceTables(*m_view->document());
     cursor.endEditBlock();
     showChoices();
     m_view->setFocus();

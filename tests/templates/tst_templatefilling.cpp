@@ -361,6 +361,13 @@ private Q_SLOTS:
         QTest::newRow("row higher than a page")
             << u"<table><tr><td>%1end</td></tr></table>"_s.arg(u"l<br/>"_s.repeated(40))
             << QStringList{u"l l"_s, u"l l"_s, u"l end"_s};
+        QTest::newRow("space above a table")
+            << u"<p style=\"margin-bottom:900px\">l</p><table><tr><td>end</td></tr></table>"_s
+            << QStringList{u"l l"_s, u"end end"_s};
+        QTest::newRow("table with a space of its own")
+            << u"<p>l</p><table style=\"margin-top:200px\">%1</table>"_s.arg(
+                   u"<tr><td>r</td></tr>"_s.repeated(11))
+            << QStringList{u"l r"_s, u"r r"_s};
         QTest::newRow("few lines") << lines + u"<p>1<br/>2<br/>3</p>"_s << QStringList{u"l l"_s, u"1 3"_s};
         const QString contents = u"<p><!--ozm:contents levels=\"2\" title=\"C\"--></p>"_s;
         QTest::newRow("contents") << contents + u"<h1 style=\"page-break-before:always\">H</h1><h3>x</h3>"

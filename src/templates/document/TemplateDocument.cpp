@@ -6,6 +6,7 @@
 #include "templates/document/LetterSizes.h"
 #include "templates/document/ParagraphClass.h"
 #include "templates/document/SelectedSource.h"
+#include "templates/document/TableSpaces.h"
 #include "templates/document/TemplateChip.h"
 #include "templates/document/TemplateParts.h"
 #include "templates/document/TemplateSourceWriter.h"
@@ -283,6 +284,7 @@ void readHtml(QTextDocument &document, const QString &html)
     if (html.contains(u"font"_s))
         editor::sizeLettersInPoints(document);
     removeLinesAfterTables(document);
+    editor::spaceTables(document);
 }
 
 /// Reads the HTML of @p split, and finds its markers.
@@ -483,6 +485,7 @@ void TemplateDocument::insertSource(QTextCursor &cursor, const QString &source)
         read(parsed, source);
         cursor.removeSelectedText();
         editor::insertLines(cursor, parsed);
+        editor::spaceTables(*this);
     } else {
         cursor.insertText(QString(QChar::ObjectReplacementCharacter), editor::chipFormat(part, around));
     }

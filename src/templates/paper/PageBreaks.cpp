@@ -178,7 +178,7 @@ private:
     Slice collectFrame(QTextFrame &frame)
     {
         const QTextFormat::PageBreakFlags breaks = frame.frameFormat().pageBreakPolicy();
-        const QRectF rect = m_layout.frameBoundingRect(&frame);
+        const QRectF rect = rectOf(frame);
         Slice first{rect.top(), rect.bottom()};
         if (auto *table = qobject_cast<QTextTable *>(&frame))
             first = collectTable(*table, rect.height());
@@ -189,6 +189,16 @@ private:
         if (breaks & QTextFormat::PageBreak_AlwaysAfter)
             m_breaksNext = true;
         return first;
+    }
+
+    /// The layout counts the spaces around a table to its height, but gives it the place of its first row.
+    [[nodiscard]] QRectF rectOf(QTextFrame &frame) const
+    {
+        QRectF rect = m_layout.frameBoundingRect(&frame);
+        const QTextFrameFormat format = frame.frameFormat();
+        if (qobject_cast<QTextTable *>(&frame))
+            rect.setHeight(rect.height() - (format.topMargin() + format.bottomMargin()) * m_unit);
+        return rect;
     }
 
     Slice collectTable(QTextTable &table, double height)
@@ -258,7 +268,7 @@ private:
         for (auto at = cell.begin(); at != cell.end(); ++at) {
             if (!at.currentFrame())
                 continue;
-            const QRectF inner = m_layout.frameBoundingRect(at.currentFrame());
+            const QRectF inner = rectOf(*at.currentFrame());
             held = {std::min(held.top, inner.top()), std::max(held.bottom, inner.bottom())};
         }
         return {held.top - padding(QTextFormat::TableCellTopPadding, format.topPadding()),

@@ -1,6 +1,7 @@
 #include "templates/paper/PaperLayout.h"
 
 #include "templates/document/LetterSizes.h"
+#include "templates/document/TableSpaces.h"
 #include "templates/instructions/InstructionTree.h"
 #include "templates/syntax/ScriptTags.h"
 
@@ -85,6 +86,7 @@ PaperLayout::PaperLayout(const QString &decoded, const ReportPaperOptions &optio
     if (asksForContents(text) && TemplateDocument::isHtml(text))
         m_contents.emplace(text, *m_document);
     editor::sizeLettersInPoints(*m_document);
+    editor::spaceTables(*m_document);
 }
 
 PaperLayout::~PaperLayout() = default;
