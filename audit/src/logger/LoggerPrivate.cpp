@@ -124,7 +124,7 @@ void Logger::Private::addRecords(QList<PendingRecord> &records, const std::optio
     own.parent = parent;
     own.outcome = outcome;
     own.reason = reason;
-    records.append(own);
+    records.append(std::move(own));
     const qsizetype index = records.size() - 1;
     for (const OperationLogItemData &data : content->details) {
         records.append(recordOf(Kind::Command, data, content->context));
@@ -139,21 +139,31 @@ Result<QList<Logger::Private::Stored>> Logger::Private::store(QList<PendingRecor
     // Late entries, and facts about the session, go in front.
     QList<PendingRecord> before = overdueMarks;
     addClockJump(before);
-    for (PendingRecord &record : records) {
-        if (record.below >= 0)
-            record.below += before.size();
+    const qsizetype ahead = before.size();
+    if (ahead > 0) {
+        for (PendingRecord &record : records) {
+            if (record.below >= 0)
+                record.below += ahead;
+        }
+        records = before + std::move(records);
     }
-    const QList<PendingRecord> all = before + records;
+    const qsizetype count = records.size();
     QList<Stored> stored;
+    stored.reserve(count - ahead);
+    for (qsizetype i = ahead; i < count; ++i)
+        stored.append({0, records.at(i).timeMs});
+    const auto numberFrom = [&stored](qint64 first, qint64 step) {
+        for (Stored &each : stored)
+            each.id = std::exchange(first, first + step);
+    };
     if (queue) {
-        const auto ticket = queue->push(all);
+        const auto ticket = queue->push(std::move(records));
         if (!ticket)
             return ticket.error();
-        for (qsizetype i = before.size(); i < all.size(); ++i)
-            stored.append({-(ticket.value() + i), all.at(i).timeMs});
+        numberFrom(-(ticket.value() + ahead), -1);
     } else {
         QList<Draft> drafts;
-        for (const PendingRecord &record : all) {
+        for (const PendingRecord &record : std::as_const(records)) {
             drafts.append(facts.draftOf(record));
             if (record.below >= 0)
                 drafts.last().parent = Draft::below(record.below);
@@ -164,10 +174,9 @@ Result<QList<Logger::Private::Stored>> Logger::Private::store(QList<PendingRecor
         error = number ? Error() : number.error();
         if (!number)
             return number.error();
-        for (qsizetype i = before.size(); i < all.size(); ++i)
-            stored.append({number.value() + i, all.at(i).timeMs});
-        serial += all.size();
-        written(number.value() + all.size() - 1);
+        numberFrom(number.value() + ahead, 1);
+        serial += count;
+        written(number.value() + count - 1);
     }
     overdueMarks.clear();
     return stored;
@@ -179,9 +188,9 @@ Error Logger::Private::storeOne(const PendingRecord &record)
     return stored ? Error() : stored.error();
 }
 
-Logger::Private::Stored Logger::Private::storeFirst(const QList<PendingRecord> &records)
+Logger::Private::Stored Logger::Private::storeFirst(QList<PendingRecord> records)
 {
-    const auto stored = store(records);
+    const auto stored = store(std::move(records));
     return !stored || stored.value().isEmpty() ? Stored() : stored.value().constFirst();
 }
 
@@ -227,7 +236,7 @@ Logger::Private::Stored Logger::Private::recordStep(const Step &step, qint64 par
     // Not foreseen, or it went otherwise than foreseen: that is recorded now.
     QList<PendingRecord> records;
     addRecords(records, contentOf(step), parent, outcome);
-    return storeFirst(records);
+    return storeFirst(std::move(records));
 }
 
 Logger::Private::Item Logger::Private::itemOf(const Stored &stored, const Item &parent,

@@ -52,7 +52,7 @@ public:
     /// Ids of the records, or an error and nothing stored.
     [[nodiscard]] Result<QList<Stored>> store(QList<PendingRecord> records);
     [[nodiscard]] Error storeOne(const PendingRecord &record);
-    [[nodiscard]] Stored storeFirst(const QList<PendingRecord> &records);
+    [[nodiscard]] Stored storeFirst(QList<PendingRecord> records);
     [[nodiscard]] Error storePrepared(const QList<PendingRecord> &records, const QList<Step> &steps);
     [[nodiscard]] std::optional<Stored> takePrepared(const Step &step);
     [[nodiscard]] Stored recordStep(const Step &step, qint64 parent);

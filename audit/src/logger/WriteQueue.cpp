@@ -11,7 +11,7 @@ namespace ozm::audit {
 namespace {
 
 // So many entries in a commit cost little more than one, and make nobody wait long.
-constexpr std::size_t kGroup = 512;
+constexpr qsizetype kGroup = 512;
 constexpr std::chrono::milliseconds kRetry{200};
 
 } // namespace
@@ -33,8 +33,8 @@ WriteQueue::~WriteQueue()
         m_work.notify_all();
     }
     m_thread.join();
-    if (!m_waiting.empty()) {
-        qCWarning(lcAudit).noquote() << m_waiting.size()
+    if (outstandingLocked() > 0) {
+        qCWarning(lcAudit).noquote() << outstandingLocked()
                                      << "audit records are lost:" << m_error.errorMessage();
     }
 }
@@ -42,7 +42,7 @@ WriteQueue::~WriteQueue()
 Result<qint64> WriteQueue::push(QList<PendingRecord> records)
 {
     std::unique_lock lock(m_mutex);
-    m_progress.wait(lock, [this] { return m_error.hasError() || qsizetype(m_waiting.size()) < m_length; });
+    m_progress.wait(lock, [this] { return m_error.hasError() || outstandingLocked() < m_length; });
     if (m_error.hasError())
         return m_error;
     const qint64 first = m_handedOver + 1;
@@ -105,16 +105,20 @@ void WriteQueue::write()
 {
     std::unique_lock lock(m_mutex);
     while (true) {
-        m_work.wait(lock, [this] { return !m_waiting.empty() || m_ending; });
-        if (m_waiting.empty())
+        if (m_taken.empty()) {
+            m_work.wait(lock, [this] { return !m_waiting.empty() || m_ending; });
+            m_taken.swap(m_waiting);
+        }
+        if (m_taken.empty())
             return;
-        const QList<Draft> group = nextGroup(m_watermark + 1);
         lock.unlock();
+        const QList<Draft> group = nextGroup();
         const auto number = m_store.append(group);
         lock.lock();
         settleGroup(number, group.size());
         if (number) {
             lock.unlock();
+            m_taken.erase(m_taken.begin(), m_taken.begin() + group.size());
             m_written(number.value() + group.size() - 1);
             lock.lock();
         } else if (m_ending) {
@@ -125,22 +129,17 @@ void WriteQueue::write()
     }
 }
 
-QList<Draft> WriteQueue::nextGroup(qint64 firstTicket) const
+QList<Draft> WriteQueue::nextGroup() const
 {
-    // The elements stay in place while others are added behind them, so their JSON is written without the
-    // lock.
-    std::vector<const Waiting *> front;
-    for (std::size_t i = 0; i < std::min(kGroup, m_waiting.size()); ++i)
-        front.push_back(&m_waiting[i]);
+    // Nobody else changes it.
+    const qint64 firstTicket = m_watermark + 1;
+    const qsizetype count = std::min(kGroup, qsizetype(m_taken.size()));
     QList<Draft> group;
-    group.reserve(qsizetype(front.size()));
-    m_mutex.unlock();
-    for (const Waiting *waiting : front)
+    group.reserve(count);
+    for (auto waiting = m_taken.cbegin(); waiting != m_taken.cbegin() + count; ++waiting) {
         group.append(m_facts.draftOf(waiting->record));
-    m_mutex.lock();
-    auto waiting = front.cbegin();
-    for (Draft &draft : group)
-        draft.parent = parentOf(**waiting++, firstTicket);
+        group.last().parent = parentOf(*waiting, firstTicket);
+    }
     return group;
 }
 
@@ -162,7 +161,6 @@ void WriteQueue::settleGroup(const Result<qint64> &number, qsizetype count)
         else
             m_runs.append({ticket, number.value(), count});
         m_watermark += count;
-        m_waiting.erase(m_waiting.begin(), m_waiting.begin() + count);
     }
     m_progress.notify_all();
 }

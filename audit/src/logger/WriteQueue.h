@@ -53,10 +53,11 @@ private:
     };
 
     void write();
-    [[nodiscard]] QList<Draft> nextGroup(qint64 firstTicket) const;
+    [[nodiscard]] QList<Draft> nextGroup() const;
     [[nodiscard]] qint64 parentOf(const Waiting &waiting, qint64 firstTicket) const;
     [[nodiscard]] qint64 numberLocked(qint64 ticket) const;
     void settleGroup(const Result<qint64> &number, qsizetype count);
+    [[nodiscard]] qint64 outstandingLocked() const { return m_handedOver - m_watermark; }
 
     Store &m_store;
     const SessionFacts &m_facts;
@@ -67,11 +68,12 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_work;
     std::condition_variable m_progress;
-    // A deque keeps its elements in place: the writing thread reads those in front while others are added.
     std::deque<Waiting> m_waiting;
+    // The writing thread's own, so that nobody who pushes waits while it writes their JSON or frees them.
+    std::deque<Waiting> m_taken;
     qint64 m_handedOver = 0;
     qint64 m_watermark = 0;
-    QList<Run> m_runs;
+    QList<Run> m_runs; // The writing thread, which alone changes it, reads it without the lock.
     Error m_error;
     bool m_ending = false;
     std::thread m_thread;
