@@ -572,6 +572,8 @@ void TestTemplateDocument::selectionsBecomeSource_data()
                                      << u"<p>a</p>\n<div><span><br/></span></div>\n<p><br/></p>"_s;
     QTest::newRow("whole item into a paragraph")
         << u"<p>x</p><ul><li>ab</li></ul><p>xy</p>"_s << 2 << 6 << u"<ul>\n<li>ab</li>\n</ul>\n<p>x</p>"_s;
+    QTest::newRow("empty item and one more")
+        << u"<p>x</p><ul><li></li><li>b</li></ul>"_s << 2 << 4 << u"<ul>\n<li></li>\n<li>b</li>\n</ul>"_s;
     QTest::newRow("item behind a table")
         << u"<table><tr><td>a</td></tr></table><ul><li>b</li><li>c</li></ul>"_s << 3 << 5
         << u"<ul>\n<li>b</li>\n<li></li>\n</ul>"_s;

@@ -68,14 +68,18 @@ void joinLists(QTextBlock line, const QTextBlock &last, NextLine away, NextLine 
     }
 }
 
-/// Gives @p item the spaces that the reader gives it: only around the whole list.
+/// Gives @p item the spaces that the reader gives it: only around a list that is in no other.
 void spaceItem(const QTextBlock &item)
 {
-    if (!item.textList() || !paragraphClass(item).isEmpty())
+    const QTextList *list = item.textList();
+    if (!list || !paragraphClass(item).isEmpty())
         return;
+    const QTextBlockFormat usual =
+        list->format().indent() > 1 ? QTextBlockFormat() : paragraphDefaults().block;
+    const int number = list->itemNumber(item);
     QTextBlockFormat spaces;
-    spaces.setTopMargin(item.previous().textList() ? 0 : paragraphDefaults().block.topMargin());
-    spaces.setBottomMargin(item.next().textList() ? 0 : paragraphDefaults().block.bottomMargin());
+    spaces.setTopMargin(number == 0 ? usual.topMargin() : 0);
+    spaces.setBottomMargin(number + 1 == list->count() ? usual.bottomMargin() : 0);
     QTextCursor(item).mergeBlockFormat(spaces);
 }
 

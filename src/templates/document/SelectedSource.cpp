@@ -29,6 +29,16 @@ QString readableByItself(const QString &line, bool keepsBlanks)
     return "<span style=\"white-space:pre-wrap\">"_L1 + line + "</span>"_L1;
 }
 
+/// Makes the first line of @p part an item, as @p item is, of which it has no text.
+void beginItem(QTextDocument &part, const QTextBlock &item)
+{
+    QTextList *next = part.begin().next().textList();
+    if (next && item.next().textList() == item.textList())
+        next->add(part.begin());
+    else
+        QTextCursor(&part).createList(item.textList()->format());
+}
+
 /// Gives the last line of @p part, which stands behind a table and would not be written, the looks of @p line.
 void finishBehindTable(QTextDocument &part, const QTextBlock &line)
 {
@@ -92,6 +102,9 @@ QString selectedSource(const QTextCursor &selection)
         const QTextList *list = part.begin().textList();
         format.setObjectIndex(list ? part.begin().blockFormat().objectIndex() : -1);
         QTextCursor(&part).setBlockFormat(format);
+        const bool isItem = selection.selectionStart() == first.position() || first.next().textList();
+        if (!list && first.textList() && isItem)
+            beginItem(part, first);
         finishBehindTable(part, selection.document()->findBlock(selection.selectionEnd()));
         return writeSource(part).text;
     }
