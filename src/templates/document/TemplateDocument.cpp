@@ -274,8 +274,11 @@ void removeLinesAfterTables(QTextDocument &document)
 {
     QList<QTextCursor> lines;
     collectLinesAfterTables(document.rootFrame(), lines);
+    QTextCursor edit(&document);
+    edit.beginEditBlock();
     for (QTextCursor &line : lines)
         editor::removeEmptyLine(line);
+    edit.endEditBlock();
 }
 
 void readHtml(QTextDocument &document, const QString &html)

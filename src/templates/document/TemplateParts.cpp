@@ -26,12 +26,6 @@ namespace {
 // Elements around a line that are looked at; more of them would be no template that somebody wrote.
 constexpr qsizetype kDeepest = 30;
 
-template <typename Table>
-bool contains(const Table &table, const QString &name)
-{
-    return std::any_of(table.begin(), table.end(), [&](QLatin1StringView row) { return name == row; });
-}
-
 struct Range
 {
     qsizetype start;
@@ -128,8 +122,10 @@ private:
         }
         const bool opensEmptyLine = isEmptyLine();
         // The reader would leave out the mark in a line that the toolkit has written as empty.
-        m_result.html += opensEmptyLine ? text(token).toString().remove("-qt-paragraph-type:empty"_L1)
-                                        : text(token).toString();
+        if (opensEmptyLine)
+            m_result.html += text(token).toString().remove("-qt-paragraph-type:empty"_L1);
+        else
+            m_result.html += text(token);
         if (m_runIsOpen)
             m_result.runs.last().end = token.end;
         if (token.name == "hr"_L1 && opens)
@@ -146,7 +142,7 @@ private:
     // Ends the line that stands before.
     static bool isEdge(const HtmlToken &token)
     {
-        return contains(kBlockElements, token.name) ? token.name != "br"_L1 : token.name == "hr"_L1;
+        return isAmong(kBlockElements, token.name) ? token.name != "br"_L1 : token.name == "hr"_L1;
     }
 
     // The reader drops an item without text, and a cell without any has nothing to know it by.
@@ -187,7 +183,7 @@ private:
     qsizetype emptyElementEnd() const
     {
         const HtmlToken &token = m_tokens.at(m_index);
-        if (token.kind != HtmlTokenKind::StartTag || !contains(kLineElements, token.name))
+        if (token.kind != HtmlTokenKind::StartTag || !isAmong(kLineElements, token.name))
             return m_index;
         qsizetype next = m_index + 1;
         if (next < m_tokens.size() && m_tokens.at(next).kind == HtmlTokenKind::Text &&
@@ -214,7 +210,7 @@ private:
             return false;
         const HtmlToken &inner = m_tokens.at(m_index + 1);
         const HtmlToken &end = m_tokens.at(m_index + 2);
-        return contains(kLineElements, m_tokens.at(m_index).name) && inner.kind == HtmlTokenKind::StartTag &&
+        return isAmong(kLineElements, m_tokens.at(m_index).name) && inner.kind == HtmlTokenKind::StartTag &&
                inner.name == "br"_L1 && end.kind == HtmlTokenKind::EndTag &&
                end.name == m_tokens.at(m_index).name;
     }
@@ -230,7 +226,7 @@ private:
             return true;
         const HtmlToken &token = m_tokens.at(index);
         return (token.kind == HtmlTokenKind::StartTag || token.kind == HtmlTokenKind::EndTag) &&
-               contains(kBlockElements, token.name) && !isKept(token.start);
+               isAmong(kBlockElements, token.name) && !isKept(token.start);
     }
 
     // Parents stand before their children.
@@ -287,17 +283,16 @@ private:
         for (SourceRun &run : m_result.runs) {
             const HtmlElement inner = run.outer.value(0);
             const bool isHost = !run.isRule && held.value(inner.start) == 1 &&
-                                (contains(kLineElements, inner.name) || inner.name == "li"_L1 ||
+                                (isAmong(kLineElements, inner.name) || inner.name == "li"_L1 ||
                                  inner.name == "td"_L1 || inner.name == "th"_L1);
             if (isHost)
                 run.host = run.outer.takeFirst();
             // Of the lines of an item, the first is the item's own.
             const bool isItem = inner.name == "li"_L1 && inner.start >= before;
-            if (isItem || contains(kLineElements, run.host.name))
+            if (isItem || isAmong(kLineElements, run.host.name))
                 run.paragraphClass = classOf(m_source.sliced(inner.start, inner.startTagEnd - inner.start));
             before = run.start;
-            run.outer.removeIf(
-                [](const HtmlElement &element) { return contains(kTableParts, element.name); });
+            run.outer.removeIf([](const HtmlElement &element) { return isAmong(kTableParts, element.name); });
             run.outer.squeeze();
         }
         m_result.runs.squeeze();
@@ -311,7 +306,7 @@ private:
             const HtmlElement &element = m_tree.elements.at(at);
             if (element.name == "html"_L1 || element.name == "body"_L1)
                 break;
-            if (contains(kBlockElements, element.name) && element.startTagEnd <= run.start)
+            if (isAmong(kBlockElements, element.name) && element.startTagEnd <= run.start)
                 run.outer.append(element);
         }
         int depth = 0;
@@ -353,7 +348,7 @@ private:
             const bool isInside = (!ends.isEmpty() && element.start < ends.last()) || isKept(element.start);
             if (isPage || isInside)
                 continue;
-            const bool isInline = !contains(kBlockElements, element.name) && element.name != "hr"_L1;
+            const bool isInline = !isAmong(kBlockElements, element.name) && element.name != "hr"_L1;
             if (isInline && !holdsLines(element))
                 continue;
             if (element.name == "br"_L1)
@@ -468,14 +463,14 @@ private:
         QSet<int> tablesWithCells;
         for (const HtmlElement &element : m_tree.elements)
             for (int at = element.name == "td"_L1 || element.name == "th"_L1 ? element.parent : -1;
-                 at >= 0 && contains(kStructureElements, m_tree.elements.at(at).name);
+                 at >= 0 && isAmong(kStructureElements, m_tree.elements.at(at).name);
                  at = m_tree.elements.at(at).parent)
                 tablesWithCells.insert(at);
         for (int i = 0; i < m_tree.elements.size(); ++i) {
             const HtmlElement &element = m_tree.elements.at(i);
             if (element.name == "head"_L1)
                 keepHead(element);
-            else if (contains(kMarkupElements, element.name) || contains(kKeepWholeElements, element.name) ||
+            else if (isAmong(kMarkupElements, element.name) || isAmong(kKeepWholeElements, element.name) ||
                      isFormat(element) || losesAttributes(element) ||
                      (element.name == "table"_L1 && !tablesWithCells.contains(i)))
                 keep(i);
@@ -536,7 +531,7 @@ private:
         for (int i = 0; i < m_tokens.size(); ++i) {
             const HtmlToken &token = m_tokens.at(i);
             const int parent = m_tree.innermost.at(i);
-            if (parent >= 0 && contains(kStructureElements, m_tree.elements.at(parent).name) && isPart(token))
+            if (parent >= 0 && isAmong(kStructureElements, m_tree.elements.at(parent).name) && isPart(token))
                 keep(parent);
         }
     }
@@ -553,11 +548,11 @@ private:
     {
         for (;;) {
             const HtmlElement &element = m_tree.elements.at(index);
-            const bool cell = contains(kTableParts, element.name);
+            const bool cell = isAmong(kTableParts, element.name);
             if (element.parent < 0 || !(cell || element.name == "li"_L1))
                 break;
             const QString &parent = m_tree.elements.at(element.parent).name;
-            if (!contains(kStructureElements, parent))
+            if (!isAmong(kStructureElements, parent))
                 break;
             index = element.parent;
         }

@@ -34,11 +34,8 @@ constexpr std::array kImpliedEnds{
     ImpliedEnd{"div"_L1, "p"_L1},    ImpliedEnd{"ul"_L1, "p"_L1},  ImpliedEnd{"ol"_L1, "p"_L1},
     ImpliedEnd{"body"_L1, "head"_L1}};
 
-template <typename Table>
-bool isIn(const Table &table, const QString &name)
-{
-    return std::any_of(table.begin(), table.end(), [&](QLatin1StringView row) { return name == row; });
-}
+// That are looked for one after the other.
+constexpr qsizetype kMostNames = 24;
 
 bool isNameStart(QChar c)
 {
@@ -145,18 +142,32 @@ private:
         // "[a<b]" is a code, though browsers would see a tag of the name "b]" in it.
         if (const QChar after = m_source.at(nameEnd); !after.isSpace() && after != u'>' && after != u'/')
             return false;
-        const QString name = m_source.sliced(nameStart, nameEnd - nameStart).toLower();
+        const QString name = sharedName(QStringView(m_source).sliced(nameStart, nameEnd - nameStart));
         if (closing)
             return take(HtmlTokenKind::EndTag, end, name);
-        if (isIn(kRawElements, name)) {
+        if (isAmong(kRawElements, name)) {
             const qsizetype close = m_source.indexOf(u"</"_s + name, end, Qt::CaseInsensitive);
             return take(HtmlTokenKind::RawElement, after(u">", close), name);
         }
         return take(HtmlTokenKind::StartTag, end, name);
     }
 
+    /// In lower case. Tokens of one name share its text: a page has few names, and many tags.
+    QString sharedName(QStringView name)
+    {
+        const auto known =
+            std::ranges::find_if(m_names, [name](const QString &each) { return each == name; });
+        if (known != m_names.cend())
+            return *known;
+        const QString lower = name.toString().toLower();
+        if (m_names.size() < kMostNames)
+            m_names.append(lower);
+        return lower;
+    }
+
     const QString &m_source;
     QList<HtmlToken> m_tokens;
+    QStringList m_names;
     qsizetype m_at = 0;
     qsizetype m_textStart = 0;
 };
@@ -210,7 +221,7 @@ private:
         for (bool again = true; again && !m_open.isEmpty();) {
             const QString &innermost = m_elements.at(m_open.last()).name;
             again = std::any_of(kImpliedEnds.begin(), kImpliedEnds.end(), [&](const ImpliedEnd &rule) {
-                return token.name == rule.opened && innermost == rule.closed;
+                return isName(token.name, rule.opened) && isName(innermost, rule.closed);
             });
             if (again)
                 endFrom(m_open.size() - 1, token.start);
@@ -269,12 +280,13 @@ const QRegularExpression &halfTag()
 
 bool isVoidElement(const QString &name)
 {
-    return isIn(kVoidElements, name);
+    return isAmong(kVoidElements, name);
 }
 
 HtmlTree treeOf(const QList<HtmlToken> &tokens)
 {
     HtmlTree tree;
+    tree.innermost.reserve(tokens.size());
     ElementStack stack;
     for (const HtmlToken &token : tokens) {
         if (token.kind == HtmlTokenKind::EndTag)

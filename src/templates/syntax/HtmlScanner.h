@@ -3,8 +3,23 @@
 #include <QList>
 #include <QRegularExpression>
 #include <QString>
+#include <QStringView>
+
+#include <algorithm>
 
 namespace ozm::editor {
+
+/// As many tags are compared with many names, and most differ in their first letter.
+inline bool isName(QStringView name, QLatin1StringView row)
+{
+    return name.size() == row.size() && !row.isEmpty() && name.front() == row.front() && name == row;
+}
+
+template <typename Table>
+bool isAmong(const Table &table, QStringView name)
+{
+    return std::ranges::any_of(table, [name](QLatin1StringView row) { return isName(name, row); });
+}
 
 enum class HtmlTokenKind
 {
