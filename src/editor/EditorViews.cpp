@@ -8,6 +8,7 @@
 #include "editor/SourceHighlighter.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QWheelEvent>
 
@@ -22,7 +23,8 @@ namespace ozm::editor {
 namespace {
 
 constexpr std::array kViewZooms{0.5, 0.67, 0.8, 0.9, 1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0};
-constexpr QSize kUnplaced(640, 480);
+// In characters: more than that has a scroll bar in any window.
+constexpr int kLongText = 10'000;
 constexpr double kInchesPerMeter = 1000 / 25.4;
 
 } // namespace
@@ -38,8 +40,6 @@ EditorViews::EditorViews(CodeModel *codes, QWidget *window)
 {
     m_stack->setObjectName(u"views"_s);
     m_rich->setObjectName(u"richView"_s);
-    // Until it has its place: in a low one, any text would be laid out beside a scroll bar first.
-    m_rich->resize(kUnplaced);
     m_rich->setAccessibleName(tr("Formatted template"));
     m_plain->setObjectName(u"plainView"_s);
     m_plain->setAccessibleName(tr("Source of the template"));
@@ -79,8 +79,12 @@ void EditorViews::show(const EditorSession &session)
 void EditorViews::layOutOnceShown()
 {
     // The view lays it out when it is given its size, which is where it is shown.
-    if (m_rich->viewport()->testAttribute(Qt::WA_PendingResizeEvent))
-        m_rich->document()->setPageSize({0, 0});
+    if (!m_rich->viewport()->testAttribute(Qt::WA_PendingResizeEvent))
+        return;
+    m_rich->document()->setPageSize({0, 0});
+    // Without a place yet, any text has a scroll bar, beside which it would be laid out first.
+    if (m_rich->document()->characterCount() < kLongText)
+        m_rich->verticalScrollBar()->setRange(0, 0);
 }
 
 void EditorViews::setZoom(double zoom)
