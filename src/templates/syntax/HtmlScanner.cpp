@@ -159,7 +159,7 @@ private:
             std::ranges::find_if(m_names, [name](const QString &each) { return each == name; });
         if (known != m_names.cend())
             return *known;
-        const QString lower = name.toString().toLower();
+        QString lower = name.toString().toLower();
         if (m_names.size() < kMostNames)
             m_names.append(lower);
         return lower;
