@@ -151,7 +151,7 @@ QIcon OZMStyle::icon(const QString &name)
     // Not kept: the theme may change.
     if (QIcon::hasThemeIcon(name))
         return QIcon::fromTheme(name);
-    qCDebug(lcOzmWidgets) << "There is no icon" << name;
+    qCDebug(lcOzmWidgets) << "No icon has the name" << name;
     return {};
 }
 

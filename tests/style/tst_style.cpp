@@ -352,7 +352,7 @@ private Q_SLOTS:
 
     void unknownIconIsNull()
     {
-        QTest::ignoreMessage(QtDebugMsg, "There is no icon \"no-such-icon\"");
+        QTest::ignoreMessage(QtDebugMsg, "No icon has the name \"no-such-icon\"");
         QLoggingCategory::setFilterRules(u"ozm.widgets.debug=true"_s);
         QVERIFY(OZMStyle::icon(u"no-such-icon"_s).isNull());
         QLoggingCategory::setFilterRules({});

@@ -11,6 +11,7 @@
 #include <QTextList>
 
 #include <algorithm>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -57,7 +58,7 @@ void moveItems(QTextList &from, QTextList &to)
 void joinLists(QTextBlock line, const QTextBlock &last, NextLine away, NextLine step)
 {
     const QTextBlock beside = (line.*step)();
-    int lowest = INT_MAX;
+    int lowest = std::numeric_limits<int>::max();
     for (; QTextList *list = line.textList(); line = (line.*away)()) {
         const bool isOuter = list->format().indent() < lowest;
         lowest = qMin(lowest, list->format().indent());

@@ -53,6 +53,7 @@ KeptSource::KeptSource(const QString &source, const SplitTemplate &split)
     }
     if (m_sections.isEmpty())
         m_text.append(source);
+    m_text.squeeze();
 }
 
 void KeptSource::learn(QTextDocument &document, WrittenSource written)

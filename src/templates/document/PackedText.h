@@ -15,6 +15,8 @@ public:
     explicit PackedText(const QString &text);
 
     void append(QStringView part);
+    /// After the last part.
+    void squeeze() { m_bytes.squeeze(); }
     /// Where the part begins that is appended next, in units of its own.
     [[nodiscard]] qsizetype size() const { return m_bytes.size(); }
     /// All parts that begin at @p start or behind it, and before @p end.

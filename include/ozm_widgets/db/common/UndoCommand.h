@@ -45,7 +45,7 @@ class UndoStack;
  *         {
  *             using namespace ozm;
  *             if (!m_row->setDataAt(kCharge, charge))
- *                 return Error(ErrorCode::Failed, tr("There is no such row."));
+ *                 return Error(ErrorCode::Failed, tr("This row does not exist."));
  *             return {};
  *         }
  *
