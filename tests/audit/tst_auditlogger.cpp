@@ -169,19 +169,22 @@ private Q_SLOTS:
             SetCell refused(cell, 9);
             QVERIFY(!logger.recordRefused({&refused, Context::New}, Error(ErrorCode::NotAllowed, u"x"_s))
                          .hasError());
-            QVERIFY(!logger.prepare({{&refused, Context::New}}).hasError()); // 15
-            QVERIFY(!logger.settle().hasError());                            // 16: it did not run
-            QVERIFY(!logger.recordEvent(data(0)).hasError());                // 17
+            SetCell other(cell, 10);
+            QVERIFY(!logger.prepare({{&refused, Context::New}, {&other, Context::New}}).hasError()); // 15, 16
+            const auto item = logger.logCommand({}, other, Context::New);
+            QVERIFY(!logger.settle().hasError());             // 17: the first did not run
+            QVERIFY(!logger.recordEvent(data(0)).hasError()); // 18
             QVERIFY(logger.waitForDurable());
+            QCOMPARE(logger.numberOf(item->id()), 16);
             QCOMPARE(logger.watermark(), logger.handedOver());
         }
         QCOMPARE(cell, 4);
-        QCOMPARE(
-            trailOf(*store.value()),
-            (QStringList{u"command New"_s, u"command Undo"_s, u"command Redo"_s, u"command New"_s,
-                         u"command New"_s, u"command New failed"_s, u"macro New"_s, u"command New <8"_s,
-                         u"command New <8"_s, u"commit <8"_s, u"command Undo"_s, u"command Undo"_s,
-                         u"command New failed"_s, u"command New"_s, u"command New failed"_s, u"event"_s}));
+        QCOMPARE(trailOf(*store.value()),
+                 (QStringList{u"command New"_s, u"command Undo"_s, u"command Redo"_s, u"command New"_s,
+                              u"command New"_s, u"command New failed"_s, u"macro New"_s, u"command New <8"_s,
+                              u"command New <8"_s, u"commit <8"_s, u"command Undo"_s, u"command Undo"_s,
+                              u"command New failed"_s, u"command New"_s, u"command New"_s,
+                              u"command New failed"_s, u"event"_s}));
         const Entry entry = store.value()->entry(2).value();
         QCOMPARE(entry.user.name, u"Jane Doe"_s);
         QCOMPARE(entry.subjectKey, u"{\"Name\":\"T12\"}"_s);
@@ -313,9 +316,12 @@ private Q_SLOTS:
         auto store = Store::open(u"memory:"_s);
         constexpr int kCount = 5000;
         {
-            Logger logger(*store.value(), {.user = {u"jdoe"_s}, .queued = true, .queueLength = 64});
+            constexpr int kLength = 600; // Longer than what is written at once.
+            Logger logger(*store.value(), {.user = {u"jdoe"_s}, .queued = true, .queueLength = kLength});
             for (int i = 0; i < kCount; ++i) {
                 QVERIFY(!logger.recordEvent(data(i)).hasError());
+                const qint64 handedOver = logger.handedOver();
+                QVERIFY(handedOver - logger.watermark() <= kLength);
                 if (i % 500 == 0)
                     QVERIFY(store.value()->verify().value().isWhole());
             }
