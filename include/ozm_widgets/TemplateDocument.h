@@ -100,3 +100,5 @@ private:
 };
 
 } // namespace ozm
+
+Q_DECLARE_TYPEINFO(ozm::TemplateDocument::Chip, Q_RELOCATABLE_TYPE);

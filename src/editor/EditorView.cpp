@@ -43,11 +43,9 @@ syntax::ScriptRange codeAround(const QString &source, qsizetype position)
         if (token.kind == HtmlTokenKind::Opaque && token.start <= position && position <= token.end &&
             instructions::readInstruction(source.sliced(token.start, token.end - token.start)))
             return {token.start, token.end};
-    for (auto codes = syntax::codePattern().globalMatch(source); codes.hasNext();) {
-        const QRegularExpressionMatch code = codes.next();
-        if (code.capturedStart() <= position && position <= code.capturedEnd())
-            return {code.capturedStart(), code.capturedEnd()};
-    }
+    for (const auto &[start, end] : syntax::codeRanges(source))
+        if (start <= position && position <= end)
+            return {start, end};
     return {};
 }
 

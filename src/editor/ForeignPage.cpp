@@ -183,18 +183,19 @@ private:
     {
         static const QRegularExpression markup(u"[<>&\\x{FFFC}\\x{2028}]"_s);
         for (QTextBlock block = m_page.lastBlock(); block.isValid(); block = block.previous()) {
-            QList<QRegularExpressionMatch> codes;
-            for (auto all = syntax::codePattern().globalMatch(block.text()); all.hasNext();)
-                codes.prepend(all.next());
-            for (const QRegularExpressionMatch &code : std::as_const(codes)) {
-                if (code.captured().contains(markup))
+            const QString text = block.text();
+            const QList<syntax::CodeRange> codes = syntax::codeRanges(text);
+            // From the end on, so that places found before stay true.
+            for (auto range = codes.crbegin(); range != codes.crend(); ++range) {
+                const QString code = text.sliced(range->start, range->end - range->start);
+                if (code.contains(markup))
                     continue;
                 QTextCursor cursor(block);
-                cursor.setPosition(block.position() + int(code.capturedStart()));
-                cursor.setPosition(block.position() + int(code.capturedEnd()), QTextCursor::KeepAnchor);
+                cursor.setPosition(block.position() + int(range->start));
+                cursor.setPosition(block.position() + int(range->end), QTextCursor::KeepAnchor);
                 const QTextCharFormat format = cursor.charFormat();
                 cursor.insertText(QString(QChar::ObjectReplacementCharacter),
-                                  chipFormat({PartKind::Code, code.captured()}, format));
+                                  chipFormat({PartKind::Code, code}, format));
             }
         }
     }

@@ -78,12 +78,10 @@ void setPaperColors(QWidget *widget)
 void insertWithCodes(TemplateDocument &document, QTextCursor &cursor, const QString &text)
 {
     qsizetype at = 0;
-    auto codes = syntax::codePattern().globalMatch(text);
-    while (codes.hasNext()) {
-        const QRegularExpressionMatch code = codes.next();
-        cursor.insertText(text.sliced(at, code.capturedStart() - at));
-        document.insertSource(cursor, code.captured());
-        at = code.capturedEnd();
+    for (const auto &[start, end] : syntax::codeRanges(text)) {
+        cursor.insertText(text.sliced(at, start - at));
+        document.insertSource(cursor, text.sliced(start, end - start));
+        at = end;
     }
     cursor.insertText(text.sliced(at));
 }

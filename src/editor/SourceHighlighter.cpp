@@ -142,20 +142,19 @@ void SourceHighlighter::highlightScript(const QString &text, qsizetype from, qsi
 
 void SourceHighlighter::highlightCodes(const QString &text)
 {
-    auto matches = syntax::codePattern().globalMatch(text);
-    while (matches.hasNext()) {
-        const QRegularExpressionMatch match = matches.next();
+    for (const auto &[start, end] : syntax::codeRanges(text)) {
+        const bool isKnown = m_codes->isKnown(text.sliced(start, end - start));
         // Brackets in scripts are more often indices than codes.
-        if (m_language == Language::Script && !m_codes->isKnown(match.captured()))
+        if (m_language == Language::Script && !isKnown)
             continue;
         QTextCharFormat format;
         format.setForeground(colorOf(Piece::Code));
         format.setFontWeight(QFont::DemiBold);
-        if (!m_codes->isKnown(match.captured()) && currentBlockState() != InScript) {
+        if (!isKnown && currentBlockState() != InScript) {
             format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
             format.setUnderlineColor(Qt::red);
         }
-        setFormat(int(match.capturedStart()), int(match.capturedLength()), format);
+        setFormat(int(start), int(end - start), format);
     }
 }
 

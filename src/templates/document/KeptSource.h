@@ -15,10 +15,6 @@ class QTextDocument;
 
 namespace ozm::editor {
 
-/// Reads @p source into @p document and gives what it was taken apart into. Where @p remember is set, lines
-/// know their runs of the source.
-SplitTemplate readSource(QTextDocument &document, const QString &source, bool remember);
-
 /**
  * The source that a document was read from, into which its edits are written.
  *

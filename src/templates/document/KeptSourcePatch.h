@@ -2,6 +2,7 @@
 
 #include "templates/document/KeptSource.h"
 #include "templates/document/LinePatch.h"
+#include "templates/document/TemplateReading.h"
 
 #include <QTextBlock>
 #include <QTextDocument>

@@ -4,6 +4,7 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include <algorithm>
 #include <utility>
 
 namespace ozm::editor {
@@ -16,6 +17,11 @@ constexpr double kPointsInInch = 72;
 
 void sizeLettersInPoints(QTextDocument &document)
 {
+    const auto hasPixels = [](const QTextFormat &format) {
+        return format.intProperty(QTextFormat::FontPixelSize) > 0;
+    };
+    if (std::ranges::none_of(document.allFormats(), hasPixels))
+        return;
     QTextCursor part(&document);
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         // Fragments are not what they were once one of them is changed.

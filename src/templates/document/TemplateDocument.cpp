@@ -3,12 +3,11 @@
 #include "templates/document/InlineHtml.h"
 #include "templates/document/InsertedLines.h"
 #include "templates/document/KeptSource.h"
-#include "templates/document/LetterSizes.h"
-#include "templates/document/ParagraphClass.h"
 #include "templates/document/SelectedSource.h"
 #include "templates/document/TableSpaces.h"
 #include "templates/document/TemplateChip.h"
 #include "templates/document/TemplateParts.h"
+#include "templates/document/TemplateReading.h"
 #include "templates/document/TemplateSourceWriter.h"
 #include "templates/document/VectorImages.h"
 #include "templates/instructions/InstructionTree.h"
@@ -20,8 +19,6 @@
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextCursor>
-#include <QTextFrame>
-#include <QTextTable>
 #include <QUrl>
 
 #include <algorithm>
@@ -116,210 +113,6 @@ QString linesAsParagraphs(const QString &text)
     return html;
 }
 
-/// A marker in a document: what it stands for, and where.
-struct Marker
-{
-    int part;
-    int start;
-    int end;
-};
-
-/// The formats of chips, of which most are alike. Documents find a format faster that they know already.
-class ChipFormats
-{
-public:
-    const QTextCharFormat &formatOf(const TemplatePart &part, const QTextCharFormat &base)
-    {
-        QList<Made> &made = m_made[part.source];
-        for (const Made &each : std::as_const(made))
-            if (each.base == base && each.kind == part.kind)
-                return each.format;
-        return made.emplaceBack(Made{base, part.kind, editor::chipFormat(part, base)}).format;
-    }
-
-private:
-    struct Made
-    {
-        QTextCharFormat base;
-        PartKind kind;
-        QTextCharFormat format;
-    };
-
-    QHash<QString, QList<Made>> m_made;
-};
-
-/// Puts the part of @p marker in its place.
-void replaceMarker(QTextCursor &cursor, const Marker &marker, const editor::SplitTemplate &split,
-                   bool remember, ChipFormats &formats)
-{
-    const TemplatePart &part = split.parts.at(marker.part);
-    const int run = split.places.at(marker.part).run;
-    const bool isOneCharacter = marker.end == marker.start + 1;
-    if (part.source.isEmpty() && isOneCharacter) {
-        // Without a selection, whose ends the toolkit looks up in all tables.
-        cursor.setPosition(marker.end);
-        cursor.deletePreviousChar();
-    } else {
-        cursor.setPosition(marker.start);
-        cursor.setPosition(marker.end, QTextCursor::KeepAnchor);
-    }
-    if (part.source.isEmpty()) {
-        cursor.removeSelectedText();
-        QTextBlockFormat line;
-        if (run < 0)
-            line.setProperty(editor::kWrittenLine, true);
-        else if (remember)
-            line.setProperty(editor::kSourceRun, run);
-        if (run >= 0 && !split.runs.at(run).paragraphClass.isEmpty())
-            line.setProperty(editor::kParagraphClass, split.runs.at(run).paragraphClass);
-        cursor.mergeBlockFormat(line);
-        return;
-    }
-    const QTextCharFormat base = cursor.charFormat();
-    if (part.kind == PartKind::None)
-        cursor.insertText(part.source, base);
-    else if (isOneCharacter && split.chipMarker == QChar::ObjectReplacementCharacter)
-        cursor.setCharFormat(formats.formatOf(part, base));
-    else
-        cursor.insertText(QString(QChar::ObjectReplacementCharacter), formats.formatOf(part, base));
-}
-
-bool isMarker(QChar character, const editor::SplitTemplate &split)
-{
-    return character == split.textMarker || character == split.chipMarker;
-}
-
-/// The markers of @p document, which has read the split HTML; nothing unless it has them all, each at its turn.
-std::optional<QList<Marker>> markersInTurn(const QTextDocument &document, const editor::SplitTemplate &split)
-{
-    QList<Marker> markers;
-    markers.reserve(split.parts.size());
-    const QString text = document.toRawText();
-    qsizetype inHtml = 0;
-    for (int at = 0; at < text.size(); ++at) {
-        if (!isMarker(text.at(at), split))
-            continue;
-        while (inHtml < split.html.size() && !isMarker(split.html.at(inHtml), split))
-            ++inHtml;
-        if (inHtml == split.html.size() || split.html.at(inHtml++) != text.at(at))
-            return std::nullopt;
-        markers.append({int(markers.size()), at, at + 1});
-    }
-    return markers.size() == split.parts.size() ? std::optional(markers) : std::nullopt;
-}
-
-/// The split HTML with a number at each marker, between it and @p end.
-QString withNumbers(const editor::SplitTemplate &split, QChar end)
-{
-    QString html;
-    int number = 0;
-    for (const QChar character : split.html) {
-        if (isMarker(character, split))
-            html += split.textMarker + QString::number(number++) + end;
-        else
-            html += character;
-    }
-    return html;
-}
-
-QList<Marker> numberedMarkers(const QTextDocument &document, const editor::SplitTemplate &split, QChar end)
-{
-    QList<Marker> markers;
-    const QString text = document.toRawText();
-    for (qsizetype last = text.indexOf(end); last >= 0; last = text.indexOf(end, last + 1)) {
-        const qsizetype first = text.lastIndexOf(split.textMarker, last);
-        const int part = first < 0 ? -1 : QStringView(text).sliced(first + 1, last - first - 1).toInt();
-        if (part >= 0 && part < split.parts.size())
-            markers.append({part, int(first), int(last) + 1});
-    }
-    return markers;
-}
-
-// From the end on, so that positions found before stay true.
-void replaceMarkers(QTextDocument &document, const QList<Marker> &markers, const editor::SplitTemplate &split,
-                    bool remember)
-{
-    QTextCursor edit(&document);
-    ChipFormats formats;
-    edit.beginEditBlock();
-    std::for_each(markers.crbegin(), markers.crend(),
-                  [&](const Marker &marker) { replaceMarker(edit, marker, split, remember, formats); });
-    edit.endEditBlock();
-}
-
-bool isSameCell(const QTextFrame *frame, const QTextBlock &a, const QTextBlock &b)
-{
-    const auto *table = qobject_cast<const QTextTable *>(frame);
-    return !table || table->cellAt(a.position()) == table->cellAt(b.position());
-}
-
-void collectLinesAfterTables(QTextFrame *frame, QList<QTextCursor> &lines)
-{
-    for (auto at = frame->begin(); at != frame->end();) {
-        QTextFrame *child = at.currentFrame();
-        ++at;
-        if (!child || at == frame->end())
-            continue;
-        collectLinesAfterTables(child, lines);
-        auto next = at;
-        ++next;
-        if (at.currentBlock().isValid() && at.currentBlock().length() <= 1 && next.currentBlock().isValid() &&
-            isSameCell(frame, at.currentBlock(), next.currentBlock()))
-            lines.append(QTextCursor(at.currentBlock()));
-    }
-}
-
-// Reading HTML leaves an empty line behind each table that more text follows.
-void removeLinesAfterTables(QTextDocument &document)
-{
-    QList<QTextCursor> lines;
-    collectLinesAfterTables(document.rootFrame(), lines);
-    QTextCursor edit(&document);
-    edit.beginEditBlock();
-    for (QTextCursor &line : lines)
-        editor::removeEmptyLine(line);
-    edit.endEditBlock();
-}
-
-void readHtml(QTextDocument &document, const QString &html)
-{
-    document.setHtml(html);
-    if (html.contains(u"font"_s))
-        editor::sizeLettersInPoints(document);
-    removeLinesAfterTables(document);
-    editor::spaceTables(document);
-}
-
-/// Reads the HTML of @p split, and finds its markers.
-QList<Marker> readMarkers(QTextDocument &document, const editor::SplitTemplate &split)
-{
-    readHtml(document, split.html);
-    if (const auto inTurn = markersInTurn(document, split))
-        return *inTurn;
-    // The reader left some of them out, or moved them: with a number, each can be told.
-    const QChar end = editor::characterNotIn(split.html);
-    readHtml(document, withNumbers(split, end));
-    return numberedMarkers(document, split, end);
-}
-
-// A rule has no text in which a mark could stand.
-void rememberRules(QTextDocument &document, const editor::SplitTemplate &split)
-{
-    QList<QTextBlock> rules;
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
-        if (block.blockFormat().hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth))
-            rules.append(block);
-    QList<int> runs;
-    for (int run = 0; run < split.runs.size(); ++run)
-        if (split.runs.at(run).isRule)
-            runs.append(run);
-    for (qsizetype index = 0; runs.size() == rules.size() && index < rules.size(); ++index) {
-        QTextBlockFormat line;
-        line.setProperty(editor::kSourceRun, runs.at(index));
-        QTextCursor(rules.at(index)).mergeBlockFormat(line);
-    }
-}
-
 void read(QTextDocument &document, const QString &source)
 {
     const QString html = TemplateDocument::isHtml(source) ? source : linesAsParagraphs(source);
@@ -346,25 +139,6 @@ QList<editor::ChipPlace> chipPlaces(const TemplateDocument &document)
     return chips;
 }
 
-/// Nothing is laid out while this lives. Each change would be otherwise, and a table in a table twice as often as the table
-/// around it.
-class LayoutPause
-{
-public:
-    explicit LayoutPause(QTextDocument &document)
-        : m_document(document)
-        , m_pageSize(document.pageSize())
-    {
-        document.setPageSize({0, 0});
-    }
-    ~LayoutPause() { m_document.setPageSize(m_pageSize); }
-    Q_DISABLE_COPY_MOVE(LayoutPause)
-
-private:
-    QTextDocument &m_document;
-    const QSizeF m_pageSize;
-};
-
 QImage missingImage()
 {
     static const QImage image(u":/qt-project.org/styles/commonstyle/images/file-16.png"_s);
@@ -386,19 +160,6 @@ void TemplateDocument::Private::learnAgain(const TemplateDocument &document)
     else
         read(asRead, kept.source());
     kept.learn(asRead, editor::writeSource(asRead));
-}
-
-editor::SplitTemplate editor::readSource(QTextDocument &document, const QString &source, bool remember)
-{
-    SplitTemplate split = splitTemplate(source);
-    const bool undo = document.isUndoRedoEnabled();
-    document.setUndoRedoEnabled(false);
-    const LayoutPause pause(document);
-    replaceMarkers(document, readMarkers(document, split), split, remember);
-    if (remember)
-        rememberRules(document, split);
-    document.setUndoRedoEnabled(undo);
-    return split;
 }
 
 TemplateDocument::TemplateDocument(QObject *parent)

@@ -4,17 +4,15 @@
 #include "templates/document/ParagraphClass.h"
 #include "templates/document/StandingMarkup.h"
 #include "templates/document/TemplateElements.h"
-#include "templates/instructions/InstructionSyntax.h"
+#include "templates/document/WholeRanges.h"
 #include "templates/syntax/Codes.h"
 #include "templates/syntax/HtmlScanner.h"
 #include "templates/syntax/ScriptTags.h"
 
 #include <QHash>
 #include <QRegularExpression>
-#include <QSet>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -26,24 +24,18 @@ namespace {
 // Elements around a line that are looked at; more of them would be no template that somebody wrote.
 constexpr qsizetype kDeepest = 30;
 
-struct Range
-{
-    qsizetype start;
-    qsizetype end;
-    bool dropped = false;
-};
-
 class Splitter
 {
 public:
-    explicit Splitter(const QString &source)
+    Splitter(const QString &source, LineMarks marks)
         : m_source(source)
+        , m_marks(marks)
         , m_tokens(scanHtml(source))
         , m_tree(treeOf(m_tokens))
+        , m_kept(wholeRanges(source, m_tokens, m_tree))
     {
         chooseMarkers();
         findKeptBlanks();
-        findKeptRanges();
     }
 
     SplitTemplate run()
@@ -54,9 +46,9 @@ public:
             while (kept < m_kept.size() && m_kept.at(kept).end <= token.start)
                 ++kept;
             if (kept < m_kept.size() && token.start >= m_kept.at(kept).start) {
-                if (token.start == m_kept.at(kept).start && !m_kept.at(kept).dropped)
+                if (token.start == m_kept.at(kept).start && !m_kept.at(kept).isDropped)
                     appendKept(token, m_kept.at(kept).end);
-                if (m_kept.at(kept).dropped)
+                if (m_kept.at(kept).isDropped)
                     m_runIsOpen = false;
                 continue;
             }
@@ -112,8 +104,10 @@ private:
         const bool isPage = token.name == "html"_L1 || token.name == "body"_L1;
         if (opens && isPage)
             m_result.around += text(token);
-        if (token.name == "br"_L1 || token.name == "img"_L1)
+        if (token.name == "br"_L1 || token.name == "img"_L1) {
             beginRun(token.start);
+            markLine();
+        }
         if (isEdge(token)) {
             m_runIsOpen = false;
             m_pending = -1;
@@ -136,6 +130,7 @@ private:
             m_result.runs.last().end = m_tokens.at(++m_index).end;
         } else if (isEmptyCell(token)) {
             beginRun(token.end);
+            markLine();
         }
     }
 
@@ -161,20 +156,48 @@ private:
         return true;
     }
 
-    // The mark stands where the line's first text will: a line that is not there makes none.
     void beginRun(qsizetype start)
     {
         if (std::exchange(m_runIsOpen, true))
             return;
+        endLine();
         const qsizetype from = m_pending < 0 ? start : std::exchange(m_pending, -1);
-        addPart({PartKind::None, {}}, {from, from, int(m_result.runs.size())});
+        m_line = {int(m_result.runs.size()), m_result.plainText.size(), m_result.html.size(),
+                  m_result.parts.size()};
         m_result.runs.append({from, from});
+        if (m_marks == LineMarks::All)
+            markLine();
+    }
+
+    // The mark stands where the line's first text does: a line that is not there makes none.
+    void markLine()
+    {
+        if (m_line.run < 0)
+            return;
+        const qsizetype from = m_result.runs.at(m_line.run).start;
+        m_result.html.insert(m_line.inHtml, m_result.textMarker);
+        m_result.parts.insert(m_line.inParts, {PartKind::None, {}});
+        m_result.places.insert(m_line.inParts, {from, from, m_line.run});
+        m_line.run = -1;
+    }
+
+    void endLine()
+    {
+        if (isBlankText(QStringView(m_result.plainText).sliced(m_line.inText)))
+            markLine();
+        if (m_line.run >= 0)
+            m_result.plainLines.append({m_line.run, m_line.inText, m_result.plainText.size()});
+        else
+            m_result.plainText.truncate(m_line.inText);
+        m_line = {-1, m_result.plainText.size(), 0, 0};
     }
 
     void addPart(const TemplatePart &part, const PartPlace &place)
     {
         const bool isText = part.kind == PartKind::None || part.source.isEmpty();
-        m_result.html += isText ? m_result.textMarker : m_result.chipMarker;
+        const QChar marker = isText ? m_result.textMarker : m_result.chipMarker;
+        m_result.html += marker;
+        m_result.plainText += marker;
         m_result.parts.append(part);
         m_result.places.append(place);
     }
@@ -253,25 +276,21 @@ private:
                 ++at;
         }
         const QStringView trimmed = QStringView(m_source).sliced(at, end - at);
-        if (!trimmed.contains(u'[')) {
-            appendPlain(at, end);
-            return;
-        }
         const qsizetype offset = at;
-        auto codes = syntax::codePattern().globalMatch(trimmed);
-        while (codes.hasNext()) {
-            const QRegularExpressionMatch code = codes.next();
-            if (code.capturedView().contains(u'<') && code.capturedView().contains(halfTag()))
+        for (const auto &range : syntax::codeRanges(trimmed)) {
+            const QStringView code = trimmed.sliced(range.start, range.end - range.start);
+            if (code.contains(u'<') && code.contains(halfTag()))
                 continue;
-            appendPlain(at, offset + code.capturedStart());
-            at = offset + code.capturedEnd();
-            appendPart(PartKind::Code, offset + code.capturedStart(), at);
+            appendPlain(at, offset + range.start);
+            at = offset + range.end;
+            appendPart(PartKind::Code, offset + range.start, at);
         }
         appendPlain(at, end);
     }
 
     void finishRuns()
     {
+        endLine();
         findSections();
         for (SourceRun &run : m_result.runs)
             findHost(run);
@@ -379,8 +398,8 @@ private:
     /// True in a part that is shown as a whole.
     bool isKept(qsizetype position) const
     {
-        const auto after = std::ranges::upper_bound(m_kept, position, {}, &Range::start);
-        return after != m_kept.begin() && !(after - 1)->dropped && position < (after - 1)->end;
+        const auto after = std::ranges::upper_bound(m_kept, position, {}, &WholeRange::start);
+        return after != m_kept.begin() && !(after - 1)->isDropped && position < (after - 1)->end;
     }
 
     bool holdsLines(const HtmlElement &inlineElement) const
@@ -401,8 +420,15 @@ private:
         }
         beginRun(start);
         m_result.runs.last().end = end;
-        if (std::ranges::none_of(plainText, isRare)) {
+        const bool isAsWritten = std::ranges::none_of(plainText, isRare);
+        // Behind a mark, a blank stays that the reader leaves out at the beginning of a line.
+        const bool beginsWithBlank =
+            m_result.plainText.size() == m_line.inText && isBlank(plainText.front());
+        if (!isAsWritten || beginsWithBlank || keepsBlanks(m_tree.innermost.at(m_index)))
+            markLine();
+        if (isAsWritten) {
             m_result.html += plainText;
+            m_result.plainText += plainText;
             return;
         }
         // The reader takes all of these for blanks, and several for one.
@@ -428,6 +454,8 @@ private:
     void appendPart(PartKind kind, qsizetype start, qsizetype end)
     {
         beginRun(start);
+        if (start == end)
+            markLine();
         addPart({kind, m_source.sliced(start, end - start)}, {start, end});
         m_result.runs.last().end = qMax(m_result.runs.last().end, end);
     }
@@ -444,138 +472,32 @@ private:
         m_result.parts.last().source = standingMarkup(m_source, m_tokens, m_tree, m_index, end);
     }
 
-    void findKeptRanges()
-    {
-        findKeptElements();
-        findMisplacedParts();
-        std::sort(m_kept.begin(), m_kept.end(), [](const Range &a, const Range &b) {
-            return a.start != b.start ? a.start < b.start : a.end > b.end;
-        });
-        QList<Range> outermost;
-        for (const Range &range : std::as_const(m_kept))
-            if (outermost.isEmpty() || range.start >= outermost.last().end)
-                outermost.append(range);
-        m_kept = outermost;
-    }
-
-    void findKeptElements()
-    {
-        QSet<int> tablesWithCells;
-        for (const HtmlElement &element : m_tree.elements)
-            for (int at = element.name == "td"_L1 || element.name == "th"_L1 ? element.parent : -1;
-                 at >= 0 && isAmong(kStructureElements, m_tree.elements.at(at).name);
-                 at = m_tree.elements.at(at).parent)
-                tablesWithCells.insert(at);
-        for (int i = 0; i < m_tree.elements.size(); ++i) {
-            const HtmlElement &element = m_tree.elements.at(i);
-            if (element.name == "head"_L1)
-                keepHead(element);
-            else if (isAmong(kMarkupElements, element.name) || isAmong(kKeepWholeElements, element.name) ||
-                     isFormat(element) || losesAttributes(element) ||
-                     (element.name == "table"_L1 && !tablesWithCells.contains(i)))
-                keep(i);
-        }
-    }
-
-    // A head without anything that the reader of the report would miss is left out, as for any page.
-    void keepHead(const HtmlElement &head)
-    {
-        const bool matters = std::any_of(m_tokens.begin(), m_tokens.end(), [&](const HtmlToken &token) {
-            const bool raw = token.kind == HtmlTokenKind::RawElement && token.name != "title"_L1;
-            return token.start >= head.start && token.end <= head.end &&
-                   token.kind != HtmlTokenKind::EndTag &&
-                   (raw || token.kind == HtmlTokenKind::Script ||
-                    text(token).contains(syntax::codePattern()));
-        });
-        m_kept.append({head.start, head.end, !matters});
-    }
-
-    // A code with its format is one part, as a code without is.
-    bool isFormat(const HtmlElement &element) const
-    {
-        const QStringView source = QStringView(m_source).sliced(element.start, element.end - element.start);
-        return element.name == "span"_L1 &&
-               instructions::isFormatTag(source.first(element.startTagEnd - element.start)) &&
-               instructions::readInstruction(source.toString());
-    }
-
-    // Only these attributes survive rich text as they are written; codes in others would be lost.
-    bool losesAttributes(const HtmlElement &element) const
-    {
-        const QStringView tag =
-            QStringView(m_source).sliced(element.start, element.startTagEnd - element.start);
-        if (element.name == "html"_L1 || element.name == "body"_L1)
-            return false;
-        if (element.name == "img"_L1) {
-            static const QRegularExpression floats(u"\\balign\\s*=|float\\s*:|\\bclass\\s*=|\\busemap\\b"_s,
-                                                   QRegularExpression::CaseInsensitiveOption);
-            return tag.contains(floats) || hasCode(tag, u"src|alt"_s);
-        }
-        return hasCode(tag, element.name == "a"_L1 ? u"href"_s : QString());
-    }
-
-    static bool hasCode(QStringView tag, const QString &allowedAttributes)
-    {
-        if (!tag.contains(u'[') || !tag.contains(syntax::codePattern()))
-            return syntax::hasScript(tag);
-        if (allowedAttributes.isEmpty())
-            return true;
-        QString rest = tag.toString();
-        rest.remove(QRegularExpression(u"\\b(%1)\\s*=\\s*(\"[^\"]*\"|'[^']*')"_s.arg(allowedAttributes),
-                                       QRegularExpression::CaseInsensitiveOption));
-        return rest.contains(syntax::codePattern());
-    }
-
-    void findMisplacedParts()
-    {
-        for (int i = 0; i < m_tokens.size(); ++i) {
-            const HtmlToken &token = m_tokens.at(i);
-            const int parent = m_tree.innermost.at(i);
-            if (parent >= 0 && isAmong(kStructureElements, m_tree.elements.at(parent).name) && isPart(token))
-                keep(parent);
-        }
-    }
-
-    bool isPart(const HtmlToken &token) const
-    {
-        if (token.kind == HtmlTokenKind::Text)
-            return !isBlankText(text(token));
-        return token.kind != HtmlTokenKind::StartTag && token.kind != HtmlTokenKind::EndTag;
-    }
-
-    // Parts of a table or list are kept with the whole of it.
-    void keep(int index)
-    {
-        for (;;) {
-            const HtmlElement &element = m_tree.elements.at(index);
-            const bool cell = isAmong(kTableParts, element.name);
-            if (element.parent < 0 || !(cell || element.name == "li"_L1))
-                break;
-            const QString &parent = m_tree.elements.at(element.parent).name;
-            if (!isAmong(kStructureElements, parent))
-                break;
-            index = element.parent;
-        }
-        m_kept.append({m_tree.elements.at(index).start, m_tree.elements.at(index).end});
-    }
-
     const QString &m_source;
+    const LineMarks m_marks;
     const QList<HtmlToken> m_tokens;
     const HtmlTree m_tree;
-    QList<Range> m_kept;
+    const QList<WholeRange> m_kept;
     QList<bool> m_keepsBlanks;
     qsizetype m_index = 0;
     bool m_runIsOpen = false;
     qsizetype m_pending = -1; ///< The first tag behind the last edge that may belong to a line.
     QList<qsizetype> m_edges;
+    /// The line that is being written and has no mark yet.
+    struct
+    {
+        int run = -1;
+        qsizetype inText = 0;
+        qsizetype inHtml = 0;
+        qsizetype inParts = 0;
+    } m_line;
     SplitTemplate m_result;
 };
 
 } // namespace
 
-SplitTemplate splitTemplate(const QString &source)
+SplitTemplate splitTemplate(const QString &source, LineMarks marks)
 {
-    return Splitter(source).run();
+    return Splitter(source, marks).run();
 }
 
 TemplatePart partOf(const QString &text)

@@ -36,6 +36,14 @@ struct SourceRun
     bool isBalanced = true; ///< It opens and closes the same inline elements.
 };
 
+/// A line that has no mark, as its text tells where it is.
+struct PlainLine
+{
+    int run = -1;
+    qsizetype start = 0; ///< In the text of all such lines.
+    qsizetype end = 0;
+};
+
 /// A part of the source that stands by itself.
 struct SourceSection
 {
@@ -65,11 +73,22 @@ struct SplitTemplate
     QString around;                ///< The start tags of the page and its body.
     QChar textMarker;
     QChar chipMarker;
+    QList<PlainLine> plainLines; ///< The lines without a mark, in their order.
+    QString plainText;           ///< Of all of them, without tags and with markers for parts.
 };
 
-[[nodiscard]] SplitTemplate splitTemplate(const QString &source);
+/// Which lines get a mark: each costs as much as a chip.
+enum class LineMarks
+{
+    All,
+    WhereNeeded, ///< Not those that a reader can tell by their text.
+};
+
+[[nodiscard]] SplitTemplate splitTemplate(const QString &source, LineMarks marks = LineMarks::All);
 
 /// The part that @p text is as a whole: a code in its brackets, a script in its tags, else markup.
 [[nodiscard]] TemplatePart partOf(const QString &text);
 
 } // namespace ozm::editor
+
+Q_DECLARE_TYPEINFO(ozm::editor::SourceRun, Q_RELOCATABLE_TYPE);

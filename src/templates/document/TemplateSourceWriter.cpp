@@ -327,12 +327,9 @@ private:
         QString text;
         for (auto at = block.begin(); !at.atEnd(); ++at)
             text += isObject(at.fragment().charFormat()) ? at.fragment().text() : plainText(at.fragment());
-        auto all = syntax::codePattern().globalMatch(text);
-        while (all.hasNext()) {
-            const QRegularExpressionMatch match = all.next();
-            if (!match.capturedView().contains(QChar::ObjectReplacementCharacter))
-                m_looseBrackets.insert(block.position() + int(match.capturedStart()));
-        }
+        for (const auto &[start, end] : syntax::codeRanges(text))
+            if (!QStringView(text).sliced(start, end - start).contains(QChar::ObjectReplacementCharacter))
+                m_looseBrackets.insert(block.position() + int(start));
     }
 
     void addText(const QString &text, int position)

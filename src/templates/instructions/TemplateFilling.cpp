@@ -333,14 +333,14 @@ private:
     {
         QString line;
         qsizetype at = 0;
-        for (auto codes = syntax::codePattern().globalMatch(text); codes.hasNext();) {
-            const QRegularExpressionMatch code = codes.next();
-            const QString name = code.captured().sliced(1).chopped(1);
+        for (const auto &[start, end] : syntax::codeRanges(text)) {
+            const QString code = text.sliced(start, end - start);
+            const QString name = code.sliced(1).chopped(1);
             const auto field = scope.find(name);
             if (!field)
                 missing(name, part.mark.start);
-            line += text.sliced(at, code.capturedStart() - at) + (field ? textOf(*field) : code.captured());
-            at = code.capturedEnd();
+            line += text.sliced(at, start - at) + (field ? textOf(*field) : code);
+            at = end;
         }
         return line + text.sliced(at);
     }

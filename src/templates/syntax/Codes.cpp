@@ -17,6 +17,23 @@ qsizetype findCodeEnd(QStringView text, qsizetype from)
     return from;
 }
 
+/// From @p from on; its end is 0 where there is none.
+CodeRange nextCode(QStringView text, qsizetype from)
+{
+    for (qsizetype open = text.indexOf(u'[', from); open >= 0;) {
+        qsizetype at = open + 1;
+        while (at < text.size() && text[at] != u'[' && text[at] != u']' && text[at] != u'\r' &&
+               text[at] != u'\n')
+            ++at;
+        if (at == text.size())
+            break;
+        if (text[at] == u']' && at > open + 1)
+            return {open, at + 1};
+        open = text.indexOf(u'[', at);
+    }
+    return {0, 0};
+}
+
 class Marker
 {
 public:
@@ -81,15 +98,23 @@ private:
 
 } // namespace
 
-const QRegularExpression &codePattern()
+QList<CodeRange> codeRanges(QStringView text)
 {
-    static const QRegularExpression pattern(u"\\[[^\\[\\]\\r\\n]+\\]"_s);
-    return pattern;
+    QList<CodeRange> codes;
+    for (CodeRange code = nextCode(text, 0); code.end > 0; code = nextCode(text, code.end))
+        codes.append(code);
+    return codes;
 }
 
-bool isCode(const QString &text)
+bool hasCode(QStringView text)
 {
-    return !text.isEmpty() && codePattern().match(text).capturedLength() == text.size();
+    return nextCode(text, 0).end > 0;
+}
+
+bool isCode(QStringView text)
+{
+    const CodeRange code = nextCode(text, 0);
+    return code.start == 0 && code.end > 0 && code.end == text.size();
 }
 
 QList<QString> codesIn(const QString &text, bool withBrackets)

@@ -1,18 +1,25 @@
 #pragma once
 
 #include <QList>
-#include <QRegularExpression>
 #include <QString>
 #include <QStringView>
 
 /// Codes: names in square brackets that stand for values.
 namespace ozm::syntax {
 
-/// The innermost pair of brackets on one line, which is what decoding replaces.
-[[nodiscard]] const QRegularExpression &codePattern();
+struct CodeRange
+{
+    qsizetype start;
+    qsizetype end;
+};
+
+/// The codes of @p text with their brackets, in their order: each the innermost pair on one line, with something in it.
+[[nodiscard]] QList<CodeRange> codeRanges(QStringView text);
+/// True when codeRanges() has any.
+[[nodiscard]] bool hasCode(QStringView text);
 
 /// True when all of @p text is one code.
-[[nodiscard]] bool isCode(const QString &text);
+[[nodiscard]] bool isCode(QStringView text);
 
 /// The codes of @p text as getCodes() gives them, but under the names that they are written by.
 [[nodiscard]] QList<QString> codesIn(const QString &text, bool withBrackets);

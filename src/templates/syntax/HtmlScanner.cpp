@@ -65,11 +65,6 @@ public:
     }
 
 private:
-    bool startsWith(QLatin1StringView text) const
-    {
-        return QStringView(m_source).sliced(m_at).startsWith(text, Qt::CaseInsensitive);
-    }
-
     void flushText(qsizetype end)
     {
         if (end > m_textStart)
@@ -97,11 +92,12 @@ private:
     {
         if (const auto tag = syntax::scriptTagAt(m_source, m_at))
             return tag->opening ? takeScript(*tag) : take(HtmlTokenKind::Opaque, m_at + tag->length);
-        if (startsWith("<!--"_L1))
+        const QStringView rest = QStringView(m_source).sliced(m_at + 1);
+        if (rest.startsWith("!--"_L1))
             return take(HtmlTokenKind::Opaque, after(u"-->", m_at + 2));
-        if (startsWith("<!"_L1) || startsWith("<?"_L1))
+        if (rest.startsWith(u'!') || rest.startsWith(u'?'))
             return take(HtmlTokenKind::Opaque, after(u">", m_at));
-        const bool closing = startsWith("</"_L1);
+        const bool closing = rest.startsWith(u'/');
         const qsizetype nameStart = m_at + (closing ? 2 : 1);
         if (nameStart >= m_source.size() || !isNameStart(m_source.at(nameStart)))
             return false;

@@ -81,3 +81,6 @@ struct HtmlTree
 [[nodiscard]] bool isVoidElement(const QString &name);
 
 } // namespace ozm::editor
+
+Q_DECLARE_TYPEINFO(ozm::editor::HtmlToken, Q_RELOCATABLE_TYPE);
+Q_DECLARE_TYPEINFO(ozm::editor::HtmlElement, Q_RELOCATABLE_TYPE);

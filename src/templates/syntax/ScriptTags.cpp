@@ -6,7 +6,9 @@ std::optional<ScriptTag> scriptTagAt(QStringView text, qsizetype position)
 {
     const QStringView rest = text.sliced(position);
     for (const QLatin1StringView tag : {kScriptOpen, kScriptClose})
-        if (rest.startsWith(tag, Qt::CaseInsensitive))
+        // Of the many tags that are asked about, hardly one ends where a script's would.
+        if (rest.size() >= tag.size() && rest[tag.size() - 1] == u'>' &&
+            rest.startsWith(tag, Qt::CaseInsensitive))
             return ScriptTag{position, tag.size(), tag == kScriptOpen};
     return std::nullopt;
 }
