@@ -114,6 +114,7 @@ private:
         } else if (!m_runIsOpen && m_pending < 0) {
             m_pending = token.start;
         }
+        m_isNamed = m_isNamed || (opens && hasName(token));
         const bool opensEmptyLine = isEmptyLine();
         // The reader would leave out the mark in a line that the toolkit has written as empty.
         if (opensEmptyLine)
@@ -132,6 +133,14 @@ private:
             beginRun(token.end);
             markLine();
         }
+    }
+
+    bool hasName(const HtmlToken &token) const
+    {
+        static const QRegularExpression name(u"\\b(?:id|name)\\s*="_s,
+                                             QRegularExpression::CaseInsensitiveOption);
+        const bool isBare = token.end - token.start == token.name.size() + 2;
+        return !isBare && text(token).contains(name);
     }
 
     // Ends the line that stands before.
@@ -165,7 +174,7 @@ private:
         m_line = {int(m_result.runs.size()), m_result.plainText.size(), m_result.html.size(),
                   m_result.parts.size()};
         m_result.runs.append({from, from});
-        if (m_marks == LineMarks::All)
+        if (std::exchange(m_isNamed, false) || m_marks == LineMarks::All)
             markLine();
     }
 
@@ -422,8 +431,7 @@ private:
         m_result.runs.last().end = end;
         const bool isAsWritten = std::ranges::none_of(plainText, isRare);
         // Behind a mark, a blank stays that the reader leaves out at the beginning of a line.
-        const bool beginsWithBlank =
-            m_result.plainText.size() == m_line.inText && isBlank(plainText.front());
+        const bool beginsWithBlank = m_result.plainText.size() == m_line.inText && isBlank(plainText.front());
         if (!isAsWritten || beginsWithBlank || keepsBlanks(m_tree.innermost.at(m_index)))
             markLine();
         if (isAsWritten) {
@@ -480,6 +488,8 @@ private:
     QList<bool> m_keepsBlanks;
     qsizetype m_index = 0;
     bool m_runIsOpen = false;
+    bool m_isNamed =
+        false; ///< The reader gives the name of an element to the next character, which the mark takes away.
     qsizetype m_pending = -1; ///< The first tag behind the last edge that may belong to a line.
     QList<qsizetype> m_edges;
     /// The line that is being written and has no mark yet.
