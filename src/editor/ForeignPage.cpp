@@ -186,17 +186,17 @@ private:
             const QString text = block.text();
             const QList<syntax::CodeRange> codes = syntax::codeRanges(text);
             // From the end on, so that places found before stay true.
-            for (auto range = codes.crbegin(); range != codes.crend(); ++range) {
-                const QString code = text.sliced(range->start, range->end - range->start);
+            std::for_each(codes.crbegin(), codes.crend(), [&](const syntax::CodeRange &range) {
+                const QString code = text.sliced(range.start, range.end - range.start);
                 if (code.contains(markup))
-                    continue;
+                    return;
                 QTextCursor cursor(block);
-                cursor.setPosition(block.position() + int(range->start));
-                cursor.setPosition(block.position() + int(range->end), QTextCursor::KeepAnchor);
+                cursor.setPosition(block.position() + int(range.start));
+                cursor.setPosition(block.position() + int(range.end), QTextCursor::KeepAnchor);
                 const QTextCharFormat format = cursor.charFormat();
                 cursor.insertText(QString(QChar::ObjectReplacementCharacter),
                                   chipFormat({PartKind::Code, code}, format));
-            }
+            });
         }
     }
 
