@@ -1,10 +1,10 @@
 #include "templates/document/TemplateReading.h"
 
 #include "templates/document/InlineHtml.h"
-#include "templates/document/SelectedSource.h"
 #include "templates/document/KeptSource.h"
 #include "templates/document/LetterSizes.h"
 #include "templates/document/ParagraphClass.h"
+#include "templates/document/SelectedSource.h"
 #include "templates/document/TableSpaces.h"
 #include "templates/document/TemplateChip.h"
 #include "templates/document/TemplateElements.h"
