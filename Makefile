@@ -8,7 +8,7 @@ JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 .PHONY: help run pictures test check tidy bench docs package fuzz faults soak install format translations clean
 
 help:
-	@echo "make run      the workbench, or its batch mode where there is no display"
+	@echo "make run      the workbench, or its batch mode without a display"
 	@echo "make pictures the workbench's pictures in docs/, taken again"
 	@echo "make test     build everything and run the tests"
 	@echo "make check    format, clang-tidy, headers, consumer, sanitizers"

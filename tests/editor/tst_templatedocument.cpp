@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -69,6 +70,17 @@ QString writtenAnew(const ozm::TemplateDocument &document)
     if (!document.begin().textList())
         QTextCursor(&copy).setBlockFormat(document.begin().blockFormat());
     return copy.source();
+}
+
+QList<std::pair<QString, QTextFormat>> lettersOf(const QString &source)
+{
+    ozm::TemplateDocument document;
+    document.setSource(source);
+    QList<std::pair<QString, QTextFormat>> letters;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        for (auto at = block.begin(); !at.atEnd(); ++at)
+            letters.append({at.fragment().text(), at.fragment().charFormat()});
+    return letters;
 }
 
 QString writtenAnew(const QString &source)
@@ -393,6 +405,11 @@ void TestTemplateDocument::generatedTemplatesComeThrough()
         ozm::TemplateDocument kept;
         kept.setSource(source);
         QCOMPARE(kept.source(), source);
+        // Text of several lines in one has the page read in another way, which nobody is to see.
+        if (ozm::TemplateDocument::isHtml(source)) {
+            const auto letters = lettersOf(source);
+            QVERIFY2(lettersOf(u"<pre>a\nb</pre>"_s + source).sliced(2) == letters, qPrintable(source));
+        }
         // The toolkit leaves out the space below a line that a table follows, unless the table has it.
         for (QTextBlock line = kept.begin(); line.next().isValid(); line = line.next()) {
             const QTextTable *table = QTextCursor(line.next()).currentTable();

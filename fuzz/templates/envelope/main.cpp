@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 
     bool ok = false;
     const QString unwrapped = TECWrapper::unwrapTEC(text, &ok);
-    fuzz::require(ok || unwrapped.isEmpty(), "without an envelope there is no content");
+    fuzz::require(ok || unwrapped.isEmpty(), "content without an envelope");
 
     for (const syntax::ScriptRange &piece : syntax::scriptPieces(text))
         fuzz::require(piece.start >= 0 && piece.start <= piece.end && piece.end <= text.size(),

@@ -140,7 +140,8 @@ private:
         static const QRegularExpression name(u"\\b(?:id|name)\\s*="_s,
                                              QRegularExpression::CaseInsensitiveOption);
         const bool isBare = token.end - token.start == token.name.size() + 2;
-        return !isBare && text(token).contains(name);
+        // A line with an image has a mark, and its tag can be long.
+        return !isBare && token.name != "img"_L1 && text(token).contains(name);
     }
 
     // Ends the line that stands before.
@@ -488,8 +489,8 @@ private:
     QList<bool> m_keepsBlanks;
     qsizetype m_index = 0;
     bool m_runIsOpen = false;
-    bool m_isNamed =
-        false; ///< The reader gives the name of an element to the next character, which the mark takes away.
+    /// The reader gives the name of an element to the next character, which is not to be the line's own.
+    bool m_isNamed = false;
     qsizetype m_pending = -1; ///< The first tag behind the last edge that may belong to a line.
     QList<qsizetype> m_edges;
     /// The line that is being written and has no mark yet.
