@@ -12,6 +12,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 
 namespace ozm::fuzz {
 
+/// Most inputs are refused, and to log each takes longer than to read it. QT_LOGGING_RULES brings the log back for
+/// one that is a finding.
+inline const bool kIsQuiet =
+    qEnvironmentVariableIsSet("QT_LOGGING_RULES") || qputenv("QT_LOGGING_RULES", "*=false");
+
 inline QByteArray bytesOf(const std::uint8_t *data, std::size_t size)
 {
     return QByteArray(reinterpret_cast<const char *>(data), qsizetype(size));

@@ -4,7 +4,6 @@
 #include <ozm_widgets/AbstractTemplateEditor.h>
 
 #include <QCoreApplication>
-#include <QLoggingCategory>
 
 using namespace ozm;
 
@@ -18,7 +17,6 @@ __asan_default_options() // NOLINT(bugprone-reserved-identifier, cert-dcl37-c, c
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     static QCoreApplication application(*argc, *argv);
-    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
     return 0;
 }
 

@@ -3,7 +3,6 @@
 #include <ozm_widgets/TemplateDocument.h>
 
 #include <QGuiApplication>
-#include <QLoggingCategory>
 #include <QTextCursor>
 
 using namespace ozm;
@@ -31,7 +30,6 @@ extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     static QGuiApplication application(*argc, *argv);
-    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
     return 0;
 }
 
