@@ -47,7 +47,8 @@ public:
 
     /// @p fileName with the first extension of the name filter @p filter added, unless it has that already:
     /// "out" becomes "out.csv" under "Tables (*.csv *.tsv)". Filters that do not end with an extension add
-    /// none.
+    /// none. Only the last part of a name is compared, so an extension of two parts is added to any name:
+    /// "out.data.cut" becomes "out.data.cut.data.cut" under "Data (*.data.cut *.csv)".
     [[nodiscard]] static QString fileNameWithExtension(const QString &fileName, const QString &filter);
 
 protected:

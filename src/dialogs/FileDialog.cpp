@@ -220,6 +220,7 @@ QString FileDialog::fileNameWithExtension(const QString &fileName, const QString
     extension.remove(u';');
     if (extension.isEmpty())
         return fileName;
+    // The last part only, also under an extension of two: applications know the names that come of it.
     const QString suffix = QFileInfo(fileName).suffix();
     if (suffix.compare(extension, Qt::CaseInsensitive) == 0)
         return fileName;

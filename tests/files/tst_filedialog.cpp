@@ -164,6 +164,8 @@ private Q_SLOTS:
         QTest::newRow("first of two") << u"out"_s << u"Images (*.png *.jpg)"_s << u"out.png"_s;
         QTest::newRow("second of two") << u"out.jpg"_s << u"Images (*.png *.jpg)"_s << u"out.jpg.png"_s;
         QTest::newRow("semicolon") << u"out"_s << u"Images (*.png;*.jpg)"_s << u"out.png"_s;
+        QTest::newRow("two parts first")
+            << u"out.data.cut"_s << u"Data (*.data.cut *.csv)"_s << u"out.data.cut.data.cut"_s;
         QTest::newRow("two parts") << u"out"_s << u"Archives (*.tar.gz)"_s << u"out"_s;
     }
     void addsTheExtension()
