@@ -12,8 +12,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 
 namespace ozm::fuzz {
 
-/// Most inputs are refused, and to log each takes longer than to read it. QT_LOGGING_RULES brings the log back for
-/// one that is a finding.
+/// Most inputs are refused, and to log each takes as long as half of reading it. QT_LOGGING_RULES brings the log back
+/// for one that is a finding.
 inline const bool kIsQuiet =
     qEnvironmentVariableIsSet("QT_LOGGING_RULES") || qputenv("QT_LOGGING_RULES", "*=false");
 
