@@ -73,7 +73,7 @@ Q_SIGNALS:
     void recursiveSearchChanged(bool recursive);
 
 protected:
-    /// The data to list. An error (code 1, "Search path does not exist", when there is no such folder, or as
+    /// The data to list. An error (code 1, "Search path does not exist", when the folder is missing, or as
     /// in MsDataSearch::run) is shown, and the dialog stays. The dialog may be gone on return.
     [[nodiscard]] virtual ozm::Result<QList<QString>> retrieveMsReferences();
 

@@ -34,7 +34,7 @@ public:
 
     /// Has this library, and the toolkit below it, speak the language of @p locale instead of the one
     /// before: English, French or German. An application loads its own texts by their @p name:
-    /// ":/i18n/<name>_<language>.qm". False when there is no translation into that language: the texts are
+    /// ":/i18n/<name>_<language>.qm". False without a translation into that language: the texts are
     /// English then, the toolkit's too unless another file of texts speaks a language. GUI thread.
     static bool loadTranslation(const QLocale &locale, const QString &name = QStringLiteral("ozm_widgets"));
 

@@ -29,7 +29,7 @@ public:
 
     /// The type @p name; one that is known already keeps its extensions.
     static Ref add(const QString &name, const QStringList &extensions);
-    /// The type called @p name, such as "MS"; none when there is no such type.
+    /// The type called @p name, such as "MS"; none when nothing is called so.
     [[nodiscard]] static std::optional<Ref> find(const QString &name);
 
     /// True when the name at the end of @p path, which may have a slash after it, carries an extension of any
