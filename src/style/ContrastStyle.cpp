@@ -30,12 +30,13 @@ constexpr std::size_t kMostPalettes = 16;
 // Of the font that the sizes of the toolkit are made for, in pixels.
 constexpr int kUsualTextHeight = 15;
 
-/// Icons, and the marks of boxes and radio buttons.
+/// Icons, the marks of boxes and radio buttons, and the room around the text of a button.
 bool growsWithText(QStyle::PixelMetric metric)
 {
     switch (metric) {
     case QStyle::PM_SmallIconSize:
     case QStyle::PM_ButtonIconSize:
+    case QStyle::PM_ButtonMargin:
     case QStyle::PM_ToolBarIconSize:
     case QStyle::PM_ListViewIconSize:
     case QStyle::PM_TabBarIconSize:

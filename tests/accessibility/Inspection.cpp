@@ -314,7 +314,10 @@ int spareRoom(const QWidget &widget)
             button->icon().isNull() || (tool && tool->toolButtonStyle() == Qt::ToolButtonTextUnderIcon)
                 ? 0
                 : button->iconSize().width();
-        return qMin(button->width() - textWidth(button->text()) - icon, button->height() - metrics.height());
+        // The text of a push button is not to touch its outline.
+        const int edges = qobject_cast<const QPushButton *>(button) ? metrics.height() / 3 : 0;
+        return qMin(button->width() - textWidth(button->text()) - icon - edges,
+                    button->height() - metrics.height());
     }
     if (const auto *box = qobject_cast<const QComboBox *>(&widget))
         return qMin(box->isEditable() ? 0 : box->width() - textWidth(box->currentText()) - kArrow,
