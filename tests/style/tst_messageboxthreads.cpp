@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QRandomGenerator>
+#include <QScopeGuard>
 #include <QThread>
 #include <QTimer>
 
@@ -304,6 +305,12 @@ private Q_SLOTS:
     {
         QFETCH(const bool, asksAfter);
         QFETCH(const bool, runsLoop);
+        // Boxes are taken again from the next loop on, which other tests do not have running from the start.
+        const auto nextLoop = qScopeGuard([] {
+            QEventLoop loop;
+            QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+            loop.exec();
+        });
         const BoxDriver driver([](OzmMessageBox *box) { box->done(0); });
         QWidget parent;
         Loop loop;
