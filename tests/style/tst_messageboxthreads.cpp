@@ -374,6 +374,7 @@ private Q_SLOTS:
         std::atomic<int> invented = 0;
         {
             std::vector<std::unique_ptr<Worker>> workers;
+            workers.reserve(kWorkers);
             for (int i = 0; i < kWorkers; ++i) {
                 workers.push_back(std::make_unique<Worker>([&, i] {
                     for (int n = 0; n < kBoxesEach; ++n) {
